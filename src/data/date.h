@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "data/value.h"
+
+namespace tavrin::data {
+
+/// A day of the proleptic Gregorian calendar.
+struct CalendarDay {
+    int year = 1899;
+    int month = 12;  ///< 1 to 12
+    int day = 30;    ///< 1 to 31
+    bool operator==(const CalendarDay&) const = default;
+};
+
+/// Out-of-range months and days carry over, as DateSerial does: (2003, 13, 1) is 1 January 2004.
+OleDate ToOleDate(CalendarDay day);
+
+/// The day that a date falls on; its time of day is dropped.
+CalendarDay ToCalendarDay(OleDate date);
+
+/// 1 to 31, the length of a month.
+int DaysInMonth(int year, int month);
+
+/// The day count rounded to the nearest whole day, ties to even.
+long long RoundedDay(OleDate date);
+
+std::string FormatYearMonthDay(OleDate date);  ///< "yyyy-mm-dd"
+std::string FormatDayMonthYear(OleDate date);  ///< "dd/mm/yyyy"
+
+/// "dd/mm/yyyy"; nothing when the text is not such a date.
+std::optional<OleDate> ParseDayMonthYear(std::string_view text);
+
+}  // namespace tavrin::data

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+
+namespace tavrin::data {
+
+/// An error with the number and the description that the provider, or the runtime, gave it.
+class Error : public std::runtime_error {
+  public:
+    Error(std::int32_t number, const std::string& description)
+        : std::runtime_error(description), number_(number) {}
+
+    /// Provider errors are HRESULTs (negative); runtime errors are small positive numbers (13, 94, ...).
+    std::int32_t Number() const { return number_; }
+    std::string Description() const { return what(); }
+
+  private:
+    std::int32_t number_;
+};
+
+/// Numbers that the windows act upon or raise themselves.
+namespace error_number {
+inline constexpr std::int32_t Overflow = 6;
+inline constexpr std::int32_t TypeMismatch = 13;
+inline constexpr std::int32_t ObjectNotSet = 91;
+inline constexpr std::int32_t InvalidUseOfNull = 94;
+inline constexpr std::int32_t NoCurrentRecord = 3021;         ///< ADO: BOF or EOF where a row was due
+inline constexpr std::int32_t ItemNotFound = 3265;            ///< ADO: no field of that name or ordinal
+inline constexpr std::int32_t ObjectClosed = 3704;            ///< ADO: the operation needs an open object
+inline constexpr std::int32_t ErrorsInCommand = -2147217900;  ///< 80040E14: the provider refuses the command
+inline constexpr std::int32_t IntegrityViolation = -2147217873;  ///< 80040E2F: a constraint refuses the row
+}  // namespace error_number
+
+}  // namespace tavrin::data
