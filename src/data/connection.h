@@ -11,9 +11,9 @@
 
 namespace tavrin::data {
 
-/// A forward and random walk over the rows of one query, in ADO's terms. The cursor is client-side, static and
-/// read-only (CursorLocation 3, CursorType 3, LockType 1; options -1): a snapshot that other users' changes
-/// reach only through Requery. Every member throws Error as the provider reports it.
+/// A forward and random walk over the rows of one query, in ADO's terms. The cursor is client-side, static
+/// and read-only (CursorLocation 3, CursorType 3, LockType 1; options -1): a snapshot that other users'
+/// changes reach only through Requery. Every member throws Error as the provider reports it.
 class Recordset {
   public:
     virtual ~Recordset() = default;
@@ -35,7 +35,8 @@ class Recordset {
     virtual Value Field(std::size_t field) const = 0;
     virtual Value Field(std::string_view name) const = 0;  ///< names are compared without case
 
-    /// All rows at once, from the first; the current row does not move. Later Requery or Close leave it intact.
+    /// All rows at once, from the first; the current row does not move. Later Requery or Close leave it
+    /// intact.
     virtual TablePtr ReadAll() = 0;
 
     /// No rows: both BOF and EOF.

@@ -19,7 +19,8 @@ struct CalendarDay {
 /// Out-of-range months and days carry over, as DateSerial does: (2003, 13, 1) is 1 January 2004.
 OleDate ToOleDate(CalendarDay day);
 
-/// The day that a date falls on; its time of day is dropped.
+/// The day that a date falls on; its time of day is dropped. Dates before the year 100 or after 9999, which
+/// no OLE date can be, are clamped to the first or last day of that span.
 CalendarDay ToCalendarDay(OleDate date);
 
 /// 1 to 31, the length of a month.
@@ -33,5 +34,8 @@ std::string FormatDayMonthYear(OleDate date);  ///< "dd/mm/yyyy"
 
 /// "dd/mm/yyyy"; nothing when the text is not such a date.
 std::optional<OleDate> ParseDayMonthYear(std::string_view text);
+
+/// "yyyy-mm-dd"; nothing when the text is not such a date.
+std::optional<OleDate> ParseYearMonthDay(std::string_view text);
 
 }  // namespace tavrin::data

@@ -28,11 +28,11 @@ struct OleDate {
 class Value {
   public:
     Value() = default;
-    Value(Null null) : content_(null) {}                      // NOLINT(google-explicit-constructor)
-    Value(std::int64_t number) : content_(number) {}          // NOLINT(google-explicit-constructor)
-    Value(double number) : content_(number) {}                // NOLINT(google-explicit-constructor)
-    Value(OleDate date) : content_(date) {}                   // NOLINT(google-explicit-constructor)
-    Value(std::string text) : content_(std::move(text)) {}    // NOLINT(google-explicit-constructor)
+    Value(Null null) : content_(null) {}                    // NOLINT(google-explicit-constructor)
+    Value(std::int64_t number) : content_(number) {}        // NOLINT(google-explicit-constructor)
+    Value(double number) : content_(number) {}              // NOLINT(google-explicit-constructor)
+    Value(OleDate date) : content_(date) {}                 // NOLINT(google-explicit-constructor)
+    Value(std::string text) : content_(std::move(text)) {}  // NOLINT(google-explicit-constructor)
 
     bool IsEmpty() const { return std::holds_alternative<Empty>(content_); }
     bool IsNull() const { return std::holds_alternative<Null>(content_); }

@@ -1,0 +1,155 @@
+// Conversions of a field's value, in the terms of the runtime that the windows' rules come from.
+#include "data/value.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+#include "data/date.h"
+#include "data/error.h"
+
+namespace tavrin::data {
+namespace {
+
+[[noreturn]] void ThrowTypeMismatch() {
+    throw Error(error_number::TypeMismatch, "Type mismatch");
+}
+[[noreturn]] void ThrowOverflow() {
+    throw Error(error_number::Overflow, "Overflow");
+}
+[[noreturn]] void ThrowInvalidUseOfNull() {
+    throw Error(error_number::InvalidUseOfNull, "Invalid use of Null");
+}
+
+std::string_view Trimmed(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+// from_chars knows no plus sign, and knows "inf" and "nan", which are no numbers here.
+std::string_view WithoutPlus(std::string_view text) {
+    if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+    return text;
+}
+
+bool LooksNumeric(std::string_view text) {
+    return !text.empty() && text.find_first_not_of("0123456789+-.eE") == std::string_view::npos;
+}
+
+double NumberFromText(std::string_view original) {
+    const std::string_view text = WithoutPlus(Trimmed(original));
+    double number = 0;
+    if (!LooksNumeric(text)) ThrowTypeMismatch();
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (end != text.data() + text.size() || error == std::errc::invalid_argument) ThrowTypeMismatch();
+    if (error == std::errc::result_out_of_range) ThrowOverflow();
+    return number;
+}
+
+std::int64_t RoundedInteger(double number) {
+    const double limit = 9223372036854775808.0;  // 2^63
+    if (!(number >= -limit && number < limit)) ThrowOverflow();
+    return static_cast<std::int64_t>(number - std::remainder(number, 1.0));
+}
+
+std::int64_t IntegerFromText(std::string_view original) {
+    const std::string_view text = WithoutPlus(Trimmed(original));
+    std::int64_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error == std::errc() && end == text.data() + text.size()) return number;
+    return RoundedInteger(NumberFromText(original));
+}
+
+OleDate DateFromText(std::string_view original) {
+    const std::string_view text = Trimmed(original);
+    if (const std::optional<OleDate> date = ParseYearMonthDay(text)) return *date;
+    if (const std::optional<OleDate> date = ParseDayMonthYear(text)) return *date;
+    ThrowTypeMismatch();
+}
+
+std::string TwoDigits(long long number) {
+    return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
+}
+
+std::string DateText(OleDate date) {
+    if (!std::isfinite(date.days)) return {};
+    double day = std::trunc(date.days);
+    long long seconds = std::llround(std::fabs(date.days - day) * 86400);
+    if (seconds == 86400) {
+        day += 1;
+        seconds = 0;
+    }
+    std::string text = FormatDayMonthYear({day});
+    if (seconds == 0) return text;
+    return text + " " + TwoDigits(seconds / 3600) + ":" + TwoDigits(seconds / 60 % 60) + ":" +
+           TwoDigits(seconds % 60);
+}
+
+struct ToDoubleVisitor {
+    double operator()(Empty) const { return 0; }
+    double operator()(Null) const { ThrowInvalidUseOfNull(); }
+    double operator()(std::int64_t number) const { return static_cast<double>(number); }
+    double operator()(double number) const { return number; }
+    double operator()(OleDate date) const { return date.days; }
+    double operator()(const std::string& text) const { return NumberFromText(text); }
+};
+
+struct ToIntegerVisitor {
+    std::int64_t operator()(Empty) const { return 0; }
+    std::int64_t operator()(Null) const { ThrowInvalidUseOfNull(); }
+    std::int64_t operator()(std::int64_t number) const { return number; }
+    std::int64_t operator()(double number) const { return RoundedInteger(number); }
+    std::int64_t operator()(OleDate date) const { return RoundedInteger(date.days); }
+    std::int64_t operator()(const std::string& text) const { return IntegerFromText(text); }
+};
+
+struct ToDateVisitor {
+    OleDate operator()(Empty) const { return {}; }
+    OleDate operator()(Null) const { ThrowInvalidUseOfNull(); }
+    OleDate operator()(std::int64_t number) const { return {static_cast<double>(number)}; }
+    OleDate operator()(double number) const { return {number}; }
+    OleDate operator()(OleDate date) const { return date; }
+    OleDate operator()(const std::string& text) const { return DateFromText(text); }
+};
+
+struct ToTextVisitor {
+    std::string operator()(Empty) const { return {}; }
+    std::string operator()(Null) const { return {}; }
+    std::string operator()(std::int64_t number) const { return std::to_string(number); }
+    std::string operator()(double number) const { return ShortestDecimal(number); }
+    std::string operator()(OleDate date) const { return DateText(date); }
+    std::string operator()(const std::string& text) const { return text; }
+};
+
+}  // namespace
+
+double Value::ToDouble() const {
+    return std::visit(ToDoubleVisitor{}, content_);
+}
+
+std::int64_t Value::ToInteger() const {
+    return std::visit(ToIntegerVisitor{}, content_);
+}
+
+OleDate Value::ToDate() const {
+    return std::visit(ToDateVisitor{}, content_);
+}
+
+std::string Value::ToText() const {
+    return std::visit(ToTextVisitor{}, content_);
+}
+
+std::string ShortestDecimal(double number) {
+    if (number == 0) return "0";   // also the negative zero, whose sign means nothing to a reader
+    std::array<char, 400> buffer;  // the smallest doubles have more than 320 digits
+    const bool plain = std::fabs(number) < 1e15;
+    const auto [end, error] =
+        plain ? std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed)
+              : std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
+    return {buffer.data(), end};
+}
+
+}  // namespace tavrin::data
