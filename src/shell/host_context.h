@@ -17,8 +17,8 @@ class CallingObject {
     virtual void RaiseIesire() noexcept = 0;
 };
 
-/// What the host handed over with its last `Apel`. Written by Apel alone, read by every window; it stays as it
-/// is when the palette closes.
+/// What the host handed over with its last `Apel`. Written by Apel alone, read by every window; it stays as
+/// it is when the palette closes.
 struct HostContext {
     std::shared_ptr<data::Connection> connection;
     data::OleDate workDate;

@@ -82,7 +82,7 @@ class Module {
 
     forms::Desktop& desktop_;
     MessageServiceFactory createMessageService_;
-    std::unique_ptr<MessageService> messageService_;
+    std::shared_ptr<MessageService> messageService_;
     std::vector<Slot> slots_;
     std::vector<CatalogueEntry> catalogue_;
 };

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+
+namespace tavrin::forms {
+
+/// A Win32 colour: 0x00BBGGRR.
+using Color = std::uint32_t;
+
+inline constexpr Color Black = 0x000000;
+inline constexpr Color FocusGrey = 0x404040;  ///< the background of the field that has the focus
+inline constexpr Color Green = 0x00FF00;
+inline constexpr Color Red = 0x0000FF;
+
+/// The one dark scheme of all windows.
+namespace scheme {
+inline constexpr Color Window = 0x101010;
+inline constexpr Color Field = Black;
+inline constexpr Color Face = 0x262626;         ///< buttons, grid headers
+inline constexpr Color FaceHot = 0x383838;      ///< under the mouse
+inline constexpr Color FacePressed = 0x181818;  ///< held down
+inline constexpr Color Border = 0x5A5A5A;
+inline constexpr Color GridLine = 0x303030;
+inline constexpr Color Text = 0x9CE69C;  ///< labels, captions
+inline constexpr Color Value = Green;    ///< what the user may change or read off
+inline constexpr Color TextDisabled = 0x808080;
+inline constexpr Color Focus = Green;         ///< the frame around the focused control
+inline constexpr Color Selection = 0x005A00;  ///< selected cells
+}  // namespace scheme
+
+}  // namespace tavrin::forms

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+
+#include "forms/control.h"
+#include "forms/icon.h"
+
+namespace tavrin::forms {
+
+/// A push button with a caption, a picture, or both. Enter and Space click it, as does Alt with its
+/// accelerator.
+class CommandButton : public Control {
+  public:
+    CommandButton(Container& parent, std::string name, std::string caption = {}, Rect bounds = {});
+
+    const std::string& Caption() const { return caption_; }
+    void SetCaption(std::string caption);
+    /// The letter that clicks the button together with Alt, 0 for none; its first place in the caption is
+    /// underlined.
+    char32_t Accelerator() const { return accelerator_; }
+    void SetAccelerator(char32_t letter);
+    Icon Picture() const { return picture_; }
+    void SetPicture(Icon picture);
+
+    bool IsFocusable() const override { return true; }
+    void Draw(Surface& surface) const override;
+    AccessibleNode Accessible() const override;
+
+  protected:
+    KeyOutcome DefaultKeyDown(int keyCode, Modifiers modifiers) override;
+
+  private:
+    std::string caption_;
+    char32_t accelerator_ = 0;
+    Icon picture_ = Icon::None;
+};
+
+}  // namespace tavrin::forms

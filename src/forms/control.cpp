@@ -1,0 +1,161 @@
+#include "forms/control.h"
+
+#include <utility>
+
+#include "forms/form.h"
+
+namespace tavrin::forms {
+
+Control::Control(Container& parent, std::string name, Rect bounds)
+    : parent_(parent), name_(std::move(name)), bounds_(bounds), tabIndex_(parent.OwnerForm().NextTabIndex()) {
+    parent_.controls_.push_back(this);
+}
+
+Control::~Control() = default;
+
+std::string Control::QualifiedName() const {
+    return index_ < 0 ? name_ : name_ + "(" + std::to_string(index_) + ")";
+}
+
+void Control::SetBounds(const Rect& bounds) {
+    if (bounds_ == bounds) return;
+    bounds_ = bounds;
+    Notify(Aspect::Bounds);
+}
+
+void Control::SetVisible(bool visible) {
+    if (visible_ == visible) return;
+    visible_ = visible;
+    Notify(Aspect::Visible);
+    OwnerForm().LeaveUnfocusable();
+}
+
+void Control::SetEnabled(bool enabled) {
+    if (enabled_ == enabled) return;
+    enabled_ = enabled;
+    Notify(Aspect::Enabled);
+    OwnerForm().LeaveUnfocusable();
+}
+
+void Control::SetBackColor(Color color) {
+    if (backColor_ == color) return;
+    backColor_ = color;
+    Repaint();
+}
+
+void Control::SetForeColor(Color color) {
+    if (foreColor_ == color) return;
+    foreColor_ = color;
+    Repaint();
+}
+
+void Control::SetFont(Font font) {
+    if (font_ == font) return;
+    font_ = std::move(font);
+    Repaint();
+}
+
+void Control::SetToolTip(std::string toolTip) {
+    toolTip_ = std::move(toolTip);
+    Notify(Aspect::ToolTip);
+}
+
+bool Control::HasFocus() const {
+    return OwnerForm().IsActive() && OwnerForm().ActiveControl() == this;
+}
+
+void Control::SetFocus() {
+    if (CanTakeFocus()) OwnerForm().Focus(*this);
+}
+
+void Control::HandleMouseDown(const MouseInput& input) {
+    const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
+    if (!IsEffectivelyEnabled()) return;
+    SetFocus();
+    if (input.button == MouseButton::Left) {
+        pressed_ = true;
+        Repaint();
+    }
+    Raise(onMouseDown, input);
+    if (OwnerForm().IsLoaded()) DefaultMouseDown(input);
+}
+
+void Control::HandleMouseMove(const MouseInput& input) {
+    const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
+    if (!IsEffectivelyEnabled()) return;
+    TrackHot(Rect{0, 0, bounds_.width, bounds_.height}.Contains(input.at));
+    Raise(onMouseMove, input);
+    if (OwnerForm().IsLoaded()) DefaultMouseMove(input);
+}
+
+void Control::HandleMouseUp(const MouseInput& input) {
+    const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
+    if (!IsEffectivelyEnabled()) return;
+    Raise(onMouseUp, input);
+    if (OwnerForm().IsLoaded()) DefaultMouseUp(input);
+}
+
+void Control::DefaultMouseUp(const MouseInput& input) {
+    if (input.button != MouseButton::Left || !pressed_) return;
+    pressed_ = false;
+    Repaint();
+    const bool inside = Rect{0, 0, bounds_.width, bounds_.height}.Contains(input.at);
+    if (inside && ClicksOnMouseUp()) Click();
+}
+
+void Control::HandleMouseLeave() {
+    TrackHot(false);
+}
+
+void Control::HandleDblClick(const MouseInput& input) {
+    const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
+    if (IsEffectivelyEnabled() && input.button == MouseButton::Left) Raise(onDblClick);
+}
+
+void Control::Click() {
+    const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
+    if (IsEffectivelyEnabled() && OwnerForm().IsLoaded()) Raise(onClick);
+}
+
+void Control::TrackHot(bool hot) {
+    if (hot_ == hot) return;
+    hot_ = hot;
+    Repaint();
+}
+
+AccessibleNode Control::Accessible() const {
+    AccessibleNode node;
+    node.name = accessibleName_.empty() ? toolTip_ : accessibleName_;
+    node.bounds = {0, 0, bounds_.width, bounds_.height};
+    node.focusable = IsFocusable();
+    node.focused = HasFocus();
+    node.pressed = pressed_;
+    node.invisible = !IsEffectivelyVisible();
+    node.unavailable = !IsEffectivelyEnabled();
+    return node;
+}
+
+KeyOutcome Control::DefaultKeyDown(int /*keyCode*/, Modifiers /*modifiers*/) {
+    return KeyOutcome::Default;
+}
+
+KeyOutcome Control::DefaultKeyPress(char32_t /*character*/) {
+    return KeyOutcome::Default;
+}
+
+void Control::Notify(Aspect aspect) {
+    if (peer_) peer_->Changed(aspect);
+}
+
+void Control::RaiseGotFocus() {
+    Repaint();
+    Raise(onGotFocus);
+}
+
+void Control::RaiseLostFocus() {
+    pressed_ = false;
+    Repaint();
+    Raise(onLostFocus);
+}
+
+}  // namespace tavrin::forms

@@ -1,0 +1,158 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "forms/accessible.h"
+#include "forms/color.h"
+#include "forms/container.h"
+#include "forms/font.h"
+#include "forms/geometry.h"
+#include "forms/keys.h"
+#include "forms/peer.h"
+#include "forms/surface.h"
+
+namespace tavrin::forms {
+
+/// Tells peers what to make of a control. Edit fields and lists are the platform's own; the rest draws
+/// itself.
+enum class ControlKind { Drawn, TextBox, ComboBox, DatePicker, Decoration };
+
+/// Whether somebody after the control still has to act on a key.
+enum class KeyOutcome {
+    Done,     ///< swallowed, or acted upon by the model
+    Default,  ///< what the platform's own control does with the key follows
+};
+
+/// A control's properties and events: the only truth about it. Peers show it; real input, tests and assistive
+/// tools reach it through the same entry points. A handler that throws ends there and is reported once.
+class Control {
+  public:
+    Control(Container& parent, std::string name, Rect bounds = {});
+    virtual ~Control();
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    /// Names an element of a control array: "cmdAction" with index 2 is "cmdAction(2)".
+    void SetIndex(int index) { index_ = index; }
+    const std::string& Name() const { return name_; }
+    int Index() const { return index_; }
+    std::string QualifiedName() const;
+
+    Container& Parent() const { return parent_; }
+    Form& OwnerForm() const { return parent_.OwnerForm(); }
+    virtual ControlKind Kind() const { return ControlKind::Drawn; }
+
+    // Properties.
+    const Rect& Bounds() const { return bounds_; }  ///< from the parent's top left corner
+    void SetBounds(const Rect& bounds);
+    void MoveTo(int left, int top) { SetBounds({left, top, bounds_.width, bounds_.height}); }
+    bool Visible() const { return visible_; }
+    void SetVisible(bool visible);
+    bool Enabled() const { return enabled_; }
+    void SetEnabled(bool enabled);
+    Color BackColor() const { return backColor_; }
+    void SetBackColor(Color color);
+    Color ForeColor() const { return foreColor_; }
+    void SetForeColor(Color color);
+    const Font& TextFont() const { return font_; }
+    void SetFont(Font font);
+    const std::string& ToolTip() const { return toolTip_; }
+    void SetToolTip(std::string toolTip);
+    int TabIndex() const { return tabIndex_; }  ///< declaration order unless set
+    void SetTabIndex(int tabIndex) { tabIndex_ = tabIndex; }
+    /// The name that assistive tools speak where no caption gives one.
+    void SetAccessibleName(std::string name) { accessibleName_ = std::move(name); }
+    const std::string& AccessibleName() const { return accessibleName_; }
+
+    bool IsEffectivelyVisible() const { return visible_ && parent_.IsEffectivelyVisible(); }
+    bool IsEffectivelyEnabled() const { return enabled_ && parent_.IsEffectivelyEnabled(); }
+
+    // Focus.
+    virtual bool IsFocusable() const { return false; }
+    bool CanTakeFocus() const { return IsFocusable() && IsEffectivelyVisible() && IsEffectivelyEnabled(); }
+    bool HasFocus() const;
+    /// Makes this the form's active control and its window the active one; nothing happens while the control
+    /// cannot take the focus.
+    void SetFocus();
+
+    // Events.
+    std::function<void()> onClick;
+    std::function<void()> onDblClick;
+    std::function<void()> onChange;
+    std::function<void()> onGotFocus;
+    std::function<void()> onLostFocus;
+    std::function<void(int& keyCode, Modifiers)> onKeyDown;
+    std::function<void(char32_t& character)> onKeyPress;
+    std::function<void(const MouseInput&)> onMouseDown;
+    std::function<void(const MouseInput&)> onMouseMove;
+    std::function<void(const MouseInput&)> onMouseUp;
+
+    // Entry points for input. Keys enter through the form (Form::HandleKeyDown).
+    void HandleMouseDown(const MouseInput& input);
+    void HandleMouseMove(const MouseInput& input);
+    void HandleMouseUp(const MouseInput& input);
+    void HandleMouseLeave();
+    void HandleDblClick(const MouseInput& input);
+    /// One notch away from the user is +1.
+    virtual void HandleWheel(int notches) { (void)notches; }
+    void Click();
+
+    // What a drawn control does and how it looks.
+    virtual void Draw(Surface& surface) const { (void)surface; }
+    virtual AccessibleNode Accessible() const;
+    virtual int AccessibleChildCount() const { return 0; }
+    virtual AccessibleNode AccessibleChild(int child) const {
+        (void)child;
+        return {};
+    }
+
+    // The peer, present while the form's window exists.
+    void SetPeer(std::unique_ptr<ControlPeer> peer) { peer_ = std::move(peer); }
+    ControlPeer* Peer() const { return peer_.get(); }
+
+  protected:
+    /// What the control itself does with a key after its handler let it pass.
+    virtual KeyOutcome DefaultKeyDown(int keyCode, Modifiers modifiers);
+    virtual KeyOutcome DefaultKeyPress(char32_t character);
+    virtual void DefaultMouseDown(const MouseInput& input) { (void)input; }
+    virtual void DefaultMouseMove(const MouseInput& input) { (void)input; }
+    virtual void DefaultMouseUp(const MouseInput& input);
+    /// A press of the left button inside the control that ends inside it is a click.
+    virtual bool ClicksOnMouseUp() const { return true; }
+
+    bool IsHot() const { return hot_; }
+    bool IsPressed() const { return pressed_; }
+
+    void Notify(Aspect aspect);
+    void Repaint() { Notify(Aspect::Look); }
+
+    /// Runs a handler; what it throws is reported and stays here.
+    template <class Handler, class... Arguments>
+    void Raise(const Handler& handler, Arguments&&... arguments);
+
+  private:
+    friend class Form;
+    void RaiseGotFocus();
+    void RaiseLostFocus();
+    void TrackHot(bool hot);
+
+    Container& parent_;
+    std::string name_;
+    int index_ = -1;
+    Rect bounds_;
+    bool visible_ = true;
+    bool enabled_ = true;
+    Color backColor_ = scheme::Window;
+    Color foreColor_ = scheme::Text;
+    Font font_;
+    std::string toolTip_;
+    std::string accessibleName_;
+    int tabIndex_;
+    bool hot_ = false;
+    bool pressed_ = false;
+    std::unique_ptr<ControlPeer> peer_;
+};
+
+}  // namespace tavrin::forms

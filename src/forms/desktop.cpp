@@ -1,0 +1,55 @@
+#include "forms/desktop.h"
+
+#include <algorithm>
+#include <new>
+
+#include "data/error.h"
+#include "forms/form.h"
+
+namespace tavrin::forms {
+
+namespace {
+constexpr std::int32_t OutOfMemory = 7;
+constexpr std::int32_t InternalError = 51;
+}  // namespace
+
+Desktop::~Desktop() = default;
+
+void Desktop::Add(Form& form) {
+    forms_.push_back(&form);
+}
+
+void Desktop::Remove(Form& form) {
+    std::erase(forms_, &form);
+    if (activeForm_ == &form) activeForm_ = nullptr;
+    // Its destructor removes a form that was never unloaded; then there is nothing left to keep alive.
+    if (auto self = form.weak_from_this().lock()) unloaded_.push_back(std::move(self));
+}
+
+void Desktop::UnloadAll() {
+    while (!forms_.empty())
+        forms_.back()->Unload();
+}
+
+void Desktop::ReportCurrentException() noexcept {
+    try {
+        throw;
+    } catch (const data::Error& error) {
+        ReportError(error.Number(), error.Description());
+    } catch (const std::bad_alloc&) {
+        ReportError(OutOfMemory, "Out of memory");
+    } catch (const std::exception& error) {
+        ReportError(InternalError, error.what());
+    } catch (...) {
+        ReportError(InternalError, "Internal error");
+    }
+}
+
+void Desktop::ReleaseUnloaded() noexcept {
+    // Letting a form go may unload others in turn; they belong to the next round.
+    while (!unloaded_.empty()) {
+        const std::vector<std::shared_ptr<Form>> round = std::exchange(unloaded_, {});
+    }
+}
+
+}  // namespace tavrin::forms

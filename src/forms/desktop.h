@@ -1,0 +1,103 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "forms/geometry.h"
+#include "forms/locale.h"
+#include "forms/peer.h"
+
+namespace tavrin::forms {
+
+class Form;
+enum class BorderStyle;
+
+/// The screen that forms stand on, the list of open forms, and the one place where events are dispatched: an
+/// error that leaves a handler is reported here, once, and goes no further.
+class Desktop {
+  public:
+    Desktop() = default;
+    virtual ~Desktop();
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    // What the platform gives.
+    /// Makes the window of a form and the peers of its controls (Control::SetPeer), not yet visible.
+    virtual std::unique_ptr<FormPeer> CreatePeer(Form& form) = 0;
+    virtual Size ScreenSize() const = 0;
+    virtual int TwipsPerPixelX() const = 0;
+    virtual int TwipsPerPixelY() const = 0;
+    /// How much wider and higher a window is than the area of its controls.
+    virtual Size FrameSize(BorderStyle border) const = 0;
+    virtual PixelPoint CursorPosition() const = 0;
+    virtual void SetCursorPosition(PixelPoint position) = 0;
+    virtual const Locale& UserLocale() const = 0;
+    /// The platform's report of an error that a handler did not expect.
+    virtual void ReportError(std::int32_t number, const std::string& description) noexcept = 0;
+
+    /// The loaded forms, in the order in which they were loaded.
+    const std::vector<Form*>& Forms() const { return forms_; }
+    /// The form whose window is active, null when it is none of ours.
+    Form* ActiveForm() const { return activeForm_; }
+
+    /// Runs a handler as part of a dispatch. Nothing that it throws comes out.
+    template <class Handler>
+    void Guard(Handler&& handler) noexcept {
+        const DispatchScope scope(*this);
+        try {
+            std::forward<Handler>(handler)();
+        } catch (...) {
+            ReportCurrentException();
+        }
+    }
+
+    /// While a scope lasts, unloaded forms are kept alive: their code may still be on the stack. Peers open
+    /// one around every message that they handle.
+    class DispatchScope {
+      public:
+        explicit DispatchScope(Desktop& desktop) : desktop_(desktop) { ++desktop_.dispatchDepth_; }
+        ~DispatchScope() {
+            if (--desktop_.dispatchDepth_ == 0) desktop_.ReleaseUnloaded();
+        }
+        DispatchScope(const DispatchScope&) = delete;
+        DispatchScope& operator=(const DispatchScope&) = delete;
+
+      private:
+        Desktop& desktop_;
+    };
+    bool IsDispatching() const { return dispatchDepth_ > 0; }
+
+    /// While a message of our own is up, the windows beneath it count as neither left nor entered again.
+    class MessageScope {
+      public:
+        explicit MessageScope(Desktop& desktop) : desktop_(desktop) { ++desktop_.messageDepth_; }
+        ~MessageScope() { --desktop_.messageDepth_; }
+        MessageScope(const MessageScope&) = delete;
+        MessageScope& operator=(const MessageScope&) = delete;
+
+      private:
+        Desktop& desktop_;
+    };
+    bool IsShowingMessage() const { return messageDepth_ > 0; }
+
+    /// Unloads every form, the last loaded first.
+    void UnloadAll();
+
+  private:
+    friend class Form;
+    void Add(Form& form);
+    void Remove(Form& form);
+    void ReportCurrentException() noexcept;
+    void ReleaseUnloaded() noexcept;
+
+    std::vector<Form*> forms_;
+    std::vector<std::shared_ptr<Form>> unloaded_;
+    Form* activeForm_ = nullptr;
+    int dispatchDepth_ = 0;
+    int messageDepth_ = 0;
+};
+
+}  // namespace tavrin::forms

@@ -1,0 +1,273 @@
+#include "forms/form.h"
+
+#include <algorithm>
+#include <cwctype>
+#include <utility>
+
+#include "forms/command_button.h"
+
+namespace tavrin::forms {
+
+namespace {
+
+void CollectControls(const Container& container, std::vector<Control*>& found) {
+    for (Control* control : container.Controls()) {
+        found.push_back(control);
+        if (const auto* inner = dynamic_cast<const Container*>(control)) CollectControls(*inner, found);
+    }
+}
+
+bool SameLetter(char32_t left, char32_t right) {
+    return std::towlower(static_cast<std::wint_t>(left)) == std::towlower(static_cast<std::wint_t>(right));
+}
+
+}  // namespace
+
+Form::Form(Desktop& desktop, std::string name, std::string caption, BorderStyle border)
+    : desktop_(desktop), name_(std::move(name)), caption_(std::move(caption)), border_(border) {}
+
+Form::~Form() {
+    if (loaded_) desktop_.Remove(*this);
+}
+
+// Properties.
+
+void Form::SetCaption(std::string caption) {
+    caption_ = std::move(caption);
+    if (peer_) peer_->Changed(FormAspect::Caption);
+}
+
+void Form::SetBounds(const Rect& bounds) {
+    if (bounds_ == bounds) return;
+    bounds_ = bounds;
+    if (peer_) peer_->Changed(FormAspect::Bounds);
+}
+
+void Form::CenterOnScreen() {
+    const Size screen = desktop_.ScreenSize();
+    MoveTo((screen.width - bounds_.width) / 2, (screen.height - bounds_.height) / 2);
+}
+
+Size Form::ClientSize() const {
+    const Size frame = desktop_.FrameSize(border_);
+    return {bounds_.width - frame.width, bounds_.height - frame.height};
+}
+
+void Form::SetClientSize(Size size) {
+    const Size frame = desktop_.FrameSize(border_);
+    SetBounds({bounds_.left, bounds_.top, size.width + frame.width, size.height + frame.height});
+}
+
+void Form::SetBackColor(Color color) {
+    backColor_ = color;
+    Refresh();
+}
+
+void Form::SetEnabled(bool enabled) {
+    if (enabled_ == enabled) return;
+    enabled_ = enabled;
+    if (peer_) peer_->Changed(FormAspect::Enabled);
+}
+
+// Life.
+
+void Form::Load() {
+    if (loaded_) return;
+    loaded_ = true;
+    desktop_.Add(*this);
+    desktop_.Guard([this] { OnLoad(); });
+}
+
+void Form::Show() {
+    const Desktop::DispatchScope scope(desktop_);
+    Load();
+    if (!loaded_ || unloading_) return;
+    if (!peer_) peer_ = desktop_.CreatePeer(*this);
+    visible_ = true;
+    peer_->Changed(FormAspect::Visible);
+    peer_->Activate();
+}
+
+void Form::Unload() {
+    if (!loaded_ || unloading_) return;
+    unloading_ = true;
+    desktop_.Guard([this] { OnUnload(); });
+    loaded_ = false;
+    visible_ = false;
+    active_ = false;
+    activeControl_ = nullptr;
+    desktop_.Remove(*this);
+    if (peer_) peer_->Close();
+    unloading_ = false;
+    if (whenUnloaded) whenUnloaded(*this);
+}
+
+void Form::KeepOnTop() {
+    if (peer_ && visible_) peer_->KeepOnTop();
+}
+
+void Form::DragByCaption() {
+    if (peer_) peer_->DragByCaption();
+}
+
+void Form::Refresh() {
+    if (peer_) peer_->Changed(FormAspect::Look);
+}
+
+// Focus.
+
+void Form::Focus(Control& control) {
+    MoveFocus(control);
+    if (!visible_ || !enabled_ || unloading_) return;
+    if (!active_ && peer_) peer_->Activate();
+    if (active_ && activeControl_ == &control && control.Peer() != nullptr) control.Peer()->TakeFocus();
+}
+
+void Form::MoveFocus(Control& control) {
+    if (activeControl_ == &control) return;
+    Control* previous = activeControl_;
+    activeControl_ = &control;
+    if (previous != nullptr) previous->RaiseLostFocus();
+    // The handler of the control that was left may have sent the focus elsewhere, or have closed the window.
+    if (activeControl_ == &control) control.RaiseGotFocus();
+}
+
+void Form::FocusFirst() {
+    for (Control* control : AllControls()) {
+        if (control->CanTakeFocus()) {
+            Focus(*control);
+            return;
+        }
+    }
+}
+
+void Form::FocusNext() {
+    FocusNeighbour(1);
+}
+
+void Form::FocusPrevious() {
+    FocusNeighbour(-1);
+}
+
+void Form::FocusNeighbour(int step) {
+    const std::vector<Control*> controls = AllControls();
+    const auto count = static_cast<std::ptrdiff_t>(controls.size());
+    auto index = std::find(controls.begin(), controls.end(), activeControl_) - controls.begin();
+    if (index == count) index = step > 0 ? -1 : 0;
+    for (std::ptrdiff_t tried = 0; tried < count; ++tried) {
+        index = (index + step + count) % count;
+        Control* candidate = controls[static_cast<std::size_t>(index)];
+        if (candidate->CanTakeFocus()) {
+            Focus(*candidate);
+            return;
+        }
+    }
+}
+
+void Form::LeaveUnfocusable() {
+    if (activeControl_ == nullptr || unloading_ || activeControl_->CanTakeFocus()) return;
+    Control* left = activeControl_;
+    FocusNext();
+    if (activeControl_ != left) return;
+    activeControl_ = nullptr;
+    left->RaiseLostFocus();
+}
+
+// Input.
+
+KeyOutcome Form::HandleKeyDown(int keyCode, Modifiers modifiers) {
+    const Desktop::DispatchScope scope(desktop_);
+    Control* const target = activeControl_;
+    desktop_.Guard([&] { OnKeyDown(keyCode, modifiers); });
+    // A key that the preview let pass reaches its control even when the preview has closed the window.
+    if (keyCode != key::Swallowed && target != nullptr && target->onKeyDown) {
+        desktop_.Guard([&] { target->onKeyDown(keyCode, modifiers); });
+    }
+    if (keyCode == key::Swallowed || !loaded_ || activeControl_ != target) return KeyOutcome::Done;
+    if (keyCode == key::Tab && !modifiers.control && !modifiers.alt) {
+        FocusNeighbour(modifiers.shift ? -1 : 1);
+        return KeyOutcome::Done;
+    }
+    return target != nullptr ? target->DefaultKeyDown(keyCode, modifiers) : KeyOutcome::Default;
+}
+
+KeyOutcome Form::HandleKeyPress(char32_t character) {
+    const Desktop::DispatchScope scope(desktop_);
+    Control* const target = activeControl_;
+    if (target == nullptr) return KeyOutcome::Default;
+    if (target->onKeyPress) desktop_.Guard([&] { target->onKeyPress(character); });
+    if (character == 0 || !loaded_ || activeControl_ != target) return KeyOutcome::Done;
+    return target->DefaultKeyPress(character);
+}
+
+bool Form::HandleAccelerator(char32_t letter) {
+    const Desktop::DispatchScope scope(desktop_);
+    for (Control* control : AllControls()) {
+        auto* button = dynamic_cast<CommandButton*>(control);
+        if (button == nullptr || button->Accelerator() == 0 || !button->CanTakeFocus()) continue;
+        if (!SameLetter(button->Accelerator(), letter)) continue;
+        button->SetFocus();
+        button->Click();
+        return true;
+    }
+    return false;
+}
+
+void Form::HandleActivate() {
+    const Desktop::DispatchScope scope(desktop_);
+    if (!loaded_ || unloading_ || active_) return;
+    active_ = true;
+    desktop_.activeForm_ = this;
+    if (!desktop_.IsShowingMessage()) desktop_.Guard([this] { OnActivate(); });
+    if (!loaded_ || !active_) return;
+    if (activeControl_ == nullptr) {
+        FocusFirst();
+    } else if (activeControl_->Peer() != nullptr) {
+        activeControl_->Peer()->TakeFocus();
+    }
+}
+
+void Form::HandleDeactivate() {
+    const Desktop::DispatchScope scope(desktop_);
+    if (!active_) return;
+    active_ = false;
+    if (desktop_.activeForm_ == this) desktop_.activeForm_ = nullptr;
+    if (activeControl_ != nullptr) activeControl_->Repaint();
+    if (!unloading_ && !desktop_.IsShowingMessage()) desktop_.Guard([this] { OnDeactivate(); });
+}
+
+void Form::HandleFocus(Control& control) {
+    const Desktop::DispatchScope scope(desktop_);
+    if (loaded_ && control.CanTakeFocus()) MoveFocus(control);
+}
+
+void Form::HandleMouseDown(const MouseInput& input) {
+    desktop_.Guard([&] { OnMouseDown(input); });
+}
+
+void Form::HandleMouseMove(const MouseInput& input) {
+    desktop_.Guard([&] { OnMouseMove(input); });
+}
+
+void Form::HandleMoved(Point topLeft) {
+    bounds_.left = topLeft.x;
+    bounds_.top = topLeft.y;
+}
+
+// Controls.
+
+std::vector<Control*> Form::AllControls() const {
+    std::vector<Control*> controls;
+    CollectControls(*this, controls);
+    std::ranges::stable_sort(controls, {}, &Control::TabIndex);
+    return controls;
+}
+
+Control* Form::FindControl(std::string_view qualifiedName) const {
+    for (Control* control : AllControls()) {
+        if (control->QualifiedName() == qualifiedName) return control;
+    }
+    return nullptr;
+}
+
+}  // namespace tavrin::forms

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+#include "forms/container.h"
+#include "forms/control.h"
+
+namespace tavrin::forms {
+
+/// A panel that holds controls; hiding or disabling it hides or disables them.
+class Frame : public Control, public Container {
+  public:
+    Frame(Container& parent, std::string name, Rect bounds = {});
+
+    void SetBordered(bool bordered);
+
+    Form& OwnerForm() override { return Parent().OwnerForm(); }
+    const Form& OwnerForm() const override { return Parent().OwnerForm(); }
+    bool IsEffectivelyVisible() const override { return Control::IsEffectivelyVisible(); }
+    bool IsEffectivelyEnabled() const override { return Control::IsEffectivelyEnabled(); }
+    Control* AsControl() override { return this; }
+
+    void Draw(Surface& surface) const override;
+    AccessibleNode Accessible() const override;
+
+  private:
+    bool bordered_ = true;
+};
+
+}  // namespace tavrin::forms

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "data/table.h"
+#include "forms/control.h"
+
+namespace tavrin::forms {
+
+/// A table of texts with one fixed header row (row 0) and a current cell; the user walks it with the arrows,
+/// Page Up and Down, Home, End, the mouse and the wheel. It reads the cells of a data source when it paints
+/// them and copies none. Without a data source the cells are its own (SetRows, SetTextMatrix).
+class Grid : public Control {
+  public:
+    Grid(Container& parent, std::string name, Rect bounds = {});
+
+    // Content.
+    /// Binds the grid to a table: one column a field, one row a row; the current cell becomes (1, 0), or (0,
+    /// 0) without rows. Null unbinds it and leaves the header alone.
+    void SetDataSource(data::TablePtr table);
+    const data::TablePtr& DataSource() const { return table_; }
+    /// Empties all cells, the header's included; an unbound grid keeps its size.
+    void Clear();
+    /// The header and the alignment of the columns, "^Data|<D|>EUR": ^ centred, < left, > right. Adds columns
+    /// where it names more than there are.
+    void SetFormatString(const std::string& format);
+    int Rows() const;  ///< header included
+    int Columns() const;
+    /// The size of an unbound grid.
+    void SetSize(int rows, int columns);
+    std::string TextMatrix(int row, int column) const;  ///< empty outside the grid
+    void SetTextMatrix(int row, int column, std::string text);
+
+    // Columns.
+    int ColumnWidth(int column) const;  ///< twips; 0 hides the column
+    void SetColumnWidth(int column, int width);
+    Align ColumnAlignment(int column) const;
+    void SetColumnAlignment(int column, Align align);
+    int RowHeight() const { return rowHeight_; }  ///< twips, the same for every row
+
+    // The current cell and the selection from it to (RowSel, ColSel).
+    int Row() const { return row_; }
+    int Col() const { return column_; }
+    /// The selection shrinks to the current cell; the row is scrolled into sight. Out-of-range values are
+    /// clamped.
+    void SetRow(int row);
+    void SetCol(int column);
+    int RowSel() const { return rowSel_; }
+    int ColSel() const { return columnSel_; }
+    void SetColSel(int column);
+
+    /// Where a cell lies in the grid, empty when it is scrolled or hidden away.
+    Rect CellBounds(int row, int column) const;
+    int TopRow() const { return topRow_; }
+    void SetTopRow(int row);
+
+    bool IsFocusable() const override { return true; }
+    void HandleWheel(int notches) override;
+    void Draw(Surface& surface) const override;
+    AccessibleNode Accessible() const override;
+    /// The cells of visible columns, row by row, the header first.
+    int AccessibleChildCount() const override;
+    AccessibleNode AccessibleChild(int child) const override;
+
+  protected:
+    KeyOutcome DefaultKeyDown(int keyCode, Modifiers modifiers) override;
+    void DefaultMouseDown(const MouseInput& input) override;
+    void DefaultMouseMove(const MouseInput& input) override;
+    void DefaultMouseUp(const MouseInput& input) override;
+    bool ClicksOnMouseUp() const override { return true; }
+
+  private:
+    struct Column {
+        std::string header;
+        int width = 960;
+        Align align = Align::Left;
+    };
+
+    data::TablePtr table_;
+    std::vector<Column> columns_;
+    std::vector<std::vector<std::string>> cells_;  ///< of an unbound grid, header excluded
+    int rowHeight_ = 270;
+    int row_ = 0;
+    int column_ = 0;
+    int rowSel_ = 0;
+    int columnSel_ = 0;
+    int topRow_ = 1;
+};
+
+}  // namespace tavrin::forms

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "forms/surface.h"
+
+namespace tavrin::forms {
+
+/// The pictures of the system, drawn as vectors so that they are sharp at every resolution.
+enum class Icon {
+    None,
+    NotePad,
+    AddressBook,
+    Calculator,
+    Exchange,
+    RollUp,
+    Restore,
+    Close,
+    Add,
+    Modify,
+    Remove,
+    AddCurrency,
+    Chart,
+    Exit,
+    Accept,
+    Cancel,
+    Filter,
+};
+
+/// Draws an icon centred in `area`, as large as a square fits in.
+void DrawIcon(Surface& surface, Icon icon, const Rect& area, Color color);
+
+}  // namespace tavrin::forms

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "forms/control.h"
+#include "forms/icon.h"
+
+namespace tavrin::forms {
+
+/// A picture that can be clicked but never has the focus.
+class Image : public Control {
+  public:
+    Image(Container& parent, std::string name, Rect bounds = {});
+
+    Icon Picture() const { return picture_; }
+    void SetPicture(Icon picture);
+
+    void Draw(Surface& surface) const override;
+    AccessibleNode Accessible() const override;
+
+  private:
+    Icon picture_ = Icon::None;
+};
+
+}  // namespace tavrin::forms

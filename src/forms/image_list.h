@@ -1,0 +1,25 @@
+#pragma once
+
+#include <initializer_list>
+#include <vector>
+
+#include "forms/icon.h"
+
+namespace tavrin::forms {
+
+/// The pictures of a window by their one-based number; a number that the list lacks gives none.
+class ImageList {
+  public:
+    ImageList(std::initializer_list<Icon> images) : images_(images) {}
+
+    Icon Picture(int number) const {
+        return number >= 1 && number <= static_cast<int>(images_.size())
+                   ? images_[static_cast<std::size_t>(number - 1)]
+                   : Icon::None;
+    }
+
+  private:
+    std::vector<Icon> images_;
+};
+
+}  // namespace tavrin::forms

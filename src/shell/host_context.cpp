@@ -1,0 +1,19 @@
+#include "shell/host_context.h"
+
+#include "data/error.h"
+
+namespace tavrin::shell {
+
+data::Connection& HostContext::Database() const {
+    if (!connection)
+        throw data::Error(data::error_number::ObjectNotSet, "Object variable or With block variable not set");
+    return *connection;
+}
+
+void HostContext::RaiseIesire() const noexcept {
+    // Listeners may call Apel again and so replace the caller while it raises the event.
+    const std::shared_ptr<CallingObject> current = caller;
+    if (current) current->RaiseIesire();
+}
+
+}  // namespace tavrin::shell

@@ -1,0 +1,60 @@
+#include "shell/module.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tavrin::shell {
+
+Module::Module(forms::Desktop& desktop, MessageServiceFactory createMessageService)
+    : desktop_(desktop), createMessageService_(std::move(createMessageService)) {}
+
+Module::~Module() {
+    desktop_.UnloadAll();
+    for (const Slot& slot : slots_)
+        slot.form->whenUnloaded = nullptr;
+}
+
+void Module::CreateMessageService() {
+    messageService_ = createMessageService_();
+}
+
+int Module::ShowMessage(const std::string& prompt, int icon, int buttons, const std::string& title) {
+    if (!messageService_) CreateMessageService();
+    // A window that opens while the message is up puts a new service into the slot; this one lives until its
+    // message has been answered.
+    const std::shared_ptr<MessageService> current = messageService_;
+    const forms::Desktop::MessageScope scope(desktop_);
+    return current->ShowMessage(prompt, icon, buttons, title);
+}
+
+void Module::UnloadWindow(std::string_view name) {
+    const auto& open = desktop_.Forms();
+    const auto found = std::ranges::find(open, name, &forms::Form::Name);
+    if (found != open.end()) (*found)->Unload();
+}
+
+void Module::AddLauncher(std::string windowName, Launcher launcher) {
+    catalogue_.push_back({std::move(windowName), std::move(launcher)});
+}
+
+void Module::Launch(std::string_view windowName) {
+    const auto entry = std::ranges::find(catalogue_, windowName, &CatalogueEntry::name);
+    if (entry != catalogue_.end()) entry->launch(*this);
+}
+
+forms::Form* Module::Find(std::type_index type) const {
+    const auto slot = std::ranges::find(slots_, type, &Slot::type);
+    return slot != slots_.end() ? slot->form.get() : nullptr;
+}
+
+forms::Form* Module::Keep(std::type_index type, std::shared_ptr<forms::Form> form) {
+    form->whenUnloaded = [this](forms::Form& unloaded) { Forget(unloaded); };
+    slots_.push_back({type, std::move(form)});
+    return slots_.back().form.get();
+}
+
+void Module::Forget(forms::Form& form) {
+    std::erase_if(slots_, [&](const Slot& slot) { return slot.form.get() == &form; });
+}
+
+}  // namespace tavrin::shell

@@ -1,0 +1,31 @@
+#include "shell/window_helpers.h"
+
+#include "forms/text_box.h"
+
+namespace tavrin::shell {
+
+namespace {
+constexpr std::uint8_t DarkMode = 1;
+}
+
+void KeepOnTop(forms::Form& form) {
+    form.KeepOnTop();
+}
+
+void MoveByCaption(forms::Form& form) {
+    form.DragByCaption();
+}
+
+void ApplyDarkScheme(forms::Form& form, std::uint8_t mode) {
+    if (mode != DarkMode) return;
+    form.SetBackColor(forms::Black);
+    for (forms::Control* control : form.AllControls()) {
+        auto* textBox = dynamic_cast<forms::TextBox*>(control);
+        if (textBox == nullptr) continue;
+        textBox->SetBordered(true);
+        textBox->SetBackColor(forms::Black);
+        textBox->SetForeColor(forms::Green);
+    }
+}
+
+}  // namespace tavrin::shell

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdint>
+
+#include "forms/form.h"
+
+namespace tavrin::shell {
+
+/// Lets the platform move a borderless window with the mouse, as if its title bar had been pressed.
+void MoveByCaption(forms::Form& form);
+
+/// With mode 1: black window; text boxes bordered, black, with green text. Labels, buttons and grids keep
+/// their looks. Any other mode changes nothing.
+void ApplyDarkScheme(forms::Form& form, std::uint8_t mode);
+
+}  // namespace tavrin::shell
