@@ -85,7 +85,7 @@ void Form::Show() {
     if (!peer_) peer_ = desktop_.CreatePeer(*this);
     visible_ = true;
     peer_->Changed(FormAspect::Visible);
-    peer_->Activate();
+    if (enabled_) peer_->Activate();
 }
 
 void Form::Unload() {

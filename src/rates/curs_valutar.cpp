@@ -1,0 +1,290 @@
+#include "rates/curs_valutar.h"
+
+#include <array>
+#include <utility>
+
+#include "data/date.h"
+#include "data/error.h"
+#include "rates/rate_statements.h"
+#include "shell/layout.h"
+
+namespace tavrin::rates {
+
+namespace {
+
+namespace key = forms::key;
+namespace layout = shell::layout;
+namespace message = shell::message;
+
+constexpr std::string_view PickerFormat = "dd/MMM/yy";
+constexpr int DayColumn = 0;
+constexpr int RawDateColumn = 1;
+constexpr int DayWidth = 1100;
+constexpr int CurrencyWidth = 1400;
+constexpr int CurrenciesInSight = 6;
+constexpr int ScrollBarWidth = 340;
+constexpr int GridWidth = DayWidth + CurrenciesInSight * CurrencyWidth + ScrollBarWidth;
+constexpr int GridHeight = 6360;
+constexpr int SideWidth = 2220;
+
+struct ActionLook {
+    CursValutar::Action action;
+    const char* caption;
+    forms::Icon picture;
+};
+constexpr std::array<ActionLook, 6> Actions = {{
+    {CursValutar::AddDay, "Adauga Curs", forms::Icon::Add},
+    {CursValutar::ModifyDay, "Modifica Curs", forms::Icon::Modify},
+    {CursValutar::DeleteDay, "Sterge Curs", forms::Icon::Remove},
+    {CursValutar::AddCurrency, "  Adauga Moneda", forms::Icon::AddCurrency},
+    {CursValutar::ShowEvolution, "  Evolutie Curs", forms::Icon::Chart},
+    {CursValutar::Close, "Iesire", forms::Icon::Exit},
+}};
+
+constexpr auto ActionIndices() {
+    std::array<int, Actions.size()> indices{};
+    for (std::size_t i = 0; i < indices.size(); ++i)
+        indices[i] = Actions[i].action;
+    return indices;
+}
+
+}  // namespace
+
+CursValutar::CursValutar(shell::Module& module)
+    : Form(module.Desktop(), "CursValutar", "Curs Valutar", forms::BorderStyle::FixedDialog),
+      fraGrid(*this, "fraGrid"),
+      Grid(fraGrid, "Grid"),
+      lblLabels(*this, "lblLabels"),
+      dpDataIn(*this, "dpDataIn", std::string(PickerFormat)),
+      dpDataFin(*this, "dpDataFin", std::string(PickerFormat)),
+      cmdRefresh(*this, "cmdRefresh", "Filtreaza"),
+      cmdAction(*this, "cmdAction", ActionIndices()),
+      module_(module),
+      store_(module.context) {
+    PlaceControls();
+    ConnectEvents();
+}
+
+void CursValutar::PlaceControls() {
+    SetClientSize({GridWidth + SideWidth + 3 * layout::Margin, GridHeight + 2 * layout::Margin});
+    fraGrid.SetBounds({layout::Margin, layout::Margin, GridWidth, GridHeight});
+    fraGrid.SetBordered(false);
+    fraGrid.SetVisible(false);
+    Grid.SetBounds({0, 0, GridWidth, GridHeight});
+    Grid.SetAccessibleName("Curs Valutar");
+
+    const int left = GridWidth + 2 * layout::Margin;
+    int top = layout::Margin;
+    const auto place = [&](forms::Control& control, int height, int gap) {
+        control.SetBounds({left, top, SideWidth, height});
+        top += height + gap;
+    };
+    lblLabels[0].SetCaption("De La Data");
+    lblLabels[1].SetCaption("La Data");
+    dpDataIn.SetAccessibleName("De La Data");
+    dpDataFin.SetAccessibleName("La Data");
+    cmdRefresh.SetPicture(forms::Icon::Filter);
+    place(lblLabels[0], layout::LabelHeight, 0);
+    place(dpDataIn, layout::FieldHeight, layout::Unit);
+    place(lblLabels[1], layout::LabelHeight, 0);
+    place(dpDataFin, layout::FieldHeight, layout::Gap);
+    place(cmdRefresh, layout::ButtonHeight, 4 * layout::Gap);
+    for (const ActionLook& look : Actions) {
+        cmdAction[look.action].SetCaption(look.caption);
+        cmdAction[look.action].SetPicture(look.picture);
+        place(cmdAction[look.action], layout::ButtonHeight, layout::Gap);
+    }
+    // The way out stands apart from what changes data.
+    cmdAction[Close].MoveTo(left, layout::Margin + GridHeight - layout::ButtonHeight);
+}
+
+void CursValutar::ConnectEvents() {
+    cmdAction.OnEach(&forms::Control::onClick, [this](int index) { cmdAction_Click(index); });
+    cmdAction.OnEach(&forms::Control::onKeyDown, [this](int index, int& keyCode, forms::Modifiers modifiers) {
+        cmdAction_KeyDown(index, keyCode, modifiers);
+    });
+    Grid.onKeyDown = [this](int& keyCode, forms::Modifiers) { Grid_KeyDown(keyCode); };
+    dpDataIn.onKeyDown = [this](int& keyCode, forms::Modifiers) { dpDataIn_KeyDown(keyCode); };
+    dpDataFin.onKeyDown = [this](int& keyCode, forms::Modifiers) { dpDataFin_KeyDown(keyCode); };
+    cmdRefresh.onKeyDown = [this](int& keyCode, forms::Modifiers) { CloseOnEscape(keyCode); };
+    cmdRefresh.onClick = [this] { cmdRefresh_Click(); };
+}
+
+// Life.
+
+void CursValutar::ShowForm() {
+    Load();
+    Show();
+}
+
+void CursValutar::OnLoad() {
+    module_.CreateMessageService();
+    const int year = module_.context.workYear;
+    for (forms::DatePicker* picker : {&dpDataIn, &dpDataFin}) {
+        picker->SetRange(data::ToOleDate({year, 1, 1}), data::ToOleDate({year + 1, 1, 31}));
+    }
+    const data::CalendarDay workDay = data::ToCalendarDay(module_.context.workDate);
+    dpDataIn.SetDate(data::ToOleDate({workDay.year, workDay.month, 1}));
+    dpDataFin.SetDate(module_.context.workDate);
+    orderClause_ = ListOrderClause;
+    ApplyDateFilter();
+}
+
+void CursValutar::OnUnload() {
+    module_.context.RaiseIesire();
+}
+
+// The list.
+
+bool CursValutar::ApplyDateFilter() {
+    dateFilter_ = DateFilterClause(dpDataIn.Date(), dpDataFin.Date());
+    return Filtreaza(true);
+}
+
+bool CursValutar::Filtreaza(bool /*refresh*/) {
+    // Nothing of the window changes before the database has answered, so a failure leaves the old list in
+    // sight.
+    CurrencyNames currencies = store_.DiscoverCurrencies();
+    std::string query = ListBaseQuery(currencies);
+    data::TablePtr table = store_.Read(query + " " + dateFilter_ + " " + orderClause_);
+    currencyNames_ = std::move(currencies);
+    baseQuery_ = std::move(query);
+
+    const bool hasRows = table != nullptr;
+    fraGrid.SetVisible(hasRows);
+    Grid.Clear();
+    BindGrid(std::move(table));
+    SetActionsEnabled(true);
+    return hasRows;
+}
+
+void CursValutar::BindGrid(data::TablePtr table) {
+    Grid.SetDataSource(std::move(table));
+    if (!Grid.DataSource()) return;
+    std::string format = "^Data|<D";
+    for (int i = CurrencyNames::FirstCurrency; i <= currencyNames_.UpperBound(); ++i) {
+        format += "|>" + currencyNames_[i];
+    }
+    Grid.SetFormatString(format);
+    Grid.SetColumnWidth(DayColumn, DayWidth);
+    Grid.SetColumnWidth(RawDateColumn, 0);
+    for (int i = CurrencyNames::FirstCurrency; i <= currencyNames_.UpperBound(); ++i) {
+        Grid.SetColumnWidth(i, CurrencyWidth);
+    }
+}
+
+void CursValutar::SetActionsEnabled(bool enabled) {
+    for (const Action action : {ModifyDay, DeleteDay, ShowEvolution})
+        cmdAction[action].SetEnabled(enabled);
+    dpDataIn.SetEnabled(enabled);
+    dpDataFin.SetEnabled(enabled);
+    fraGrid.SetEnabled(enabled);
+}
+
+void CursValutar::cmdRefresh_Click() {
+    if (ApplyDateFilter()) {
+        Grid.SetFocus();
+    } else {
+        dpDataFin.SetFocus();
+    }
+}
+
+// The actions.
+
+void CursValutar::cmdAction_Click(int index) {
+    switch (index) {
+        case ModifyDay:
+            if (Grid.IsEffectivelyVisible() && !RefusesFrozenDay()) ModifySelectedDay();
+            break;
+        case DeleteDay:
+            if (Grid.IsEffectivelyVisible() && !RefusesFrozenDay()) DeleteSelectedDay();
+            break;
+        case RemoveCurrency:
+            if (currencyNames_.UpperBound() == CurrencyNames::FirstCurrency) RefuseLastCurrency();
+            break;
+        case Close:
+            Unload();
+            break;
+        default:
+            break;
+    }
+}
+
+std::string CursValutar::SelectedDayText() const {
+    return Grid.TextMatrix(Grid.Row(), DayColumn);
+}
+
+bool CursValutar::RefusesFrozenDay() {
+    const auto day = data::ParseDayMonthYear(SelectedDayText());
+    if (!day) throw data::Error(data::error_number::TypeMismatch, "Type mismatch");
+    if (!IsRateValidated(*day)) return false;
+    // A frozen day can be neither changed nor deleted; one text serves for both.
+    module_.ShowMessage("Acest curs a fost validat !\r\nNu puteti modifica un curs deja validat !",
+                        message::Error, message::Ok, Caption());
+    if (fraGrid.Enabled()) {
+        SelectWholeRow();
+        Grid.SetFocus();
+    }
+    return true;
+}
+
+void CursValutar::SelectWholeRow() {
+    Grid.SetColSel(currencyNames_.UpperBound());
+}
+
+void CursValutar::ModifySelectedDay() {}
+
+void CursValutar::DeleteSelectedDay() {
+    Grid.SetCol(DayColumn);
+    const std::string day = SelectedDayText();
+    module_.lastQuestion = "Sunteti sigur ca doriti sa stergeti cursul valutar pentru data de " + day;
+    const int answer =
+        module_.ShowMessage(module_.lastQuestion, message::Question, message::YesNo, Caption());
+    if (answer != message::AnswerYes) {
+        Grid.SetFocus();
+        return;
+    }
+    store_.DeleteDay(day);
+    Filtreaza(true);
+}
+
+void CursValutar::RefuseLastCurrency() {
+    module_.ShowMessage("Nu puteti sterge toate monedele !", message::Error, message::Ok, Caption());
+    if (fraGrid.Enabled()) Grid.SetFocus();
+}
+
+// Keys.
+
+void CursValutar::cmdAction_KeyDown(int index, int& keyCode, forms::Modifiers modifiers) {
+    CloseOnEscape(keyCode);
+    const bool forward = (keyCode == key::Tab && !modifiers.shift) || keyCode == key::Right;
+    if (!forward) return;
+    if (index == AddDay || index == ModifyDay) {
+        dpDataIn.SetFocus();
+    } else if ((index == DeleteDay || index == AddCurrency) && Grid.CanTakeFocus()) {
+        keyCode = key::Swallowed;
+        Grid.SetFocus();
+    }
+}
+
+void CursValutar::CloseOnEscape(int keyCode) {
+    if (keyCode == key::Escape) cmdAction_Click(Close);
+}
+
+void CursValutar::Grid_KeyDown(int keyCode) {
+    CloseOnEscape(keyCode);
+    if (keyCode == key::Enter || keyCode == key::Tab) cmdAction[ModifyDay].SetFocus();
+}
+
+void CursValutar::dpDataIn_KeyDown(int keyCode) {
+    CloseOnEscape(keyCode);
+    if (keyCode == key::Enter) dpDataFin.SetFocus();
+}
+
+void CursValutar::dpDataFin_KeyDown(int keyCode) {
+    CloseOnEscape(keyCode);
+    if (keyCode == key::Enter) cmdRefresh.SetFocus();
+    if (keyCode == key::Left) dpDataIn.SetFocus();
+}
+
+}  // namespace tavrin::rates

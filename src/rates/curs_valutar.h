@@ -1,0 +1,82 @@
+#pragma once
+
+#include <string>
+
+#include "data/value.h"
+#include "forms/command_button.h"
+#include "forms/control_array.h"
+#include "forms/date_picker.h"
+#include "forms/form.h"
+#include "forms/frame.h"
+#include "forms/grid.h"
+#include "forms/label.h"
+#include "rates/currency_names.h"
+#include "rates/rate_store.h"
+#include "shell/module.h"
+
+namespace tavrin::rates {
+
+/// The rate list: one row a day of the chosen range, one column a currency, and the actions on them.
+class CursValutar : public forms::Form {
+  public:
+    /// The indices of cmdAction. No button carries RemoveCurrency; the action is there for code alone.
+    enum Action { AddDay, ModifyDay, DeleteDay, AddCurrency, RemoveCurrency, ShowEvolution, Close };
+
+    explicit CursValutar(shell::Module& module);
+
+    void ShowForm();
+
+    /// Reads the currencies and the days of the current filter anew. True when there are any. The argument is
+    /// part of the window's interface; every caller passes true.
+    bool Filtreaza(bool refresh);
+    /// Takes the range from the two pickers and reads the list.
+    bool ApplyDateFilter();
+
+    void cmdAction_Click(int index);
+
+    const CurrencyNames& Currencies() const { return currencyNames_; }
+
+    forms::Frame fraGrid;
+    forms::Grid Grid;
+    forms::ControlArray<forms::Label, 2> lblLabels;
+    forms::DatePicker dpDataIn;
+    forms::DatePicker dpDataFin;
+    forms::CommandButton cmdRefresh;
+    forms::ControlArray<forms::CommandButton, 6> cmdAction;
+
+  protected:
+    void OnLoad() override;
+    void OnActivate() override { KeepOnTop(); }
+    void OnDeactivate() override { KeepOnTop(); }
+    void OnUnload() override;
+
+  private:
+    void PlaceControls();
+    void ConnectEvents();
+
+    bool IsRateValidated(data::OleDate day) const { return store_.IsFrozen(day); }
+    void SetActionsEnabled(bool enabled);
+    void BindGrid(data::TablePtr table);
+    std::string SelectedDayText() const;
+    bool RefusesFrozenDay();
+    void SelectWholeRow();
+    void ModifySelectedDay();
+    void DeleteSelectedDay();
+    void RefuseLastCurrency();
+
+    void cmdAction_KeyDown(int index, int& keyCode, forms::Modifiers modifiers);
+    void CloseOnEscape(int keyCode);
+    void Grid_KeyDown(int keyCode);
+    void dpDataIn_KeyDown(int keyCode);
+    void dpDataFin_KeyDown(int keyCode);
+    void cmdRefresh_Click();
+
+    shell::Module& module_;
+    RateStore store_;
+    CurrencyNames currencyNames_;
+    std::string baseQuery_;
+    std::string dateFilter_;
+    std::string orderClause_;
+};
+
+}  // namespace tavrin::rates
