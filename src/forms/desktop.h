@@ -83,7 +83,8 @@ class Desktop {
     };
     bool IsShowingMessage() const { return messageDepth_ > 0; }
 
-    /// Unloads every form, the last loaded first.
+    /// Unloads every form, the last loaded first, and lets go of those whose code is not running. A desktop calls
+    /// it at the start of its destructor, while the peers can still reach it.
     void UnloadAll();
 
   private:

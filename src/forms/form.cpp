@@ -117,10 +117,11 @@ void Form::Refresh() {
 // Focus.
 
 void Form::Focus(Control& control) {
+    const bool usable = visible_ && enabled_ && !unloading_;
+    // Activating first: what the window does then must not take back the focus that is given now.
+    if (usable && !active_ && peer_) peer_->Activate();
     MoveFocus(control);
-    if (!visible_ || !enabled_ || unloading_) return;
-    if (!active_ && peer_) peer_->Activate();
-    if (active_ && activeControl_ == &control && control.Peer() != nullptr) control.Peer()->TakeFocus();
+    if (usable && active_ && activeControl_ == &control && control.Peer() != nullptr) control.Peer()->TakeFocus();
 }
 
 void Form::MoveFocus(Control& control) {

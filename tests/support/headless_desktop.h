@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "forms/desktop.h"
+#include "forms/form.h"
+
+namespace tavrin::tests {
+
+/// What the platform was asked to do with a form's window, counted.
+struct WindowCalls {
+    int keptOnTop = 0;
+    int draggedByCaption = 0;
+    int activated = 0;
+};
+
+/// A screen of 1280 by 1024 pixels at 96 DPI on which windows are only remembered: which are up, which is
+/// active, what errors were reported. It activates windows as a window manager does: showing one activates
+/// it, closing the active one activates the topmost of the others that is enabled.
+class HeadlessDesktop : public forms::Desktop {
+  public:
+    HeadlessDesktop();
+    ~HeadlessDesktop() override;
+
+    std::unique_ptr<forms::FormPeer> CreatePeer(forms::Form& form) override;
+    forms::Size ScreenSize() const override { return {1280 * 15, 1024 * 15}; }
+    int TwipsPerPixelX() const override { return 15; }
+    int TwipsPerPixelY() const override { return 15; }
+    forms::Size FrameSize(forms::BorderStyle border) const override;
+    forms::PixelPoint CursorPosition() const override { return cursor; }
+    void SetCursorPosition(forms::PixelPoint position) override { cursor = position; }
+    const forms::Locale& UserLocale() const override { return locale; }
+    void ReportError(std::int32_t number, const std::string& description) noexcept override;
+
+    struct Report {
+        std::int32_t number;
+        std::string description;
+        bool operator==(const Report&) const = default;
+    };
+
+    forms::PixelPoint cursor{500, 400};
+    forms::Locale locale;
+    std::vector<Report> reports;
+    /// What happens while a report is up, as a user or a timer may do things then.
+    std::function<void()> whileReporting;
+
+    /// What the window of a form was asked so far; all zero for a form without a window.
+    WindowCalls CallsOf(const forms::Form& form) const;
+
+    /// A user's click on another window, or on the host when `form` is null.
+    void ActivateByUser(forms::Form* form);
+
+  private:
+    class Window;
+    void Close(Window& window);
+
+    std::vector<Window*> windows_;  ///< topmost last
+};
+
+}  // namespace tavrin::tests
