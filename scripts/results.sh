@@ -1,0 +1,86 @@
+# Sourced by ./test: runs checks and test programs, prints one line for each, and adds up what passed and failed.
+# shellcheck shell=bash
+source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+
+passed=0
+failed=0
+logs=$build/test
+
+# line NAME STATUS SECONDS
+line() { printf '%-24s %-32s %4d s\n' "$1" "$2" "$3"; }
+
+# check NAME COMMAND...: one test; passes when the command does. Its output is shown when it fails.
+check() {
+    local name=$1 log=$logs/$1.log start=$SECONDS
+    shift
+    if "$@" >"$log" 2>&1 </dev/null; then
+        passed=$((passed + 1))
+        line "$name" ok $((SECONDS - start))
+    else
+        failed=$((failed + 1))
+        line "$name" FAILED $((SECONDS - start))
+        tail -n 60 "$log" | sed 's/^/    /'
+        return 1
+    fi
+}
+
+# run_program NAME COMMAND...: runs a GoogleTest program that writes $logs/NAME.xml; count_program adds it up.
+run_program() {
+    local name=$1 start=$SECONDS code=0
+    shift
+    rm -f "$logs/$name.xml"
+    "$@" >"$logs/$name.log" 2>&1 </dev/null || code=$?
+    echo "$code $((SECONDS - start))" >"$logs/$name.code"
+}
+
+# suite_attribute NAME ATTRIBUTE: the sum of the attribute over all suites of a program's report.
+suite_attribute() {
+    sed -n "s/^ *<testsuite .* $2=\"\([0-9]*\)\".*/\1/p" "$logs/$1.xml" | awk '{ sum += $1 } END { print sum + 0 }'
+}
+
+# The output of the failing tests alone; of a test that never ended, all there is.
+failing_output() {
+    awk '/^\[ RUN      \]/ { text = ""; open = 1 }
+         open { text = text $0 "\n" }
+         /^\[       OK \]/ { open = 0 }
+         /^\[  FAILED  \]/ && open { printf "%s", text; open = 0 }
+         !open && /error: |runtime error|ERROR: / { print }
+         END { if (open) printf "%s", text }' "$logs/$1.log" | tail -n 200 | sed 's/^/    /'
+}
+
+# count_program NAME: adds up a program that run_program has run. Tests that were skipped or disabled did not pass.
+# A program that crashes, hangs or cannot start is one failure more than its tests show.
+count_program() {
+    local name=$1 code seconds ran=0 bad=0 note=
+    read -r code seconds <"$logs/$name.code"
+    if [[ -s $logs/$name.xml ]]; then
+        bad=$(($(suite_attribute "$name" failures) + $(suite_attribute "$name" errors)))
+        bad=$((bad + $(suite_attribute "$name" disabled) + $(suite_attribute "$name" skipped)))
+        ran=$(($(suite_attribute "$name" tests) - bad))
+        if [[ $ran -eq 0 && $bad -eq 0 ]]; then
+            bad=1 note='ran no test'
+        elif [[ $code -ne 0 && $bad -eq 0 ]]; then
+            bad=1 note="ended with $code after its tests"
+        fi
+    else
+        ran=$(grep -c '^\[       OK \]' "$logs/$name.log" || true)
+        bad=$(($(grep -c '^\[  FAILED  \].*ms)' "$logs/$name.log" || true) + 1))
+        note="crashed or hung ($code)"
+    fi
+    passed=$((passed + ran))
+    failed=$((failed + bad))
+    if [[ $bad -eq 0 ]]; then
+        line "$name" "$ran passed" "$seconds"
+        return
+    fi
+    line "$name" "FAILED: $bad of $((ran + bad))${note:+, $note}" "$seconds"
+    failing_output "$name"
+    [[ -z $note ]] || tail -n 30 "$logs/$name.log" | sed 's/^/    /'
+    return 1
+}
+
+# The last line; fails when something failed or nothing ran.
+summary() {
+    echo "$passed passed, $failed failed"
+    [[ $failed -eq 0 && $passed -gt 0 ]]
+}
