@@ -24,6 +24,12 @@ check() {
     fi
 }
 
+# not_run NAME: what could not even start has failed.
+not_run() {
+    failed=$((failed + 1))
+    line "$1" 'FAILED: not run' 0
+}
+
 # run_program NAME COMMAND...: runs a GoogleTest program that writes $logs/NAME.xml; count_program adds it up.
 run_program() {
     local name=$1 start=$SECONDS code=0
