@@ -107,6 +107,12 @@ void Control::HandleMouseLeave() {
     TrackHot(false);
 }
 
+void Control::HandleCaptureLost() {
+    if (!pressed_) return;
+    pressed_ = false;
+    Repaint();
+}
+
 void Control::HandleDblClick(const MouseInput& input) {
     const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
     if (IsEffectivelyEnabled() && input.button == MouseButton::Left) Raise(onDblClick);
