@@ -3,11 +3,13 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "forms/geometry.h"
 #include "forms/locale.h"
+#include "forms/number_format.h"
 #include "forms/peer.h"
 
 namespace tavrin::forms {
@@ -35,6 +37,10 @@ class Desktop {
     virtual PixelPoint CursorPosition() const = 0;
     virtual void SetCursorPosition(PixelPoint position) = 0;
     virtual const Locale& UserLocale() const = 0;
+    /// Sets a number's text for reading. The platform's own service where there is one.
+    virtual std::string FormatNumber(std::string_view number, const NumberFormat& format) const {
+        return forms::FormatNumber(number, format);
+    }
     /// The platform's report of an error that a handler did not expect.
     virtual void ReportError(std::int32_t number, const std::string& description) noexcept = 0;
 
@@ -83,8 +89,8 @@ class Desktop {
     };
     bool IsShowingMessage() const { return messageDepth_ > 0; }
 
-    /// Unloads every form, the last loaded first, and lets go of those whose code is not running. A desktop calls
-    /// it at the start of its destructor, while the peers can still reach it.
+    /// Unloads every form, the last loaded first, and lets go of those whose code is not running. A desktop
+    /// calls it at the start of its destructor, while the peers can still reach it.
     void UnloadAll();
 
   private:

@@ -5,6 +5,8 @@
 
 #include "data/date.h"
 #include "data/error.h"
+#include "rates/cere_moneda.h"
+#include "rates/curs_valutar_detaliu.h"
 #include "rates/rate_statements.h"
 #include "shell/layout.h"
 
@@ -193,14 +195,27 @@ void CursValutar::cmdRefresh_Click() {
 
 void CursValutar::cmdAction_Click(int index) {
     switch (index) {
+        case AddDay:
+            OpenEntry("A");
+            break;
         case ModifyDay:
-            if (Grid.IsEffectivelyVisible() && !RefusesFrozenDay()) ModifySelectedDay();
+            if (Grid.IsEffectivelyVisible() && !RefusesFrozenDay()) OpenEntry("M");
             break;
         case DeleteDay:
             if (Grid.IsEffectivelyVisible() && !RefusesFrozenDay()) DeleteSelectedDay();
             break;
+        case AddCurrency:
+            OpenCurrencyWindow("A");
+            break;
         case RemoveCurrency:
-            if (currencyNames_.UpperBound() == CurrencyNames::FirstCurrency) RefuseLastCurrency();
+            if (currencyNames_.UpperBound() == CurrencyNames::FirstCurrency) {
+                RefuseLastCurrency();
+            } else {
+                OpenCurrencyWindow("S");
+            }
+            break;
+        case ShowEvolution:
+            OpenEvolution();
             break;
         case Close:
             Unload();
@@ -231,8 +246,6 @@ bool CursValutar::RefusesFrozenDay() {
 void CursValutar::SelectWholeRow() {
     Grid.SetColSel(currencyNames_.UpperBound());
 }
-
-void CursValutar::ModifySelectedDay() {}
 
 void CursValutar::DeleteSelectedDay() {
     Grid.SetCol(DayColumn);

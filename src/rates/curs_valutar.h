@@ -35,6 +35,12 @@ class CursValutar : public forms::Form {
     void cmdAction_Click(int index);
 
     const CurrencyNames& Currencies() const { return currencyNames_; }
+    /// The day of the grid's current row, "dd/mm/yyyy".
+    std::string SelectedDayText() const;
+    /// Makes the row of a day the current one; without such a row the current one stays.
+    void SelectDay(const std::string& dayMonthYear);
+    /// Extends the selection over the whole current row.
+    void SelectWholeRow();
 
     forms::Frame fraGrid;
     forms::Grid Grid;
@@ -57,10 +63,10 @@ class CursValutar : public forms::Form {
     bool IsRateValidated(data::OleDate day) const { return store_.IsFrozen(day); }
     void SetActionsEnabled(bool enabled);
     void BindGrid(data::TablePtr table);
-    std::string SelectedDayText() const;
     bool RefusesFrozenDay();
-    void SelectWholeRow();
-    void ModifySelectedDay();
+    void OpenEntry(const std::string& mode);
+    void OpenCurrencyWindow(const std::string& mode);
+    void OpenEvolution();
     void DeleteSelectedDay();
     void RefuseLastCurrency();
 

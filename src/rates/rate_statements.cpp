@@ -10,6 +10,18 @@ std::string_view Cut(std::string_view text, std::size_t start, std::size_t lengt
     return start < text.size() ? text.substr(start, length) : std::string_view{};
 }
 
+std::string Trimmed(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+/// The number of a shown value: its thousands separators are the display's, not the database's.
+std::string PlainValue(std::string value) {
+    std::erase(value, ',');
+    return Trimmed(value);
+}
+
 }  // namespace
 
 std::string FrozenDateStatement(std::int32_t companyId) {
@@ -41,6 +53,45 @@ std::string MonthDayYear(std::string_view dayMonthYear) {
 
 std::string DeleteDayStatement(std::string_view dayMonthYear) {
     return "DELETE FROM [Curs Valutar] WHERE [Data] = '" + MonthDayYear(dayMonthYear) + "'";
+}
+
+std::string CountDayStatement(data::OleDate day) {
+    return "Select count(*) from [Curs Valutar] where data ='" + data::FormatYearMonthDay(day) + "'";
+}
+
+std::string ProbeDayStatement(data::OleDate day) {
+    return "SELECT 'x' FROM [Curs Valutar] Where [Data] = '" + data::FormatYearMonthDay(day) + "'";
+}
+
+std::string InsertDayStatement(std::string_view dayMonthYear, const std::vector<RateEntry>& rates) {
+    std::string statement = "INSERT INTO [Curs Valutar]([Data]";
+    for (const RateEntry& rate : rates)
+        statement += ",[" + rate.currency + "]";
+    statement += ") VALUES('" + MonthDayYear(dayMonthYear) + "'";
+    for (const RateEntry& rate : rates)
+        statement += "," + PlainValue(rate.value);
+    return statement + ")";
+}
+
+std::string UpdateDayStatement(std::string_view dayMonthYear, const std::vector<RateEntry>& rates) {
+    std::string statement = "UPDATE [Curs Valutar] SET ";
+    for (std::size_t i = 0; i < rates.size(); ++i) {
+        statement += "[" + Trimmed(rates[i].currency) + "] = " + PlainValue(rates[i].value);
+        statement += i + 1 < rates.size() ? ", " : " ";
+    }
+    return statement + " WHERE [Data] = '" + MonthDayYear(dayMonthYear) + "'";
+}
+
+std::string AddColumnStatement(std::string_view currency) {
+    return "ALTER TABLE [Curs Valutar] ADD  [" + std::string(currency) + "] float";
+}
+
+std::string ZeroColumnStatement(std::string_view currency) {
+    return "UPDATE [Curs Valutar] SET [" + std::string(currency) + "] = 0";
+}
+
+std::string RegisterCurrencyStatement(std::string_view currency) {
+    return "INSERT INTO LpVal (Valuta, Curs) VALUES ('" + std::string(currency) + "', 0)";
 }
 
 }  // namespace tavrin::rates

@@ -30,4 +30,23 @@ std::string MonthDayYear(std::string_view dayMonthYear);
 
 std::string DeleteDayStatement(std::string_view dayMonthYear);
 
+/// How many rows a day has; asked before a day is added.
+std::string CountDayStatement(data::OleDate day);
+/// A row if the day exists; asked when the user has chosen a day.
+std::string ProbeDayStatement(data::OleDate day);
+
+/// One line of the entry grid as the user sees it: the value carries its thousands separators.
+struct RateEntry {
+    std::string currency;
+    std::string value;
+};
+
+std::string InsertDayStatement(std::string_view dayMonthYear, const std::vector<RateEntry>& rates);
+std::string UpdateDayStatement(std::string_view dayMonthYear, const std::vector<RateEntry>& rates);
+
+// Adding a currency takes three statements, each run on its own: column, zeros, the host's own list.
+std::string AddColumnStatement(std::string_view currency);
+std::string ZeroColumnStatement(std::string_view currency);
+std::string RegisterCurrencyStatement(std::string_view currency);
+
 }  // namespace tavrin::rates

@@ -34,8 +34,42 @@ data::TablePtr RateStore::Read(std::string_view query) const {
     return table;
 }
 
+std::int64_t RateStore::CountDay(data::OleDate day) const {
+    return data::ExecuteScalar(context_.Database(), CountDayStatement(day)).ToInteger();
+}
+
+bool RateStore::DayExists(data::OleDate day) const {
+    return context_.Database().Execute(ProbeDayStatement(day))->HasRows();
+}
+
 void RateStore::DeleteDay(std::string_view dayMonthYear) const {
     context_.Database().Execute(DeleteDayStatement(dayMonthYear));
+}
+
+void RateStore::InsertDay(std::string_view dayMonthYear, const std::vector<RateEntry>& rates) const {
+    context_.Database().Execute(InsertDayStatement(dayMonthYear, rates));
+}
+
+void RateStore::UpdateDay(std::string_view dayMonthYear, const std::vector<RateEntry>& rates) const {
+    context_.Database().Execute(UpdateDayStatement(dayMonthYear, rates));
+}
+
+std::vector<std::string> RateStore::ColumnsAfterSecond() const {
+    constexpr std::size_t Skipped = 2;
+    const auto columns = context_.Database().CreateRecordset();
+    columns->Open(ColumnsStatement);
+    std::vector<std::string> names;
+    for (std::size_t i = Skipped; i < columns->FieldCount(); ++i)
+        names.push_back(columns->FieldName(i));
+    columns->Close();
+    return names;
+}
+
+void RateStore::AddCurrency(std::string_view currency) const {
+    data::Connection& database = context_.Database();
+    database.Execute(AddColumnStatement(currency));
+    database.Execute(ZeroColumnStatement(currency));
+    database.Execute(RegisterCurrencyStatement(currency));
 }
 
 }  // namespace tavrin::rates

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "data/table.h"
 #include "data/value.h"
 #include "rates/currency_names.h"
+#include "rates/rate_statements.h"
 #include "shell/host_context.h"
 
 namespace tavrin::rates {
@@ -27,7 +30,20 @@ class RateStore {
     /// The rows of a display query, read at once; null when there are none.
     data::TablePtr Read(std::string_view query) const;
 
+    /// The number of rows of a day.
+    std::int64_t CountDay(data::OleDate day) const;
+    bool DayExists(data::OleDate day) const;
+
     void DeleteDay(std::string_view dayMonthYear) const;
+    void InsertDay(std::string_view dayMonthYear, const std::vector<RateEntry>& rates) const;
+    void UpdateDay(std::string_view dayMonthYear, const std::vector<RateEntry>& rates) const;
+
+    /// The names of the table's columns from the third on. The first two are skipped by their place, whatever
+    /// they are called: the host's table begins with "Data" and "Validat".
+    std::vector<std::string> ColumnsAfterSecond() const;
+
+    /// A column, its zeros, and its line in the host's list; what was done stays when a later step fails.
+    void AddCurrency(std::string_view currency) const;
 
   private:
     const shell::HostContext& context_;

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <string>
+
+#include "forms/combo_box.h"
+#include "forms/command_button.h"
+#include "forms/control_array.h"
+#include "forms/decoration.h"
+#include "forms/form.h"
+#include "forms/frame.h"
+#include "forms/image_list.h"
+#include "forms/label.h"
+#include "forms/text_box.h"
+#include "rates/rate_store.h"
+#include "shell/module.h"
+
+namespace tavrin::rates {
+
+/// Asks for the code of a new currency and adds it to the rate table. In any mode but "A" it shows the
+/// existing currencies instead, and removes none.
+class CereMoneda : public forms::Form {
+  public:
+    enum Action { Accept, Cancel };
+
+    explicit CereMoneda(shell::Module& module);
+
+    /// "A" or "S"; set by the opener before the window is loaded.
+    std::string Mode;
+
+    forms::Frame Frame1;
+    forms::ControlArray<forms::Label, 1> lblLabels;
+    forms::Shape Shape14;
+    forms::TextBox txtMoneda;
+    forms::ComboBox cmbMoneda;
+    forms::ControlArray<forms::CommandButton, 2> cmdAction;
+
+  protected:
+    void OnLoad() override;
+    void OnActivate() override { KeepOnTop(); }
+    void OnDeactivate() override { KeepOnTop(); }
+    void OnUnload() override;
+
+  private:
+    void PlaceControls();
+    void ConnectEvents();
+    void FillCurrencies();
+    bool AddCurrency();
+    void ColorField(forms::Control& field, forms::Color color);
+    void cmdAction_Click(int index);
+    void txtMoneda_KeyDown(int& keyCode, forms::Modifiers modifiers);
+    void cmbMoneda_KeyDown(int& keyCode);
+    void CancelOnEscape(int keyCode);
+
+    shell::Module& module_;
+    RateStore store_;
+    forms::ImageList lstImages_;
+};
+
+}  // namespace tavrin::rates

@@ -1,0 +1,353 @@
+#include "rates/curs_valutar_detaliu.h"
+
+#include <charconv>
+#include <optional>
+
+#include "data/connection.h"
+#include "data/date.h"
+#include "rates/curs_valutar.h"
+#include "shell/layout.h"
+
+namespace tavrin::rates {
+
+namespace {
+
+namespace key = forms::key;
+namespace layout = shell::layout;
+namespace message = shell::message;
+
+constexpr int CodeColumn = 0;
+constexpr int ValueColumn = 1;
+constexpr int CodeWidth = 2000;
+constexpr int ValueWidth = 1500;
+constexpr int ScrollBarWidth = 340;
+constexpr int GridWidth = CodeWidth + ValueWidth + ScrollBarWidth;
+constexpr int GridHeight = 3600;
+constexpr int LabelWidth = 1740;
+constexpr int ButtonWidth = 1560;
+constexpr int ThousandsGrouping = 3;
+
+/// The number in a cell's text, its thousands separators aside; nothing when there is none.
+std::optional<double> NumberIn(std::string text) {
+    std::erase(text, ',');
+    std::erase(text, ' ');
+    double number = 0;
+    const auto [end, error] =
+        std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
+    if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+    return number;
+}
+
+}  // namespace
+
+CursValutarDetaliu::CursValutarDetaliu(shell::Module& module)
+    : Form(module.Desktop(), "CursValutarDetaliu", "Curs Valutar", forms::BorderStyle::FixedDialog),
+      lblDescriere(*this, "lblDescriere", "Data Curs Valutar"),
+      DataCurs(*this, "DataCurs", "dd/MM/yyyy"),
+      txtCursValutar(*this, "txtCursValutar"),
+      Grid(*this, "Grid"),
+      cmdAction(*this, "cmdAction"),
+      module_(module),
+      store_(module.context) {
+    PlaceControls();
+    ConnectEvents();
+}
+
+void CursValutarDetaliu::PlaceControls() {
+    int top = layout::Margin;
+    lblDescriere.SetBounds({layout::Margin, top, LabelWidth, layout::FieldHeight});
+    const int pickerLeft = layout::Margin + LabelWidth + layout::Unit;
+    DataCurs.SetBounds({pickerLeft, top, GridWidth + layout::Margin - pickerLeft, layout::FieldHeight});
+    DataCurs.SetAccessibleName(lblDescriere.Caption());
+    top += layout::FieldHeight + layout::Gap;
+    Grid.SetBounds({layout::Margin, top, GridWidth, GridHeight});
+    top += GridHeight + layout::Gap;
+
+    cmdAction[Accept].SetCaption("Accepta");
+    cmdAction[Accept].SetPicture(forms::Icon::Accept);
+    cmdAction[Cancel].SetCaption("Renunta");
+    cmdAction[Cancel].SetPicture(forms::Icon::Cancel);
+    const int right = layout::Margin + GridWidth;
+    cmdAction[Cancel].SetBounds({right - ButtonWidth, top, ButtonWidth, layout::ButtonHeight});
+    cmdAction[Accept].SetBounds(
+        {right - 2 * ButtonWidth - layout::Gap, top, ButtonWidth, layout::ButtonHeight});
+    top += layout::ButtonHeight;
+    SetClientSize({GridWidth + 2 * layout::Margin, top + layout::Margin});
+
+    txtCursValutar.SetVisible(false);
+    txtCursValutar.SetAlignment(forms::Align::Right);
+    txtCursValutar.SetFont(Grid.TextFont());
+    txtCursValutar.SetBackColor(forms::FocusGrey);
+    txtCursValutar.SetForeColor(forms::scheme::Value);
+    txtCursValutar.SetAccessibleName("Valoare Curs");
+}
+
+void CursValutarDetaliu::ConnectEvents() {
+    DataCurs.onKeyDown = [this](int& keyCode, forms::Modifiers) { DataCurs_KeyDown(keyCode); };
+    txtCursValutar.onGotFocus = [this] { txtCursValutar.SelectAll(); };
+    txtCursValutar.onLostFocus = [this] { txtCursValutar_LostFocus(); };
+    txtCursValutar.onKeyDown = [this](int& keyCode, forms::Modifiers) { txtCursValutar_KeyDown(keyCode); };
+    txtCursValutar.onKeyPress = [](char32_t& character) {
+        const bool accepted = (character >= U'0' && character <= U'9') || character == key::Backspace;
+        if (!accepted) character = 0;
+    };
+    Grid.onKeyDown = [this](int& keyCode, forms::Modifiers) { Grid_KeyDown(keyCode); };
+    Grid.onKeyPress = [this](char32_t& character) { Grid_KeyPress(character); };
+    Grid.onClick = [this] { BeginCellEdit(); };
+    cmdAction.OnEach(&forms::Control::onClick, [this](int index) { cmdAction_Click(index); });
+    cmdAction.OnEach(&forms::Control::onKeyDown,
+                     [this](int, int& keyCode, forms::Modifiers) { CancelOnEscape(keyCode); });
+}
+
+// Life.
+
+void CursValutarDetaliu::ShowForm(const CurrencyNames& names, const std::string& mode) {
+    currencyNames_ = names;
+    mode_ = mode;
+    SetCaption(std::string("Curs Valutar - ") + (mode_ == "A" ? "Adaugare" : "Modificare"));
+    Load();
+    Show();
+    if (DataCurs.Enabled()) DataCurs.SetFocus();
+}
+
+void CursValutarDetaliu::OnLoad() {
+    module_.CreateMessageService();
+    FillGrid();
+    DataCurs.SetDate(module_.context.workDate);
+    const CursValutar* list = module_.Loaded<CursValutar>();
+    if (mode_ == "M" && list != nullptr) {
+        if (const auto day = data::ParseDayMonthYear(list->SelectedDayText())) DataCurs.SetDate(*day);
+    }
+    DataCurs.SetEnabled(mode_ == "A");
+}
+
+void CursValutarDetaliu::FillGrid() {
+    Grid.SetSize(currencyNames_.UpperBound(), 2);
+    Grid.SetTextMatrix(0, CodeColumn, "Moneda");
+    Grid.SetTextMatrix(0, ValueColumn, "Valoare Curs");
+    Grid.SetColumnWidth(CodeColumn, CodeWidth);
+    Grid.SetColumnWidth(ValueColumn, ValueWidth);
+    Grid.SetColumnAlignment(ValueColumn, forms::Align::Right);
+    const CursValutar* list = module_.Loaded<CursValutar>();
+    for (int i = CurrencyNames::FirstCurrency; i <= currencyNames_.UpperBound(); ++i) {
+        const int row = i - CurrencyNames::FirstCurrency + 1;
+        Grid.SetTextMatrix(row, CodeColumn, currencyNames_[i]);
+        const bool shown = mode_ == "M" && list != nullptr;
+        Grid.SetTextMatrix(row, ValueColumn, shown ? list->Grid.TextMatrix(list->Grid.Row(), i) : "0");
+    }
+}
+
+void CursValutarDetaliu::OnUnload() {
+    CursValutar* list = module_.Loaded<CursValutar>();
+    if (list == nullptr) return;
+    list->SetEnabled(true);
+    list->SelectWholeRow();
+    list->Grid.SetFocus();
+}
+
+// Editing a cell.
+
+std::string CursValutarDetaliu::FormatRate(const std::string& text, int decimals, int grouping) const {
+    const std::string formatted =
+        OwnerDesktop().FormatNumber(text, {.decimals = decimals, .grouping = grouping});
+    // Without a leading zero the platform may have nothing left to show of a zero.
+    return formatted.empty() ? "0" : formatted;
+}
+
+void CursValutarDetaliu::BeginCellEdit() {
+    if (Grid.Row() < 1) return;
+    Grid.SetCol(ValueColumn);
+    const forms::Rect cell = Grid.CellBounds(Grid.Row(), ValueColumn);
+    const forms::Rect& grid = Grid.Bounds();
+    txtCursValutar.SetBounds({grid.left + cell.left, grid.top + cell.top, cell.width, cell.height});
+    txtCursValutar.SetText(Grid.TextMatrix(Grid.Row(), ValueColumn));
+    txtCursValutar.SetVisible(true);
+    txtCursValutar.SetFocus();
+    txtCursValutar.SelectAll();
+}
+
+void CursValutarDetaliu::BeginEditAtFirstRow() {
+    Grid.SetRow(1);
+    BeginCellEdit();
+}
+
+bool CursValutarDetaliu::ValidateRateCell() {
+    if (txtCursValutar.Text().find_first_not_of(' ') == std::string::npos) {
+        module_.ShowMessage("Valoare obligatorie !", message::Information, message::Ok, Caption());
+        return false;
+    }
+    // Letters and signs cannot be typed, but they can be pasted: what is no number is refused like a negative
+    // one.
+    if (const auto number = NumberIn(txtCursValutar.Text()); number && *number >= 0) return true;
+    module_.ShowMessage("Valoarea cursului trebuie sa fie >= 0  !", message::Information, message::Ok,
+                        Caption());
+    return false;
+}
+
+void CursValutarDetaliu::CommitCell() {
+    const double number = NumberIn(txtCursValutar.Text()).value_or(0);
+    Grid.SetTextMatrix(Grid.Row(), ValueColumn,
+                       FormatRate(data::ShortestDecimal(number), 0, ThousandsGrouping));
+    txtCursValutar.SetVisible(false);
+}
+
+void CursValutarDetaliu::LeaveCell(Step step) {
+    if (!ValidateRateCell()) {
+        txtCursValutar.SelectAll();
+        return;
+    }
+    CommitCell();
+    const int row = Grid.Row() + (step == Step::Up ? -1 : 1);
+    if (row >= Grid.Rows()) {
+        cmdAction[Accept].SetFocus();
+        return;
+    }
+    Grid.SetRow(std::max(1, row));
+    BeginCellEdit();
+}
+
+void CursValutarDetaliu::txtCursValutar_KeyDown(int& keyCode) {
+    const bool caretAlone = txtCursValutar.SelLength() == 0;
+    const bool atEnd = caretAlone && txtCursValutar.SelStart() == txtCursValutar.TextLength();
+    const bool atStart = caretAlone && txtCursValutar.SelStart() == 0;
+    switch (keyCode) {
+        case key::Escape:
+            cmdAction_Click(Cancel);
+            break;
+        case key::Up:
+            LeaveCell(Step::Up);
+            break;
+        case key::Down:
+        case key::Enter:
+            LeaveCell(Step::Down);
+            break;
+        case key::Left:
+            if (!atStart) return;
+            LeaveCell(Step::Up);
+            break;
+        case key::Right:
+            if (!atEnd) return;
+            LeaveCell(Step::Down);
+            break;
+        default:
+            return;
+    }
+    keyCode = key::Swallowed;
+}
+
+void CursValutarDetaliu::txtCursValutar_LostFocus() {
+    if (!IsEditing()) return;
+    if (ValidateRateCell()) {
+        CommitCell();
+    } else {
+        txtCursValutar.SetFocus();
+        txtCursValutar.SelectAll();
+    }
+}
+
+void CursValutarDetaliu::Grid_KeyDown(int& keyCode) {
+    CancelOnEscape(keyCode);
+    if (keyCode != key::Enter) return;
+    BeginCellEdit();
+    keyCode = key::Swallowed;
+}
+
+void CursValutarDetaliu::Grid_KeyPress(char32_t& character) {
+    if (character < U'0' || character > U'9' || Grid.Row() < 1) return;
+    BeginCellEdit();
+    txtCursValutar.ReplaceSelection(std::string(1, static_cast<char>(character)));
+    character = 0;
+}
+
+// The day.
+
+bool CursValutarDetaliu::DayExists(data::OleDate day) const {
+    return mode_ != "M" && store_.DayExists(day);
+}
+
+void CursValutarDetaliu::DataCurs_KeyDown(int keyCode) {
+    CancelOnEscape(keyCode);
+    if (keyCode != key::Enter) return;
+    if (DayExists(DataCurs.Date())) {
+        FocusNext();
+    } else {
+        BeginEditAtFirstRow();
+    }
+}
+
+// Saving.
+
+std::string CursValutarDetaliu::DayText() const {
+    return data::FormatDayMonthYear(DataCurs.Date());
+}
+
+std::vector<RateEntry> CursValutarDetaliu::Entries() const {
+    std::vector<RateEntry> entries;
+    for (int row = 1; row < Grid.Rows(); ++row) {
+        entries.push_back({Grid.TextMatrix(row, CodeColumn), Grid.TextMatrix(row, ValueColumn)});
+    }
+    return entries;
+}
+
+bool CursValutarDetaliu::SaveRates() {
+    if (mode_ == "M") return UpdateDay();
+    if (mode_ == "A") return InsertDay();
+    return false;
+}
+
+bool CursValutarDetaliu::UpdateDay() {
+    // The rate list has refused frozen days before it opened this window.
+    store_.UpdateDay(DayText(), Entries());
+    return true;
+}
+
+bool CursValutarDetaliu::InsertDay() {
+    const data::OleDate frozen = store_.FrozenDate();
+    if (data::RoundedDay(DataCurs.Date()) <= data::RoundedDay(frozen)) {
+        module_.ShowMessage(
+            "Data documentului introdus nu poate fi mai mica decit data ultimei validari \r\n"
+            "Data ultimei validari : " +
+                data::FormatDayMonthYear(frozen) + "\r\nData document introdus : " + DayText() +
+                "\r\nAlegeti alta data !",
+            message::Information, message::Ok, "DATA GRESITA");
+        return false;
+    }
+    if (store_.CountDay(DataCurs.Date()) != 0) {
+        module_.ShowMessage("Exista curs valutar la aceasta data!", message::Information, message::Ok,
+                            Caption());
+        return false;
+    }
+    store_.InsertDay(DayText(), Entries());
+    return true;
+}
+
+void CursValutarDetaliu::cmdAction_Click(int index) {
+    if (index == Cancel) {
+        Unload();
+        return;
+    }
+    if (IsEditing()) {
+        if (!ValidateRateCell()) return;
+        CommitCell();
+    }
+    if (!SaveRates()) {
+        if (mode_ == "A") {
+            DataCurs.SetFocus();
+        } else {
+            BeginEditAtFirstRow();
+        }
+        return;
+    }
+    const std::string day = DayText();
+    Unload();
+    if (CursValutar* list = module_.Loaded<CursValutar>()) {
+        list->ApplyDateFilter();
+        list->SelectDay(day);
+    }
+}
+
+void CursValutarDetaliu::CancelOnEscape(int keyCode) {
+    if (keyCode == key::Escape) cmdAction_Click(Cancel);
+}
+
+}  // namespace tavrin::rates

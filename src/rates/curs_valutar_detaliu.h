@@ -1,0 +1,80 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "data/value.h"
+#include "forms/command_button.h"
+#include "forms/control_array.h"
+#include "forms/date_picker.h"
+#include "forms/form.h"
+#include "forms/grid.h"
+#include "forms/label.h"
+#include "forms/text_box.h"
+#include "rates/currency_names.h"
+#include "rates/rate_statements.h"
+#include "rates/rate_store.h"
+#include "shell/module.h"
+
+namespace tavrin::rates {
+
+/// The entry of one day's rates: the day, and a grid with one line a currency whose values are typed in a
+/// field that lies over the current cell. Opened by the rate list alone.
+class CursValutarDetaliu : public forms::Form {
+  public:
+    enum Action { Accept, Cancel };
+
+    explicit CursValutarDetaliu(shell::Module& module);
+
+    /// Mode "A" adds a day, "M" corrects the day that is selected in the rate list.
+    void ShowForm(const CurrencyNames& names, const std::string& mode);
+
+    forms::Label lblDescriere;
+    forms::DatePicker DataCurs;
+    forms::TextBox txtCursValutar;
+    forms::Grid Grid;
+    forms::ControlArray<forms::CommandButton, 2> cmdAction;
+
+  protected:
+    void OnLoad() override;
+    void OnActivate() override { KeepOnTop(); }
+    void OnDeactivate() override { KeepOnTop(); }
+    void OnUnload() override;
+
+  private:
+    enum class Step { Up, Down };
+
+    void PlaceControls();
+    void ConnectEvents();
+    void FillGrid();
+
+    std::string FormatRate(const std::string& text, int decimals, int grouping) const;
+    void BeginCellEdit();
+    void BeginEditAtFirstRow();
+    bool IsEditing() const { return txtCursValutar.Visible(); }
+    bool ValidateRateCell();
+    void CommitCell();
+    void LeaveCell(Step step);
+
+    bool DayExists(data::OleDate day) const;
+    bool SaveRates();
+    bool UpdateDay();
+    bool InsertDay();
+    std::string DayText() const;
+    std::vector<RateEntry> Entries() const;
+
+    void DataCurs_KeyDown(int keyCode);
+    void txtCursValutar_KeyDown(int& keyCode);
+    void txtCursValutar_LostFocus();
+    void Grid_KeyDown(int& keyCode);
+    void Grid_KeyPress(char32_t& character);
+    void cmdAction_Click(int index);
+    void CancelOnEscape(int keyCode);
+
+    shell::Module& module_;
+    RateStore store_;
+    CurrencyNames currencyNames_;
+    std::string mode_;
+};
+
+}  // namespace tavrin::rates
