@@ -7,6 +7,7 @@
 #include "data/error.h"
 #include "rates/cere_moneda.h"
 #include "rates/curs_valutar_detaliu.h"
+#include "rates/evolutie_curs.h"
 #include "rates/rate_statements.h"
 #include "shell/layout.h"
 

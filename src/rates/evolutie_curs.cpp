@@ -1,0 +1,306 @@
+#include "rates/evolutie_curs.h"
+
+#include <array>
+#include <charconv>
+#include <initializer_list>
+
+#include "data/connection.h"
+#include "data/error.h"
+#include "rates/curs_valutar.h"
+#include "shell/layout.h"
+
+namespace tavrin::rates {
+
+namespace {
+
+namespace key = forms::key;
+namespace layout = shell::layout;
+
+constexpr std::array<const char*, 13> Periods = {
+    "Ianuarie", "Februarie",  "Martie",    "Aprilie",   "Mai",       "Iunie",           "Iulie",
+    "August",   "Septembrie", "Octombrie", "Noiembrie", "Decembrie", "Toate Perioadele"};
+constexpr int WholeYear = 12;
+constexpr int MonthsInYear = 12;
+constexpr int RowsBeforeDrawing = 31;
+
+constexpr int NumberWidth = 500;
+constexpr int RateWidth = 1800;
+constexpr int ScrollBarWidth = 340;
+constexpr int GridWidth = NumberWidth + RateWidth + ScrollBarWidth;
+constexpr int ChartWidth = 9000;
+constexpr int ChartHeight = 5400;
+constexpr int ChoiceWidth = 1800;
+constexpr int RedrawWidth = 2460;
+
+/// A rate as the database gave it: a number, or a text with thousands separators. Nothing for NULL.
+std::optional<double> RateOf(const data::Value& value) {
+    if (value.IsNull()) return std::nullopt;
+    if (!value.IsText()) return value.ToDouble();
+    std::string text = value.ToText();
+    std::erase(text, ',');
+    return data::Value(std::move(text)).ToDouble();
+}
+
+}  // namespace
+
+EvolutieCurs::EvolutieCurs(shell::Module& module)
+    : Form(module.Desktop(), "EvolutieCurs", "Evolutie Curs", forms::BorderStyle::FixedDialog),
+      Label1(*this, "Label1", "An"),
+      cmbAn(*this, "cmbAn", forms::ComboStyle::DropDownList),
+      Label2(*this, "Label2", "Luna"),
+      cmbLuna(*this, "cmbLuna", forms::ComboStyle::DropDownList),
+      Label5(*this, "Label5", "Moneda"),
+      cmbMoneda(*this, "cmbMoneda", forms::ComboStyle::DropDownList),
+      cmdAction(*this, "cmdAction", {Redraw, Close}),
+      Line1(*this, "Line1"),
+      Line2(*this, "Line2"),
+      Line3(*this, "Line3"),
+      fraGrafic(*this, "fraGrafic"),
+      MSChart1(fraGrafic, "MSChart1"),
+      fraMesaj(*this, "fraMesaj"),
+      lblMesaj1(fraMesaj, "lblMesaj1",
+                "ALEGETI ANUL - LUNA - MONEDA PENTRU CARE DORITI SA VIZUALIZATI EVOLUTIA CURSULUI"),
+      lblMesaj2(fraMesaj, "lblMesaj2",
+                "PENTRU ANUL SI LUNA ALESE NU S-AU GASIT VALORI ALE CURSULUI IN BAZA DE DATE ! ALEGETI ALTE "
+                "VALORI !"),
+      Grid(*this, "Grid"),
+      module_(module),
+      store_(module.context),
+      lstImages_{forms::Icon::Exit, forms::Icon::Chart} {
+    PlaceControls();
+    ConnectEvents();
+}
+
+void EvolutieCurs::PlaceControls() {
+    const int width = ChartWidth + GridWidth + 3 * layout::Margin;
+    int left = layout::Margin;
+    const int fieldTop = layout::Margin + layout::LabelHeight;
+    const auto place = [&](forms::Label& label, forms::ComboBox& combo) {
+        label.SetBounds({left, layout::Margin, ChoiceWidth, layout::LabelHeight});
+        combo.SetBounds({left, fieldTop, ChoiceWidth, layout::FieldHeight});
+        combo.SetAccessibleName(label.Caption());
+        combo.SetBackColor(forms::Black);
+        combo.SetForeColor(forms::scheme::Value);
+        left += ChoiceWidth + layout::Gap;
+    };
+    place(Label1, cmbAn);
+    place(Label2, cmbLuna);
+    place(Label5, cmbMoneda);
+
+    const int buttonTop = fieldTop + layout::FieldHeight - layout::ButtonHeight;
+    cmdAction[Redraw].SetCaption("  Actualizare Grafic");
+    cmdAction[Redraw].SetBounds({left + layout::Gap, buttonTop, RedrawWidth, layout::ButtonHeight});
+    cmdAction[Close].SetCaption("Iesire");
+    constexpr int CloseWidth = 1500;
+    cmdAction[Close].SetBounds(
+        {width - layout::Margin - CloseWidth, buttonTop, CloseWidth, layout::ButtonHeight});
+
+    const int lineTop = fieldTop + layout::FieldHeight + layout::Gap;
+    const int areaTop = lineTop + layout::Gap;
+    const forms::Rect chartArea{layout::Margin, areaTop, ChartWidth, ChartHeight};
+    fraGrafic.SetBounds(chartArea);
+    fraGrafic.SetBordered(false);
+    MSChart1.SetBounds({0, 0, ChartWidth, ChartHeight});
+    MSChart1.SetAccessibleName(Caption());
+    fraMesaj.SetBounds(chartArea);
+    for (forms::Label* message : {&lblMesaj1, &lblMesaj2}) {
+        message->SetBounds(forms::Rect{0, 0, ChartWidth, ChartHeight}.Inset(8 * layout::Margin));
+        message->SetWrap(true);
+        message->SetAlign(forms::Align::Center);
+        message->SetFont({.face = "Arial", .points = 12, .bold = true});
+    }
+    const int gridLeft = chartArea.Right() + layout::Margin;
+    Grid.SetBounds({gridLeft, areaTop, GridWidth, ChartHeight});
+    Grid.SetAccessibleName(Caption());
+
+    const int bottom = areaTop + ChartHeight;
+    Line1.SetBounds({layout::Margin, lineTop, width - 2 * layout::Margin, 0});
+    Line2.SetBounds({layout::Margin, bottom + layout::Unit, ChartWidth, 0});
+    Line3.SetBounds({gridLeft, bottom + layout::Unit, GridWidth, 0});
+    SetClientSize({width, bottom + layout::Margin});
+}
+
+void EvolutieCurs::ConnectEvents() {
+    for (forms::ComboBox* combo : {&cmbAn, &cmbLuna, &cmbMoneda}) {
+        combo->onKeyDown = [this, combo](int& keyCode, forms::Modifiers) { Combo_KeyDown(*combo, keyCode); };
+        combo->onGotFocus = [combo] {
+            if (combo->Enabled()) combo->SetBackColor(forms::FocusGrey);
+        };
+        combo->onLostFocus = [combo] { combo->SetBackColor(forms::Black); };
+    }
+    cmdAction.OnEach(&forms::Control::onClick, [this](int index) { cmdAction_Click(index); });
+    cmdAction.OnEach(&forms::Control::onKeyDown,
+                     [this](int, int& keyCode, forms::Modifiers) { cmdAction_KeyDown(keyCode); });
+    Grid.onKeyDown = [this](int& keyCode, forms::Modifiers) { CloseOnEscape(keyCode); };
+}
+
+// Life.
+
+void EvolutieCurs::OnLoad() {
+    cmdAction[Close].SetPicture(lstImages_.Picture(1));
+    cmdAction[Redraw].SetPicture(lstImages_.Picture(2));
+    CenterOnScreen();
+    SetHeader();
+    MSChart1.SetVisible(false);
+    Line2.SetVisible(false);
+    fraMesaj.SetVisible(true);
+    lblMesaj1.SetVisible(true);
+    lblMesaj2.SetVisible(false);
+    MSChart1.SetRowCount(RowsBeforeDrawing);
+    IncarcaListe();
+}
+
+void EvolutieCurs::SetHeader() {
+    Grid.SetFormatString(">Zi|>Curs valutar");
+    Grid.SetColumnWidth(0, NumberWidth);
+    Grid.SetColumnWidth(1, RateWidth);
+    Grid.SetColumnAlignment(0, forms::Align::Right);
+    Grid.SetColumnAlignment(1, forms::Align::Right);
+}
+
+void EvolutieCurs::OnUnload() {
+    // The list went away when this window opened; what is enabled here is the one that opens next.
+    module_.Default<CursValutar>().SetEnabled(true);
+}
+
+// The lists.
+
+void EvolutieCurs::IncarcaListe() {
+    for (const char* period : Periods)
+        cmbLuna.AddItem(period);
+    cmbLuna.SetListIndex(0);
+    for (std::string& currency : store_.ColumnsAfterSecond())
+        cmbMoneda.AddItem(std::move(currency));
+    if (cmbMoneda.ListCount() > 0) cmbMoneda.SetListIndex(0);
+    LoadYears();
+}
+
+void EvolutieCurs::LoadYears() {
+    if (const data::TablePtr years = store_.Read(RateYearsStatement)) {
+        for (std::size_t row = 0; row < years->RowCount(); ++row)
+            cmbAn.AddItem(years->At(row, 0).ToText());
+    } else {
+        cmbAn.AddItem(data::ExecuteScalar(module_.context.Database(), FinancialYearsStatement).ToText());
+    }
+    cmbAn.SetListIndex(0);
+}
+
+EvolutionChoice EvolutieCurs::Choice() const {
+    EvolutionChoice choice{cmbAn.Text(), std::nullopt, cmbMoneda.Text()};
+    if (cmbLuna.ListIndex() != WholeYear) choice.month = cmbLuna.ListIndex() + 1;
+    return choice;
+}
+
+// Drawing.
+
+void EvolutieCurs::CalculeazaLimite() {
+    const data::TablePtr limits = store_.Read(LimitsStatement(Choice()));
+    minimum_ = limits ? RateOf(limits->At(0, 0)).value_or(0) : 0;
+    maximum_ = limits ? RateOf(limits->At(0, 1)).value_or(0) : 0;
+}
+
+bool EvolutieCurs::DeseneazaGrafic() {
+    MSChart1.SetRowCount(0);
+    const data::TablePtr table = store_.Read(EvolutionStatement(Choice()));
+    if (!table) {
+        MSChart1.SetRowCount(RowsBeforeDrawing);
+        Grid.SetColumnAlignment(1, forms::Align::Right);
+        return false;
+    }
+    Grid.SetDataSource(table);
+    SetHeader();
+    CalculeazaLimite();
+    MSChart1.SetValueScale(minimum_, maximum_);
+    MSChart1.SetRowCount(CountChartRows());
+    FillChart(*table);
+    LabelRowsWithoutData(static_cast<int>(table->RowCount()) + 1);
+    return true;
+}
+
+int EvolutieCurs::CountChartRows() {
+    const EvolutionChoice choice = Choice();
+    if (!choice.month) return MonthsInYear;
+    return static_cast<int>(
+        data::ExecuteScalar(module_.context.Database(), CountDaysStatement(choice)).ToInteger());
+}
+
+void EvolutieCurs::FillChart(const data::Table& table) {
+    for (std::size_t i = 0; i < table.RowCount(); ++i) {
+        const int row = static_cast<int>(i) + 1;
+        MSChart1.SetRowLabel(row, table.At(i, 0).ToText());
+        if (const auto rate = RateOf(table.At(i, 1))) MSChart1.SetData(row, *rate);
+    }
+}
+
+void EvolutieCurs::LabelRowsWithoutData(int firstRow) {
+    // Rows that lack data are numbered only when there are more than two of them. The last one or two months
+    // of a year in progress stay blank, as readers of this chart are used to.
+    if (firstRow >= MSChart1.RowCount() - 1) return;
+    for (int row = firstRow; row <= MSChart1.RowCount(); ++row)
+        MSChart1.SetRowLabel(row, std::to_string(row));
+}
+
+void EvolutieCurs::ShowChart() {
+    fraMesaj.SetVisible(false);
+    lblMesaj1.SetVisible(false);
+    lblMesaj2.SetVisible(false);
+    MSChart1.SetVisible(true);
+    Line2.SetVisible(true);
+    MSChart1.SetEnabled(false);
+    Grid.SetFocus();
+}
+
+void EvolutieCurs::ShowNoData() {
+    MSChart1.SetVisible(false);
+    Line2.SetVisible(false);
+    fraMesaj.SetVisible(true);
+    lblMesaj1.SetVisible(false);
+    lblMesaj2.SetVisible(true);
+    cmbAn.SetFocus();
+}
+
+void EvolutieCurs::cmdAction_Click(int index) {
+    if (index == Close) {
+        Unload();
+    } else if (DeseneazaGrafic()) {
+        ShowChart();
+    } else {
+        ShowNoData();
+    }
+}
+
+// Keys.
+
+void EvolutieCurs::CloseOnEscape(int keyCode) {
+    if (keyCode == key::Escape) cmdAction_Click(Close);
+}
+
+void EvolutieCurs::Combo_KeyDown(forms::ComboBox& combo, int& keyCode) {
+    switch (keyCode) {
+        case key::Enter:
+            FocusNext();
+            break;
+        case key::Escape:
+            cmdAction_Click(Close);
+            break;
+        case key::Left:
+            keyCode = key::Swallowed;
+            break;
+        case key::Up:
+            if (combo.ListIndex() == 0) keyCode = key::Swallowed;
+            break;
+        case key::Down:
+            if (combo.ListIndex() == combo.ListCount() - 1) keyCode = key::Swallowed;
+            break;
+        default:
+            break;
+    }
+}
+
+void EvolutieCurs::cmdAction_KeyDown(int& keyCode) {
+    CloseOnEscape(keyCode);
+    if (keyCode == key::Right) keyCode = key::Swallowed;
+    if (keyCode == key::Down && MSChart1.Visible()) Grid.SetFocus();
+}
+
+}  // namespace tavrin::rates

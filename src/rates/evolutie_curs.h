@@ -1,0 +1,78 @@
+#pragma once
+
+#include "forms/chart.h"
+#include "forms/combo_box.h"
+#include "forms/command_button.h"
+#include "forms/control_array.h"
+#include "forms/decoration.h"
+#include "forms/form.h"
+#include "forms/frame.h"
+#include "forms/grid.h"
+#include "forms/image_list.h"
+#include "forms/label.h"
+#include "rates/evolution_statements.h"
+#include "rates/rate_store.h"
+#include "shell/module.h"
+
+namespace tavrin::rates {
+
+/// How the rate of one currency moved: the days of a month or the monthly averages of a year, as a chart and
+/// as a table. Choosing in the lists draws nothing; the redraw button does.
+class EvolutieCurs : public forms::Form {
+  public:
+    enum Action { Close, Redraw };
+
+    explicit EvolutieCurs(shell::Module& module);
+
+    forms::Label Label1;
+    forms::ComboBox cmbAn;
+    forms::Label Label2;
+    forms::ComboBox cmbLuna;
+    forms::Label Label5;
+    forms::ComboBox cmbMoneda;
+    forms::ControlArray<forms::CommandButton, 2> cmdAction;
+    forms::Line Line1;
+    forms::Line Line2;
+    forms::Line Line3;
+    forms::Frame fraGrafic;
+    forms::Chart MSChart1;
+    forms::Frame fraMesaj;
+    forms::Label lblMesaj1;
+    forms::Label lblMesaj2;
+    forms::Grid Grid;
+
+  protected:
+    void OnLoad() override;
+    void OnActivate() override { KeepOnTop(); }
+    void OnDeactivate() override { KeepOnTop(); }
+    void OnUnload() override;
+
+  private:
+    void PlaceControls();
+    void ConnectEvents();
+    void SetHeader();
+    void IncarcaListe();
+    void LoadYears();
+    EvolutionChoice Choice() const;
+
+    void CalculeazaLimite();
+    bool DeseneazaGrafic();
+    int CountChartRows();
+    void FillChart(const data::Table& table);
+    void LabelRowsWithoutData(int firstRow);
+    void ShowChart();
+    void ShowNoData();
+
+    void cmdAction_Click(int index);
+    void cmdAction_KeyDown(int& keyCode);
+    void Combo_KeyDown(forms::ComboBox& combo, int& keyCode);
+    void CloseOnEscape(int keyCode);
+
+    shell::Module& module_;
+    RateStore store_;
+    forms::ImageList lstImages_;
+    double minimum_ = 0;
+    double maximum_ = 0;
+};
+
+}  // namespace tavrin::rates
