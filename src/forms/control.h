@@ -109,6 +109,8 @@ class Control {
         (void)child;
         return {};
     }
+    /// The part that is the current one, -1 for a control without any.
+    virtual int AccessibleSelectedChild() const { return -1; }
 
     // The peer, present while the form's window exists.
     void SetPeer(std::unique_ptr<ControlPeer> peer) { peer_ = std::move(peer); }

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <windows.h>
+
+#include "forms/accessible.h"
+
+namespace tavrin::win32 {
+
+/// The platform's numbers for a node's role and state.
+LONG RoleOf(const forms::AccessibleNode& node);
+LONG StateOf(const forms::AccessibleNode& node);
+
+/// What the default action of a node is called, null where it has none.
+const wchar_t* DefaultActionOf(const forms::AccessibleNode& node);
+
+}  // namespace tavrin::win32

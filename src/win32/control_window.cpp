@@ -1,0 +1,160 @@
+#include "win32/control_window.h"
+
+#include <oleacc.h>
+
+#include "win32/text.h"
+
+namespace tavrin::win32 {
+
+ControlWindow::ControlWindow(forms::Control& control, FormPeer& form)
+    : Window(control.OwnerForm().OwnerDesktop()), control_(control), form_(form) {}
+
+ControlWindow::~ControlWindow() {
+    if (accessible_) accessible_->Disconnect();
+    if (Handle() != nullptr) form_.Tips().Remove(Handle());
+    Destroy();
+}
+
+void ControlWindow::Create(const wchar_t* className, DWORD style) {
+    DWORD state = WS_CHILD | WS_CLIPSIBLINGS;
+    if (control_.Visible()) state |= WS_VISIBLE;
+    if (!control_.IsEffectivelyEnabled()) state |= WS_DISABLED;
+    Attach(SharedToolkit().CreateWindowWith({.className = className,
+                                             .text = {},
+                                             .style = state | style,
+                                             .place = PixelBounds(),
+                                             .parent = form_.WindowOf(control_.Parent())}),
+           control_.QualifiedName());
+    form_.Tips().Set(Handle(), control_.ToolTip());
+}
+
+RECT ControlWindow::PixelBounds() const {
+    return PixelScale().ToPixels(control_.Bounds());
+}
+
+HFONT ControlWindow::PlatformFont() const {
+    return SharedToolkit().Fonts().Find(control_.TextFont(), PixelScale().Dpi());
+}
+
+LRESULT ControlWindow::ApplyColors(HDC dc) const {
+    const bool enabled = control_.IsEffectivelyEnabled();
+    SetTextColor(dc, enabled ? control_.ForeColor() : forms::scheme::TextDisabled);
+    SetBkColor(dc, control_.BackColor());
+    SetDCBrushColor(dc, control_.BackColor());
+    return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
+}
+
+bool ControlWindow::HoldsFocus() const {
+    const HWND focus = GetFocus();
+    return focus != nullptr && (focus == Handle() || IsChild(Handle(), focus));
+}
+
+// What the model asks for.
+
+void ControlWindow::Changed(forms::Aspect aspect) {
+    if (Handle() == nullptr) return;
+    switch (aspect) {
+        case forms::Aspect::Bounds:
+            return Place();
+        case forms::Aspect::Visible:
+            return ShowOrHide();
+        case forms::Aspect::Enabled:
+            return EnableOrDisable();
+        case forms::Aspect::ToolTip:
+            return form_.Tips().Set(Handle(), control_.ToolTip());
+        default:
+            InvalidateRect(Handle(), nullptr, FALSE);
+            NotifyAssistiveTools();
+    }
+}
+
+void ControlWindow::TakeFocus() {
+    if (Handle() != nullptr && !HoldsFocus()) SetFocus(Handle());
+}
+
+void ControlWindow::Rescale() {
+    Place();
+}
+
+void ControlWindow::Place() {
+    const RECT place = PixelBounds();
+    SetWindowPos(Handle(), nullptr, place.left, place.top, Width(place), Height(place),
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+}
+
+void ControlWindow::ShowOrHide() {
+    // A window that goes while it has the focus leaves the keyboard to the form, until the model has chosen.
+    const bool hadFocus = HoldsFocus();
+    ShowWindow(Handle(), control_.Visible() ? SW_SHOWNA : SW_HIDE);
+    if (hadFocus && !control_.IsEffectivelyVisible()) form_.RestoreFocus();
+}
+
+void ControlWindow::EnableOrDisable() {
+    const bool hadFocus = HoldsFocus();
+    EnableWindow(Handle(), control_.IsEffectivelyEnabled());
+    InvalidateRect(Handle(), nullptr, FALSE);
+    if (const auto* container = dynamic_cast<const forms::Container*>(&control_)) {
+        for (forms::Control* inner : container->Controls()) {
+            if (inner->Peer() != nullptr) inner->Peer()->Changed(forms::Aspect::Enabled);
+        }
+    }
+    if (hadFocus && !control_.IsEffectivelyEnabled()) form_.RestoreFocus();
+}
+
+void ControlWindow::NotifyAssistiveTools() {
+    if (accessible_) accessible_->NotifyChanges();
+}
+
+// What the platform tells.
+
+LRESULT ControlWindow::HandleMessage(const Message& message) {
+    static constexpr Route<ControlWindow> routes[] = {
+        {WM_SETFOCUS, &ControlWindow::OnSetFocus},        {WM_KILLFOCUS, &ControlWindow::OnKillFocus},
+        {WM_GETDLGCODE, &ControlWindow::OnGetDialogCode}, {WM_GETOBJECT, &ControlWindow::OnGetObject},
+        {WM_MOUSEWHEEL, &ControlWindow::OnMouseWheel},
+    };
+    if (KeyInput::IsKeyMessage(message.id)) return OnKey(message);
+    if (const auto answer = Follow<ControlWindow>(routes, *this, message)) return *answer;
+    return CallDefault(message);
+}
+
+LRESULT ControlWindow::OnKey(const Message& message) {
+    const KeyRoute route = SharedToolkit().Keys().Handle(OwnerForm(), message);
+    return route == KeyRoute::Dealt ? 0 : CallDefault(message);
+}
+
+LRESULT ControlWindow::OnSetFocus(const Message& message) {
+    const LRESULT answer = CallDefault(message);
+    OwnerForm().HandleFocus(control_);
+    if (OwnerForm().ActiveControl() != &control_) {
+        form_.RestoreFocus();
+        return answer;
+    }
+    InvalidateRect(Handle(), nullptr, FALSE);
+    return answer;
+}
+
+LRESULT ControlWindow::OnKillFocus(const Message& message) {
+    InvalidateRect(Handle(), nullptr, FALSE);
+    return CallDefault(message);
+}
+
+LRESULT ControlWindow::OnGetDialogCode(const Message&) {
+    return DLGC_WANTALLKEYS | DLGC_WANTARROWS | DLGC_WANTTAB | DLGC_WANTCHARS;
+}
+
+LRESULT ControlWindow::OnGetObject(const Message& message) {
+    if (static_cast<LONG>(message.lParam) != OBJID_CLIENT) return CallDefault(message);
+    if (!accessible_) accessible_ = MakeObject<AccessibleControl>(control_, Handle(), form_);
+    return LresultFromObject(IID_IAccessible, message.wParam, accessible_.Get());
+}
+
+LRESULT ControlWindow::OnMouseWheel(const Message& message) {
+    wheelRest_ += GET_WHEEL_DELTA_WPARAM(message.wParam);
+    const int notches = wheelRest_ / WHEEL_DELTA;
+    wheelRest_ -= notches * WHEEL_DELTA;
+    if (notches != 0 && control_.IsEffectivelyEnabled()) control_.HandleWheel(notches);
+    return 0;
+}
+
+}  // namespace tavrin::win32

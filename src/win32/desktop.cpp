@@ -1,0 +1,112 @@
+#include "win32/desktop.h"
+
+#include <cstdio>
+#include <utility>
+
+#include "win32/dpi.h"
+#include "win32/form_peer.h"
+#include "win32/form_style.h"
+#include "win32/text.h"
+#include "win32/toolkit.h"
+#include "win32/user_locale.h"
+
+namespace tavrin::win32 {
+
+namespace {
+
+/// Reports that wait while one is up; more are not worth the user's patience.
+constexpr std::size_t MaximumReports = 8;
+
+std::wstring TextOf(std::int32_t number, const std::string& description) {
+    char heading[48];
+    if (number < 0) {
+        std::snprintf(heading, sizeof heading, "Eroare %d (%08X)", static_cast<int>(number),
+                      static_cast<unsigned>(number));
+    } else {
+        std::snprintf(heading, sizeof heading, "Eroare %d", static_cast<int>(number));
+    }
+    return ToWide(std::string(heading) + "\n\n" + description);
+}
+
+}  // namespace
+
+Desktop::Desktop(HINSTANCE module)
+    : module_(module), locale_(ReadUserLocale()), inUse_(std::make_shared<int>()) {}
+
+Desktop::~Desktop() = default;
+
+std::unique_ptr<forms::FormPeer> Desktop::CreatePeer(forms::Form& form) {
+    auto peer = std::make_unique<FormPeer>(*this, form, SharedToolkit());
+    peer->CreateControls();
+    return peer;
+}
+
+std::shared_ptr<Toolkit> Desktop::SharedToolkit() {
+    auto toolkit = toolkit_.lock();
+    if (!toolkit) toolkit_ = toolkit = std::make_shared<Toolkit>(module_, inUse_);
+    return toolkit;
+}
+
+Scale Desktop::ScreenScale() const {
+    return Scale(SystemDpi());
+}
+
+forms::Size Desktop::ScreenSize() const {
+    const Scale scale = ScreenScale();
+    return {scale.ToTwips(GetSystemMetrics(SM_CXSCREEN)), scale.ToTwips(GetSystemMetrics(SM_CYSCREEN))};
+}
+
+int Desktop::TwipsPerPixelX() const {
+    return ScreenScale().ToTwips(1);
+}
+
+int Desktop::TwipsPerPixelY() const {
+    return ScreenScale().ToTwips(1);
+}
+
+forms::Size Desktop::FrameSize(forms::BorderStyle border) const {
+    const Scale scale = ScreenScale();
+    const FormStyle form = FormStyle::Of(border);
+    const RECT frame = WindowAround({}, form.style, form.extendedStyle, scale.Dpi());
+    return {scale.ToTwips(Width(frame)), scale.ToTwips(Height(frame))};
+}
+
+forms::PixelPoint Desktop::CursorPosition() const {
+    POINT position{};
+    GetCursorPos(&position);
+    return {position.x, position.y};
+}
+
+void Desktop::SetCursorPosition(forms::PixelPoint position) {
+    SetCursorPos(position.x, position.y);
+}
+
+void Desktop::ReportError(std::int32_t number, const std::string& description) noexcept {
+    try {
+        if (reports_.size() < MaximumReports) reports_.push_back({number, description});
+        // A report's own message loop may bring further errors: they wait for their turn.
+        if (!isReporting_) ShowReports();
+    } catch (...) {
+        isReporting_ = false;
+        MessageBeep(MB_ICONERROR);  // not even memory for a message
+    }
+}
+
+void Desktop::ShowReports() {
+    isReporting_ = true;
+    while (!reports_.empty()) {
+        const Report report = std::move(reports_.front());
+        reports_.pop_front();
+        Show(report);
+    }
+    isReporting_ = false;
+}
+
+void Desktop::Show(const Report& report) {
+    const MessageScope scope(*this);
+    const std::wstring text = TextOf(report.number, report.description);
+    MessageBoxW(GetActiveWindow(), text.c_str(), L"Eroare",
+                MB_OK | MB_ICONERROR | MB_TOPMOST | MB_SETFOREGROUND);
+}
+
+}  // namespace tavrin::win32

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <windows.h>
+
+#include <deque>
+#include <memory>
+#include <string>
+
+#include "forms/desktop.h"
+#include "win32/scale.h"
+
+namespace tavrin::win32 {
+
+class Toolkit;
+
+/// The screen of the host's process. Lives on the host's user-interface thread.
+class Desktop final : public forms::Desktop {
+  public:
+    /// `module` is the component's own module, not the host's.
+    explicit Desktop(HINSTANCE module);
+    ~Desktop() override;
+
+    std::unique_ptr<forms::FormPeer> CreatePeer(forms::Form& form) override;
+    forms::Size ScreenSize() const override;
+    int TwipsPerPixelX() const override;
+    int TwipsPerPixelY() const override;
+    forms::Size FrameSize(forms::BorderStyle border) const override;
+    forms::PixelPoint CursorPosition() const override;
+    void SetCursorPosition(forms::PixelPoint position) override;
+    const forms::Locale& UserLocale() const override { return locale_; }
+    void ReportError(std::int32_t number, const std::string& description) noexcept override;
+
+    /// Whether a window is there, or another process still looks at one: the module must not be unloaded
+    /// then.
+    bool IsInUse() const { return inUse_.use_count() > 1; }
+
+    /// Between screen pixels and the twips of forms' places.
+    Scale ScreenScale() const;
+
+  private:
+    struct Report {
+        std::int32_t number;
+        std::string description;
+    };
+
+    std::shared_ptr<Toolkit> SharedToolkit();
+    void ShowReports();
+    void Show(const Report& report);
+
+    HINSTANCE module_;
+    forms::Locale locale_;
+    std::shared_ptr<const void> inUse_;
+    std::weak_ptr<Toolkit> toolkit_;
+    std::deque<Report> reports_;
+    bool isReporting_ = false;
+};
+
+}  // namespace tavrin::win32

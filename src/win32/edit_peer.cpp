@@ -1,0 +1,211 @@
+#include "win32/edit_peer.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "win32/edit_frame.h"
+#include "win32/edit_text.h"
+#include "win32/mouse_message.h"
+
+namespace tavrin::win32 {
+
+namespace {
+
+DWORD StyleOf(const forms::TextBox& control) {
+    DWORD style = ES_AUTOHSCROLL;
+    if (control.Alignment() == forms::Align::Right) style |= ES_RIGHT;
+    if (control.Alignment() == forms::Align::Center) style |= ES_CENTER;
+    if (control.Locked()) style |= ES_READONLY;
+    return style;
+}
+
+/// Characters that edit nothing in a single line and would only make the field beep.
+bool IsBeep(WPARAM character) {
+    return character == VK_RETURN || character == VK_ESCAPE || character == VK_TAB;
+}
+
+}  // namespace
+
+EditPeer::EditPeer(forms::TextBox& control, FormPeer& form)
+    : ControlWindow(control, form), control_(control) {
+    Create(WC_EDITW, StyleOf(control));
+    ShowFont();
+    ShowText();
+    ShowSelection();
+}
+
+// What the model asks for.
+
+void EditPeer::Changed(forms::Aspect aspect) {
+    if (Handle() == nullptr) return;
+    switch (aspect) {
+        case forms::Aspect::Text:
+            ShowText();
+            break;
+        case forms::Aspect::Selection:
+            return ShowSelection();
+        case forms::Aspect::Locked:
+            SendMessageW(Handle(), EM_SETREADONLY, control_.Locked(), 0);
+            break;
+        case forms::Aspect::Look:
+            ShowFont();
+            break;
+        default:
+            break;
+    }
+    ControlWindow::Changed(aspect);
+    RedrawFrame(Handle());
+}
+
+void EditPeer::TakeFocus() {
+    // An editor that lies over a grid comes to the front.
+    SetWindowPos(Handle(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    ControlWindow::TakeFocus();
+}
+
+void EditPeer::Rescale() {
+    ControlWindow::Rescale();
+    ShowFont();
+}
+
+void EditPeer::ShowText() {
+    if (ReadText(Handle()) == control_.Text()) return;  // what the user typed stays undoable
+    isShowing_ = true;
+    WriteText(Handle(), control_.Text());
+    isShowing_ = false;
+    ShowSelection();
+}
+
+void EditPeer::ShowSelection() {
+    const TextRange wanted{control_.SelStart(), control_.SelLength()};
+    if (ReadSelection(Handle()) != wanted) WriteSelection(Handle(), wanted);
+}
+
+void EditPeer::ShowFont() {
+    const HFONT font = PlatformFont();
+    if (reinterpret_cast<HFONT>(SendMessageW(Handle(), WM_GETFONT, 0, 0)) == font) return;
+    SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    // The margins above and below follow the font.
+    SetWindowPos(Handle(), nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+// What the platform tells.
+
+LRESULT EditPeer::HandleMessage(const Message& message) {
+    static constexpr Route<EditPeer> routes[] = {
+        {WM_NCCALCSIZE, &EditPeer::OnCalculateClientArea},
+        {WM_NCPAINT, &EditPeer::OnPaintFrame},
+        {WM_NCHITTEST, &EditPeer::OnHitTest},
+        {WM_CTLCOLOREDIT + Reflected, &EditPeer::OnColors},
+        {WM_CTLCOLORSTATIC + Reflected, &EditPeer::OnColors},
+        {WM_COMMAND + Reflected, &EditPeer::OnCommand},
+        {WM_MOUSEMOVE, &EditPeer::OnMouse},
+        {WM_LBUTTONDOWN, &EditPeer::OnMouse},
+        {WM_LBUTTONUP, &EditPeer::OnMouse},
+        {WM_RBUTTONDOWN, &EditPeer::OnMouse},
+        {WM_RBUTTONUP, &EditPeer::OnMouse},
+        {WM_LBUTTONDBLCLK, &EditPeer::OnMouse},
+    };
+    if (const auto answer = Follow<EditPeer>(routes, *this, message)) return *answer;
+    return ControlWindow::HandleMessage(message);
+}
+
+LRESULT EditPeer::OnKey(const Message& message) {
+    ReportSelection();
+    if (SharedToolkit().Keys().Handle(OwnerForm(), message) == KeyRoute::Dealt) return 0;
+    const LRESULT answer = message.id == WM_CHAR ? PassCharacter(message) : CallDefault(message);
+    ReportSelection();
+    return answer;
+}
+
+LRESULT EditPeer::PassCharacter(const Message& message) {
+    constexpr WPARAM ControlA = 1;
+    if (message.wParam == ControlA) return SendMessageW(Handle(), EM_SETSEL, 0, -1);
+    if (IsBeep(message.wParam)) return 0;
+    if (const wchar_t high = SharedToolkit().Keys().HighSurrogate(); high != 0) {
+        CallDefault({WM_CHAR, static_cast<WPARAM>(high), message.lParam});
+    }
+    return CallDefault(message);
+}
+
+LRESULT EditPeer::OnSetFocus(const Message& message) {
+    const LRESULT answer = ControlWindow::OnSetFocus(message);
+    RedrawFrame(Handle());
+    return answer;
+}
+
+LRESULT EditPeer::OnKillFocus(const Message& message) {
+    const LRESULT answer = ControlWindow::OnKillFocus(message);
+    RedrawFrame(Handle());
+    return answer;
+}
+
+LRESULT EditPeer::OnColors(const Message& message) {
+    return ApplyColors(reinterpret_cast<HDC>(message.wParam));
+}
+
+LRESULT EditPeer::OnCommand(const Message& message) {
+    if (HIWORD(message.wParam) != EN_CHANGE || isShowing_) return 0;
+    const TextRange selection = ReadSelection(Handle());
+    control_.HandleEdited(ReadText(Handle()), selection.start, selection.length);
+    return 0;
+}
+
+void EditPeer::ReportSelection() {
+    const TextRange selection = ReadSelection(Handle());
+    if (selection != TextRange{control_.SelStart(), control_.SelLength()})
+        control_.HandleSelection(selection.start, selection.length);
+}
+
+// The mouse: the model hears of it, the field acts on it.
+
+LRESULT EditPeer::OnMouse(const Message& message) {
+    const bool isUp = IsButtonUp(message.id);
+    if (!isUp) TellModelOfMouse(message);
+    if (!OwnerForm().IsLoaded()) return 0;
+    const LRESULT answer = CallDefault(message);
+    ReportSelection();
+    if (isUp) TellModelOfMouse(message);
+    return answer;
+}
+
+void EditPeer::TellModelOfMouse(const Message& message) {
+    const forms::MouseInput input = ToMouseInput(message, PixelScale());
+    if (message.id == WM_MOUSEMOVE) return control_.HandleMouseMove(input);
+    if (IsButtonUp(message.id)) return control_.HandleMouseUp(input);
+    if (IsDoubleClick(message.id)) return control_.HandleDblClick(input);
+    control_.HandleMouseDown(input);
+}
+
+// The frame.
+
+int EditPeer::LineHeight() const {
+    const HDC dc = GetDC(Handle());
+    TEXTMETRICW metrics{};
+    {
+        const SelectScope font(dc, PlatformFont());
+        GetTextMetricsW(dc, &metrics);
+    }
+    ReleaseDC(Handle(), dc);
+    return metrics.tmHeight;
+}
+
+LRESULT EditPeer::OnCalculateClientArea(const Message& message) {
+    RECT& area = *reinterpret_cast<RECT*>(message.lParam);
+    const int margin = std::max(FrameThickness, (Height(area) - LineHeight()) / 2);
+    InflateRect(&area, -SideMargin(PixelScale()), -margin);
+    return 0;
+}
+
+LRESULT EditPeer::OnPaintFrame(const Message&) {
+    PaintEditFrame(Handle(), control_.BackColor(), HoldsFocus() ? EditFrame::Focused : EditFrame::Plain);
+    return 0;
+}
+
+LRESULT EditPeer::OnHitTest(const Message&) {
+    return HTCLIENT;  // the margins belong to the field
+}
+
+}  // namespace tavrin::win32

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "forms/text_box.h"
+#include "win32/control_window.h"
+
+namespace tavrin::win32 {
+
+/// The platform's single-line edit field in a frame of ours. It edits; the model is told of every change and
+/// of the selection before each key.
+class EditPeer final : public ControlWindow {
+  public:
+    EditPeer(forms::TextBox& control, FormPeer& form);
+
+    void Changed(forms::Aspect aspect) override;
+    void TakeFocus() override;
+    void Rescale() override;
+
+  protected:
+    LRESULT HandleMessage(const Message& message) override;
+    LRESULT OnKey(const Message& message) override;
+    LRESULT OnSetFocus(const Message& message) override;
+    LRESULT OnKillFocus(const Message& message) override;
+
+  private:
+    LRESULT OnCalculateClientArea(const Message& message);
+    LRESULT OnPaintFrame(const Message& message);
+    LRESULT OnHitTest(const Message& message);
+    LRESULT OnColors(const Message& message);
+    LRESULT OnCommand(const Message& message);
+    LRESULT OnMouse(const Message& message);
+
+    LRESULT PassCharacter(const Message& message);
+    void ShowText();
+    void ShowSelection();
+    void ShowFont();
+    void ReportSelection();
+    void TellModelOfMouse(const Message& message);
+    int LineHeight() const;
+
+    forms::TextBox& control_;
+    /// Set while the model's state is written into the field, whose notifications are no news then.
+    bool isShowing_ = false;
+};
+
+}  // namespace tavrin::win32

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <windows.h>
+
+#include "forms/form.h"
+
+namespace tavrin::win32 {
+
+/// What kind of platform window a form is. Forms stand above all others, as tools of the host: no button on
+/// the task bar, and no owner.
+struct FormStyle {
+    DWORD style;
+    DWORD extendedStyle;
+
+    static FormStyle Of(forms::BorderStyle border) {
+        const DWORD common = WS_POPUP | WS_CLIPCHILDREN;
+        const DWORD extended = WS_EX_TOPMOST | WS_EX_TOOLWINDOW;
+        if (border == forms::BorderStyle::Borderless) return {common, extended};
+        return {common | WS_CAPTION | WS_SYSMENU, extended | WS_EX_DLGMODALFRAME};
+    }
+};
+
+}  // namespace tavrin::win32

@@ -1,0 +1,77 @@
+#include "win32/key_input.h"
+
+namespace tavrin::win32 {
+
+namespace {
+
+bool IsHeld(int key) {
+    return GetKeyState(key) < 0;
+}
+
+/// These keys alone would open a menu bar, which no form has.
+bool OpensMenu(WPARAM key) {
+    return key == VK_MENU || key == VK_F10;
+}
+
+char32_t Combine(wchar_t high, wchar_t low) {
+    return 0x10000 + ((static_cast<char32_t>(high) & 0x3FF) << 10) + (static_cast<char32_t>(low) & 0x3FF);
+}
+
+}  // namespace
+
+forms::Modifiers KeyInput::HeldModifiers() {
+    return {IsHeld(VK_SHIFT), IsHeld(VK_CONTROL), IsHeld(VK_MENU)};
+}
+
+KeyRoute KeyInput::Handle(forms::Form& form, const Message& message) {
+    switch (message.id) {
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+            return OnKeyDown(form, message);
+        case WM_KEYUP:
+        case WM_SYSKEYUP:
+            return OnKeyUp(message);
+        case WM_CHAR:
+            return OnCharacter(form, message);
+        case WM_SYSCHAR:
+            return OnSystemCharacter(form, message);
+        default:
+            return KeyRoute::Native;
+    }
+}
+
+KeyRoute KeyInput::OnKeyDown(forms::Form& form, const Message& message) {
+    dropCharacter_ = false;
+    if (message.wParam == VK_PROCESSKEY) return KeyRoute::Native;  // an input method's own
+    // A handler may show a message, whose loop would bring the character here before the handler has ended.
+    dropCharacter_ = true;
+    const auto outcome = form.HandleKeyDown(static_cast<int>(message.wParam), HeldModifiers());
+    dropCharacter_ = outcome == forms::KeyOutcome::Done;
+    return dropCharacter_ || OpensMenu(message.wParam) ? KeyRoute::Dealt : KeyRoute::Native;
+}
+
+KeyRoute KeyInput::OnKeyUp(const Message& message) {
+    dropCharacter_ = false;
+    return OpensMenu(message.wParam) ? KeyRoute::Dealt : KeyRoute::Native;
+}
+
+KeyRoute KeyInput::OnCharacter(forms::Form& form, const Message& message) {
+    if (dropCharacter_) return KeyRoute::Dealt;
+    const auto unit = static_cast<wchar_t>(message.wParam);
+    if (IS_HIGH_SURROGATE(unit)) {
+        highSurrogate_ = unit;
+        return KeyRoute::Dealt;
+    }
+    if (!IS_LOW_SURROGATE(unit)) highSurrogate_ = 0;
+    const char32_t character = highSurrogate_ != 0 ? Combine(highSurrogate_, unit) : unit;
+    return form.HandleKeyPress(character) == forms::KeyOutcome::Done ? KeyRoute::Dealt : KeyRoute::Native;
+}
+
+KeyRoute KeyInput::OnSystemCharacter(forms::Form& form, const Message& message) {
+    if (dropCharacter_) return KeyRoute::Dealt;
+    form.HandleAccelerator(static_cast<char32_t>(message.wParam));
+    // Alt and Space opens the system menu; anything else would only make the system beep.
+    return message.wParam == VK_SPACE ? KeyRoute::Native : KeyRoute::Dealt;
+}
+
+}  // namespace tavrin::win32

@@ -1,0 +1,27 @@
+#include "win32/peer_factory.h"
+
+#include "win32/combo_peer.h"
+#include "win32/date_picker_peer.h"
+#include "win32/decoration_peer.h"
+#include "win32/drawn_peer.h"
+#include "win32/edit_peer.h"
+
+namespace tavrin::win32 {
+
+std::unique_ptr<forms::ControlPeer> CreateControlPeer(forms::Control& control, FormPeer& form) {
+    switch (control.Kind()) {
+        case forms::ControlKind::TextBox:
+            return std::make_unique<EditPeer>(dynamic_cast<forms::TextBox&>(control), form);
+        case forms::ControlKind::ComboBox:
+            return std::make_unique<ComboPeer>(dynamic_cast<forms::ComboBox&>(control), form);
+        case forms::ControlKind::DatePicker:
+            return std::make_unique<DatePickerPeer>(dynamic_cast<forms::DatePicker&>(control), form);
+        case forms::ControlKind::Decoration:
+            return std::make_unique<DecorationPeer>(control, form);
+        case forms::ControlKind::Drawn:
+            break;
+    }
+    return std::make_unique<DrawnPeer>(control, form);
+}
+
+}  // namespace tavrin::win32
