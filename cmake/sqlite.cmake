@@ -19,7 +19,7 @@ file(LOCK ${downloads} DIRECTORY GUARD FILE TIMEOUT 300)
 if(NOT EXISTS ${archive})
   message(STATUS "Fetching ${package} ${version}")
   execute_process(
-    COMMAND npm pack --silent --cache ${downloads}/npm-cache --pack-destination ${downloads} ${package}@${version}
+    COMMAND npm pack --loglevel=error --cache ${downloads}/npm-cache --pack-destination ${downloads} ${package}@${version}
     WORKING_DIRECTORY ${downloads}
     OUTPUT_QUIET ERROR_VARIABLE failure RESULT_VARIABLE result)
   if(NOT result EQUAL 0 OR NOT EXISTS ${archive})
