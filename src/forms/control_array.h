@@ -7,6 +7,7 @@
 #include <memory>
 #include <numeric>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include "forms/control.h"
@@ -26,6 +27,17 @@ class ControlArray {
         for (std::size_t i = 0; i < Count; ++i) {
             elements_[i] = std::make_unique<Element>(parent, name);
             elements_[i]->SetIndex(indices[i]);
+        }
+    }
+
+    /// Elements that stand in different containers: `parentOf(index)` gives each one's.
+    template <class ParentOf>
+    requires std::is_invocable_r_v<Container&, ParentOf, int> ControlArray(ParentOf parentOf,
+                                                                           const std::string& name) {
+        for (std::size_t i = 0; i < Count; ++i) {
+            const int index = static_cast<int>(i);
+            elements_[i] = std::make_unique<Element>(parentOf(index), name);
+            elements_[i]->SetIndex(index);
         }
     }
 

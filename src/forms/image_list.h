@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <initializer_list>
+#include <utility>
 #include <vector>
 
 #include "forms/icon.h"
@@ -11,6 +13,15 @@ namespace tavrin::forms {
 class ImageList {
   public:
     ImageList(std::initializer_list<Icon> images) : images_(images) {}
+
+    /// Pictures under numbers of their own; the numbers between have none.
+    ImageList(std::initializer_list<std::pair<int, Icon>> numbered) {
+        for (const auto& [number, icon] : numbered) {
+            const auto place = static_cast<std::size_t>(number);
+            if (images_.size() < place) images_.resize(place, Icon::None);
+            images_[place - 1] = icon;
+        }
+    }
 
     Icon Picture(int number) const {
         return number >= 1 && number <= static_cast<int>(images_.size())

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <string>
+
+#include "addressbook/addressbook_statements.h"
+#include "addressbook/agenda_design.h"
+#include "addressbook/arrow_moves.h"
+#include "addressbook/person_list.h"
+#include "forms/image_list.h"
+#include "shell/module.h"
+
+namespace tavrin::addressbook {
+
+/// The address book: the persons on the left, the selected one's details on the right. It browses, adds and
+/// modifies; an empty book or an empty search leaves the details alone in sight, ready for a new person.
+/// A statement that the database refuses is reported by the desktop, and the window stays as it was when it
+/// sent it.
+class Agenda : public AgendaDesign {
+  public:
+    explicit Agenda(shell::Module& module);
+
+    void ShowForm();
+
+    /// "V" browse, "A" add, "M" modify.
+    std::string Mode = "V";
+    /// The grid row that was current when the editing began.
+    int SavedRow = 0;
+
+  protected:
+    void OnLoad() override;
+    void OnActivate() override { KeepOnTop(); }
+    void OnDeactivate() override { KeepOnTop(); }
+    void OnUnload() override;
+    void OnKeyDown(int& keyCode, forms::Modifiers modifiers) override;
+
+  private:
+    void ConnectEvents();
+    void SetPictures();
+
+    // The list.
+    void LoadList();
+    void FormatGrid();
+    void BindGrid();
+    /// False where nobody is left: the window is in the compact layout then.
+    bool RequeryList();
+    void SelectRow();
+    void PositionRecordByName();
+    void ShowRecord();
+
+    // The layouts and modes.
+    void ShowCompactLayout();
+    void ShowWideLayout();
+    void MoveEditButtons(int distance);
+    void ChangeWidth(int change);
+    void SetEditMode(bool editing);
+    void LockSearch(bool locked);
+
+    // The details.
+    Person ShownPerson() const;
+    void ClearFields();
+    bool CheckNume();
+    bool CheckPrenume();
+    bool CheckFilled(int box, const char* refusal);
+
+    // The actions.
+    void cmdAction_Click(int index);
+    void cmdAction_KeyDown(int keyCode);
+    void AcceptPerson();
+    void ShowAccepted();
+    void CancelOrLeave();
+    void CancelEdit();
+    void AskToLeave();
+    void AddPerson();
+    void ModifyPerson();
+    void DeletePerson();
+
+    void FocusArrowTarget(const ArrowTarget& target);
+    void TextBoxes_KeyDown(int index, int& keyCode);
+    void TextBoxes_GotFocus(int index);
+    void Grid_KeyDown(int keyCode);
+
+    shell::Module& module_;
+    PersonList list_;
+    forms::ImageList lstImages_;
+};
+
+}  // namespace tavrin::addressbook

@@ -1,0 +1,72 @@
+#include "addressbook/person_list.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "addressbook/text_rules.h"
+#include "data/error.h"
+
+namespace tavrin::addressbook {
+
+namespace {
+
+bool IsNamed(const data::Value& value, std::string_view name) {
+    // A text is compared where it lies: the search goes through every row of a long list.
+    if (const auto* text = std::get_if<std::string>(&value.Content())) return Trimmed(*text) == name;
+    return Trimmed(value.ToText()) == name;
+}
+
+}  // namespace
+
+void PersonList::Create(data::Connection& connection) {
+    recordset_ = connection.CreateRecordset();
+}
+
+void PersonList::Release() {
+    recordset_.reset();
+}
+
+data::Recordset& PersonList::Rows() const {
+    if (!recordset_)
+        throw data::Error(data::error_number::ObjectNotSet, "Object variable or With block variable not set");
+    return *recordset_;
+}
+
+void PersonList::Close() {
+    if (Rows().IsOpen()) recordset_->Close();
+}
+
+void PersonList::Load(std::string_view statement) {
+    Close();
+    Rows().Open(statement);
+}
+
+void PersonList::MoveTo(int row) {
+    Rows().MoveFirst();
+    const std::int64_t last = recordset_->RecordCount();
+    recordset_->Move(std::clamp<std::int64_t>(row, 1, last) - 1);
+}
+
+Person PersonList::Current() {
+    Person person;
+    for (std::size_t column = 0; column < Columns.size(); ++column) {
+        const data::Value value = Rows().Field(Columns[column]);
+        if (value.IsNull()) throw data::Error(data::error_number::InvalidUseOfNull, "Invalid use of Null");
+        person[column] = value.ToText();
+    }
+    return person;
+}
+
+int FindPerson(const data::Table& persons, std::string_view nume, std::string_view prenume) {
+    const std::string_view wantedNume = Trimmed(nume);
+    const std::string_view wantedPrenume = Trimmed(prenume);
+    for (std::size_t row = 0; row < persons.RowCount(); ++row) {
+        if (IsNamed(persons.At(row, NumeColumn), wantedNume) &&
+            IsNamed(persons.At(row, PrenumeColumn), wantedPrenume)) {
+            return static_cast<int>(row) + 1;
+        }
+    }
+    return 0;
+}
+
+}  // namespace tavrin::addressbook
