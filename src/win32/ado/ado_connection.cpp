@@ -1,0 +1,22 @@
+#include "win32/ado/ado_connection.h"
+
+#include "win32/ado/ado_recordset.h"
+#include "win32/ado/provider_errors.h"
+
+namespace tavrin::win32 {
+
+std::unique_ptr<data::Recordset> AdoConnection::Execute(std::string_view statement) {
+    constexpr std::int32_t optionsUnspecified = -1;
+    Variant recordsAffected;
+    const Variant answer = WithProviderErrors(connection_, [&] {
+        return connection_.Call(L"Execute", Variant(statement), Variant::Reference(recordsAffected),
+                                Variant(optionsUnspecified));
+    });
+    return std::make_unique<AdoRecordset>(connection_, DispatchObject(answer.ToObject()));
+}
+
+std::unique_ptr<data::Recordset> AdoConnection::CreateRecordset() {
+    return std::make_unique<AdoRecordset>(connection_);
+}
+
+}  // namespace tavrin::win32

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "data/connection.h"
+#include "win32/ado/dispatch_object.h"
+
+namespace tavrin::win32 {
+
+/// An ADO Recordset reached by late binding. It keeps the recordset's Field objects, which follow the current
+/// row, so that a field costs one call.
+class AdoRecordset : public data::Recordset {
+  public:
+    /// A recordset that a statement gave; null where the statement gave none.
+    AdoRecordset(DispatchObject connection, DispatchObject recordset);
+    /// A new, closed one: client-side, static and read-only.
+    explicit AdoRecordset(DispatchObject connection);
+
+    void Open(std::string_view source) override;
+    bool IsOpen() const override;
+    void Close() override;
+    void Requery() override;
+
+    bool AtBeginning() const override;
+    bool AtEnd() const override;
+    void MoveFirst() override;
+    void MoveNext() override;
+    void Move(std::int64_t rows) override;
+    std::int64_t RecordCount() const override;
+
+    std::size_t FieldCount() const override;
+    std::string FieldName(std::size_t field) const override;
+    data::Value Field(std::size_t field) const override;
+    data::Value Field(std::string_view name) const override;
+
+    data::TablePtr ReadAll() override;
+
+  private:
+    struct FieldEntry {
+        std::string name;
+        DispatchObject object;
+    };
+
+    const std::vector<FieldEntry>& Fields() const;
+    const FieldEntry& FieldAt(std::size_t field) const;
+    const DispatchObject& OpenRecordset() const;
+    void ReadBlocks(class AdoTable& table) const;
+    void RestorePosition(bool wasAtBeginning, std::int32_t position) const;
+
+    DispatchObject connection_;
+    DispatchObject recordset_;
+    mutable std::vector<FieldEntry> fields_;
+};
+
+}  // namespace tavrin::win32
