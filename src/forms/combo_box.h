@@ -26,6 +26,7 @@ class ComboBox : public Control {
     const std::string& Item(int index) const { return items_[static_cast<std::size_t>(index)]; }
     /// -1 while the text is none of the entries that was chosen.
     int ListIndex() const { return listIndex_; }
+    /// Raises onClick when the index differs; one that the list lacks chooses nothing (-1).
     void SetListIndex(int index);
     const std::string& Text() const { return text_; }
     /// In a drop-down list a text that is no entry is ignored; an entry's text chooses the entry.
@@ -34,8 +35,11 @@ class ComboBox : public Control {
     int SelLength() const { return selLength_; }
     void Select(int start, int length);
 
-    /// Entry points of the platform's control.
-    void HandleChosen(int index) { SetListIndex(index); }
+    /// Where the text stands in the closed field, from the control's top left corner.
+    Rect TextArea() const;
+
+    /// Entry points of the platform's control. Choosing the entry that is already chosen raises onClick as well.
+    void HandleChosen(int index);
     void HandleTyped(std::string text);
     void HandleDropped(bool dropped) { dropped_ = dropped; }
     bool IsDropped() const { return dropped_; }
@@ -46,10 +50,18 @@ class ComboBox : public Control {
     AccessibleNode Accessible() const override;
 
   protected:
-    /// Up, Down, Page Up, Page Down, Home and End choose an entry while the list is closed.
+    /// The arrows, Page Up and Down, Home and End choose an entry while the list is closed (in an editable field
+    /// only those that do not move its caret); Alt+Up, Alt+Down and F4 open the list.
     KeyOutcome DefaultKeyDown(int keyCode, Modifiers modifiers) override;
+    /// In a drop-down list a letter chooses the next entry that begins with it.
+    KeyOutcome DefaultKeyPress(char32_t character) override;
 
   private:
+    void TakeEntry(int index);
+    void TakeText(std::string text);
+    /// The entry that a key leads to, -1 where it leads to none.
+    int TargetOf(int keyCode) const;
+
     ComboStyle style_;
     std::vector<std::string> items_;
     int listIndex_ = -1;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "forms/control.h"
 #include "forms/icon.h"
@@ -30,6 +31,11 @@ class CommandButton : public Control {
     KeyOutcome DefaultKeyDown(int keyCode, Modifiers modifiers) override;
 
   private:
+    Color FaceColor() const;
+    void DrawPicture(Surface& surface) const;
+    void DrawPictureAndCaption(Surface& surface) const;
+    void DrawCaption(Surface& surface, const Rect& area, std::string_view text, Align align) const;
+
     std::string caption_;
     char32_t accelerator_ = 0;
     Icon picture_ = Icon::None;

@@ -160,6 +160,7 @@ void Control::RaiseGotFocus() {
 
 void Control::RaiseLostFocus() {
     pressed_ = false;
+    CompleteInput(0);
     Repaint();
     Raise(onLostFocus);
 }

@@ -120,6 +120,9 @@ class Control {
     /// What the control itself does with a key after its handler let it pass.
     virtual KeyOutcome DefaultKeyDown(int keyCode, Modifiers modifiers);
     virtual KeyOutcome DefaultKeyPress(char32_t character);
+    /// Takes over what was typed into the control but is not finished. Called before a key reaches any
+    /// handler, and with code 0 when the focus leaves, so that handlers see the value that the user sees.
+    virtual void CompleteInput(int keyCode) { (void)keyCode; }
     virtual void DefaultMouseDown(const MouseInput& input) { (void)input; }
     virtual void DefaultMouseMove(const MouseInput& input) { (void)input; }
     virtual void DefaultMouseUp(const MouseInput& input);

@@ -15,6 +15,8 @@ class Shape : public Control {
 /// A thin straight line, horizontal or vertical by the longer side of its bounds; painted by its container.
 class Line : public Control {
   public:
+    static constexpr int Thickness = 15;  ///< twips
+
     Line(Container& parent, std::string name, Rect bounds = {});
     ControlKind Kind() const override { return ControlKind::Decoration; }
     void Draw(Surface& surface) const override;

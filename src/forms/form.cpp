@@ -121,7 +121,8 @@ void Form::Focus(Control& control) {
     // Activating first: what the window does then must not take back the focus that is given now.
     if (usable && !active_ && peer_) peer_->Activate();
     MoveFocus(control);
-    if (usable && active_ && activeControl_ == &control && control.Peer() != nullptr) control.Peer()->TakeFocus();
+    if (usable && active_ && activeControl_ == &control && control.Peer() != nullptr)
+        control.Peer()->TakeFocus();
 }
 
 void Form::MoveFocus(Control& control) {
@@ -179,6 +180,7 @@ void Form::LeaveUnfocusable() {
 KeyOutcome Form::HandleKeyDown(int keyCode, Modifiers modifiers) {
     const Desktop::DispatchScope scope(desktop_);
     Control* const target = activeControl_;
+    if (target != nullptr) target->CompleteInput(keyCode);
     desktop_.Guard([&] { OnKeyDown(keyCode, modifiers); });
     // A key that the preview let pass reaches its control even when the preview has closed the window.
     if (keyCode != key::Swallowed && target != nullptr && target->onKeyDown) {

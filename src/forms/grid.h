@@ -5,6 +5,7 @@
 
 #include "data/table.h"
 #include "forms/control.h"
+#include "forms/grid_viewport.h"
 
 namespace tavrin::forms {
 
@@ -62,6 +63,7 @@ class Grid : public Control {
     /// The cells of visible columns, row by row, the header first.
     int AccessibleChildCount() const override;
     AccessibleNode AccessibleChild(int child) const override;
+    int AccessibleSelectedChild() const override;
 
   protected:
     KeyOutcome DefaultKeyDown(int keyCode, Modifiers modifiers) override;
@@ -76,16 +78,42 @@ class Grid : public Control {
         int width = 960;
         Align align = Align::Left;
     };
+    /// Which scroll bar's thumb the mouse holds, and how far from its start.
+    enum class Drag { None, Vertical, Horizontal };
+
+    int DataRowCount() const;
+    void MoveTo(int row, int column);
+    void MoveByUser(int row, int column);
+    int NeighbourColumn(int column, int step) const;
+    void Normalize();
+
+    // Geometry, all from the grid's top left corner.
+    GridViewport Viewport() const;
+    int LastLeftColumn() const;
+    int ColumnAt(int x) const;
+    void BringIntoSight();
+    void ScrollTo(int topRow);
+    void ScrollColumnsTo(int leftColumn);
+    bool PressScrollBar(Point at);
+    void DragThumb(Point at);
+
+    void DrawHeader(Surface& surface, const GridViewport& view) const;
+    void DrawRow(Surface& surface, const GridViewport& view, int row) const;
+    void DrawScrollBars(Surface& surface, const GridViewport& view) const;
+    bool IsSelected(int row, int column) const;
 
     data::TablePtr table_;
     std::vector<Column> columns_;
     std::vector<std::vector<std::string>> cells_;  ///< of an unbound grid, header excluded
-    int rowHeight_ = 270;
+    int rowHeight_ = 285;
     int row_ = 0;
     int column_ = 0;
     int rowSel_ = 0;
     int columnSel_ = 0;
     int topRow_ = 1;
+    int leftColumn_ = 0;
+    Drag drag_ = Drag::None;
+    int dragOffset_ = 0;
 };
 
 }  // namespace tavrin::forms

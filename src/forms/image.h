@@ -19,6 +19,9 @@ class Image : public Control {
     AccessibleNode Accessible() const override;
 
   private:
+    /// Lights up under the mouse, and is a button to assistive tools.
+    bool IsClickable() const;
+
     Icon picture_ = Icon::None;
 };
 

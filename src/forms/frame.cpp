@@ -1,0 +1,31 @@
+#include "forms/frame.h"
+
+#include <utility>
+
+#include "forms/decoration.h"
+#include "forms/look.h"
+
+namespace tavrin::forms {
+
+Frame::Frame(Container& parent, std::string name, Rect bounds) : Control(parent, std::move(name), bounds) {}
+
+void Frame::SetBordered(bool bordered) {
+    if (bordered_ == bordered) return;
+    bordered_ = bordered;
+    Repaint();
+}
+
+void Frame::Draw(Surface& surface) const {
+    const Rect area = look::AreaOf(*this);
+    surface.FillRectangle(area, BackColor());
+    if (bordered_) surface.DrawFrame(area, scheme::GridLine, look::PixelsOf(surface, look::FocusWidth / 2));
+    DrawDecorations(*this, surface);
+}
+
+AccessibleNode Frame::Accessible() const {
+    AccessibleNode node = Control::Accessible();
+    node.role = Role::Grouping;
+    return node;
+}
+
+}  // namespace tavrin::forms

@@ -1,0 +1,84 @@
+#include "forms/text_box.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "forms/utf8.h"
+
+namespace tavrin::forms {
+
+TextBox::TextBox(Container& parent, std::string name, Rect bounds) : Control(parent, std::move(name), bounds) {
+    SetBackColor(scheme::Field);
+    SetForeColor(scheme::Value);
+}
+
+void TextBox::SetText(std::string text) {
+    if (text_ == text) return;
+    text_ = std::move(text);
+    selStart_ = 0;
+    selLength_ = 0;
+    Notify(Aspect::Text);
+    Raise(onChange);
+}
+
+int TextBox::TextLength() const {
+    return CountCharacters(text_);
+}
+
+void TextBox::SetLocked(bool locked) {
+    if (locked_ == locked) return;
+    locked_ = locked;
+    Notify(Aspect::Locked);
+}
+
+void TextBox::SetAlignment(Align align) {
+    if (align_ == align) return;
+    align_ = align;
+    Repaint();
+}
+
+void TextBox::Select(int start, int length) {
+    HandleSelection(start, length);
+    Notify(Aspect::Selection);
+}
+
+void TextBox::HandleSelection(int selStart, int selLength) {
+    const int characters = TextLength();
+    selStart_ = std::clamp(selStart, 0, characters);
+    selLength_ = std::clamp(selLength, 0, characters - selStart_);
+}
+
+void TextBox::HandleEdited(std::string text, int selStart, int selLength) {
+    if (locked_) {
+        Notify(Aspect::Text);
+        return;
+    }
+    const bool differs = text_ != text;
+    text_ = std::move(text);
+    HandleSelection(selStart, selLength);
+    if (differs) Raise(onChange);
+}
+
+void TextBox::ReplaceSelection(const std::string& text) {
+    if (locked_) return;
+    const std::size_t from = OffsetOfCharacter(text_, selStart_);
+    const std::size_t to = OffsetOfCharacter(text_, selStart_ + selLength_);
+    std::string edited = text_;
+    edited.replace(from, to - from, text);
+    const bool differs = text_ != edited;
+    text_ = std::move(edited);
+    HandleSelection(selStart_ + CountCharacters(text), 0);
+    Notify(Aspect::Text);
+    Notify(Aspect::Selection);
+    if (differs) Raise(onChange);
+}
+
+AccessibleNode TextBox::Accessible() const {
+    AccessibleNode node = Control::Accessible();
+    node.role = Role::EditableText;
+    node.value = text_;
+    node.readOnly = locked_;
+    return node;
+}
+
+}  // namespace tavrin::forms

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace tavrin::forms {
+
+// Positions in edit fields count characters (code points); texts are UTF-8. A byte that cannot begin or continue
+// a character counts as part of the one before it.
+
+int CountCharacters(std::string_view text);
+
+/// Where the character of that number begins; the text's end where there are not so many.
+std::size_t OffsetOfCharacter(std::string_view text, int character);
+
+}  // namespace tavrin::forms
