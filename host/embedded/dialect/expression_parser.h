@@ -1,0 +1,39 @@
+#pragma once
+
+#include "host/embedded/dialect/syntax.h"
+#include "host/embedded/dialect/token_stream.h"
+
+namespace tavrin::host::dialect {
+
+/// Reads scalar expressions and search conditions off a statement's tokens.
+class ExpressionParser {
+  public:
+    explicit ExpressionParser(TokenStream& tokens) : tokens_(tokens) {}
+
+    ExpressionPtr ParseExpression();
+    ConditionPtr ParseCondition();
+    TypeName ParseType();
+
+  private:
+    ConditionPtr ParseConjunction();
+    ConditionPtr ParseNegation();
+    ConditionPtr ParsePredicate();
+    ConditionPtr ParseLike(ExpressionPtr text);
+    ConditionPtr ParseBetween(ExpressionPtr value);
+    ConditionPtr ParseIn(ExpressionPtr value);
+    ConditionPtr ParseNullTest(ExpressionPtr value);
+    ConditionPtr ParseComparison(ExpressionPtr left);
+    bool AtConditionInParentheses() const;
+
+    ExpressionPtr ParseSigned();
+    ExpressionPtr ParseParenthesized();
+    ExpressionPtr ParseConversion();
+    ExpressionPtr ParseCall();
+    ExpressionPtr ParseColumn();
+    int ParseSmallNumber();
+
+    TokenStream& tokens_;
+    int depth_ = 0;
+};
+
+}  // namespace tavrin::host::dialect

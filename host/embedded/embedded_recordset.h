@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "data/snapshot_recordset.h"
+#include "host/embedded/embedded_database.h"
+
+namespace tavrin::host {
+
+/// A static snapshot of one query's rows, with what the server says of each field.
+class EmbeddedRecordset : public data::SnapshotRecordset {
+  public:
+    explicit EmbeddedRecordset(std::shared_ptr<EmbeddedDatabase> database) : database_(std::move(database)) {}
+
+    /// Of the statement that ran last; empty after a write.
+    const std::vector<FieldInfo>& Fields() const { return fields_; }
+
+    /// How many rows the statement wrote.
+    std::int64_t AffectedRows() const { return affectedRows_; }
+
+  protected:
+    data::TablePtr Fetch(const std::string& source) override;
+
+  private:
+    std::shared_ptr<EmbeddedDatabase> database_;
+    std::vector<FieldInfo> fields_;
+    std::int64_t affectedRows_ = 0;
+};
+
+}  // namespace tavrin::host
