@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/form.h"
 #include "forms/look.h"
 
 namespace tavrin::forms {
@@ -105,9 +106,16 @@ AccessibleNode CommandButton::Accessible() const {
 }
 
 KeyOutcome CommandButton::DefaultKeyDown(int keyCode, Modifiers modifiers) {
-    const bool clicks = keyCode == key::Enter || keyCode == key::Space;
-    if (!clicks || modifiers.alt || modifiers.control) return Control::DefaultKeyDown(keyCode, modifiers);
-    Click();
+    if (modifiers.alt || modifiers.control) return Control::DefaultKeyDown(keyCode, modifiers);
+    switch (keyCode) {
+        case key::Enter:
+        case key::Space: Click(); break;
+        case key::Down:
+        case key::Right: OwnerForm().FocusNext(); break;
+        case key::Up:
+        case key::Left: OwnerForm().FocusPrevious(); break;
+        default: return Control::DefaultKeyDown(keyCode, modifiers);
+    }
     return KeyOutcome::Done;
 }
 

@@ -9,7 +9,7 @@
 namespace tavrin::forms {
 
 /// A push button with a caption, a picture, or both. Enter and Space click it, as does Alt with its
-/// accelerator.
+/// accelerator; the arrows walk to its neighbours.
 class CommandButton : public Control {
   public:
     CommandButton(Container& parent, std::string name, std::string caption = {}, Rect bounds = {});

@@ -7,6 +7,8 @@
 #include "forms/font.h"
 #include "forms/geometry.h"
 
+#undef DrawText  // a macro of the platform's headers
+
 namespace tavrin::forms {
 
 enum class Align { Left, Center, Right };

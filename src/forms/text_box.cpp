@@ -31,6 +31,12 @@ void TextBox::SetLocked(bool locked) {
     Notify(Aspect::Locked);
 }
 
+void TextBox::SetBordered(bool bordered) {
+    if (bordered_ == bordered) return;
+    bordered_ = bordered;
+    Repaint();
+}
+
 void TextBox::SetAlignment(Align align) {
     if (align_ == align) return;
     align_ = align;

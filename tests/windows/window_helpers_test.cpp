@@ -52,7 +52,7 @@ TEST_F(WindowHelpersTest, DarkSchemeDressesTheWindowAndItsTextBoxesAlone) {
 
 TEST_F(WindowHelpersTest, AnyOtherModeLeavesTheWindowAlone) {
     const forms::Color before = window.BackColor();
-    for (const std::uint8_t mode : {0, 2, 255})
+    for (const auto mode : std::initializer_list<std::uint8_t>{0, 2, 255})
         shell::ApplyDarkScheme(window, mode);
     EXPECT_EQ(window.BackColor(), before);
     EXPECT_EQ(window.inside.BackColor(), 0x111111U);
