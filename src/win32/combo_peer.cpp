@@ -3,7 +3,9 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
+#include "win32/edit_frame.h"
 #include "win32/edit_text.h"
 #include "win32/mouse_message.h"
 #include "win32/text.h"
@@ -166,9 +168,16 @@ void ComboPeer::Place() {
 }
 
 void ComboPeer::PlaceField() {
-    if (edit_.Handle() == nullptr) return;
-    const RECT area = PixelScale().ToPixels(control_.TextArea());
-    SetWindowPos(edit_.Handle(), nullptr, area.left, area.top, Width(area), Height(area),
+    const HWND field = edit_.Handle();
+    if (field == nullptr) return;
+    // Between the frame and the arrow, as the model draws them.
+    constexpr int ArrowWidth = 270;
+    const RECT bounds = PixelBounds();
+    const int margin = SideMargin(PixelScale());
+    const int height = std::min(LineHeight(), Height(bounds) - 2 * FrameThickness);
+    SendMessageW(field, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+    SetWindowPos(field, nullptr, margin, (Height(bounds) - height) / 2,
+                 Width(bounds) - margin - PixelScale().ToPixels(ArrowWidth), height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -294,16 +303,16 @@ void ComboPeer::HandleInnerFocus() {
 // Keys.
 
 LRESULT ComboPeer::OnKey(const Message& message) {
-    return Route(message) == KeyRoute::Dealt ? 0 : CallDefault(message);
+    return RouteKey(message) == KeyRoute::Dealt ? 0 : CallDefault(message);
 }
 
 LRESULT ComboPeer::HandleInnerKey(const Message& message) {
-    if (Route(message) == KeyRoute::Dealt) return 0;
+    if (RouteKey(message) == KeyRoute::Dealt) return 0;
     const bool beeps = message.id == WM_CHAR && (message.wParam == VK_RETURN || message.wParam == VK_ESCAPE);
     return beeps ? 0 : edit_.PassOn(message);
 }
 
-KeyRoute ComboPeer::Route(const Message& message) {
+KeyRoute ComboPeer::RouteKey(const Message& message) {
     if (message.id == WM_KEYDOWN && IsOpen()) {
         if (WalksList(message.wParam)) return KeyRoute::Native;
         if (HandleOpenListKey(message)) return KeyRoute::Dealt;

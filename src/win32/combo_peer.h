@@ -42,7 +42,7 @@ class ComboPeer final : public ControlWindow {
     bool HandleOpenListKey(const Message& message);
     void Accept();
     void CloseList();
-    KeyRoute Route(const Message& message);
+    KeyRoute RouteKey(const Message& message);
 
     void Choose(int index);
     void ShowList();

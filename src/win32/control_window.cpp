@@ -36,6 +36,14 @@ HFONT ControlWindow::PlatformFont() const {
     return SharedToolkit().Fonts().Find(control_.TextFont(), PixelScale().Dpi());
 }
 
+int ControlWindow::LineHeight() const {
+    const HDC dc = SharedToolkit().Canvas().Dc();
+    const SelectScope font(dc, PlatformFont());
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(dc, &metrics);
+    return metrics.tmHeight;
+}
+
 LRESULT ControlWindow::ApplyColors(HDC dc) const {
     const bool enabled = control_.IsEffectivelyEnabled();
     SetTextColor(dc, enabled ? control_.ForeColor() : forms::scheme::TextDisabled);

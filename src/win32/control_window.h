@@ -47,6 +47,8 @@ class ControlWindow : public forms::ControlPeer, public Window {
     Toolkit& SharedToolkit() const { return form_.SharedToolkit(); }
     Scale PixelScale() const { return form_.PixelScale(); }
     HFONT PlatformFont() const;
+    /// Pixels from line to line in that font.
+    int LineHeight() const;
     /// Brush and colours of the platform's edit field in a device context.
     LRESULT ApplyColors(HDC dc) const;
     /// Whether the platform's focus is on this window or on one inside it.

@@ -95,6 +95,32 @@ void DibSurface::DrawFrame(const forms::Rect& area, forms::Color color, int pixe
     FillPixels({outer.right - across, outer.top, outer.right, outer.bottom}, color);
 }
 
+void DibSurface::FillPolygon(std::span<const forms::PointF> outline, forms::Color color) {
+    Paint(forms::PolygonCoverage(ToPixels(outline), ClipBox()), color);
+}
+
+void DibSurface::DrawPolyline(std::span<const forms::PointF> points, double width, forms::Color color) {
+    Paint(forms::PolylineCoverage(ToPixels(points), width / PixelSize(), ClipBox()), color);
+}
+
+forms::PixelBox DibSurface::ClipBox() const {
+    const RECT& clip = clips_.back();
+    return {clip.left, clip.top, clip.right, clip.bottom};
+}
+
+void DibSurface::Paint(const forms::CoverageMask& mask, forms::Color color) {
+    Flush();
+    const std::uint32_t pixel = ToPixel(color);
+    const forms::PixelBox& box = mask.Box();
+    for (int y = box.top; y < box.bottom; ++y) {
+        const auto coverage = mask.Row(y);
+        const auto row = canvas_.Row(y).subspan(static_cast<std::size_t>(box.left), coverage.size());
+        for (std::size_t x = 0; x < coverage.size(); ++x) {
+            if (coverage[x] != 0) row[x] = forms::Blend(row[x], pixel, coverage[x]);
+        }
+    }
+}
+
 void DibSurface::DrawText(std::string_view text, const forms::Rect& area, const forms::TextStyle& style) {
     if (text.empty()) return;
     const HDC dc = canvas_.Dc();

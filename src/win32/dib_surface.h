@@ -5,11 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "forms/rasterizer.h"
 #include "forms/surface.h"
 #include "win32/dib_canvas.h"
 #include "win32/font_cache.h"
 #include "win32/handles.h"
 #include "win32/scale.h"
+
+#undef DrawText  // whichever header came first
 
 namespace tavrin::win32 {
 
@@ -37,6 +40,8 @@ class DibSurface : public forms::Surface {
     RECT ToPixels(const forms::Rect& area) const;
     std::vector<forms::PointF> ToPixels(std::span<const forms::PointF> points) const;
     void FillPixels(RECT area, forms::Color color);
+    forms::PixelBox ClipBox() const;
+    void Paint(const forms::CoverageMask& mask, forms::Color color);
     void ApplyClip();
     /// Before memory is touched that GDI may still be about to draw in.
     void Flush();

@@ -54,6 +54,8 @@ LRESULT DrawnPeer::OnPaint(const Message& message) {
 void DrawnPeer::Draw(forms::Surface& surface) {
     drawFailed_ = true;
     control_.Draw(surface);
+    if (const auto* container = dynamic_cast<const forms::Container*>(&control_))
+        forms::DrawDecorations(*container, surface);
     drawFailed_ = false;
 }
 

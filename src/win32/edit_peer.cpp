@@ -181,17 +181,6 @@ void EditPeer::TellModelOfMouse(const Message& message) {
 
 // The frame.
 
-int EditPeer::LineHeight() const {
-    const HDC dc = GetDC(Handle());
-    TEXTMETRICW metrics{};
-    {
-        const SelectScope font(dc, PlatformFont());
-        GetTextMetricsW(dc, &metrics);
-    }
-    ReleaseDC(Handle(), dc);
-    return metrics.tmHeight;
-}
-
 LRESULT EditPeer::OnCalculateClientArea(const Message& message) {
     RECT& area = *reinterpret_cast<RECT*>(message.lParam);
     const int margin = std::max(FrameThickness, (Height(area) - LineHeight()) / 2);

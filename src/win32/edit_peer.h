@@ -35,7 +35,6 @@ class EditPeer final : public ControlWindow {
     void ShowFont();
     void ReportSelection();
     void TellModelOfMouse(const Message& message);
-    int LineHeight() const;
 
     forms::TextBox& control_;
     /// Set while the model's state is written into the field, whose notifications are no news then.
