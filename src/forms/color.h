@@ -26,6 +26,8 @@ inline constexpr Color Value = Green;    ///< what the user may change or read o
 inline constexpr Color TextDisabled = 0x808080;
 inline constexpr Color Focus = Green;         ///< the frame around the focused control
 inline constexpr Color Selection = 0x005A00;  ///< selected cells
+inline constexpr Color SelectionWithoutFocus = 0x003800;
+inline constexpr Color CurrentRow = 0x001E00;  ///< the rest of the current row
 }  // namespace scheme
 
 }  // namespace tavrin::forms

@@ -38,7 +38,8 @@ class ComboBox : public Control {
     /// Where the text stands in the closed field, from the control's top left corner.
     Rect TextArea() const;
 
-    /// Entry points of the platform's control. Choosing the entry that is already chosen raises onClick as well.
+    /// Entry points of the platform's control. Choosing the entry that is already chosen raises onClick as
+    /// well.
     void HandleChosen(int index);
     void HandleTyped(std::string text);
     void HandleDropped(bool dropped) { dropped_ = dropped; }
@@ -50,8 +51,8 @@ class ComboBox : public Control {
     AccessibleNode Accessible() const override;
 
   protected:
-    /// The arrows, Page Up and Down, Home and End choose an entry while the list is closed (in an editable field
-    /// only those that do not move its caret); Alt+Up, Alt+Down and F4 open the list.
+    /// The arrows, Page Up and Down, Home and End choose an entry while the list is closed (in an editable
+    /// field only those that do not move its caret); Alt+Up, Alt+Down and F4 open the list.
     KeyOutcome DefaultKeyDown(int keyCode, Modifiers modifiers) override;
     /// In a drop-down list a letter chooses the next entry that begins with it.
     KeyOutcome DefaultKeyPress(char32_t character) override;

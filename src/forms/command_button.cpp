@@ -66,7 +66,8 @@ void CommandButton::Draw(Surface& surface) const {
     if (caption_.empty()) {
         DrawPicture(surface);
     } else if (picture_ == Icon::None) {
-        DrawCaption(surface, look::AreaOf(*this).Inset(look::Padding, look::FocusWidth), caption_, Align::Center);
+        DrawCaption(surface, look::AreaOf(*this).Inset(look::Padding, look::FocusWidth), caption_,
+                    Align::Center);
     } else {
         DrawPictureAndCaption(surface);
     }
@@ -90,7 +91,8 @@ void CommandButton::DrawPictureAndCaption(Surface& surface) const {
     DrawCaption(surface, text, WithoutLeadingBlanks(caption_), Align::Left);
 }
 
-void CommandButton::DrawCaption(Surface& surface, const Rect& area, std::string_view text, Align align) const {
+void CommandButton::DrawCaption(Surface& surface, const Rect& area, std::string_view text,
+                                Align align) const {
     TextStyle style = look::TextStyleOf(*this);
     style.align = align;
     style.accelerator = FindAccelerator(text, accelerator_);
@@ -109,12 +111,19 @@ KeyOutcome CommandButton::DefaultKeyDown(int keyCode, Modifiers modifiers) {
     if (modifiers.alt || modifiers.control) return Control::DefaultKeyDown(keyCode, modifiers);
     switch (keyCode) {
         case key::Enter:
-        case key::Space: Click(); break;
+        case key::Space:
+            Click();
+            break;
         case key::Down:
-        case key::Right: OwnerForm().FocusNext(); break;
+        case key::Right:
+            OwnerForm().FocusNext();
+            break;
         case key::Up:
-        case key::Left: OwnerForm().FocusPrevious(); break;
-        default: return Control::DefaultKeyDown(keyCode, modifiers);
+        case key::Left:
+            OwnerForm().FocusPrevious();
+            break;
+        default:
+            return Control::DefaultKeyDown(keyCode, modifiers);
     }
     return KeyOutcome::Done;
 }

@@ -96,7 +96,7 @@ class Control {
     void HandleMouseLeave();
     /// The mouse was taken away while a button was held (a drag of the window, a message): no click follows.
     void HandleCaptureLost();
-    void HandleDblClick(const MouseInput& input);
+    virtual void HandleDblClick(const MouseInput& input);
     /// One notch away from the user is +1.
     virtual void HandleWheel(int notches) { (void)notches; }
     void Click();

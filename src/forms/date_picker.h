@@ -10,9 +10,9 @@
 
 namespace tavrin::forms {
 
-/// A field for one day. Left and Right choose day, month or year, Up and Down change it, digits type it, Alt+Down
-/// or F4 opens the platform's calendar. The value is a whole day within the range. onChange tells of every new
-/// value, whoever set it.
+/// A field for one day. Left and Right choose day, month or year, Up and Down change it, digits type it,
+/// Alt+Down or F4 opens the platform's calendar. The value is a whole day within the range. onChange tells of
+/// every new value, whoever set it.
 class DatePicker : public Control {
   public:
     /// `customFormat` knows dd, MM, MMM (the locale's abbreviation), yy and yyyy; all else stands as it is.
@@ -20,12 +20,13 @@ class DatePicker : public Control {
     ControlKind Kind() const override { return ControlKind::DatePicker; }
 
     data::OleDate Date() const { return value_; }
-    /// Drops a time of day; a day outside the range becomes the nearest day inside it. What is no number is ignored.
+    /// Drops a time of day; a day outside the range becomes the nearest day inside it. What is no number is
+    /// ignored.
     void SetDate(data::OleDate date);
     data::OleDate MinDate() const { return minDate_; }
     data::OleDate MaxDate() const { return maxDate_; }
-    /// Both ends belong to the range; an end before the start leaves the start alone in it. The value is moved into
-    /// it.
+    /// Both ends belong to the range; an end before the start leaves the start alone in it. The value is
+    /// moved into it.
     void SetRange(data::OleDate minDate, data::OleDate maxDate);
 
     /// The value in the custom format.

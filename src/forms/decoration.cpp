@@ -30,7 +30,9 @@ class MovedSurface : public Surface {
     void DrawText(std::string_view text, const Rect& area, const TextStyle& style) override {
         target_.DrawText(text, Moved(area), style);
     }
-    Size MeasureText(std::string_view text, const Font& font) override { return target_.MeasureText(text, font); }
+    Size MeasureText(std::string_view text, const Font& font) override {
+        return target_.MeasureText(text, font);
+    }
     void PushClip(const Rect& area) override { target_.PushClip(Moved(area)); }
     void PopClip() override { target_.PopClip(); }
 

@@ -31,25 +31,32 @@ void Grid::SetDataSource(data::TablePtr table) {
     cells_.clear();
     if (table_) {
         columns_.resize(table_->FieldCount());
-        for (std::size_t i = 0; i < columns_.size(); ++i)
-            columns_[i].header = table_->FieldName(i);
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            if (!columns_[i].isTitled) columns_[i].header = table_->FieldName(i);
+        }
     }
-    topRow_ = 1;
-    leftColumn_ = 0;
-    row_ = DataRowCount() > 0 ? 1 : 0;
-    column_ = 0;
-    rowSel_ = row_;
-    columnSel_ = 0;
-    Repaint();
+    Restart();
 }
 
 void Grid::Clear() {
     table_ = nullptr;
-    for (Column& column : columns_)
+    for (Column& column : columns_) {
         column.header.clear();
+        column.isTitled = false;
+    }
     for (auto& row : cells_)
         std::ranges::fill(row, std::string());
-    Normalize();
+    if (cells_.empty()) Restart();
+    Repaint();
+}
+
+void Grid::Restart() {
+    row_ = DataRowCount() > 0 ? 1 : 0;
+    column_ = 0;
+    rowSel_ = row_;
+    columnSel_ = 0;
+    topRow_ = 1;
+    columnsPassed_ = 0;
     Repaint();
 }
 
@@ -65,10 +72,16 @@ void Grid::SetFormatString(const std::string& format) {
                                                        : Align::Left;
             title.erase(0, 1);
         }
-        columns_[i].header = std::move(title);
+        SetTitle(static_cast<int>(i), std::move(title));
         start = end + 1;
     }
     Repaint();
+}
+
+void Grid::SetTitle(int column, std::string title) {
+    Column& titled = columns_[static_cast<std::size_t>(column)];
+    titled.header = std::move(title);
+    titled.isTitled = true;
 }
 
 void Grid::SetSize(int rows, int columns) {
@@ -77,8 +90,7 @@ void Grid::SetSize(int rows, int columns) {
     cells_.resize(static_cast<std::size_t>(std::max(0, rows - 1)));
     for (auto& row : cells_)
         row.resize(columns_.size());
-    Normalize();
-    Repaint();
+    MoveTo(row_, column_);
 }
 
 std::string Grid::TextMatrix(int row, int column) const {
@@ -93,7 +105,7 @@ std::string Grid::TextMatrix(int row, int column) const {
 void Grid::SetTextMatrix(int row, int column, std::string text) {
     if (row < 0 || row >= Rows() || column < 0 || column >= Columns()) return;
     if (row == 0) {
-        columns_[static_cast<std::size_t>(column)].header = std::move(text);
+        SetTitle(column, std::move(text));
     } else if (!table_) {
         cells_[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(column)] = std::move(text);
     }
@@ -156,15 +168,6 @@ void Grid::MoveByUser(int row, int column) {
     if (row_ != oldRow || column_ != oldColumn) Raise(onChange);
 }
 
-void Grid::Normalize() {
-    row_ = DataRowCount() == 0 ? 0 : std::clamp(row_, 1, Rows() - 1);
-    column_ = std::clamp(column_, 0, std::max(0, Columns() - 1));
-    rowSel_ = row_;
-    columnSel_ = column_;
-    topRow_ = 1;
-    leftColumn_ = 0;
-}
-
 int Grid::NeighbourColumn(int column, int step) const {
     for (int next = column + step; next >= 0 && next < Columns(); next += step) {
         if (ColumnWidth(next) > 0) return next;
@@ -176,7 +179,7 @@ int Grid::NeighbourColumn(int column, int step) const {
 
 KeyOutcome Grid::DefaultKeyDown(int keyCode, Modifiers modifiers) {
     if (modifiers.alt) return KeyOutcome::Default;
-    const int page = std::max(1, Viewport().rowsInSight);
+    const int page = Viewport().wholeRows;
     int row = row_;
     int column = column_;
     switch (keyCode) {
@@ -212,32 +215,37 @@ KeyOutcome Grid::DefaultKeyDown(int keyCode, Modifiers modifiers) {
     return KeyOutcome::Done;
 }
 
-void Grid::DefaultMouseDown(const MouseInput& input) {
-    if (input.button != MouseButton::Left || PressScrollBar(input.at)) return;
+bool Grid::IsCellAt(Point place) const {
     const GridViewport view = Viewport();
-    if (!view.cells.Contains(input.at)) return;
-    const int row = topRow_ + (input.at.y - view.cells.top) / rowHeight_;
-    const int column = ColumnAt(input.at.x);
-    if (row < Rows() && column >= 0) MoveByUser(row, column);
+    const int row = view.RowAt(place.y);
+    return row > 0 && row < Rows() && view.ColumnAt(place.x) >= 0;
+}
+
+void Grid::DefaultMouseDown(const MouseInput& input) {
+    if (input.button != MouseButton::Left) return;
+    dragged_.reset();
+    pressedCell_ = !PressScrollBar(input.at) && IsCellAt(input.at);
+    if (!pressedCell_) return;
+    const GridViewport view = Viewport();
+    MoveByUser(view.RowAt(input.at.y), view.ColumnAt(input.at.x));
 }
 
 void Grid::DefaultMouseMove(const MouseInput& input) {
-    if (drag_ != Drag::None) DragThumb(input.at);
+    if (!IsPressed()) dragged_.reset();
+    if (dragged_) DragThumb(input.at);
 }
 
 void Grid::DefaultMouseUp(const MouseInput& input) {
-    const bool dragged = std::exchange(drag_, Drag::None) != Drag::None;
-    const bool onCells = Viewport().cells.Contains(input.at);
-    if (dragged || !onCells) {
-        HandleCaptureLost();
-    } else {
-        Control::DefaultMouseUp(input);
-    }
+    dragged_.reset();
+    Control::DefaultMouseUp(input);
 }
 
-void Grid::HandleWheel(int notches) {
-    constexpr int RowsPerNotch = 3;
-    ScrollTo(topRow_ - notches * RowsPerNotch);
+void Grid::HandleDblClick(const MouseInput& input) {
+    if (IsCellAt(input.at)) {
+        Control::HandleDblClick(input);
+    } else {
+        HandleMouseDown(input);
+    }
 }
 
 // Assistive tools.
@@ -250,19 +258,24 @@ AccessibleNode Grid::Accessible() const {
     return node;
 }
 
-int Grid::AccessibleChildCount() const {
-    const auto shown = std::ranges::count_if(columns_, [](const Column& column) { return column.width > 0; });
-    return Rows() * static_cast<int>(shown);
-}
-
-AccessibleNode Grid::AccessibleChild(int child) const {
+std::vector<int> Grid::ShownColumns() const {
     std::vector<int> shown;
     for (int i = 0; i < Columns(); ++i) {
         if (ColumnWidth(i) > 0) shown.push_back(i);
     }
-    if (shown.empty() || child < 0 || child >= AccessibleChildCount()) return {};
-    const int row = child / static_cast<int>(shown.size());
-    const int column = shown[static_cast<std::size_t>(child) % shown.size()];
+    return shown;
+}
+
+int Grid::AccessibleChildCount() const {
+    return Rows() * static_cast<int>(ShownColumns().size());
+}
+
+AccessibleNode Grid::AccessibleChild(int child) const {
+    const std::vector<int> shown = ShownColumns();
+    const int count = static_cast<int>(shown.size());
+    if (count == 0 || child < 0 || child >= Rows() * count) return {};
+    const int row = child / count;
+    const int column = shown[static_cast<std::size_t>(child % count)];
     AccessibleNode node;
     node.role = Role::Cell;
     node.name = TextMatrix(0, column);
@@ -277,15 +290,10 @@ AccessibleNode Grid::AccessibleChild(int child) const {
 }
 
 int Grid::AccessibleSelectedChild() const {
-    if (row_ < 1 || ColumnWidth(column_) == 0) return -1;
-    int shown = 0;
-    int place = 0;
-    for (int i = 0; i < Columns(); ++i) {
-        if (ColumnWidth(i) == 0) continue;
-        if (i < column_) ++place;
-        ++shown;
-    }
-    return row_ * shown + place;
+    const std::vector<int> shown = ShownColumns();
+    const auto place = std::ranges::find(shown, column_);
+    if (row_ < 1 || place == shown.end()) return -1;
+    return row_ * static_cast<int>(shown.size()) + static_cast<int>(place - shown.begin());
 }
 
 }  // namespace tavrin::forms

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,7 @@ class Grid : public Control {
     /// 0) without rows. Null unbinds it and leaves the header alone.
     void SetDataSource(data::TablePtr table);
     const data::TablePtr& DataSource() const { return table_; }
-    /// Empties all cells, the header's included; an unbound grid keeps its size.
+    /// Empties all cells, the header's included, and ends a binding; an unbound grid keeps its size.
     void Clear();
     /// The header and the alignment of the columns, "^Data|<D|>EUR": ^ centred, < left, > right. Adds columns
     /// where it names more than there are.
@@ -38,7 +39,7 @@ class Grid : public Control {
     void SetColumnWidth(int column, int width);
     Align ColumnAlignment(int column) const;
     void SetColumnAlignment(int column, Align align);
-    int RowHeight() const { return rowHeight_; }  ///< twips, the same for every row
+    int RowHeight() const;  ///< twips, the same for every row; follows the font
 
     // The current cell and the selection from it to (RowSel, ColSel).
     int Row() const { return row_; }
@@ -53,11 +54,13 @@ class Grid : public Control {
 
     /// Where a cell lies in the grid, empty when it is scrolled or hidden away.
     Rect CellBounds(int row, int column) const;
-    int TopRow() const { return topRow_; }
+    int TopRow() const;
     void SetTopRow(int row);
 
     bool IsFocusable() const override { return true; }
     void HandleWheel(int notches) override;
+    /// Beside the cells it is a second press.
+    void HandleDblClick(const MouseInput& input) override;
     void Draw(Surface& surface) const override;
     AccessibleNode Accessible() const override;
     /// The cells of visible columns, row by row, the header first.
@@ -70,50 +73,58 @@ class Grid : public Control {
     void DefaultMouseDown(const MouseInput& input) override;
     void DefaultMouseMove(const MouseInput& input) override;
     void DefaultMouseUp(const MouseInput& input) override;
-    bool ClicksOnMouseUp() const override { return true; }
+    bool ClicksOnMouseUp() const override { return pressedCell_; }
 
   private:
     struct Column {
         std::string header;
+        /// Set by a format string or as a text; a field's name does not replace it.
+        bool isTitled = false;
         int width = 960;
         Align align = Align::Left;
     };
-    /// Which scroll bar's thumb the mouse holds, and how far from its start.
-    enum class Drag { None, Vertical, Horizontal };
 
+    void SetTitle(int column, std::string title);
     int DataRowCount() const;
+    bool IsCellAt(Point place) const;
     void MoveTo(int row, int column);
     void MoveByUser(int row, int column);
     int NeighbourColumn(int column, int step) const;
-    void Normalize();
+    /// Back to the first cell, after the content has changed.
+    void Restart();
 
-    // Geometry, all from the grid's top left corner.
+    // Scrolling.
     GridViewport Viewport() const;
-    int LastLeftColumn() const;
-    int ColumnAt(int x) const;
+    /// Puts that many of the columns that are not hidden to the left of what is in sight.
+    void PassColumns(int count);
     void BringIntoSight();
-    void ScrollTo(int topRow);
-    void ScrollColumnsTo(int leftColumn);
+    void BringColumnIntoSight();
     bool PressScrollBar(Point at);
+    void ScrollTo(const ScrollBar& bar, int first);
     void DragThumb(Point at);
 
+    // Drawing.
     void DrawHeader(Surface& surface, const GridViewport& view) const;
     void DrawRow(Surface& surface, const GridViewport& view, int row) const;
-    void DrawScrollBars(Surface& surface, const GridViewport& view) const;
+    void DrawColumnLines(Surface& surface, const GridViewport& view, int bottomRow) const;
+    void DrawCurrentCell(Surface& surface, const GridViewport& view) const;
     bool IsSelected(int row, int column) const;
+
+    std::vector<int> ShownColumns() const;
 
     data::TablePtr table_;
     std::vector<Column> columns_;
     std::vector<std::vector<std::string>> cells_;  ///< of an unbound grid, header excluded
-    int rowHeight_ = 285;
     int row_ = 0;
     int column_ = 0;
     int rowSel_ = 0;
     int columnSel_ = 0;
     int topRow_ = 1;
-    int leftColumn_ = 0;
-    Drag drag_ = Drag::None;
+    int columnsPassed_ = 0;
+    /// The scroll bar whose thumb the mouse holds, and how far from the thumb's start.
+    std::optional<ScrollBar::Direction> dragged_;
     int dragOffset_ = 0;
+    bool pressedCell_ = false;
 };
 
 }  // namespace tavrin::forms

@@ -1,43 +1,47 @@
 // How a grid looks.
 
 #include <algorithm>
-#include <cmath>
 
 #include "forms/form.h"
 #include "forms/grid.h"
+#include "forms/look.h"
 
 namespace tavrin::forms {
 
 namespace {
 
-constexpr int TextInset = 60;
+constexpr int ThumbInset = 30;
 
-int Hairline(const Surface& surface) {
-    return std::max(1, static_cast<int>(std::lround(surface.PixelSize())));
+Rect CellOf(const Rect& line, const GridViewport::Strip& strip) {
+    return {strip.left, line.top, strip.width, line.height};
 }
 
-void DrawCellLines(Surface& surface, const Rect& cell) {
-    const int hairline = Hairline(surface);
-    surface.FillRectangle({cell.Right() - hairline, cell.top, hairline, cell.height}, scheme::GridLine);
-    surface.FillRectangle({cell.left, cell.Bottom() - hairline, cell.width, hairline}, scheme::GridLine);
+void DrawScrollBar(Surface& surface, const ScrollBar& bar) {
+    if (bar.track.IsEmpty()) return;
+    surface.FillRectangle(bar.track, scheme::FacePressed);
+    if (bar.IsNeeded()) surface.FillRectangle(bar.Thumb().Inset(ThumbInset), scheme::Border);
 }
 
 }  // namespace
 
 void Grid::Draw(Surface& surface) const {
-    const Rect area{0, 0, Bounds().width, Bounds().height};
-    surface.FillRectangle(area, BackColor());
+    surface.FillRectangle(look::AreaOf(*this), BackColor());
     const GridViewport view = Viewport();
     {
-        const ClipScope clip(surface, {view.header.left, view.header.top, view.header.width,
-                                       view.header.height + view.cells.height});
+        const ClipScope clip(surface, view.header);
         DrawHeader(surface, view);
-        const int rows = (view.cells.height + rowHeight_ - 1) / rowHeight_;
-        for (int row = topRow_; row < std::min(Rows(), topRow_ + rows); ++row)
-            DrawRow(surface, view, row);
     }
-    DrawScrollBars(surface, view);
-    surface.DrawFrame(area, HasFocus() ? scheme::Focus : scheme::Border);
+    {
+        const ClipScope clip(surface, view.cells);
+        const int bottomRow = std::min(view.BottomRow(), Rows() - 1);
+        for (int row = view.topRow; row <= bottomRow; ++row)
+            DrawRow(surface, view, row);
+        DrawColumnLines(surface, view, bottomRow);
+        DrawCurrentCell(surface, view);
+    }
+    DrawScrollBar(surface, view.rowBar);
+    DrawScrollBar(surface, view.columnBar);
+    look::DrawBorder(surface, *this);
 }
 
 void Grid::DrawHeader(Surface& surface, const GridViewport& view) const {
@@ -45,48 +49,48 @@ void Grid::DrawHeader(Surface& surface, const GridViewport& view) const {
     TextStyle style;
     style.font = TextFont();
     style.font.bold = true;
-    for (int column = leftColumn_; column < Columns(); ++column) {
-        const Rect cell = CellBounds(0, column);
-        if (cell.IsEmpty()) continue;
-        style.align = ColumnAlignment(column);
-        surface.DrawText(TextMatrix(0, column), cell.Inset(TextInset, 0), style);
-        DrawCellLines(surface, cell);
+    if (!IsEffectivelyEnabled()) style.color = scheme::TextDisabled;
+    for (const GridViewport::Strip& strip : view.columns) {
+        const Rect cell = CellOf(view.header, strip);
+        style.align = ColumnAlignment(strip.column);
+        surface.DrawText(TextMatrix(0, strip.column), cell.Inset(look::Padding, 0), style);
+        look::DrawRightEdge(surface, cell, scheme::Border);
     }
+    look::DrawBottomEdge(surface, view.header, scheme::Border);
 }
 
 void Grid::DrawRow(Surface& surface, const GridViewport& view, int row) const {
-    TextStyle style;
-    style.font = TextFont();
-    style.color = IsEffectivelyEnabled() ? ForeColor() : scheme::TextDisabled;
-    const int top = view.cells.top + (row - topRow_) * rowHeight_;
-    int left = view.cells.left;
-    for (int column = leftColumn_; column < Columns() && left < view.cells.Right(); ++column) {
-        const Rect cell{left, top, ColumnWidth(column), rowHeight_};
-        left += cell.width;
-        if (cell.width == 0) continue;
-        if (IsSelected(row, column))
-            surface.FillRectangle(cell, HasFocus() ? scheme::Selection : scheme::Face);
-        style.align = ColumnAlignment(column);
-        surface.DrawText(TextMatrix(row, column), cell.Inset(TextInset, 0), style);
-        DrawCellLines(surface, cell);
-        if (row == row_ && column == column_ && HasFocus()) surface.DrawFrame(cell, scheme::Focus);
+    const Rect line = view.RowArea(row);
+    const int right = std::min(view.cells.Right(), view.columns.empty() ? 0 : view.columns.back().Right());
+    const Rect filled{line.left, line.top, right - line.left, line.height};
+    if (row == row_) surface.FillRectangle(filled, scheme::CurrentRow);
+    TextStyle style = look::TextStyleOf(*this);
+    for (const GridViewport::Strip& strip : view.columns) {
+        const Rect cell = CellOf(line, strip);
+        if (IsSelected(row, strip.column))
+            surface.FillRectangle(cell, HasFocus() ? scheme::Selection : scheme::SelectionWithoutFocus);
+        style.align = ColumnAlignment(strip.column);
+        surface.DrawText(TextMatrix(row, strip.column), cell.Inset(look::Padding, 0), style);
     }
+    look::DrawBottomEdge(surface, filled, scheme::GridLine);
+}
+
+void Grid::DrawColumnLines(Surface& surface, const GridViewport& view, int bottomRow) const {
+    const int height = std::min(view.cells.height, (bottomRow - view.topRow + 1) * view.rowHeight);
+    for (const GridViewport::Strip& strip : view.columns)
+        look::DrawRightEdge(surface, {strip.left, view.cells.top, strip.width, height}, scheme::GridLine);
+}
+
+void Grid::DrawCurrentCell(Surface& surface, const GridViewport& view) const {
+    const Rect cell = view.CellArea(row_, column_);
+    if (row_ > 0 && HasFocus() && !cell.IsEmpty())
+        surface.DrawFrame(cell, scheme::Focus, look::PixelsOf(surface, look::FocusWidth / 2));
 }
 
 bool Grid::IsSelected(int row, int column) const {
     const auto [firstRow, lastRow] = std::minmax(row_, rowSel_);
     const auto [firstColumn, lastColumn] = std::minmax(column_, columnSel_);
     return row_ > 0 && row >= firstRow && row <= lastRow && column >= firstColumn && column <= lastColumn;
-}
-
-void Grid::DrawScrollBars(Surface& surface, const GridViewport& view) const {
-    const auto draw = [&](const ScrollBar& bar, bool vertical) {
-        if (!bar.IsNeeded()) return;
-        surface.FillRectangle(bar.track, scheme::FacePressed);
-        surface.FillRectangle(bar.Thumb(vertical).Inset(30), scheme::Border);
-    };
-    draw(view.rows, true);
-    draw(view.columns, false);
 }
 
 }  // namespace tavrin::forms

@@ -1,33 +1,83 @@
 #pragma once
 
+#include <vector>
+
 #include "forms/geometry.h"
 
 namespace tavrin::forms {
 
-/// A slim scroll bar: `first` of `total` lines is the first in sight, `shown` lines are in sight at once.
+/// A slim scroll bar: `first` of `total` steps is the first in sight, `shown` steps are in sight at once.
+/// Lengths are twips.
 struct ScrollBar {
+    enum class Direction { Vertical, Horizontal };
+
+    static constexpr int Thickness = 180;
+
+    Direction direction = Direction::Vertical;
     Rect track;
     int total = 0;
     int shown = 0;
     int first = 0;
 
     bool IsNeeded() const { return total > shown; }
-    int Last() const { return total > shown ? total - shown : 0; }
-    /// The part that the user drags; `vertical` says along which side of the track.
-    Rect Thumb(bool vertical) const;
-    /// The first line in sight when the thumb's start lies at a place along the track.
-    int FirstAt(int place, bool vertical) const;
+    /// The largest value of `first`.
+    int Last() const { return IsNeeded() ? total - shown : 0; }
+    /// The part that the user drags.
+    Rect Thumb() const;
+    /// How far along the track a place lies.
+    int Along(Point place) const;
+    /// The first step in sight when the thumb starts that far along the track.
+    int FirstAt(int along) const;
 };
 
-/// How a grid divides its area: a header line, the cells, and the scroll bars that are needed.
+/// All that decides what of a grid is in sight. Lengths are twips.
+struct GridExtent {
+    Size size;
+    int rowHeight = 0;
+    int rows = 0;             ///< without the header
+    int topRow = 1;           ///< counted from 1
+    std::vector<int> widths;  ///< of all columns; 0 is hidden
+    int columnsPassed = 0;    ///< how many columns that are not hidden lie to the left of what is in sight
+};
+
+/// How a grid divides its area: a header line, the cells, and the scroll bars that are needed. Places are
+/// twips from the grid's top left corner. Scroll positions beyond the end are drawn back to it.
 struct GridViewport {
+    /// A column in sight; the last one may reach out of the cells' area.
+    struct Strip {
+        int column = 0;
+        int left = 0;
+        int width = 0;
+        int Right() const { return left + width; }
+    };
+
+    static constexpr int Frame = 30;  ///< around everything
+
+    explicit GridViewport(const GridExtent& extent);
+
+    /// Empty for a row out of sight; row 0 is the header.
+    Rect RowArea(int row) const;
+    /// What of a cell is in sight.
+    Rect CellArea(int row, int column) const;
+    /// The row at that height, -1 outside the cells. It may be beyond the last.
+    int RowAt(int y) const;
+    /// The column at that place, -1 where there is none.
+    int ColumnAt(int x) const;
+    /// The last row that is in sight at least in part; it may be beyond the last of the grid.
+    int BottomRow() const;
+
     Rect header;
     Rect cells;
-    int rowsInSight = 0;  ///< whole rows
-    ScrollBar rows;       ///< lines are data rows
-    ScrollBar columns;    ///< lines are twips of column width
+    int rowHeight = 0;
+    int topRow = 1;
+    int wholeRows = 0;  ///< at least 1, so that paging always moves
+    std::vector<Strip> columns;
+    ScrollBar rowBar;
+    ScrollBar columnBar;
 
-    static constexpr int BarThickness = 180;
+  private:
+    void PlaceBars(const GridExtent& extent);
+    void PlaceColumns(const GridExtent& extent);
 };
 
 }  // namespace tavrin::forms

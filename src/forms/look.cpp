@@ -51,7 +51,8 @@ void DrawDropArrow(Surface& surface, const Control& control) {
     const double half = 52;
     const double x = area.Right() - FocusWidth - ArrowWidth / 2.0;
     const double y = area.height / 2.0;
-    const std::array<PointF, 3> arrow{{{x - half, y - half / 2}, {x, y + half / 2}, {x + half, y - half / 2}}};
+    const std::array<PointF, 3> arrow{
+        {{x - half, y - half / 2}, {x, y + half / 2}, {x + half, y - half / 2}}};
     surface.DrawPolyline(arrow, 24, control.IsEffectivelyEnabled() ? scheme::Text : scheme::TextDisabled);
 }
 
@@ -59,12 +60,14 @@ void DrawDropArrow(Surface& surface, const Control& control) {
 
 void DrawRightEdge(Surface& surface, const Rect& area, Color color) {
     DrawClipped(surface, area,
-                {area.left - Beyond, area.top - Beyond, area.width + Beyond, area.height + 2 * Beyond}, color);
+                {area.left - Beyond, area.top - Beyond, area.width + Beyond, area.height + 2 * Beyond},
+                color);
 }
 
 void DrawBottomEdge(Surface& surface, const Rect& area, Color color) {
     DrawClipped(surface, area,
-                {area.left - Beyond, area.top - Beyond, area.width + 2 * Beyond, area.height + Beyond}, color);
+                {area.left - Beyond, area.top - Beyond, area.width + 2 * Beyond, area.height + Beyond},
+                color);
 }
 
 }  // namespace tavrin::forms::look

@@ -7,9 +7,9 @@ namespace tavrin::forms::look {
 
 // What the drawn controls have in common, so that they look like one family.
 
-inline constexpr int Padding = 60;       ///< twips between a frame and what it surrounds
-inline constexpr int FocusWidth = 30;    ///< twips; as wide as the frame of the focused control
-inline constexpr int ArrowWidth = 255;   ///< twips; the part of a field that opens something
+inline constexpr int Padding = 60;      ///< twips between a frame and what it surrounds
+inline constexpr int FocusWidth = 30;   ///< twips; as wide as the frame of the focused control
+inline constexpr int ArrowWidth = 255;  ///< twips; the part of a field that opens something
 
 /// A control's own area: its top left corner is (0, 0).
 Rect AreaOf(const Control& control);
@@ -20,8 +20,8 @@ int PixelsOf(const Surface& surface, int twips);
 /// Colour, font and state of a control's text.
 TextStyle TextStyleOf(const Control& control);
 
-/// The frame of a field or a button: plain, dimmed while the control is disabled, broad and bright while it has the
-/// focus.
+/// The frame of a field or a button: plain, dimmed while the control is disabled, broad and bright while it
+/// has the focus.
 void DrawBorder(Surface& surface, const Control& control);
 
 /// A background with the frame around it.

@@ -7,7 +7,8 @@
 
 namespace tavrin::forms {
 
-TextBox::TextBox(Container& parent, std::string name, Rect bounds) : Control(parent, std::move(name), bounds) {
+TextBox::TextBox(Container& parent, std::string name, Rect bounds)
+    : Control(parent, std::move(name), bounds) {
     SetBackColor(scheme::Field);
     SetForeColor(scheme::Value);
 }

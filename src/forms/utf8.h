@@ -6,8 +6,8 @@
 
 namespace tavrin::forms {
 
-// Positions in edit fields count characters (code points); texts are UTF-8. A byte that cannot begin or continue
-// a character counts as part of the one before it.
+// Positions in edit fields count characters (code points); texts are UTF-8. A byte that cannot begin or
+// continue a character counts as part of the one before it.
 
 int CountCharacters(std::string_view text);
 
