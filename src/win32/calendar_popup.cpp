@@ -67,10 +67,11 @@ void RemoveTheme(HWND window) {
 
 void Darken(HWND calendar) {
     namespace scheme = forms::scheme;
+    // The title's background is also the colour of the weekdays' names and of the chosen day.
     const std::pair<int, forms::Color> colors[] = {
         {MCSC_BACKGROUND, scheme::Window}, {MCSC_MONTHBK, scheme::Field},
-        {MCSC_TEXT, scheme::Value},        {MCSC_TITLEBK, scheme::Face},
-        {MCSC_TITLETEXT, scheme::Text},    {MCSC_TRAILINGTEXT, scheme::TextDisabled},
+        {MCSC_TEXT, scheme::Value},        {MCSC_TITLEBK, scheme::Text},
+        {MCSC_TITLETEXT, scheme::Field},   {MCSC_TRAILINGTEXT, scheme::TextDisabled},
     };
     RemoveTheme(calendar);
     for (const auto& [part, color] : colors)
@@ -117,8 +118,10 @@ CalendarPopup::~CalendarPopup() {
 
 void CalendarPopup::CreateCalendar(const Toolkit& toolkit, const Settings& settings) {
     calendar_.Attach(
-        toolkit.CreateWindowWith(
-            {.className = MONTHCAL_CLASSW, .text = {}, .style = WS_CHILD | WS_VISIBLE, .parent = Handle()}),
+        toolkit.CreateWindowWith({.className = MONTHCAL_CLASSW,
+                                  .text = {},
+                                  .style = WS_CHILD | WS_VISIBLE | MCS_NOTODAY | MCS_NOTODAYCIRCLE,
+                                  .parent = Handle()}),
         {});
     const HWND calendar = calendar_.Handle();
     SendMessageW(calendar, WM_SETFONT, reinterpret_cast<WPARAM>(settings.font), FALSE);

@@ -157,14 +157,20 @@ void ComboPeer::Place() {
     const int height = Height(place) + entryHeight * VisibleEntries + 2;
     SetWindowPos(Handle(), nullptr, place.left, place.top, Width(place), height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
-    // The platform adds borders of its own to the height of the field.
+    FitClosedHeight(Height(place));
+    PlaceField();
+}
+
+void ComboPeer::FitClosedHeight(int height) {
+    // The platform adds borders of its own to the height that it is given; how much shows only afterwards.
+    constexpr int UsualBorders = 6;
+    int field = std::max(1, height - UsualBorders);
+    SendMessageW(Handle(), CB_SETITEMHEIGHT, static_cast<WPARAM>(WholeField), field);
     RECT closed{};
     GetWindowRect(Handle(), &closed);
-    const auto field =
-        static_cast<int>(SendMessageW(Handle(), CB_GETITEMHEIGHT, static_cast<WPARAM>(WholeField), 0));
-    const int wanted = std::max(1, field + Height(place) - Height(closed));
-    if (wanted != field) SendMessageW(Handle(), CB_SETITEMHEIGHT, static_cast<WPARAM>(WholeField), wanted);
-    PlaceField();
+    if (Height(closed) == height) return;
+    field = std::max(1, field + height - Height(closed));
+    SendMessageW(Handle(), CB_SETITEMHEIGHT, static_cast<WPARAM>(WholeField), field);
 }
 
 void ComboPeer::PlaceField() {

@@ -49,6 +49,7 @@ class ComboPeer final : public ControlWindow {
     void ShowText();
     void ShowSelection();
     void ShowFont();
+    void FitClosedHeight(int height);
     void PlaceField();
     int SelectedIndex() const;
     std::string EntryText(int index) const;
