@@ -245,7 +245,38 @@ bool CursValutar::RefusesFrozenDay() {
 }
 
 void CursValutar::SelectWholeRow() {
+    Grid.SetCol(DayColumn);
     Grid.SetColSel(currencyNames_.UpperBound());
+}
+
+void CursValutar::SelectDay(const std::string& dayMonthYear) {
+    for (int row = 1; row < Grid.Rows(); ++row) {
+        if (Grid.TextMatrix(row, DayColumn) != dayMonthYear) continue;
+        Grid.SetRow(row);
+        break;
+    }
+    SelectWholeRow();
+}
+
+// The windows that the list opens. It is disabled while one is up; each enables it again when it closes.
+
+void CursValutar::OpenEntry(const std::string& mode) {
+    SetEnabled(false);
+    module_.Default<CursValutarDetaliu>().ShowForm(currencyNames_, mode);
+}
+
+void CursValutar::OpenCurrencyWindow(const std::string& mode) {
+    SetEnabled(false);
+    auto& window = module_.Default<CereMoneda>();
+    window.Mode = mode;
+    window.Load();
+    window.Show();
+}
+
+void CursValutar::OpenEvolution() {
+    SetEnabled(false);
+    module_.Default<EvolutieCurs>().Show();
+    Unload();
 }
 
 void CursValutar::DeleteSelectedDay() {

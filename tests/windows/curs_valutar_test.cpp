@@ -1,0 +1,500 @@
+#include "rates/curs_valutar.h"
+
+#include <gmock/gmock.h>
+
+#include "rates/cere_moneda.h"
+#include "rates/curs_valutar_detaliu.h"
+#include "rates/evolutie_curs.h"
+#include "support/rates_test.h"
+
+namespace tavrin::tests {
+namespace {
+
+namespace key = forms::key;
+using rates::CursValutar;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* Discover = "SELECT * FROM [Curs Valutar] ";
+constexpr const char* MayList =
+    "SELECT COnvert(nvarchar,[Data],103) AS [D], [Data] , [EUR] , [USD]  FROM [Curs Valutar] "
+    "Where Data between  '2003-05-01' and '2003-05-20'  ORDER BY [Data]";
+constexpr const char* FrozenDate =
+    "SELECT IsNull([Curs], COnvert(smalldatetime,'12:00')) FROM AdmQuadrel.dbo.Societati WHERE Id  =7";
+
+const ShownMessage FrozenMessage{"Acest curs a fost validat !\r\nNu puteti modifica un curs deja validat !",
+                                 16, 0, "Curs Valutar"};
+
+class CursValutarTest : public RatesTest {};
+
+// Opening.
+
+TEST_F(CursValutarTest, OpensOnTheMonthOfTheWorkingDate) {
+    const CursValutar& list = OpenList();
+    EXPECT_EQ(list.Caption(), "Curs Valutar");
+    EXPECT_EQ(list.dpDataIn.Date(), Day(2003, 5, 1));
+    EXPECT_EQ(list.dpDataFin.Date(), Day(2003, 5, 20));
+    EXPECT_EQ(list.dpDataIn.MinDate(), Day(2003, 1, 1));
+    EXPECT_EQ(list.dpDataIn.MaxDate(), Day(2004, 1, 31));
+    EXPECT_EQ(list.dpDataFin.MinDate(), Day(2003, 1, 1));
+    EXPECT_EQ(list.dpDataFin.MaxDate(), Day(2004, 1, 31));
+    EXPECT_THAT(connection->Statements(), ElementsAre(Discover, MayList));
+    EXPECT_EQ(messages.created, 1);
+    EXPECT_THAT(desktop.reports, IsEmpty());
+}
+
+TEST_F(CursValutarTest, AWorkingDateOutsideThePickersRangeIsMovedIntoIt) {
+    module.context.workDate = Day(2010, 7, 15);
+    const CursValutar& list = OpenList();
+    EXPECT_EQ(list.dpDataIn.Date(), Day(2004, 1, 31));
+    EXPECT_EQ(list.dpDataFin.Date(), Day(2004, 1, 31));
+}
+
+TEST_F(CursValutarTest, CaptionsAndIndicesOfTheActions) {
+    CursValutar& list = OpenList();
+    EXPECT_EQ(list.cmdAction[0].Caption(), "Adauga Curs");
+    EXPECT_EQ(list.cmdAction[1].Caption(), "Modifica Curs");
+    EXPECT_EQ(list.cmdAction[2].Caption(), "Sterge Curs");
+    EXPECT_EQ(list.cmdAction[3].Caption(), "  Adauga Moneda");
+    EXPECT_EQ(list.cmdAction[5].Caption(), "  Evolutie Curs");
+    EXPECT_EQ(list.cmdAction[6].Caption(), "Iesire");
+    EXPECT_EQ(list.FindControl("cmdAction(4)"), nullptr);
+    EXPECT_EQ(list.cmdRefresh.Caption(), "Filtreaza");
+    EXPECT_EQ(list.lblLabels[0].Caption(), "De La Data");
+    EXPECT_EQ(list.lblLabels[1].Caption(), "La Data");
+}
+
+TEST_F(CursValutarTest, PickersShowDayMonthNameAndShortYear) {
+    const CursValutar& list = OpenList();
+    EXPECT_EQ(list.dpDataIn.Text(), "01/mai/03");
+    EXPECT_EQ(list.dpDataFin.Text(), "20/mai/03");
+}
+
+// The grid.
+
+TEST_F(CursValutarTest, GridShowsADayARowAndACurrencyAColumn) {
+    const CursValutar& list = OpenList();
+    ASSERT_EQ(list.Grid.Rows(), 6);
+    ASSERT_EQ(list.Grid.Columns(), 4);
+    EXPECT_THAT(RowOf(list.Grid, 0), ElementsAre("Data", "D", "EUR", "USD"));
+    EXPECT_THAT(RowOf(list.Grid, 3), ElementsAre("12/05/2003", "12/05/2003", "37300.5", "32300"));
+    EXPECT_EQ(list.Grid.ColumnWidth(0), 1100);
+    EXPECT_EQ(list.Grid.ColumnWidth(1), 0);
+    EXPECT_EQ(list.Grid.ColumnWidth(2), 1400);
+    EXPECT_EQ(list.Grid.ColumnWidth(3), 1400);
+    EXPECT_EQ(list.Grid.ColumnAlignment(0), forms::Align::Center);
+    EXPECT_EQ(list.Grid.ColumnAlignment(1), forms::Align::Left);
+    EXPECT_EQ(list.Grid.ColumnAlignment(2), forms::Align::Right);
+    EXPECT_TRUE(list.fraGrid.Visible());
+}
+
+TEST_F(CursValutarTest, ATableWithoutCurrenciesListsDaysAlone) {
+    database = std::make_shared<host::EmbeddedDatabase>(":memory:");
+    Run("CREATE TABLE [Curs Valutar] (Data datetime NOT NULL PRIMARY KEY, Validat int)");
+    Run("INSERT INTO [Curs Valutar]([Data]) VALUES('05-08-2003')");
+    auto recording =
+        std::make_shared<RecordingConnection>(std::make_shared<host::EmbeddedConnection>(database));
+    module.context.connection = recording;
+    const CursValutar& list = OpenList();
+    EXPECT_EQ(recording->Statements().back(),
+              "SELECT COnvert(nvarchar,[Data],103) AS [D], [Data]  FROM [Curs Valutar] "
+              "Where Data between  '2003-05-01' and '2003-05-20'  ORDER BY [Data]");
+    EXPECT_EQ(list.Currencies().UpperBound(), 1);
+    EXPECT_EQ(list.Grid.Rows(), 2);
+    EXPECT_THAT(desktop.reports, IsEmpty());
+}
+
+TEST_F(CursValutarTest, NullRatesAreBlankCells) {
+    Run("INSERT INTO [Curs Valutar]([Data],[EUR]) VALUES('05-15-2003',37600)");
+    const CursValutar& list = OpenList();
+    EXPECT_EQ(list.Grid.TextMatrix(6, 2), "37600");
+    EXPECT_EQ(list.Grid.TextMatrix(6, 3), "");
+}
+
+TEST_F(CursValutarTest, AnEmptyRangeHidesTheGridAndDisarmsModifyAndDelete) {
+    module.context.workDate = Day(2003, 2, 20);
+    CursValutar& list = OpenList();
+    EXPECT_FALSE(list.fraGrid.Visible());
+    EXPECT_EQ(list.Grid.DataSource(), nullptr);
+    EXPECT_TRUE(list.cmdAction[1].Enabled());
+    connection->ClearRecord();
+    list.cmdAction[1].Click();
+    list.cmdAction[2].Click();
+    EXPECT_THAT(connection->Statements(), IsEmpty());
+    EXPECT_THAT(messages.shown, IsEmpty());
+    EXPECT_EQ(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
+}
+
+// Filtering.
+
+TEST_F(CursValutarTest, FilteringTakesBothDatesInTheOrderOfThePickers) {
+    CursValutar& list = OpenList();
+    list.dpDataIn.SetDate(Day(2003, 5, 20));
+    list.dpDataFin.SetDate(Day(2003, 5, 1));
+    connection->ClearRecord();
+    list.cmdRefresh.Click();
+    EXPECT_THAT(
+        connection->Statements(),
+        ElementsAre(Discover,
+                    "SELECT COnvert(nvarchar,[Data],103) AS [D], [Data] , [EUR] , [USD]  FROM [Curs Valutar] "
+                    "Where Data between  '2003-05-20' and '2003-05-01'  ORDER BY [Data]"));
+    EXPECT_FALSE(list.fraGrid.Visible());
+    EXPECT_EQ(FocusedControl(), "dpDataFin");
+}
+
+TEST_F(CursValutarTest, FilteringThatFindsDaysFocusesTheGrid) {
+    CursValutar& list = OpenList();
+    list.cmdRefresh.SetFocus();
+    keyboard.Press(key::Enter);
+    EXPECT_EQ(FocusedControl(), "Grid");
+    EXPECT_EQ(list.Grid.Row(), 1);
+}
+
+TEST_F(CursValutarTest, TheGridComesBackWhenTheRangeHasDaysAgain) {
+    module.context.workDate = Day(2003, 2, 20);
+    CursValutar& list = OpenList();
+    list.dpDataFin.SetDate(Day(2003, 5, 20));
+    list.cmdRefresh.Click();
+    EXPECT_TRUE(list.fraGrid.Visible());
+    EXPECT_EQ(list.Grid.Rows(), 6);
+}
+
+TEST_F(CursValutarTest, AFailedRefreshLeavesTheOldListInSight) {
+    CursValutar& list = OpenList();
+    connection->FailStatement("between", data::Error(-2147467259, "Timeout expired"));
+    list.cmdRefresh.Click();
+    EXPECT_THAT(desktop.reports, ElementsAre(HeadlessDesktop::Report{-2147467259, "Timeout expired"}));
+    EXPECT_TRUE(list.fraGrid.Visible());
+    EXPECT_EQ(list.Grid.Rows(), 6);
+    list.cmdRefresh.Click();
+    EXPECT_EQ(desktop.reports.size(), 1U);
+}
+
+// The frozen days.
+
+TEST_F(CursValutarTest, AFrozenDayIsNotModified) {
+    CursValutar& list = OpenList();
+    list.Grid.SetRow(2);
+    list.cmdAction[1].SetFocus();
+    connection->ClearRecord();
+    keyboard.Press(key::Enter);
+    EXPECT_THAT(connection->Statements(), ElementsAre(FrozenDate));
+    EXPECT_THAT(messages.shown, ElementsAre(FrozenMessage));
+    EXPECT_EQ(FocusedControl(), "Grid");
+    EXPECT_EQ(list.Grid.Row(), 2);
+    EXPECT_EQ(list.Grid.ColSel(), 3);
+    EXPECT_EQ(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
+    EXPECT_TRUE(list.Enabled());
+}
+
+TEST_F(CursValutarTest, AFrozenDayIsNotDeletedAndTheTextSpeaksOfModifying) {
+    CursValutar& list = OpenList();
+    list.cmdAction[2].Click();
+    EXPECT_THAT(messages.shown, ElementsAre(FrozenMessage));
+    EXPECT_EQ(CountOf("[Curs Valutar]"), 5);
+}
+
+TEST_F(CursValutarTest, TheFrozenDayItselfIsFrozen) {
+    Run("UPDATE AdmQuadrel.dbo.Societati SET Curs = '05-12-2003' WHERE Id = 7");
+    CursValutar& list = OpenList();
+    list.Grid.SetRow(3);
+    list.cmdAction[2].Click();
+    EXPECT_THAT(messages.shown, ElementsAre(FrozenMessage));
+    messages.shown.clear();
+    list.Grid.SetRow(4);
+    list.cmdAction[2].Click();
+    ASSERT_EQ(messages.shown.size(), 1U);
+    EXPECT_EQ(messages.shown[0].buttons, 4);
+}
+
+TEST_F(CursValutarTest, NothingIsFrozenForACompanyWithoutAValidationDate) {
+    module.context.companyId = 8;
+    CursValutar& list = OpenList();
+    list.cmdAction[2].Click();
+    ASSERT_EQ(messages.shown.size(), 1U);
+    EXPECT_EQ(messages.shown[0].icon, 32);
+}
+
+TEST_F(CursValutarTest, AFrozenDateWithATimeOfDayRoundsToTheNearestDay) {
+    // 11 May 2003 at 18:00 is nearer to 12 May.
+    Run("UPDATE AdmQuadrel.dbo.Societati SET Curs = '2003-05-11 18:00:00' WHERE Id = 7");
+    CursValutar& list = OpenList();
+    list.Grid.SetRow(3);
+    list.cmdAction[2].Click();
+    EXPECT_THAT(messages.shown, ElementsAre(FrozenMessage));
+}
+
+// Deleting.
+
+TEST_F(CursValutarTest, DeletingAsksNamesTheDayAndSendsItMonthFirst) {
+    CursValutar& list = OpenList();
+    list.Grid.SetRow(4);
+    list.Grid.SetCol(2);
+    messages.answers = {6};
+    connection->ClearRecord();
+    list.cmdAction[2].Click();
+    const std::string question =
+        "Sunteti sigur ca doriti sa stergeti cursul valutar pentru data de 13/05/2003";
+    EXPECT_THAT(messages.shown, ElementsAre(ShownMessage{question, 32, 4, "Curs Valutar"}));
+    EXPECT_EQ(module.lastQuestion, question);
+    EXPECT_THAT(
+        connection->Statements(),
+        ElementsAre(FrozenDate, "DELETE FROM [Curs Valutar] WHERE [Data] = '05-13-2003'", Discover, MayList));
+    EXPECT_THAT(ColumnOf(list.Grid, 0),
+                ElementsAre("Data", "08/05/2003", "09/05/2003", "12/05/2003", "14/05/2003"));
+}
+
+TEST_F(CursValutarTest, AnsweringNoDeletesNothingAndFocusesTheGrid) {
+    CursValutar& list = OpenList();
+    list.Grid.SetRow(4);
+    list.Grid.SetCol(2);
+    list.cmdAction[2].SetFocus();
+    keyboard.Press(key::Enter);
+    EXPECT_EQ(CountOf("[Curs Valutar]"), 5);
+    EXPECT_EQ(FocusedControl(), "Grid");
+    EXPECT_EQ(list.Grid.Row(), 4);
+    EXPECT_EQ(list.Grid.Col(), 0);
+}
+
+TEST_F(CursValutarTest, AFailedDeleteIsReportedAndLosesNothing) {
+    CursValutar& list = OpenList();
+    list.Grid.SetRow(4);
+    messages.answers = {6};
+    connection->FailStatement("DELETE", data::Error(-2147217900, "DELETE permission denied"));
+    list.cmdAction[2].Click();
+    EXPECT_THAT(desktop.reports,
+                ElementsAre(HeadlessDesktop::Report{-2147217900, "DELETE permission denied"}));
+    EXPECT_EQ(list.Grid.Rows(), 6);
+    EXPECT_EQ(CountOf("[Curs Valutar]"), 5);
+}
+
+TEST_F(CursValutarTest, DeletingTheLastDayOfTheRangeHidesTheGrid) {
+    CursValutar& list = OpenList();
+    list.dpDataIn.SetDate(Day(2003, 5, 14));
+    list.cmdRefresh.Click();
+    messages.answers = {6};
+    list.cmdAction[2].Click();
+    EXPECT_FALSE(list.fraGrid.Visible());
+}
+
+// The windows it opens.
+
+TEST_F(CursValutarTest, AddingOpensTheEntryWindowAndDisablesTheList) {
+    CursValutar& list = OpenList();
+    list.cmdAction[0].Click();
+    ASSERT_NE(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
+    EXPECT_EQ(module.Loaded<rates::CursValutarDetaliu>()->Caption(), "Curs Valutar - Adaugare");
+    EXPECT_FALSE(list.Enabled());
+}
+
+TEST_F(CursValutarTest, ModifyingOpensTheEntryWindowForADayThatIsNotFrozen) {
+    CursValutar& list = OpenList();
+    list.Grid.SetRow(3);
+    list.cmdAction[1].Click();
+    ASSERT_NE(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
+    EXPECT_EQ(module.Loaded<rates::CursValutarDetaliu>()->Caption(), "Curs Valutar - Modificare");
+}
+
+TEST_F(CursValutarTest, AddingACurrencyOpensItsWindowAndDisablesTheList) {
+    CursValutar& list = OpenList();
+    list.cmdAction[3].Click();
+    ASSERT_NE(module.Loaded<rates::CereMoneda>(), nullptr);
+    EXPECT_EQ(module.Loaded<rates::CereMoneda>()->Mode, "A");
+    EXPECT_FALSE(list.Enabled());
+}
+
+TEST_F(CursValutarTest, RemovingACurrencyIsReachedByCodeAlone) {
+    CursValutar& list = OpenList();
+    list.cmdAction_Click(4);
+    ASSERT_NE(module.Loaded<rates::CereMoneda>(), nullptr);
+    EXPECT_EQ(module.Loaded<rates::CereMoneda>()->Mode, "S");
+    EXPECT_FALSE(list.Enabled());
+}
+
+TEST_F(CursValutarTest, TheLastCurrencyIsNotRemoved) {
+    database = std::make_shared<host::EmbeddedDatabase>(":memory:");
+    Run("CREATE TABLE [Curs Valutar] (Data datetime NOT NULL PRIMARY KEY, Validat int, EUR float)");
+    Run("INSERT INTO [Curs Valutar]([Data],[EUR]) VALUES('05-08-2003',1)");
+    module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
+    CursValutar& list = OpenList();
+    list.dpDataIn.SetFocus();
+    list.cmdAction_Click(4);
+    EXPECT_THAT(messages.shown,
+                ElementsAre(ShownMessage{"Nu puteti sterge toate monedele !", 16, 0, "Curs Valutar"}));
+    EXPECT_EQ(FocusedControl(), "Grid");
+    EXPECT_TRUE(list.Enabled());
+}
+
+TEST_F(CursValutarTest, TheEvolutionWindowTakesTheListsPlace) {
+    CursValutar& list = OpenList();
+    list.cmdAction[5].Click();
+    EXPECT_NE(module.Loaded<rates::EvolutieCurs>(), nullptr);
+    EXPECT_EQ(module.Loaded<CursValutar>(), nullptr);
+    EXPECT_EQ(caller->raised, 1);
+}
+
+// Closing.
+
+TEST_F(CursValutarTest, ClosingRaisesTheExitEventOnce) {
+    OpenList().cmdAction[6].Click();
+    EXPECT_EQ(module.Loaded<CursValutar>(), nullptr);
+    EXPECT_EQ(caller->raised, 1);
+}
+
+TEST_F(CursValutarTest, EscapeClosesFromEveryControl) {
+    for (const char* control : {"Grid", "dpDataIn", "dpDataFin", "cmdRefresh", "cmdAction(0)", "cmdAction(1)",
+                                "cmdAction(2)", "cmdAction(3)", "cmdAction(5)", "cmdAction(6)"}) {
+        OpenList().FindControl(control)->SetFocus();
+        ASSERT_EQ(FocusedControl(), control);
+        keyboard.Press(key::Escape);
+        EXPECT_EQ(module.Loaded<CursValutar>(), nullptr) << control;
+    }
+}
+
+// Keys.
+
+TEST_F(CursValutarTest, TheGridHasTheFocusAtFirst) {
+    OpenList();
+    EXPECT_EQ(FocusedControl(), "Grid");
+}
+
+TEST_F(CursValutarTest, EnterAndTabInTheGridGoToModify) {
+    CursValutar& list = OpenList();
+    for (const int keyCode : {key::Enter, key::Tab}) {
+        list.Grid.SetFocus();
+        keyboard.Press(keyCode);
+        EXPECT_EQ(FocusedControl(), "cmdAction(1)");
+    }
+    EXPECT_EQ(module.Loaded<rates::CursValutarDetaliu>(), nullptr) << "Enter only moves the focus";
+}
+
+TEST_F(CursValutarTest, TabAndRightFromTheFirstTwoButtonsGoToTheFirstDate) {
+    CursValutar& list = OpenList();
+    for (const int button : {0, 1}) {
+        for (const int keyCode : {key::Tab, key::Right}) {
+            list.cmdAction[button].SetFocus();
+            keyboard.Press(keyCode);
+            EXPECT_EQ(FocusedControl(), "dpDataIn");
+        }
+    }
+}
+
+TEST_F(CursValutarTest, TabAndRightFromDeleteAndAddCurrencyGoToTheGrid) {
+    CursValutar& list = OpenList();
+    for (const int button : {2, 3}) {
+        for (const int keyCode : {key::Tab, key::Right}) {
+            list.cmdAction[button].SetFocus();
+            keyboard.Press(keyCode);
+            EXPECT_EQ(FocusedControl(), "Grid");
+        }
+    }
+}
+
+TEST_F(CursValutarTest, TabFromDeleteWalksOnWhileThereIsNoGrid) {
+    module.context.workDate = Day(2003, 2, 20);
+    CursValutar& list = OpenList();
+    list.cmdAction[2].SetFocus();
+    keyboard.Press(key::Tab);
+    EXPECT_EQ(FocusedControl(), "cmdAction(3)");
+}
+
+TEST_F(CursValutarTest, EnterWalksThroughTheRangeToTheFilterButton) {
+    CursValutar& list = OpenList();
+    list.dpDataIn.SetFocus();
+    keyboard.Press(key::Enter);
+    EXPECT_EQ(FocusedControl(), "dpDataFin");
+    keyboard.Press(key::Enter);
+    EXPECT_EQ(FocusedControl(), "cmdRefresh");
+    keyboard.Press(key::Enter);
+    EXPECT_EQ(FocusedControl(), "Grid");
+}
+
+TEST_F(CursValutarTest, LeftInTheSecondDateGoesToTheFirst) {
+    CursValutar& list = OpenList();
+    list.dpDataFin.SetFocus();
+    keyboard.Press(key::Left);
+    EXPECT_EQ(FocusedControl(), "dpDataIn");
+}
+
+TEST_F(CursValutarTest, ADateTypedDigitByDigitFilters) {
+    CursValutar& list = OpenList();
+    list.dpDataIn.SetFocus();
+    keyboard.Type("12\r\r\r");
+    EXPECT_EQ(list.dpDataIn.Date(), Day(2003, 5, 12));
+    EXPECT_EQ(list.Grid.Rows(), 4);
+}
+
+TEST_F(CursValutarTest, EveryButtonIsReachedByKeyboard) {
+    CursValutar& list = OpenList();
+    list.cmdAction[1].SetFocus();
+    for (const char* expected : {"cmdAction(2)", "cmdAction(3)", "cmdAction(5)", "cmdAction(6)"}) {
+        keyboard.Press(key::Down);
+        EXPECT_EQ(FocusedControl(), expected);
+    }
+    list.cmdAction[1].SetFocus();
+    keyboard.Press(key::Up);
+    EXPECT_EQ(FocusedControl(), "cmdAction(0)");
+}
+
+TEST_F(CursValutarTest, StaysOnTopWhenEnteredAndWhenLeft) {
+    CursValutar& list = OpenList();
+    EXPECT_EQ(desktop.CallsOf(list).keptOnTop, 1);
+    desktop.ActivateByUser(nullptr);
+    EXPECT_EQ(desktop.CallsOf(list).keptOnTop, 2);
+}
+
+// Bad surroundings.
+
+TEST_F(CursValutarTest, WithoutAConnectionTheWindowOpensAndSaysSo) {
+    module.context.connection = nullptr;
+    const CursValutar& list = OpenList();
+    ASSERT_EQ(desktop.reports.size(), 1U);
+    EXPECT_EQ(desktop.reports[0].number, 91);
+    EXPECT_TRUE(list.Visible());
+    EXPECT_FALSE(list.fraGrid.Visible());
+}
+
+TEST_F(CursValutarTest, AMissingTableIsReported) {
+    database = std::make_shared<host::EmbeddedDatabase>(":memory:");
+    module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
+    const CursValutar& list = OpenList();
+    EXPECT_EQ(desktop.reports.size(), 1U);
+    EXPECT_TRUE(list.Visible());
+}
+
+TEST_F(CursValutarTest, ABracketInACurrencysNameBreaksTheStatementAndNothingElse) {
+    const auto scripted = std::make_shared<RecordingConnection>();
+    scripted->Script().AnswerRows(Discover, {"Data", "Validat", "E]R"}, {});
+    module.context.connection = scripted;
+    const CursValutar& list = OpenList();
+    EXPECT_EQ(scripted->Statements().back(),
+              "SELECT COnvert(nvarchar,[Data],103) AS [D], [Data] , [E]R]  FROM [Curs Valutar] "
+              "Where Data between  '2003-05-01' and '2003-05-20'  ORDER BY [Data]");
+    EXPECT_EQ(desktop.reports.size(), 1U);
+    EXPECT_TRUE(list.Visible());
+}
+
+TEST_F(CursValutarTest, ALowerCaseValidatColumnIsACurrency) {
+    const auto scripted = std::make_shared<RecordingConnection>();
+    scripted->Script().AnswerRows(Discover, {"Data", "Validat", "validat", "data", "EUR"}, {});
+    module.context.connection = scripted;
+    OpenList();
+    EXPECT_EQ(scripted->Statements().back(),
+              "SELECT COnvert(nvarchar,[Data],103) AS [D], [Data] , [validat] , [data] , [EUR]  FROM [Curs "
+              "Valutar] "
+              "Where Data between  '2003-05-01' and '2003-05-20'  ORDER BY [Data]");
+}
+
+TEST_F(CursValutarTest, AbsurdHostValuesDoNoHarm) {
+    for (const double days : {-657434.0, 0.0, 2958465.0, 1e300, -1e300}) {
+        for (const std::int16_t year : {std::int16_t{-32768}, std::int16_t{0}, std::int16_t{32767}}) {
+            module.context.workDate = {days};
+            module.context.workYear = year;
+            OpenList().Unload();
+        }
+    }
+    SUCCEED();
+}
+
+}  // namespace
+}  // namespace tavrin::tests
