@@ -101,23 +101,33 @@ void EmbeddedDatabase::ThrowRefusal(const dialect::Translation& translation) {
 }
 
 bool EmbeddedDatabase::IsBlank() const {
-    return StoredTables().empty();
+    return Tables().empty();
 }
 
-std::vector<std::string> EmbeddedDatabase::StoredTables() const {
+std::int64_t EmbeddedDatabase::SchemaVersion() const {
+    SqliteStatement statement(database_.get(), {"PRAGMA schema_version", {}});
+    if (!statement.Step()) throw EngineError(database_.get());
+    return statement.Integer(0);
+}
+
+const std::vector<dialect::TableSchema>& EmbeddedDatabase::Tables() const {
+    const std::int64_t version = SchemaVersion();
+    if (version == tablesVersion_) return tables_;
     const dialect::Sql sql{"SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT GLOB 'sqlite_*'",
                            {}};
     SqliteStatement statement(database_.get(), sql);
-    std::vector<std::string> names;
+    std::vector<dialect::TableSchema> tables;
     while (statement.Step())
-        names.push_back(statement.Text(0));
+        tables.push_back(ReadTable(statement.Text(0)));
     if (statement.Result() != SQLITE_DONE) throw EngineError(database_.get());
-    return names;
+    tables_ = std::move(tables);
+    tablesVersion_ = version;
+    return tables_;
 }
 
 std::optional<dialect::TableSchema> EmbeddedDatabase::FindTable(std::string_view storedName) const {
-    for (const std::string& name : StoredTables()) {
-        if (SameName(name, storedName)) return ReadTable(name);
+    for (const dialect::TableSchema& table : Tables()) {
+        if (SameName(table.name, storedName)) return table;
     }
     return std::nullopt;
 }
@@ -150,6 +160,8 @@ void EmbeddedDatabase::Transaction::Commit() {
 
 EmbeddedDatabase::Transaction::~Transaction() {
     if (database_ == nullptr) return;
+    database_->tablesVersion_ =
+        neverRead;  // the version number goes back, and may come again for other tables
     try {
         database_->RunEngineStatement("ROLLBACK");
     } catch (...) {

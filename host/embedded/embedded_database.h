@@ -52,8 +52,9 @@ class EmbeddedDatabase : public dialect::Schema {
 
   private:
     void RunEngineStatement(const char* text);
-    std::vector<std::string> StoredTables() const;
+    const std::vector<dialect::TableSchema>& Tables() const;
     dialect::TableSchema ReadTable(const std::string& name) const;
+    std::int64_t SchemaVersion() const;
     [[noreturn]] void ThrowRefusal(const dialect::Translation& translation);
 
     struct Closer {
@@ -61,6 +62,11 @@ class EmbeddedDatabase : public dialect::Schema {
     };
     PendingError pendingError_;  // before the handle, whose functions write to it
     std::unique_ptr<sqlite3, Closer> database_;
+
+    // Read again whenever the file's schema version has moved on.
+    static constexpr std::int64_t neverRead = -1;
+    mutable std::int64_t tablesVersion_ = neverRead;
+    mutable std::vector<dialect::TableSchema> tables_;
 };
 
 }  // namespace tavrin::host

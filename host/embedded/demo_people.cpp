@@ -1,0 +1,138 @@
+#include "host/embedded/demo_people.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "host/embedded/text_rules.h"
+
+namespace tavrin::host {
+namespace {
+
+constexpr auto families = std::to_array<std::string_view>(
+    {"Albu",  "Anghel",  "Barbu",  "Călinescu", "Ciobanu",   "Constantin", "Cristea", "Dima",
+     "Dobre", "Dumitru", "Enache", "Florea",    "Georgescu", "Grigore",    "Ilie",    "Ionescu",
+     "Lazăr", "Lungu",   "Manole", "Marin",     "Matei",     "Munteanu",   "Neagu",   "Nistor",
+     "Pop",   "Popescu", "Rusu",   "Sandu",     "Șerban",    "Țurcanu"});
+
+constexpr auto givenNames = std::to_array<std::string_view>(
+    {"Adrian", "Alina",   "Ana",   "Andrei", "Bogdan",   "Carmen", "Cătălin", "Cristina",
+     "Dan",    "Daniela", "Elena", "Florin", "Gabriela", "Ioana",  "Ion",     "Irina",
+     "Laura",  "Maria",   "Mihai", "Radu",   "Ștefan",   "Tudor",  "Vasile",  "Viorica"});
+
+struct Town {
+    std::string_view name;
+    std::string_view county;
+    std::string_view prefix;  ///< of telephone numbers
+};
+
+constexpr auto towns = std::to_array<Town>({{"București", "București", "021"},
+                                            {"Cluj-Napoca", "Cluj", "0264"},
+                                            {"Iași", "Iași", "0232"},
+                                            {"Timișoara", "Timiș", "0256"},
+                                            {"Constanța", "Constanța", "0241"},
+                                            {"Craiova", "Dolj", "0251"},
+                                            {"Brașov", "Brașov", "0268"},
+                                            {"Galați", "Galați", "0236"},
+                                            {"Oradea", "Bihor", "0259"},
+                                            {"Suceava", "Suceava", "0230"},
+                                            {"Târgu Mureș", "Mureș", "0265"}});
+
+constexpr auto streets = std::to_array<std::string_view>(
+    {"Florilor", "Lungă", "Morii", "Păcii", "Primăverii", "Teilor", "Viilor"});
+
+constexpr auto trades = std::to_array<std::string_view>(
+    {"Agro", "Birotică", "Construct", "Mobilă", "Panificație", "Textil", "Transport", "Turism"});
+
+constexpr auto departments =
+    std::to_array<std::pair<std::string_view, std::string_view>>({{"Contabilitate", "Contabil"},
+                                                                  {"Contabilitate", "Economist"},
+                                                                  {"Desfacere", "Agent de vânzări"},
+                                                                  {"Aprovizionare", "Merceolog"},
+                                                                  {"Secretariat", "Secretar"},
+                                                                  {"Conducere", "Director"}});
+
+// Steps through all pairs of names in a mixed order; it shares no factor with their count.
+constexpr std::size_t pairStep = 37;
+static_assert(families.size() * givenNames.size() % pairStep != 0);
+static_assert(families.size() * givenNames.size() >= demoPeople);
+
+template <class List>
+std::string Pick(const List& list, std::size_t number) {
+    return std::string(list[number % list.size()]);
+}
+
+std::string WithoutAccents(std::string text) {
+    static constexpr auto plain = std::to_array<std::pair<std::string_view, char>>(
+        {{"ă", 'a'}, {"â", 'a'}, {"î", 'i'}, {"ș", 's'}, {"ț", 't'}});
+    text = FoldCase(text);
+    for (const auto& [accented, letter] : plain) {
+        for (std::size_t at = text.find(accented); at != std::string::npos; at = text.find(accented)) {
+            text.replace(at, accented.size(), 1, letter);
+        }
+    }
+    return text;
+}
+
+std::string ThreeDigits(std::size_t number) {
+    return std::to_string(1000 + number % 1000).substr(1);
+}
+
+std::string Address(std::size_t number) {
+    return "Str. " + Pick(streets, number) + " nr. " + std::to_string(number % 89 + 1);
+}
+
+std::string Quoted(const std::vector<std::string>& values) {
+    std::string list;
+    for (const std::string& value : values)
+        list += (list.empty() ? "'" : ", '") + value + "'";
+    return list;
+}
+
+/// The sixteen values of a person. Every fifth has no firm, every third no telephone at home.
+std::vector<std::string> Person(std::size_t number) {
+    const std::size_t pair = number * pairStep % (families.size() * givenNames.size());
+    const std::string family = Pick(families, pair / givenNames.size());
+    const std::string given = Pick(givenNames, pair);
+    const Town& home = towns[number * 5 % towns.size()];
+    const std::string number3 = ThreeDigits(number);
+    std::vector<std::string> values{family,
+                                    given,
+                                    Address(number),
+                                    std::string(home.name),
+                                    std::string(home.county),
+                                    number % 3 == 0 ? "" : std::string(home.prefix) + "/000" + number3,
+                                    "0700/000" + number3,
+                                    WithoutAccents(given + "." + family) + "@example.ro"};
+    if (number % 5 == 0) {
+        values.resize(16);
+        return values;
+    }
+    const Town& work = towns[number * 3 % towns.size()];
+    const auto& [department, job] = departments[number % departments.size()];
+    const std::string firm = "Exemplu " + Pick(trades, number) + " SRL";
+    const std::string prefix(work.prefix);
+    for (const std::string& value :
+         {firm, Address(number * 7 + 1), std::string(work.name), std::string(work.county),
+          prefix + "/111" + number3, prefix + "/112" + number3, std::string(department), std::string(job)}) {
+        values.push_back(value);
+    }
+    return values;
+}
+
+}  // namespace
+
+void CreateDemoPeople(EmbeddedDatabase& database) {
+    database.Run(
+        "CREATE TABLE Agenda (Nume nvarchar(50), Prenume nvarchar(50), AdresaHome nvarchar(100), OrasHome "
+        "nvarchar(50), JudetHome nvarchar(50), TelefonAcasa nvarchar(30), TelefonMobil nvarchar(30), Email "
+        "nvarchar(100), DescriereFirma nvarchar(100), AdresaFirma nvarchar(100), OrasFirma nvarchar(50), "
+        "JudetFirma nvarchar(50), Telefon nvarchar(30), Fax nvarchar(30), Departament nvarchar(50), Functie "
+        "nvarchar(50), PRIMARY KEY (Nume, Prenume))");
+    for (std::size_t number = 0; number < demoPeople; ++number) {
+        database.Run("INSERT INTO Agenda VALUES (" + Quoted(Person(number)) + ")");
+    }
+}
+
+}  // namespace tavrin::host
