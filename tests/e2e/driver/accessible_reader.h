@@ -1,0 +1,37 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "e2e/driver/ui_thread.h"
+#include "e2e/driver/window.h"
+
+namespace tavrin::e2e {
+
+/// What an assistive tool is told of a control or of one of its parts.
+struct AccessibleFacts {
+    std::string name;
+    std::string value;
+    long role = 0;   ///< ROLE_SYSTEM_...
+    long state = 0;  ///< STATE_SYSTEM_... flags
+    RECT place{};    ///< pixels of the screen
+    int childCount = 0;
+};
+
+/// Asks a control through IAccessible, on the thread that owns it. \throws DriverError when it does not
+/// answer.
+AccessibleFacts ReadAccessible(UiThread& thread, const Window& control);
+
+/// The texts of a table's cells row by row, the header first. Parts that stand at one height make a row.
+using TableTexts = std::vector<std::vector<std::string>>;
+TableTexts ReadTable(UiThread& thread, const Window& table);
+
+/// All parts, in the order of their numbers.
+std::vector<AccessibleFacts> ReadParts(UiThread& thread, const Window& control);
+
+/// What an assistive tool does to press a control. \return the call's result.
+HRESULT DoDefaultAction(UiThread& thread, const Window& control);
+
+}  // namespace tavrin::e2e

@@ -1,0 +1,45 @@
+#include "e2e/driver/component.h"
+
+#include "e2e/driver/wait.h"
+#include "win32/text.h"
+
+namespace tavrin::e2e {
+
+namespace {
+std::wstring componentPath;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+}
+
+Component::Component() : module_(LoadLibraryW(Path().c_str())) {
+    if (!module_) throw DriverError("cannot load " + win32::ToUtf8(Path()));
+}
+
+const std::wstring& Component::Path() {
+    return componentPath;
+}
+
+void Component::SetPath(std::wstring path) {
+    componentPath = std::move(path);
+}
+
+bool Component::IsLoaded() {
+    return GetModuleHandleW(L"Tavrin.dll") != nullptr;
+}
+
+HRESULT Component::GetClassObject(REFCLSID classId, REFIID interfaceId, void** object) const {
+    using Function = HRESULT STDAPICALLTYPE(REFCLSID, REFIID, void**);
+    return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(Export("DllGetClassObject")))(
+        classId, interfaceId, object);
+}
+
+HRESULT Component::Call(const char* name) const {
+    using Function = HRESULT STDAPICALLTYPE();
+    return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(Export(name)))();
+}
+
+FARPROC Component::Export(const char* name) const {
+    const FARPROC address = GetProcAddress(module_.get(), name);
+    if (address == nullptr) throw DriverError(std::string("the component does not export ") + name);
+    return address;
+}
+
+}  // namespace tavrin::e2e

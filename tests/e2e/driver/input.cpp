@@ -1,0 +1,109 @@
+#include "e2e/driver/input.h"
+
+#include <vector>
+
+#include "e2e/driver/wait.h"
+
+namespace tavrin::e2e {
+
+namespace {
+
+enum class Stroke { Down, Up };
+
+bool IsExtended(WORD key) {
+    return (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_INSERT || key == VK_DELETE;
+}
+
+INPUT KeyInput(WORD key, Stroke stroke) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags =
+        (stroke == Stroke::Up ? KEYEVENTF_KEYUP : 0U) | (IsExtended(key) ? KEYEVENTF_EXTENDEDKEY : 0U);
+    return input;
+}
+
+INPUT MouseInput(DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    return input;
+}
+
+LONG Normalized(LONG pixel, int screenSize) {
+    // The middle of the pixel, in 65,536ths of the screen.
+    return static_cast<LONG>((static_cast<long long>(pixel) * 65536 + 32768) / screenSize);
+}
+
+INPUT MoveInput(POINT place) {
+    INPUT input = MouseInput(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE);
+    input.mi.dx = Normalized(place.x, GetSystemMetrics(SM_CXSCREEN));
+    input.mi.dy = Normalized(place.y, GetSystemMetrics(SM_CYSCREEN));
+    return input;
+}
+
+void Send(std::vector<INPUT> inputs) {
+    const UINT sent = SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+    if (sent != inputs.size()) throw DriverError("the system took no input");
+}
+
+}  // namespace
+
+void PressKey(WORD key, std::initializer_list<WORD> held) {
+    std::vector<INPUT> inputs;
+    for (const WORD modifier : held)
+        inputs.push_back(KeyInput(modifier, Stroke::Down));
+    inputs.push_back(KeyInput(key, Stroke::Down));
+    inputs.push_back(KeyInput(key, Stroke::Up));
+    for (const WORD modifier : held)
+        inputs.push_back(KeyInput(modifier, Stroke::Up));
+    Send(std::move(inputs));
+}
+
+void TypeText(std::string_view text) {
+    for (const char character : text) {
+        const SHORT key = VkKeyScanW(static_cast<wchar_t>(character));
+        const bool shifted = (HIBYTE(key) & 1) != 0;
+        shifted ? PressKey(LOBYTE(key), {VK_SHIFT}) : PressKey(LOBYTE(key));
+    }
+}
+
+void MovePointer(POINT place) {
+    Send({MoveInput(place)});
+}
+
+POINT PointerPlace() {
+    POINT place{};
+    GetCursorPos(&place);
+    return place;
+}
+
+void ClickAt(POINT place, Button button) {
+    const bool left = button == Button::Left;
+    Send({MoveInput(place), MouseInput(left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN),
+          MouseInput(left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP)});
+}
+
+void Click(const Window& target, Button button) {
+    const POINT place = target.Center();
+    const HWND hit = WindowFromPoint(place);
+    if (hit != target.Handle() && !IsChild(target.Handle(), hit)) {
+        throw DriverError(target.Name() + " is covered by " + Window(hit).ClassName() + " " +
+                          Window(hit).Name());
+    }
+    ClickAt(place, button);
+}
+
+void Drag(POINT from, POINT to) {
+    constexpr int Steps = 4;
+    std::vector<INPUT> inputs = {MoveInput(from), MouseInput(MOUSEEVENTF_LEFTDOWN)};
+    for (int step = 1; step <= Steps; ++step) {
+        inputs.push_back(
+            MoveInput({from.x + (to.x - from.x) * step / Steps, from.y + (to.y - from.y) * step / Steps}));
+    }
+    inputs.push_back(MouseInput(MOUSEEVENTF_LEFTUP));
+    Send(std::move(inputs));
+}
+
+}  // namespace tavrin::e2e

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <windows.h>
+
+#include <initializer_list>
+#include <string_view>
+
+#include "e2e/driver/window.h"
+
+namespace tavrin::e2e {
+
+// What a user does with keyboard and mouse, put into the system's input queue. All return at once; the effect
+// is to be waited for. Places are pixels of the screen.
+
+/// Presses and releases a key by its virtual-key code, the given ones held.
+void PressKey(WORD key, std::initializer_list<WORD> held = {});
+
+/// Digits, letters and blanks.
+void TypeText(std::string_view text);
+
+enum class Button { Left, Right };
+
+void MovePointer(POINT place);
+POINT PointerPlace();
+/// \throws DriverError when another window covers the place: the click would not arrive.
+void Click(const Window& target, Button button = Button::Left);
+void ClickAt(POINT place, Button button = Button::Left);
+/// Presses the left button, moves in a few steps and lets go.
+void Drag(POINT from, POINT to);
+
+}  // namespace tavrin::e2e

@@ -1,0 +1,166 @@
+#include "e2e/driver/resource_count.h"
+
+#include <psapi.h>
+#include <winternl.h>
+
+#include <array>
+#include <cstdint>
+
+#include "win32/handles.h"
+
+namespace tavrin::e2e {
+
+namespace {
+
+/// A line of the table of GDI objects; the same in 32-bit and 64-bit processes.
+struct GdiEntry {
+    std::uint64_t object;
+    std::uint32_t owner;
+    std::uint16_t unique;
+    std::uint8_t type;
+    std::uint8_t flags;
+    std::uint64_t userPointer;
+};
+static_assert(sizeof(GdiEntry) == 24);
+constexpr int GdiTableSize = 65536;
+
+const GdiEntry* GdiTable() {
+#ifdef _WIN64
+    constexpr std::size_t tableInPeb = 0xF8;
+#else
+    constexpr std::size_t tableInPeb = 0x94;
+#endif
+    const auto* peb = reinterpret_cast<const std::byte*>(NtCurrentTeb()->ProcessEnvironmentBlock);
+    return *reinterpret_cast<const GdiEntry* const*>(peb + tableInPeb);
+}
+
+std::string GdiKind(unsigned type) {
+    switch (type & 0x1F) {
+        case 0x01:
+            return "device context";
+        case 0x04:
+            return "region";
+        case 0x05:
+            return "bitmap";
+        case 0x08:
+            return "palette";
+        case 0x0A:
+            return "font";
+        case 0x10:
+            return "brush or pen";
+        default:
+            return "GDI object " + std::to_string(type);
+    }
+}
+
+std::map<std::string, int> CountGdiObjects() {
+    GdiFlush();
+    std::map<std::string, int> counts;
+    const GdiEntry* table = GdiTable();
+    for (int i = 0; i < GdiTableSize; ++i) {
+        if (table[i].type != 0) ++counts[GdiKind(table[i].type)];
+    }
+    return counts;
+}
+
+struct WindowCounter {
+    DWORD process = GetCurrentProcessId();
+    int count = 0;
+
+    void Add(HWND window) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        if (owner == process) ++count;
+    }
+};
+
+BOOL CALLBACK AddWindow(HWND window, LPARAM counter) {
+    reinterpret_cast<WindowCounter*>(counter)->Add(window);
+    return TRUE;
+}
+
+BOOL CALLBACK AddTopLevelWindow(HWND window, LPARAM counter) {
+    AddWindow(window, counter);
+    EnumChildWindows(window, AddWindow, counter);
+    return TRUE;
+}
+
+int CountWindows() {
+    WindowCounter counter;
+    EnumWindows(AddTopLevelWindow, reinterpret_cast<LPARAM>(&counter));
+    for (HWND window = FindWindowExW(HWND_MESSAGE, nullptr, nullptr, nullptr); window != nullptr;
+         window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr)) {
+        counter.Add(window);
+    }
+    return counter.count;
+}
+
+// Handles of the window manager are even numbers of a small range; without their upper half they stand for
+// whatever lives in their slot now.
+template <class Predicate>
+int CountUserHandles(Predicate&& isCounted) {
+    int count = 0;
+    for (std::uintptr_t slot = 0x20; slot < 0x10000; slot += 2) {
+        if (isCounted(slot)) ++count;
+    }
+    return count;
+}
+
+bool IsIcon(std::uintptr_t slot) {
+    ICONINFO info{};
+    if (!GetIconInfo(reinterpret_cast<HICON>(slot), &info)) return false;
+    // The bitmaps are copies made for the caller.
+    const win32::OwnedBitmap mask(info.hbmMask);
+    const win32::OwnedBitmap color(info.hbmColor);
+    return true;
+}
+
+int CountGlobalAtoms() {
+    int count = 0;
+    std::array<wchar_t, 256> name{};
+    for (unsigned atom = 0xC000; atom <= 0xFFFF; ++atom) {
+        if (GlobalGetAtomNameW(static_cast<ATOM>(atom), name.data(), static_cast<int>(name.size())) != 0)
+            ++count;
+    }
+    return count;
+}
+
+}  // namespace
+
+ResourceCount ResourceCount::Take() {
+    ResourceCount count;
+    count.windows = CountWindows();
+    count.menus = CountUserHandles([](std::uintptr_t slot) { return IsMenu(reinterpret_cast<HMENU>(slot)); });
+    count.icons = CountUserHandles(IsIcon);
+    count.globalAtoms = CountGlobalAtoms();
+    count.gdiObjects = CountGdiObjects();
+    return count;
+}
+
+std::ostream& operator<<(std::ostream& stream, const ResourceCount& count) {
+    for (const auto& [kind, number] : count.gdiObjects)
+        stream << kind << ": " << number << ", ";
+    return stream << "windows: " << count.windows << ", menus: " << count.menus << ", icons: " << count.icons
+                  << ", atoms: " << count.globalAtoms;
+}
+
+int KillThreadTimers(UiThread& thread) {
+    constexpr UINT_PTR LastId = 0x7FFF;
+    return thread.Call([] {
+        int killed = 0;
+        for (UINT_PTR id = 1; id <= LastId; ++id) {
+            if (KillTimer(nullptr, id)) ++killed;
+        }
+        return killed;
+    });
+}
+
+std::size_t PrivateBytes() {
+    PROCESS_MEMORY_COUNTERS_EX counters{};
+    counters.cb = sizeof counters;
+    GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),
+                         sizeof counters);
+    return counters.PrivateUsage;
+}
+
+}  // namespace tavrin::e2e

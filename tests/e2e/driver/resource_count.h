@@ -1,0 +1,37 @@
+#pragma once
+
+#include <windows.h>
+
+#include <map>
+#include <ostream>
+#include <string>
+
+#include "e2e/driver/ui_thread.h"
+
+namespace tavrin::e2e {
+
+/// How much of the system's shared goods this process holds, by kind. Two counts can be compared; the order
+/// of counting does not matter, since counting itself leaves nothing behind.
+struct ResourceCount {
+    std::map<std::string, int>
+        gdiObjects;   ///< by kind, from the table that the process shares with the system
+    int windows = 0;  ///< hidden and message-only ones too
+    int menus = 0;
+    int icons = 0;  ///< cursors too
+    int globalAtoms = 0;
+
+    static ResourceCount Take();
+
+    bool operator==(const ResourceCount&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& stream, const ResourceCount& count);
+
+/// Kills all timers of the thread that belong to no window and counts them: the system tells of them in no
+/// other way. Those of windows go with their windows.
+int KillThreadTimers(UiThread& thread);
+
+/// Memory that the process has to itself, in bytes.
+std::size_t PrivateBytes();
+
+}  // namespace tavrin::e2e

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "e2e/driver/window.h"
+
+namespace tavrin::e2e {
+
+/// Whether any pixel of exactly that colour is to be seen inside the window's place on the screen.
+bool ShowsColor(const Window& window, COLORREF color);
+
+/// Saves the whole screen as `<name>.bmp` in the screenshot folder; without a folder nothing happens.
+void SaveScreenshot(const std::string& name);
+
+/// Where screenshots go: a Windows path, empty for none. Set once, before the tests run.
+void SetScreenshotFolder(std::wstring folder);
+
+}  // namespace tavrin::e2e

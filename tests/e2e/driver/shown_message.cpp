@@ -1,0 +1,73 @@
+#include "e2e/driver/shown_message.h"
+
+#include <algorithm>
+
+#include "e2e/driver/input.h"
+#include "e2e/driver/wait.h"
+
+namespace tavrin::e2e {
+
+namespace {
+
+constexpr int PromptId = 0xFFFF;
+constexpr int AllButtons[] = {IDOK, IDCANCEL, IDABORT, IDRETRY, IDIGNORE, IDYES, IDNO};
+
+// The icon stands in a static control whose number differs between systems.
+HICON ShownIcon(HWND message) {
+    for (HWND child = GetWindow(message, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
+        const auto style = static_cast<DWORD>(GetWindowLongPtrW(child, GWL_STYLE));
+        if (Window(child).ClassName() != "Static" || (style & SS_TYPEMASK) != SS_ICON) continue;
+        return reinterpret_cast<HICON>(SendMessageW(child, STM_GETICON, 0, 0));
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+std::optional<ShownMessage> ShownMessage::Find() {
+    for (const Window& window : TopLevelWindows()) {
+        const bool isMessage =
+            window.ClassName() == "#32770" && GetDlgItem(window.Handle(), PromptId) != nullptr;
+        if (isMessage && window.IsEnabled()) return ShownMessage(window);
+    }
+    return std::nullopt;
+}
+
+ShownMessage ShownMessage::Await() {
+    Require("a message", [] { return Find().has_value(); });
+    return *Find();
+}
+
+std::string ShownMessage::Prompt() const {
+    return Window(GetDlgItem(window_.Handle(), PromptId)).Text();
+}
+
+MessageIcon ShownMessage::Icon() const {
+    const HICON icon = ShownIcon(window_.Handle());
+    if (icon == nullptr) return MessageIcon::None;
+    if (icon == LoadIconW(nullptr, IDI_ERROR)) return MessageIcon::Error;
+    if (icon == LoadIconW(nullptr, IDI_QUESTION)) return MessageIcon::Question;
+    if (icon == LoadIconW(nullptr, IDI_EXCLAMATION)) return MessageIcon::Exclamation;
+    if (icon == LoadIconW(nullptr, IDI_INFORMATION)) return MessageIcon::Information;
+    throw DriverError("the message shows an unknown icon");
+}
+
+std::vector<int> ShownMessage::Buttons() const {
+    std::vector<int> buttons;
+    for (const int id : AllButtons) {
+        const HWND button = GetDlgItem(window_.Handle(), id);
+        if (button != nullptr && IsWindowVisible(button)) buttons.push_back(id);
+    }
+    std::ranges::sort(buttons, {},
+                      [&](int id) { return Window(GetDlgItem(window_.Handle(), id)).ScreenBounds().left; });
+    return buttons;
+}
+
+void ShownMessage::Press(int button) const {
+    const Window target(GetDlgItem(window_.Handle(), button));
+    if (!target.Exists()) throw DriverError("the message has no button " + std::to_string(button));
+    Click(target);
+    Require("the message to close", [&] { return !window_.IsVisible(); });
+}
+
+}  // namespace tavrin::e2e

@@ -1,0 +1,73 @@
+// Usage: tavrin_e2e [--dll PATH] [--screenshots FOLDER] [GoogleTest's options]
+//
+// Tests Tavrin.dll from the outside. The DLL is taken from --dll, else from the environment's TAVRIN_DLL,
+// else from the root of the build folder that this program lies in. The screen is saved where a test fails.
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <string>
+
+#include "e2e/driver/component.h"
+#include "e2e/driver/screen.h"
+#include "win32/text.h"
+
+namespace {
+
+using tavrin::win32::ToWide;
+
+class ScreenshotOfFailure : public testing::EmptyTestEventListener {
+  public:
+    void OnTestPartResult(const testing::TestPartResult& result) override {
+        if (!result.failed()) return;
+        const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
+        if (test == nullptr) return;
+        tavrin::e2e::SaveScreenshot(std::string(test->test_suite_name()) + "." + test->name());
+    }
+};
+
+std::wstring FromEnvironment(const wchar_t* name) {
+    std::array<wchar_t, 1024> value{};
+    const DWORD length = GetEnvironmentVariableW(name, value.data(), static_cast<DWORD>(value.size()));
+    return {value.data(), length};
+}
+
+std::wstring FullPath(const std::wstring& path) {
+    std::array<wchar_t, 1024> full{};
+    const DWORD length =
+        GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+    return {full.data(), length};
+}
+
+std::wstring BesideThisProgram(const wchar_t* relative) {
+    std::array<wchar_t, 1024> program{};
+    GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
+    return FullPath(std::wstring(program.data()) + L"\\..\\" + relative);
+}
+
+std::wstring OptionOr(int count, char** arguments, const char* name, std::wstring otherwise) {
+    for (int i = 1; i + 1 < count; ++i) {
+        if (std::strcmp(arguments[i], name) == 0) return FullPath(ToWide(arguments[i + 1]));
+    }
+    return otherwise;
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    testing::InitGoogleTest(&count, arguments);
+    const std::wstring fromEnvironment = FromEnvironment(L"TAVRIN_DLL");
+    const std::wstring dll = OptionOr(
+        count, arguments, "--dll",
+        fromEnvironment.empty() ? BesideThisProgram(L"..\\..\\Tavrin.dll") : FullPath(fromEnvironment));
+    tavrin::e2e::Component::SetPath(dll);
+    tavrin::e2e::SetScreenshotFolder(
+        OptionOr(count, arguments, "--screenshots", BesideThisProgram(L"screenshots")));
+    testing::UnitTest::GetInstance()->listeners().Append(new ScreenshotOfFailure);  // owned by GoogleTest
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
+    return RUN_ALL_TESTS();
+}
