@@ -1,6 +1,7 @@
 #include "rates/curs_valutar_detaliu.h"
 
 #include <charconv>
+#include <cmath>
 #include <optional>
 
 #include "data/connection.h"
@@ -34,7 +35,8 @@ std::optional<double> NumberIn(std::string text) {
     double number = 0;
     const auto [end, error] =
         std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-    if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+    const bool whole = error == std::errc{} && end == text.data() + text.size();
+    if (!whole || !std::isfinite(number)) return std::nullopt;
     return number;
 }
 

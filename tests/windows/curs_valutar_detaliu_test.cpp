@@ -1,0 +1,438 @@
+#include "rates/curs_valutar_detaliu.h"
+
+#include <gmock/gmock.h>
+
+#include "support/rates_test.h"
+
+namespace tavrin::tests {
+namespace {
+
+namespace key = forms::key;
+using rates::CursValutar;
+using rates::CursValutarDetaliu;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+class CursValutarDetaliuTest : public RatesTest {
+  protected:
+    CursValutarDetaliu& Entry() { return *module.Loaded<CursValutarDetaliu>(); }
+    bool EntryIsOpen() { return module.Loaded<CursValutarDetaliu>() != nullptr; }
+
+    CursValutarDetaliu& OpenToAdd() {
+        OpenList().cmdAction[0].Click();
+        connection->ClearRecord();
+        return Entry();
+    }
+
+    CursValutarDetaliu& OpenToModify(int row) {
+        CursValutar& list = OpenList();
+        list.Grid.SetRow(row);
+        list.cmdAction[1].Click();
+        connection->ClearRecord();
+        return Entry();
+    }
+
+    std::string EditorText() { return Entry().txtCursValutar.Text(); }
+};
+
+const ShownMessage Mandatory{"Valoare obligatorie !", 64, 0, "Curs Valutar - Adaugare"};
+const ShownMessage NotNegative{"Valoarea cursului trebuie sa fie >= 0  !", 64, 0, "Curs Valutar - Adaugare"};
+
+// Opening.
+
+TEST_F(CursValutarDetaliuTest, AddingStartsOnTheWorkingDateWithZeros) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    EXPECT_EQ(entry.Caption(), "Curs Valutar - Adaugare");
+    EXPECT_EQ(entry.DataCurs.Date(), Day(2003, 5, 20));
+    EXPECT_EQ(entry.DataCurs.Text(), "20/05/2003");
+    EXPECT_TRUE(entry.DataCurs.Enabled());
+    EXPECT_EQ(FocusedControl(), "DataCurs");
+    EXPECT_THAT(ColumnOf(entry.Grid, 0), ElementsAre("Moneda", "EUR", "USD"));
+    EXPECT_THAT(ColumnOf(entry.Grid, 1), ElementsAre("Valoare Curs", "0", "0"));
+    EXPECT_EQ(entry.Grid.Columns(), 2);
+    EXPECT_EQ(entry.Grid.ColumnWidth(0), 2000);
+    EXPECT_EQ(entry.Grid.ColumnWidth(1), 1500);
+    EXPECT_FALSE(entry.txtCursValutar.Visible());
+    EXPECT_EQ(entry.txtCursValutar.TextFont(), entry.Grid.TextFont());
+    EXPECT_EQ(entry.lblDescriere.Caption(), "Data Curs Valutar");
+    EXPECT_EQ(entry.cmdAction[0].Caption(), "Accepta");
+    EXPECT_EQ(entry.cmdAction[1].Caption(), "Renunta");
+    EXPECT_EQ(messages.created, 2);
+}
+
+TEST_F(CursValutarDetaliuTest, ModifyingStartsWithTheSelectedDaysRates) {
+    CursValutarDetaliu& entry = OpenToModify(3);
+    EXPECT_EQ(entry.Caption(), "Curs Valutar - Modificare");
+    EXPECT_EQ(entry.DataCurs.Date(), Day(2003, 5, 12));
+    EXPECT_FALSE(entry.DataCurs.Enabled());
+    EXPECT_EQ(FocusedControl(), "Grid");
+    EXPECT_THAT(ColumnOf(entry.Grid, 1), ElementsAre("Valoare Curs", "37300.5", "32300"));
+    EXPECT_THAT(connection->Statements(), IsEmpty());
+}
+
+TEST_F(CursValutarDetaliuTest, AnyOtherModeShowsTheTitleOfModifyingZerosAndSavesNothing) {
+    OpenList();
+    auto& entry = module.Default<CursValutarDetaliu>();
+    entry.ShowForm(module.Loaded<CursValutar>()->Currencies(), "S");
+    EXPECT_EQ(entry.Caption(), "Curs Valutar - Modificare");
+    EXPECT_FALSE(entry.DataCurs.Enabled());
+    EXPECT_THAT(ColumnOf(entry.Grid, 1), ElementsAre("Valoare Curs", "0", "0"));
+    connection->ClearRecord();
+    entry.cmdAction[0].Click();
+    EXPECT_THAT(connection->Statements(), IsEmpty());
+    EXPECT_TRUE(EntryIsOpen());
+    EXPECT_EQ(FocusedControl(), "txtCursValutar");
+}
+
+TEST_F(CursValutarDetaliuTest, TheOpenerIsDisabledAndEnabledAgain) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    CursValutar& list = *module.Loaded<CursValutar>();
+    EXPECT_FALSE(list.Enabled());
+    entry.cmdAction[1].Click();
+    EXPECT_TRUE(list.Enabled());
+    EXPECT_EQ(ActiveWindow(), "CursValutar");
+}
+
+TEST_F(CursValutarDetaliuTest, ClosingReturnsToTheListsRowMarkedAsAWhole) {
+    OpenToModify(4).cmdAction[1].Click();
+    const CursValutar& list = *module.Loaded<CursValutar>();
+    EXPECT_EQ(FocusedControl(), "Grid");
+    EXPECT_EQ(list.Grid.Row(), 4);
+    EXPECT_EQ(list.Grid.Col(), 0);
+    EXPECT_EQ(list.Grid.ColSel(), 3);
+}
+
+// The date.
+
+TEST_F(CursValutarDetaliuTest, EnterOnANewDayProbesItAndStartsAtTheFirstCurrency) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Press(key::Enter);
+    EXPECT_THAT(connection->Statements(),
+                ElementsAre("SELECT 'x' FROM [Curs Valutar] Where [Data] = '2003-05-20'"));
+    EXPECT_EQ(FocusedControl(), "txtCursValutar");
+    EXPECT_EQ(entry.Grid.Row(), 1);
+    EXPECT_EQ(entry.Grid.Col(), 1);
+    EXPECT_EQ(EditorText(), "0");
+    EXPECT_EQ(entry.txtCursValutar.SelLength(), 1);
+}
+
+TEST_F(CursValutarDetaliuTest, EnterOnADayThatExistsOnlyMovesOn) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    entry.DataCurs.SetDate(Day(2003, 5, 14));
+    keyboard.Press(key::Enter);
+    EXPECT_FALSE(entry.txtCursValutar.Visible());
+    EXPECT_EQ(FocusedControl(), "Grid");
+}
+
+TEST_F(CursValutarDetaliuTest, ADateTypedIsTheDateProbed) {
+    OpenToAdd();
+    keyboard.Type("2\r");
+    EXPECT_THAT(connection->Statements(),
+                ElementsAre("SELECT 'x' FROM [Curs Valutar] Where [Data] = '2003-05-02'"));
+}
+
+TEST_F(CursValutarDetaliuTest, TheEditorLiesOverItsCell) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Press(key::Enter);
+    const forms::Rect cell = entry.Grid.CellBounds(1, 1);
+    const forms::Rect grid = entry.Grid.Bounds();
+    EXPECT_EQ(entry.txtCursValutar.Bounds(),
+              (forms::Rect{grid.left + cell.left, grid.top + cell.top, cell.width, cell.height}));
+    EXPECT_FALSE(cell.IsEmpty());
+}
+
+// The editor.
+
+TEST_F(CursValutarDetaliuTest, OnlyDigitsCanBeTyped) {
+    OpenToAdd();
+    keyboard.Type("\r1a2.3,4-5+6 7e8");
+    EXPECT_EQ(EditorText(), "12345678");
+    keyboard.Type("\b");
+    EXPECT_EQ(EditorText(), "1234567");
+}
+
+TEST_F(CursValutarDetaliuTest, AValueIsShownInThousandsAndStoredPlain) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r37500\r");
+    EXPECT_EQ(entry.Grid.TextMatrix(1, 1), "37,500");
+    keyboard.Type("1234567\r\r");
+    EXPECT_FALSE(EntryIsOpen());
+    EXPECT_EQ(CountOf("[Curs Valutar] WHERE Data = '2003-05-20' AND EUR = 37500 AND USD = 1234567"), 1);
+}
+
+TEST_F(CursValutarDetaliuTest, EnterAndDownWalkToTheNextRowAndThenToAccept) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r5\r");
+    EXPECT_EQ(entry.Grid.Row(), 2);
+    EXPECT_EQ(FocusedControl(), "txtCursValutar");
+    keyboard.Press(key::Down);
+    EXPECT_EQ(FocusedControl(), "cmdAction(0)");
+    EXPECT_FALSE(entry.txtCursValutar.Visible());
+    EXPECT_TRUE(EntryIsOpen());
+}
+
+TEST_F(CursValutarDetaliuTest, UpWalksBackAndStaysInTheFirstRow) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r5\r6");
+    keyboard.Press(key::Up);
+    EXPECT_EQ(entry.Grid.Row(), 1);
+    EXPECT_EQ(entry.Grid.TextMatrix(2, 1), "6");
+    EXPECT_EQ(EditorText(), "5");
+    keyboard.Press(key::Up);
+    EXPECT_EQ(entry.Grid.Row(), 1);
+    EXPECT_EQ(FocusedControl(), "txtCursValutar");
+}
+
+TEST_F(CursValutarDetaliuTest, LeftAndRightLeaveOnlyAtTheEndsOfTheText) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r12\r34");
+    keyboard.Press(key::Left);
+    EXPECT_EQ(entry.Grid.Row(), 2);
+    keyboard.Press(key::Left);
+    EXPECT_EQ(entry.txtCursValutar.SelStart(), 0);
+    EXPECT_EQ(entry.Grid.Row(), 2);
+    keyboard.Press(key::Left);
+    EXPECT_EQ(entry.Grid.Row(), 1);
+    keyboard.Press(key::End);
+    keyboard.Press(key::Right);
+    EXPECT_EQ(entry.Grid.Row(), 2);
+}
+
+TEST_F(CursValutarDetaliuTest, AnEmptyCellIsRefusedWhereverTheUserGoes) {
+    for (const int keyCode : {key::Up, key::Down, key::Enter, key::Tab}) {
+        OpenToAdd();
+        keyboard.Type("\r\b");
+        messages.shown.clear();
+        keyboard.Press(keyCode);
+        EXPECT_THAT(messages.shown, ElementsAre(Mandatory)) << keyCode;
+        EXPECT_EQ(FocusedControl(), "txtCursValutar");
+        Entry().Unload();
+    }
+}
+
+TEST_F(CursValutarDetaliuTest, BlanksCountAsEmpty) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Press(key::Enter);
+    keyboard.Paste("   ");
+    keyboard.Press(key::Enter);
+    EXPECT_THAT(messages.shown, ElementsAre(Mandatory));
+    EXPECT_EQ(entry.txtCursValutar.SelLength(), 3) << "the text is selected for typing over it";
+}
+
+TEST_F(CursValutarDetaliuTest, PastedSignsAndLettersAreRefused) {
+    OpenToAdd();
+    keyboard.Press(key::Enter);
+    for (const char* text : {"-5", "abc", "12abc", "1e5", "--", "nan", "inf", "0x10"}) {
+        Entry().txtCursValutar.SelectAll();
+        keyboard.Paste(text);
+        messages.shown.clear();
+        keyboard.Press(key::Enter);
+        EXPECT_THAT(messages.shown, ElementsAre(NotNegative)) << text;
+        EXPECT_EQ(Entry().Grid.Row(), 1);
+    }
+}
+
+TEST_F(CursValutarDetaliuTest, TwentyDigitsAreShownAsTheNumberThatIsStored) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r12345678901234567890\r1\r\r");
+    EXPECT_FALSE(EntryIsOpen());
+    EXPECT_THAT(desktop.reports, IsEmpty());
+    EXPECT_EQ(CountOf("[Curs Valutar] WHERE Data = '2003-05-20'"), 1);
+    (void)entry;
+}
+
+TEST_F(CursValutarDetaliuTest, ACommittedZeroIsShownAndSentAsZero) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r000\r\r");
+    EXPECT_EQ(entry.Grid.TextMatrix(1, 1), "0");
+    connection->ClearRecord();
+    keyboard.Press(key::Enter);
+    EXPECT_EQ(connection->Statements()[2],
+              "INSERT INTO [Curs Valutar]([Data],[EUR],[USD]) VALUES('05-20-2003',0,0)");
+}
+
+TEST_F(CursValutarDetaliuTest, ADecimalValueIsRoundedOnceItsCellWasCommitted) {
+    CursValutarDetaliu& entry = OpenToModify(3);
+    keyboard.Type("\r");
+    EXPECT_EQ(EditorText(), "37300.5");
+    keyboard.Type("\r");
+    EXPECT_EQ(entry.Grid.TextMatrix(1, 1), "37,301");
+    EXPECT_EQ(entry.Grid.TextMatrix(2, 1), "32300");
+}
+
+TEST_F(CursValutarDetaliuTest, ClickingElsewhereCommitsTheCell) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r4321");
+    entry.DataCurs.SetFocus();
+    EXPECT_EQ(entry.Grid.TextMatrix(1, 1), "4,321");
+    EXPECT_FALSE(entry.txtCursValutar.Visible());
+    EXPECT_EQ(FocusedControl(), "DataCurs");
+}
+
+TEST_F(CursValutarDetaliuTest, ClickingElsewhereWithAnEmptyCellGoesBackToIt) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r\b");
+    entry.DataCurs.SetFocus();
+    EXPECT_THAT(messages.shown, ElementsAre(Mandatory));
+    EXPECT_EQ(FocusedControl(), "txtCursValutar");
+}
+
+TEST_F(CursValutarDetaliuTest, EscapeGivesUpFromEveryControl) {
+    for (const char* control : {"DataCurs", "Grid", "cmdAction(0)", "cmdAction(1)"}) {
+        OpenToAdd().FindControl(control)->SetFocus();
+        keyboard.Press(key::Escape);
+        EXPECT_FALSE(EntryIsOpen()) << control;
+    }
+    OpenToAdd();
+    keyboard.Type("\r\b");
+    keyboard.Press(key::Escape);
+    EXPECT_FALSE(EntryIsOpen());
+    EXPECT_THAT(messages.shown, IsEmpty());
+}
+
+TEST_F(CursValutarDetaliuTest, EnterClickAndADigitInTheGridStartEditing) {
+    CursValutarDetaliu& entry = OpenToModify(3);
+    keyboard.Press(key::Down);
+    keyboard.Press(key::Enter);
+    EXPECT_EQ(EditorText(), "32300");
+    entry.Grid.SetFocus();
+    keyboard.Type("7");
+    EXPECT_EQ(EditorText(), "7");
+    entry.Grid.SetFocus();
+    ClickWithMouse(entry.Grid, {300, entry.Grid.CellBounds(1, 0).top + 10});
+    EXPECT_EQ(entry.Grid.Row(), 1);
+    EXPECT_EQ(FocusedControl(), "txtCursValutar");
+}
+
+// Saving.
+
+TEST_F(CursValutarDetaliuTest, InsertingChecksTheFrozenDateThenTheDayThenWrites) {
+    OpenToAdd();
+    keyboard.Type("\r37500\r31900\r");
+    connection->ClearRecord();
+    keyboard.Press(key::Enter);
+    const auto statements = connection->Statements();
+    ASSERT_GE(statements.size(), 3U);
+    EXPECT_EQ(
+        statements[0],
+        "SELECT IsNull([Curs], COnvert(smalldatetime,'12:00')) FROM AdmQuadrel.dbo.Societati WHERE Id  =7");
+    EXPECT_EQ(statements[1], "Select count(*) from [Curs Valutar] where data ='2003-05-20'");
+    EXPECT_EQ(statements[2],
+              "INSERT INTO [Curs Valutar]([Data],[EUR],[USD]) VALUES('05-20-2003',37500,31900)");
+}
+
+TEST_F(CursValutarDetaliuTest, TheListShowsTheNewDayAndMarksIt) {
+    OpenToAdd();
+    keyboard.Type("\r37500\r31900\r\r");
+    const CursValutar& list = *module.Loaded<CursValutar>();
+    EXPECT_EQ(list.Grid.Rows(), 7);
+    EXPECT_EQ(list.Grid.TextMatrix(list.Grid.Row(), 0), "20/05/2003");
+    EXPECT_EQ(list.Grid.ColSel(), 3);
+    EXPECT_TRUE(list.Enabled());
+    EXPECT_EQ(FocusedControl(), "Grid");
+}
+
+TEST_F(CursValutarDetaliuTest, ADayNotLaterThanTheFrozenOneIsRefused) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    for (const int day : {10, 9}) {
+        entry.DataCurs.SetDate(Day(2003, 5, day));
+        messages.shown.clear();
+        entry.cmdAction[0].Click();
+        EXPECT_THAT(messages.shown,
+                    ElementsAre(ShownMessage{
+                        "Data documentului introdus nu poate fi mai mica decit data ultimei validari \r\n"
+                        "Data ultimei validari : 10/05/2003\r\nData document introdus : " +
+                            data::FormatDayMonthYear(Day(2003, 5, day)) + "\r\nAlegeti alta data !",
+                        64, 0, "DATA GRESITA"}));
+        EXPECT_EQ(FocusedControl(), "DataCurs");
+        EXPECT_TRUE(EntryIsOpen());
+    }
+    EXPECT_EQ(CountOf("[Curs Valutar]"), 5);
+}
+
+TEST_F(CursValutarDetaliuTest, ADayThatExistsIsRefused) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    entry.DataCurs.SetDate(Day(2003, 5, 14));
+    entry.cmdAction[0].SetFocus();
+    keyboard.Press(key::Enter);
+    EXPECT_THAT(messages.shown, ElementsAre(ShownMessage{"Exista curs valutar la aceasta data!", 64, 0,
+                                                         "Curs Valutar - Adaugare"}));
+    EXPECT_EQ(FocusedControl(), "DataCurs");
+    EXPECT_EQ(CountOf("[Curs Valutar]"), 5);
+}
+
+TEST_F(CursValutarDetaliuTest, ModifyingWritesWithoutAnyCheck) {
+    OpenToModify(3);
+    keyboard.Type("\r37600\r\r");
+    connection->ClearRecord();
+    keyboard.Press(key::Enter);
+    EXPECT_EQ(connection->Statements()[0],
+              "UPDATE [Curs Valutar] SET [EUR] = 37600, [USD] = 32300  WHERE [Data] = '05-12-2003'");
+    EXPECT_EQ(CountOf("[Curs Valutar] WHERE Data = '2003-05-12' AND EUR = 37600"), 1);
+    const CursValutar& list = *module.Loaded<CursValutar>();
+    EXPECT_EQ(list.Grid.TextMatrix(list.Grid.Row(), 0), "12/05/2003");
+    EXPECT_EQ(list.Grid.TextMatrix(list.Grid.Row(), 2), "37600");
+}
+
+TEST_F(CursValutarDetaliuTest, AcceptTakesTheCellThatIsStillBeingEdited) {
+    CursValutarDetaliu& entry = OpenToModify(3);
+    keyboard.Type("\r41000");
+    entry.cmdAction[0].Click();
+    EXPECT_EQ(CountOf("[Curs Valutar] WHERE Data = '2003-05-12' AND EUR = 41000"), 1);
+}
+
+TEST_F(CursValutarDetaliuTest, AcceptWithAnEmptyCellSavesNothing) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r\b");
+    connection->ClearRecord();
+    entry.cmdAction[0].Click();
+    EXPECT_THAT(connection->Statements(), IsEmpty());
+    EXPECT_TRUE(EntryIsOpen());
+}
+
+TEST_F(CursValutarDetaliuTest, EveryFailingStatementLeavesTheWindowOpenAndNothingWritten) {
+    for (std::size_t failing = 1; failing <= 3; ++failing) {
+        CursValutarDetaliu& entry = OpenToAdd();
+        desktop.reports.clear();
+        connection->FailOperation(failing, data::Error(-2147467259, "Connection is broken"));
+        entry.cmdAction[0].Click();
+        connection->StopFailing();
+        EXPECT_EQ(desktop.reports.size(), 1U) << failing;
+        EXPECT_TRUE(EntryIsOpen());
+        EXPECT_FALSE(module.Loaded<CursValutar>()->Enabled());
+        EXPECT_EQ(CountOf("[Curs Valutar]"), 5);
+        Entry().cmdAction[1].Click();
+        EXPECT_TRUE(module.Loaded<CursValutar>()->Enabled());
+    }
+}
+
+TEST_F(CursValutarDetaliuTest, ARefreshThatFailsAfterSavingLeavesTheListUsable) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    connection->FailStatement("SELECT * FROM", data::Error(-2147467259, "Connection is broken"));
+    entry.cmdAction[0].Click();
+    EXPECT_EQ(desktop.reports.size(), 1U);
+    EXPECT_FALSE(EntryIsOpen());
+    EXPECT_TRUE(module.Loaded<CursValutar>()->Enabled());
+    EXPECT_EQ(CountOf("[Curs Valutar]"), 6);
+}
+
+TEST_F(CursValutarDetaliuTest, WithoutCurrenciesThereIsNothingToEdit) {
+    database = std::make_shared<host::EmbeddedDatabase>(":memory:");
+    Run("CREATE TABLE [Curs Valutar] (Data datetime NOT NULL PRIMARY KEY, Validat int)");
+    module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
+    OpenList().cmdAction[0].Click();
+    keyboard.Press(key::Enter);
+    EXPECT_FALSE(Entry().txtCursValutar.Visible());
+    EXPECT_THAT(desktop.reports, IsEmpty());
+}
+
+TEST_F(CursValutarDetaliuTest, StaysOnTopWhenEnteredAndWhenLeft) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    EXPECT_EQ(desktop.CallsOf(entry).keptOnTop, 1);
+    desktop.ActivateByUser(nullptr);
+    EXPECT_EQ(desktop.CallsOf(entry).keptOnTop, 2);
+}
+
+}  // namespace
+}  // namespace tavrin::tests
