@@ -1,0 +1,358 @@
+#include "rates/evolutie_curs.h"
+
+#include <gmock/gmock.h>
+
+#include "support/rates_test.h"
+
+namespace tavrin::tests {
+namespace {
+
+namespace key = forms::key;
+using forms::Chart;
+using rates::CursValutar;
+using rates::EvolutieCurs;
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class EvolutieCursTest : public RatesTest {
+  protected:
+    EvolutieCurs& Open() {
+        auto& window = module.Default<EvolutieCurs>();
+        window.Show();
+        return window;
+    }
+
+    /// Month 1 to 12, 13 for the whole year.
+    EvolutieCurs& OpenAndDraw(int month) {
+        EvolutieCurs& window = Open();
+        window.cmbLuna.SetListIndex(month - 1);
+        connection->ClearRecord();
+        window.cmdAction[1].Click();
+        return window;
+    }
+
+    static std::vector<std::string> LabelsOf(const Chart& chart) {
+        std::vector<std::string> labels;
+        for (int row = 1; row <= chart.RowCount(); ++row)
+            labels.push_back(chart.Row(row).label);
+        return labels;
+    }
+
+    /// Days of the first `months` months of 2002, one a month.
+    void AddMonthsOf2002(int months) {
+        for (int month = 1; month <= months; ++month) {
+            const std::string text = (month < 10 ? "0" : "") + std::to_string(month);
+            AddDay(text + "-15-2002", 25000.125 + 1000 * month, 30000);
+        }
+    }
+};
+
+// Opening.
+
+TEST_F(EvolutieCursTest, OpensWithItsPromptAndItsLists) {
+    AddMonthsOf2002(1);
+    const EvolutieCurs& window = Open();
+    EXPECT_EQ(window.Caption(), "Evolutie Curs");
+    EXPECT_THAT(connection->Statements(),
+                ElementsAre("SELECT * FROM [Curs Valutar]",
+                            "SELECT DISTINCT YEAR(Data) AS AN FROM [Curs Valutar] ORDER BY YEAR(Data)"));
+    EXPECT_EQ(window.cmbLuna.ListCount(), 13);
+    EXPECT_EQ(window.cmbLuna.Text(), "Ianuarie");
+    EXPECT_EQ(window.cmbLuna.Item(8), "Septembrie");
+    EXPECT_EQ(window.cmbLuna.Item(12), "Toate Perioadele");
+    EXPECT_EQ(window.cmbMoneda.ListCount(), 2);
+    EXPECT_EQ(window.cmbMoneda.Text(), "EUR");
+    EXPECT_EQ(window.cmbAn.ListCount(), 2);
+    EXPECT_EQ(window.cmbAn.Text(), "2002");
+    EXPECT_EQ(window.cmdAction[0].Caption(), "Iesire");
+    EXPECT_EQ(window.cmdAction[1].Caption(), "  Actualizare Grafic");
+    EXPECT_EQ(window.MSChart1.RowCount(), 31);
+    EXPECT_EQ(window.Grid.TextMatrix(0, 0), "Zi");
+    EXPECT_EQ(window.Grid.TextMatrix(0, 1), "Curs valutar");
+    EXPECT_EQ(window.Grid.ColumnWidth(0), 500);
+    EXPECT_EQ(window.Grid.ColumnWidth(1), 1800);
+    EXPECT_EQ(window.Grid.ColumnAlignment(0), forms::Align::Right);
+    EXPECT_EQ(window.Grid.ColumnAlignment(1), forms::Align::Right);
+    EXPECT_EQ(window.Bounds().left, (desktop.ScreenSize().width - window.Bounds().width) / 2);
+    EXPECT_EQ(window.Bounds().top, (desktop.ScreenSize().height - window.Bounds().height) / 2);
+}
+
+TEST_F(EvolutieCursTest, ThePromptStandsWhereTheChartWillBe) {
+    const EvolutieCurs& window = Open();
+    EXPECT_TRUE(window.fraMesaj.Visible());
+    EXPECT_TRUE(window.lblMesaj1.Visible());
+    EXPECT_FALSE(window.lblMesaj2.Visible());
+    EXPECT_FALSE(window.MSChart1.Visible());
+    EXPECT_FALSE(window.Line2.Visible());
+    EXPECT_EQ(window.lblMesaj1.Caption(),
+              "ALEGETI ANUL - LUNA - MONEDA PENTRU CARE DORITI SA VIZUALIZATI EVOLUTIA CURSULUI");
+    EXPECT_EQ(window.lblMesaj2.Caption(),
+              "PENTRU ANUL SI LUNA ALESE NU S-AU GASIT VALORI ALE CURSULUI IN BAZA DE DATE ! ALEGETI ALTE "
+              "VALORI !");
+}
+
+TEST_F(EvolutieCursTest, WithoutAnyRatesTheYearComesFromTheHost) {
+    Run("DELETE FROM [Curs Valutar]");
+    const EvolutieCurs& window = Open();
+    EXPECT_EQ(connection->Log().back(), "Execute: SELECT An FROM An");
+    EXPECT_EQ(window.cmbAn.ListCount(), 1);
+    EXPECT_EQ(window.cmbAn.ListIndex(), 0);
+    EXPECT_EQ(window.cmbAn.Text(), "2003");
+}
+
+TEST_F(EvolutieCursTest, ChoosingDrawsNothing) {
+    EvolutieCurs& window = Open();
+    connection->ClearRecord();
+    window.cmbLuna.SetListIndex(4);
+    window.cmbMoneda.SetListIndex(1);
+    EXPECT_THAT(connection->Statements(), IsEmpty());
+    EXPECT_FALSE(window.MSChart1.Visible());
+}
+
+// A month.
+
+TEST_F(EvolutieCursTest, AMonthAsksForItsDaysLimitsAndCount) {
+    OpenAndDraw(5);
+    EXPECT_THAT(
+        connection->Statements(),
+        ElementsAre("SELECT DAY(Data)  as Data , [EUR]  As [Curs valutar] FROM [Curs Valutar] "
+                    "WHERE YEAR(Data) = 2003  And Month(Data) = 5 ORDER BY Data ",
+                    "SELECT MIN([EUR]) AS Minim, MAX([EUR]) AS Maxim FROM [Curs Valutar]  "
+                    "Where Year(Data) = 2003  And Month(Data) = 5",
+                    "SELECT Count(*)  FROM [Curs Valutar] WHERE YEAR(Data) = 2003  And Month(Data) = 5"));
+}
+
+TEST_F(EvolutieCursTest, AMonthIsDrawnDayByDay) {
+    const EvolutieCurs& window = OpenAndDraw(5);
+    EXPECT_EQ(window.MSChart1.RowCount(), 5);
+    EXPECT_THAT(LabelsOf(window.MSChart1), ElementsAre("8", "9", "12", "13", "14"));
+    EXPECT_EQ(window.MSChart1.Row(3).value, 37300.5);
+    EXPECT_EQ(window.MSChart1.Minimum(), 37100);
+    EXPECT_EQ(window.MSChart1.Maximum(), 37500);
+    EXPECT_THAT(ColumnOf(window.Grid, 0), ElementsAre("Zi", "8", "9", "12", "13", "14"));
+    EXPECT_THAT(ColumnOf(window.Grid, 1),
+                ElementsAre("Curs valutar", "37100", "37200", "37300.5", "37400", "37500"));
+}
+
+TEST_F(EvolutieCursTest, DrawingShowsTheChartAndFocusesTheGrid) {
+    const EvolutieCurs& window = OpenAndDraw(5);
+    EXPECT_TRUE(window.MSChart1.Visible());
+    EXPECT_TRUE(window.Line2.Visible());
+    EXPECT_FALSE(window.MSChart1.Enabled());
+    EXPECT_FALSE(window.fraMesaj.Visible());
+    EXPECT_FALSE(window.lblMesaj1.Visible());
+    EXPECT_FALSE(window.lblMesaj2.Visible());
+    EXPECT_EQ(FocusedControl(), "Grid");
+}
+
+TEST_F(EvolutieCursTest, AMonthOfOneDayIsDrawn) {
+    AddDay("07-01-2003", 38000, 32000);
+    const EvolutieCurs& window = OpenAndDraw(7);
+    EXPECT_THAT(LabelsOf(window.MSChart1), ElementsAre("1"));
+    EXPECT_EQ(window.MSChart1.Minimum(), window.MSChart1.Maximum());
+}
+
+TEST_F(EvolutieCursTest, ANullRateLeavesItsRowOpen) {
+    Run("INSERT INTO [Curs Valutar]([Data],[USD]) VALUES('05-15-2003',32000)");
+    const EvolutieCurs& window = OpenAndDraw(5);
+    EXPECT_EQ(window.MSChart1.RowCount(), 6);
+    EXPECT_EQ(window.MSChart1.Row(6).label, "15");
+    EXPECT_EQ(window.MSChart1.Row(6).value, std::nullopt);
+    EXPECT_THAT(desktop.reports, IsEmpty());
+}
+
+TEST_F(EvolutieCursTest, AMonthOfNullRatesIsDrawnEmpty) {
+    Run("INSERT INTO [Curs Valutar]([Data],[USD]) VALUES('08-15-2003',32000)");
+    const EvolutieCurs& window = OpenAndDraw(8);
+    EXPECT_EQ(window.MSChart1.Minimum(), 0);
+    EXPECT_EQ(window.MSChart1.Maximum(), 0);
+    EXPECT_TRUE(window.MSChart1.Visible());
+    EXPECT_THAT(desktop.reports, IsEmpty());
+}
+
+// A year.
+
+TEST_F(EvolutieCursTest, AYearAsksForMonthlyAveragesAsMoney) {
+    OpenAndDraw(13);
+    EXPECT_THAT(connection->Statements(),
+                ElementsAre("SELECT Month(Data)  as Data ,  CONVERT(NVARCHAR,CONVERT(money,AVG([EUR])), 1)  "
+                            "As [Curs valutar] FROM [Curs Valutar] WHERE YEAR(Data) = 2003 "
+                            "GROUP BY Month(Data)  ORDER BY Data ",
+                            "SELECT MIN([EUR]) AS Minim, MAX([EUR]) AS Maxim FROM [Curs Valutar]  "
+                            "Where Year(Data) = 2003"));
+}
+
+TEST_F(EvolutieCursTest, AveragesComeWithThousandsCommasThatTheChartDrops) {
+    AddMonthsOf2002(3);
+    const EvolutieCurs& window = OpenAndDraw(13);
+    EXPECT_EQ(window.Grid.TextMatrix(1, 1), "26,000.13");
+    EXPECT_EQ(window.MSChart1.Row(1).value, 26000.13);
+    EXPECT_EQ(window.MSChart1.Minimum(), 26000.125);
+    EXPECT_EQ(window.MSChart1.Maximum(), 28000.125);
+}
+
+TEST_F(EvolutieCursTest, MonthsWithoutDataAreNumberedWhenThereAreThreeOrMore) {
+    AddMonthsOf2002(9);
+    EXPECT_THAT(LabelsOf(OpenAndDraw(13).MSChart1),
+                ElementsAre("1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12"));
+}
+
+TEST_F(EvolutieCursTest, OneOrTwoMonthsWithoutDataStayUnlabelled) {
+    AddMonthsOf2002(10);
+    const EvolutieCurs& window = OpenAndDraw(13);
+    EXPECT_EQ(window.MSChart1.RowCount(), 12);
+    EXPECT_EQ(LabelsOf(window.MSChart1)[9], "10");
+    EXPECT_EQ(LabelsOf(window.MSChart1)[10], "");
+    EXPECT_EQ(LabelsOf(window.MSChart1)[11], "");
+    EXPECT_EQ(window.MSChart1.Row(11).value, std::nullopt);
+    AddDay("11-15-2002", 36000, 1);
+    EvolutieCurs& again = *module.Loaded<EvolutieCurs>();
+    again.cmdAction[1].Click();
+    EXPECT_EQ(LabelsOf(again.MSChart1)[11], "");
+}
+
+TEST_F(EvolutieCursTest, RowsBeyondTheDataKeepNoValuesOfAnEarlierDrawing) {
+    AddMonthsOf2002(12);
+    EvolutieCurs& window = OpenAndDraw(13);
+    window.cmbAn.SetListIndex(1);
+    window.cmdAction[1].Click();
+    EXPECT_EQ(window.MSChart1.RowCount(), 12);
+    EXPECT_EQ(window.MSChart1.Row(1).label, "5");
+    EXPECT_EQ(window.MSChart1.Row(1).value, 37300.1);
+    EXPECT_EQ(window.MSChart1.Row(2).label, "2");
+    EXPECT_EQ(window.MSChart1.Row(2).value, std::nullopt);
+}
+
+// Nothing to show.
+
+TEST_F(EvolutieCursTest, AMonthWithoutRatesSaysSo) {
+    EvolutieCurs& window = OpenAndDraw(5);
+    window.cmbLuna.SetListIndex(0);
+    connection->ClearRecord();
+    window.cmdAction[1].Click();
+    EXPECT_EQ(connection->Statements().size(), 1U);
+    EXPECT_FALSE(window.MSChart1.Visible());
+    EXPECT_FALSE(window.Line2.Visible());
+    EXPECT_TRUE(window.fraMesaj.Visible());
+    EXPECT_FALSE(window.lblMesaj1.Visible());
+    EXPECT_TRUE(window.lblMesaj2.Visible());
+    EXPECT_EQ(window.MSChart1.RowCount(), 31);
+    EXPECT_EQ(FocusedControl(), "cmbAn");
+}
+
+TEST_F(EvolutieCursTest, AFailingStatementIsReportedAndTheWindowGoesOn) {
+    for (std::size_t failing = 1; failing <= 3; ++failing) {
+        EvolutieCurs& window = Open();
+        window.cmbLuna.SetListIndex(4);
+        desktop.reports.clear();
+        connection->FailOperation(failing == 1   ? 1
+                                  : failing == 2 ? 4
+                                                 : 7,
+                                  data::Error(-2147467259, "Timeout expired"));
+        window.cmdAction[1].Click();
+        connection->StopFailing();
+        EXPECT_EQ(desktop.reports.size(), 1U) << failing;
+        window.cmdAction[1].Click();
+        EXPECT_TRUE(window.MSChart1.Visible());
+        window.Unload();
+    }
+}
+
+TEST_F(EvolutieCursTest, ATableWithoutCurrenciesOpensAllTheSame) {
+    database = std::make_shared<host::EmbeddedDatabase>(":memory:");
+    Run("CREATE TABLE [Curs Valutar] (Data datetime NOT NULL PRIMARY KEY, Validat int)");
+    Run("INSERT INTO [Curs Valutar]([Data]) VALUES('05-08-2003')");
+    module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
+    EvolutieCurs& window = Open();
+    EXPECT_THAT(desktop.reports, IsEmpty());
+    window.cmdAction[1].Click();
+    EXPECT_TRUE(window.IsLoaded());
+}
+
+// Keys.
+
+TEST_F(EvolutieCursTest, EnterInAListGoesToTheNextControl) {
+    Open();
+    EXPECT_EQ(FocusedControl(), "cmbAn");
+    for (const char* expected : {"cmbLuna", "cmbMoneda", "cmdAction(1)"}) {
+        keyboard.Press(key::Enter);
+        EXPECT_EQ(FocusedControl(), expected);
+    }
+}
+
+TEST_F(EvolutieCursTest, ListsDoNotGoAroundTheirEndsAndIgnoreLeft) {
+    EvolutieCurs& window = Open();
+    window.cmbLuna.SetFocus();
+    keyboard.Press(key::Up);
+    EXPECT_EQ(window.cmbLuna.ListIndex(), 0);
+    keyboard.Press(key::Down);
+    EXPECT_EQ(window.cmbLuna.ListIndex(), 1);
+    keyboard.Press(key::Left);
+    EXPECT_EQ(window.cmbLuna.ListIndex(), 1);
+    window.cmbLuna.SetListIndex(12);
+    keyboard.Press(key::Down);
+    EXPECT_EQ(window.cmbLuna.ListIndex(), 12);
+    EXPECT_EQ(FocusedControl(), "cmbLuna");
+}
+
+TEST_F(EvolutieCursTest, TheFocusedListIsGrey) {
+    EvolutieCurs& window = Open();
+    for (forms::ComboBox* combo : {&window.cmbAn, &window.cmbLuna, &window.cmbMoneda}) {
+        combo->SetFocus();
+        EXPECT_EQ(combo->BackColor(), 0x404040U);
+        window.Grid.SetFocus();
+        EXPECT_EQ(combo->BackColor(), 0U);
+    }
+}
+
+TEST_F(EvolutieCursTest, DownFromAButtonGoesToTheGridOnceThereIsAChart) {
+    EvolutieCurs& window = Open();
+    window.cmdAction[1].SetFocus();
+    keyboard.Press(key::Down);
+    EXPECT_NE(FocusedControl(), "Grid");
+    window.cmbLuna.SetListIndex(4);
+    window.cmdAction[1].Click();
+    window.cmdAction[1].SetFocus();
+    keyboard.Press(key::Down);
+    EXPECT_EQ(FocusedControl(), "Grid");
+}
+
+TEST_F(EvolutieCursTest, RightOnAButtonIsSwallowed) {
+    EvolutieCurs& window = Open();
+    window.cmdAction[1].SetFocus();
+    keyboard.Press(key::Right);
+    EXPECT_EQ(FocusedControl(), "cmdAction(1)");
+}
+
+TEST_F(EvolutieCursTest, EscapeClosesFromEveryControl) {
+    for (const char* control : {"cmbAn", "cmbLuna", "cmbMoneda", "cmdAction(0)", "cmdAction(1)", "Grid"}) {
+        Open().FindControl(control)->SetFocus();
+        keyboard.Press(key::Escape);
+        EXPECT_EQ(module.Loaded<EvolutieCurs>(), nullptr) << control;
+    }
+}
+
+// Closing.
+
+TEST_F(EvolutieCursTest, ClosingEnablesTheListAndMakesOneWhereThereIsNone) {
+    CursValutar& list = OpenList();
+    list.SetEnabled(false);
+    Open().cmdAction[0].Click();
+    EXPECT_TRUE(list.Enabled());
+    list.cmdAction[5].Click();
+    EXPECT_EQ(module.Loaded<CursValutar>(), nullptr);
+    module.Loaded<EvolutieCurs>()->cmdAction[0].Click();
+    EXPECT_TRUE(module.Default<CursValutar>().Enabled());
+    EXPECT_EQ(OpenList().Grid.Rows(), 6);
+}
+
+TEST_F(EvolutieCursTest, StaysOnTopWhenEnteredAndWhenLeft) {
+    const EvolutieCurs& window = Open();
+    EXPECT_EQ(desktop.CallsOf(window).keptOnTop, 1);
+    desktop.ActivateByUser(nullptr);
+    EXPECT_EQ(desktop.CallsOf(window).keptOnTop, 2);
+}
+
+}  // namespace
+}  // namespace tavrin::tests
