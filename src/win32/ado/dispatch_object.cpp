@@ -59,9 +59,9 @@ void DispatchObject::Put(std::wstring_view property, const Variant& value) const
     Invoke(Resolve(property), isObject ? DISPATCH_PROPERTYPUTREF : DISPATCH_PROPERTYPUT, parameters);
 }
 
-bool DispatchObject::Has(std::wstring_view member) const {
+std::optional<DISPID> DispatchObject::Find(std::wstring_view member) const {
     DISPID id = DISPID_UNKNOWN;
-    return object_ && SUCCEEDED(TryResolve(member, id));
+    return FAILED(TryResolve(member, id)) ? std::nullopt : std::optional(id);
 }
 
 DISPID DispatchObject::Resolve(std::wstring_view member) const {

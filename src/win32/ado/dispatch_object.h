@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -56,7 +57,8 @@ class DispatchObject {
         return InvokeWith(id, DISPATCH_METHOD, arguments...);
     }
 
-    bool Has(std::wstring_view member) const;
+    /// The number of a member, nothing where the object has none of that name.
+    std::optional<DISPID> Find(std::wstring_view member) const;
 
   private:
     /// Arguments are given in the order in which they are written; COM wants them the other way round.

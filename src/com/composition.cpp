@@ -1,0 +1,25 @@
+#include "com/composition.h"
+
+#include "rates/curs_valutar.h"
+#include "shell/utilitati.h"
+
+namespace tavrin::com {
+namespace {
+
+constexpr int CalculatorButton = 2;
+
+}  // namespace
+
+void AddWindows(shell::Module& module) {
+    module.AddLauncher("CursValutar",
+                       [](shell::Module& owner) { owner.Default<rates::CursValutar>().ShowForm(); });
+}
+
+void OpenPalette(shell::Module& module) {
+    auto& palette = module.Default<shell::Utilitati>();
+    palette.Load();
+    palette.Show();
+    palette.cmdAction[CalculatorButton].SetFocus();
+}
+
+}  // namespace tavrin::com

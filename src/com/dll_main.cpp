@@ -1,0 +1,70 @@
+// The four exports and the one object that stands behind them. Nothing is done at process detach: by then the
+// host's objects and other modules may be gone.
+
+#include <windows.h>
+
+#include <objbase.h>
+#include <tavrin_interfaces.h>
+
+#include <cstddef>
+#include <new>
+
+#include "com/class_factory.h"
+#include "com/failure.h"
+#include "com/registration.h"
+#include "com/server.h"
+
+namespace tavrin::com {
+namespace {
+
+HINSTANCE instance = nullptr;
+
+/// Holds an object that is never destroyed. Server::Retire empties it when the component may go.
+template <class Object>
+class NeverDestroyed {
+  public:
+    template <class... Arguments>
+    explicit NeverDestroyed(Arguments&&... arguments)
+        : object_(new (storage_) Object(std::forward<Arguments>(arguments)...)) {}
+    Object& Get() { return *object_; }
+
+  private:
+    alignas(Object) std::byte storage_[sizeof(Object)];
+    Object* object_;
+};
+
+Server& TheServer() {
+    static NeverDestroyed<Server> server(instance);
+    return server.Get();
+}
+
+}  // namespace
+}  // namespace tavrin::com
+
+using namespace tavrin::com;
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void*) noexcept {
+    if (reason == DLL_PROCESS_ATTACH) instance = module;
+    return TRUE;
+}
+
+STDAPI DllCanUnloadNow() noexcept try { return TheServer().Retire() ? S_OK : S_FALSE; } catch (...) {
+    return S_FALSE;
+}
+
+STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object) noexcept try {
+    if (object == nullptr) return E_POINTER;
+    *object = nullptr;
+    if (!IsEqualCLSID(classId, __uuidof(::Utile))) return CLASS_E_CLASSNOTAVAILABLE;
+    return tavrin::win32::MakeObject<ClassFactory>(TheServer())->QueryInterface(id, object);
+} catch (...) {
+    return CurrentFailure().result;
+}
+
+STDAPI DllRegisterServer() noexcept try { return Register(TheServer()); } catch (...) {
+    return CurrentFailure().result;
+}
+
+STDAPI DllUnregisterServer() noexcept try { return Unregister(TheServer()); } catch (...) {
+    return CurrentFailure().result;
+}

@@ -1,0 +1,38 @@
+#include "com/server.h"
+
+#include <utility>
+
+#include "com/composition.h"
+#include "win32/message_service.h"
+
+namespace tavrin::com {
+
+shell::Module& Server::Module() {
+    if (module_ != nullptr) return *module_;
+    auto desktop = std::make_unique<win32::Desktop>(instance_);
+    auto module = std::make_unique<shell::Module>(
+        *desktop, [desktop = desktop.get()] { return std::make_unique<win32::MessageService>(*desktop); });
+    AddWindows(*module);
+    desktop_ = std::move(desktop);
+    module_ = std::move(module);
+    return *module_;
+}
+
+bool Server::Retire() {
+    if (IsNeeded()) return false;
+    // Letting go of the host's objects runs the host's code, which may call in again.
+    {
+        const auto desktop = std::move(desktop_);
+        const auto module = std::move(module_);
+        types_.Release();
+    }
+    return module_ == nullptr && !IsNeeded();
+}
+
+bool Server::IsNeeded() const {
+    if (locks_ > 0 || objects_.Alive() > 0) return true;
+    if (desktop_ == nullptr) return false;
+    return !desktop_->Forms().empty() || desktop_->IsDispatching() || desktop_->IsInUse();
+}
+
+}  // namespace tavrin::com

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <windows.h>
+
+#include <oaidl.h>
+
+#include <string>
+
+#include "win32/com_ptr.h"
+
+namespace tavrin::com {
+
+/// The file of a module.
+std::wstring ModulePath(HINSTANCE module);
+
+/// The type library inside the component's own file. It is read when it is first needed, registered or not.
+class TypeLibrary {
+  public:
+    explicit TypeLibrary(HINSTANCE module) : module_(module) {}
+
+    /// The description of an interface or class of the library.
+    HRESULT Find(REFGUID id, ITypeInfo** info);
+
+    /// The whole library. \return null where it cannot be read
+    win32::ComPtr<ITypeLib> Library();
+
+    /// Its id, version and platform. \throws data::Error where it cannot be read
+    TLIBATTR Attributes();
+
+    /// Lets go of what was read.
+    void Release() { library_.Reset(); }
+
+  private:
+    HINSTANCE module_;
+    win32::ComPtr<ITypeLib> library_;
+};
+
+}  // namespace tavrin::com

@@ -1,0 +1,146 @@
+#include "com/utile.h"
+
+#include <olectl.h>
+
+#include <utility>
+#include <vector>
+
+#include "com/composition.h"
+#include "com/connection_point.h"
+#include "com/enumerator.h"
+#include "win32/ado/ado_connection.h"
+
+namespace tavrin::com {
+namespace {
+
+constexpr DISPID ApelId = 1;
+
+std::shared_ptr<data::Connection> MakeConnection(win32::ComPtr<IDispatch> connection) {
+    if (!connection) return nullptr;  // the first query tells
+    return std::make_shared<win32::AdoConnection>(std::move(connection));
+}
+
+}  // namespace
+
+Utile::Utile(Server& server)
+    : server_(server), ticket_(server.Objects()), events_(std::make_shared<EventSource>()) {}
+
+HRESULT Utile::Apel(IDispatch** cnn, DATE argDataProgram, short bExercitiuInCurs, LONG IdsoCN) noexcept {
+    if (cnn == nullptr) return E_POINTER;
+    const Failure failure = OpenUtilities({win32::ComPtr<IDispatch>(*cnn), data::OleDate{argDataProgram},
+                                           bExercitiuInCurs, static_cast<std::int32_t>(IdsoCN)});
+    if (FAILED(failure.result)) SetErrorInfo(failure, __uuidof(_Utile));
+    return failure.result;
+}
+
+Failure Utile::OpenUtilities(ApelArguments arguments) noexcept try {
+    shell::Module& module = server_.Module();
+    const forms::Desktop::DispatchScope scope(module.Desktop());
+    shell::HostContext& context = module.context;
+    context.companyId = arguments.companyId;
+    context.workDate = arguments.workDate;
+    context.connection = MakeConnection(std::move(arguments.connection));
+    context.workYear = arguments.workYear;
+    context.caller = events_;
+    OpenPalette(module);
+    return {};
+} catch (...) {
+    return CurrentFailure();
+}
+
+HRESULT Utile::GetTypeInfoCount(UINT* count) noexcept {
+    if (count == nullptr) return E_POINTER;
+    *count = 1;
+    return S_OK;
+}
+
+HRESULT Utile::GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept {
+    if (info == nullptr) return E_POINTER;
+    *info = nullptr;
+    if (index != 0) return DISP_E_BADINDEX;
+    return server_.Types().Find(__uuidof(_Utile), info);
+}
+
+HRESULT Utile::GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept {
+    if (!IsEqualIID(id, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
+    if (names == nullptr || ids == nullptr) return E_POINTER;
+    win32::ComPtr<ITypeInfo> info;
+    const HRESULT found = server_.Types().Find(__uuidof(_Utile), info.Receive());
+    return FAILED(found) ? found : DispGetIDsOfNames(info.Get(), names, count, ids);
+}
+
+HRESULT Utile::Invoke(DISPID member, REFIID id, LCID locale, WORD kind, DISPPARAMS* call, VARIANT* result,
+                      EXCEPINFO* exception, UINT* badArgument) noexcept {
+    if (result != nullptr) VariantInit(result);
+    if (!IsEqualIID(id, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
+    if (member != ApelId || (kind & DISPATCH_METHOD) == 0) return DISP_E_MEMBERNOTFOUND;
+    if (call == nullptr) return E_POINTER;
+    try {
+        return InvokeApel(*call, locale, exception, badArgument);
+    } catch (...) {
+        return CurrentFailure().result;
+    }
+}
+
+HRESULT Utile::InvokeApel(const DISPPARAMS& call, LCID locale, EXCEPINFO* exception, UINT* badArgument) {
+    ApelArguments arguments;
+    UINT place = 0;
+    const HRESULT read = ReadApelArguments(call, locale, arguments, place);
+    if (FAILED(read)) {
+        if (badArgument != nullptr) *badArgument = place;
+        return read;
+    }
+    const Failure failure = OpenUtilities(std::move(arguments));
+    if (SUCCEEDED(failure.result)) return S_OK;
+    FillExceptionInfo(failure, exception);
+    return DISP_E_EXCEPTION;
+}
+
+HRESULT Utile::EnumConnectionPoints(IEnumConnectionPoints** enumerator) noexcept {
+    if (enumerator == nullptr) return E_POINTER;
+    *enumerator = nullptr;
+    try {
+        std::vector<win32::ComPtr<IConnectionPoint>> points{MakeConnectionPoint()};
+        *enumerator = win32::MakeObject<ConnectionPointEnumerator>(server_, std::move(points)).Detach();
+        return S_OK;
+    } catch (...) {
+        return CurrentFailure().result;
+    }
+}
+
+HRESULT Utile::FindConnectionPoint(REFIID id, IConnectionPoint** point) noexcept {
+    if (point == nullptr) return E_POINTER;
+    *point = nullptr;
+    if (!IsEqualIID(id, __uuidof(__Utile))) return CONNECT_E_NOCONNECTION;
+    try {
+        *point = MakeConnectionPoint().Detach();
+        return S_OK;
+    } catch (...) {
+        return CurrentFailure().result;
+    }
+}
+
+win32::ComPtr<IConnectionPoint> Utile::MakeConnectionPoint() {
+    return win32::MakeObject<ConnectionPoint>(server_, win32::ComPtr<IConnectionPointContainer>(this),
+                                              events_);
+}
+
+HRESULT Utile::GetClassInfo(ITypeInfo** info) noexcept {
+    if (info == nullptr) return E_POINTER;
+    *info = nullptr;
+    return server_.Types().Find(__uuidof(::Utile), info);
+}
+
+HRESULT Utile::GetGUID(DWORD kind, GUID* id) noexcept {
+    if (id == nullptr) return E_POINTER;
+    *id = GUID_NULL;
+    if (kind != GUIDKIND_DEFAULT_SOURCE_DISP_IID) return E_INVALIDARG;
+    *id = __uuidof(__Utile);
+    return S_OK;
+}
+
+HRESULT Utile::InterfaceSupportsErrorInfo(REFIID id) noexcept {
+    return IsEqualIID(id, __uuidof(_Utile)) ? S_OK : S_FALSE;
+}
+
+}  // namespace tavrin::com
