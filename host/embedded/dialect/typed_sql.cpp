@@ -3,10 +3,12 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include "host/embedded/dialect/date_literal.h"
 #include "host/embedded/dialect/function_names.h"
 #include "host/embedded/dialect/provider_error.h"
+#include "host/embedded/money_text.h"
 #include "host/embedded/text_rules.h"
 
 namespace tavrin::host::dialect {
@@ -47,7 +49,10 @@ bool SameFamily(SqlType left, SqlType right) {
 Sql NumberParameter(const std::string& digits, SqlType target) {
     const double number = ParseNumber(digits);
     if (target.kind == TypeKind::Int) return Parameter(InIntRange(number));
-    return Parameter(number);
+    if (target.kind != TypeKind::Money) return Parameter(number);
+    const std::optional<double> money = ToMoney(number);
+    if (!money) throw NumberOutOfRange("money");
+    return Parameter(*money);
 }
 
 // A text that stands for a whole number must not have decimals; a number that becomes whole loses them.
