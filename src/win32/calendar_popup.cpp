@@ -124,7 +124,6 @@ void CalendarPopup::CreateCalendar(const Toolkit& toolkit, const Settings& setti
                                   .parent = Handle()}),
         {});
     const HWND calendar = calendar_.Handle();
-    SendMessageW(calendar, WM_SETFONT, reinterpret_cast<WPARAM>(settings.font), FALSE);
     Darken(calendar);
     SYSTEMTIME range[] = {ToSystemTime(minimum_), ToSystemTime(maximum_)};
     SendMessageW(calendar, MCM_SETRANGE, GDTR_MIN | GDTR_MAX, reinterpret_cast<LPARAM>(range));

@@ -20,7 +20,6 @@ class CalendarPopup final : public Window {
         data::OleDate maximum;
         HWND form = nullptr;
         RECT field{};  ///< the field that the calendar belongs to, in pixels of the screen
-        HFONT font = nullptr;
     };
 
     /// Appears at once. `whenClosed` may destroy the popup; neither callback runs after that.

@@ -12,8 +12,7 @@ void DatePickerPeer::DropDown() {
                                      .minimum = control_.MinDate(),
                                      .maximum = control_.MaxDate(),
                                      .form = OwnerPeer().Handle(),
-                                     .field = {},
-                                     .font = PlatformFont()};
+                                     .field = {}};
     GetWindowRect(Handle(), &settings.field);
     calendar_ = std::make_unique<CalendarPopup>(
         OwnerForm().OwnerDesktop(), SharedToolkit(), settings,

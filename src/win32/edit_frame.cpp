@@ -25,14 +25,14 @@ int SideMargin(Scale scale) {
     return FrameThickness + scale.ToPixels(Twips);
 }
 
-void PaintEditFrame(HWND edit, forms::Color background, EditFrame frame) {
+void PaintEditFrame(HWND edit, forms::Color background, forms::Color frame) {
     RECT outer{};
     GetWindowRect(edit, &outer);
     const RECT client = ClientWithin(edit, outer);
     RECT whole{0, 0, Width(outer), Height(outer)};
     const HDC dc = GetWindowDC(edit);
     ExcludeClipRect(dc, client.left, client.top, client.right, client.bottom);
-    Fill(dc, whole, frame == EditFrame::Focused ? forms::scheme::Focus : forms::scheme::Border);
+    Fill(dc, whole, frame);
     InflateRect(&whole, -FrameThickness, -FrameThickness);
     Fill(dc, whole, background);
     ReleaseDC(edit, dc);

@@ -9,15 +9,13 @@ namespace tavrin::win32 {
 
 // The frame and the margins around the platform's edit field: its non-client area.
 
-enum class EditFrame { Plain, Focused };
-
 inline constexpr int FrameThickness = 1;  ///< pixels
 
 /// Between the window's edge and the text, in pixels.
 int SideMargin(Scale scale);
 
 /// Paints everything around the client area.
-void PaintEditFrame(HWND edit, forms::Color background, EditFrame frame);
+void PaintEditFrame(HWND edit, forms::Color background, forms::Color frame);
 
 /// Has the frame painted anew.
 void RedrawFrame(HWND edit);

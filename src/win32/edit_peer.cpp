@@ -189,8 +189,13 @@ LRESULT EditPeer::OnCalculateClientArea(const Message& message) {
 }
 
 LRESULT EditPeer::OnPaintFrame(const Message&) {
-    PaintEditFrame(Handle(), control_.BackColor(), HoldsFocus() ? EditFrame::Focused : EditFrame::Plain);
+    PaintEditFrame(Handle(), control_.BackColor(), FrameColor());
     return 0;
+}
+
+forms::Color EditPeer::FrameColor() const {
+    if (!control_.Bordered()) return control_.BackColor();
+    return HoldsFocus() ? forms::scheme::Focus : forms::scheme::Border;
 }
 
 LRESULT EditPeer::OnHitTest(const Message&) {

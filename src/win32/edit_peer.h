@@ -34,6 +34,7 @@ class EditPeer final : public ControlWindow {
     void ShowSelection();
     void ShowFont();
     void ReportSelection();
+    forms::Color FrameColor() const;
     void TellModelOfMouse(const Message& message);
 
     forms::TextBox& control_;
