@@ -122,6 +122,7 @@ void CursValutar::ShowForm() {
 
 void CursValutar::OnLoad() {
     module_.CreateMessageService();
+    CenterOnScreen();
     const int year = module_.context.workYear;
     for (forms::DatePicker* picker : {&dpDataIn, &dpDataFin}) {
         picker->SetRange(data::ToOleDate({year, 1, 1}), data::ToOleDate({year + 1, 1, 31}));

@@ -114,6 +114,7 @@ void CursValutarDetaliu::ShowForm(const CurrencyNames& names, const std::string&
 
 void CursValutarDetaliu::OnLoad() {
     module_.CreateMessageService();
+    CenterOnScreen();
     FillGrid();
     DataCurs.SetDate(module_.context.workDate);
     const CursValutar* list = module_.Loaded<CursValutar>();

@@ -6,6 +6,7 @@
 #include "win32/dpi.h"
 #include "win32/form_peer.h"
 #include "win32/form_style.h"
+#include "win32/number_format.h"
 #include "win32/text.h"
 #include "win32/toolkit.h"
 #include "win32/user_locale.h"
@@ -79,6 +80,10 @@ forms::PixelPoint Desktop::CursorPosition() const {
 
 void Desktop::SetCursorPosition(forms::PixelPoint position) {
     SetCursorPos(position.x, position.y);
+}
+
+std::string Desktop::FormatNumber(std::string_view number, const forms::NumberFormat& format) const {
+    return FormatPlatformNumber(number, format);
 }
 
 void Desktop::ReportError(std::int32_t number, const std::string& description) noexcept {

@@ -28,6 +28,7 @@ class Desktop final : public forms::Desktop {
     forms::PixelPoint CursorPosition() const override;
     void SetCursorPosition(forms::PixelPoint position) override;
     const forms::Locale& UserLocale() const override { return locale_; }
+    std::string FormatNumber(std::string_view number, const forms::NumberFormat& format) const override;
     void ReportError(std::int32_t number, const std::string& description) noexcept override;
 
     /// Whether a window is there, or another process still looks at one: the module must not be unloaded
