@@ -61,25 +61,27 @@ void GridViewport::PlaceBars(const GridExtent& extent) {
     const std::int64_t rowsHeight = static_cast<std::int64_t>(extent.rows + 1) * rowHeight;
     const std::int64_t columnsWidth =
         std::accumulate(extent.widths.begin(), extent.widths.end(), std::int64_t{0});
+    const int barWidth = std::min(ScrollBar::Thickness, area.width);
+    const int barHeight = std::min(ScrollBar::Thickness, area.height);
     bool hasRowBar = false;
     bool hasColumnBar = false;
     // Each bar takes room that may then be missing in the other direction.
     for (int pass = 0; pass < 2; ++pass) {
         if (!hasRowBar && rowsHeight > area.height) {
             hasRowBar = true;
-            area.width = std::max(0, area.width - ScrollBar::Thickness);
+            area.width -= barWidth;
         }
         if (!hasColumnBar && columnsWidth > area.width) {
             hasColumnBar = true;
-            area.height = std::max(0, area.height - ScrollBar::Thickness);
+            area.height -= barHeight;
         }
     }
     header = {area.left, area.top, area.width, std::min(rowHeight, area.height)};
     cells = {area.left, header.Bottom(), area.width, std::max(0, area.height - header.height)};
     rowBar.direction = ScrollBar::Direction::Vertical;
-    if (hasRowBar) rowBar.track = {area.Right(), cells.top, ScrollBar::Thickness, cells.height};
+    if (hasRowBar) rowBar.track = {area.Right(), cells.top, barWidth, cells.height};
     columnBar.direction = ScrollBar::Direction::Horizontal;
-    if (hasColumnBar) columnBar.track = {area.left, area.Bottom(), area.width, ScrollBar::Thickness};
+    if (hasColumnBar) columnBar.track = {area.left, area.Bottom(), area.width, barHeight};
 }
 
 void GridViewport::PlaceColumns(const GridExtent& extent) {

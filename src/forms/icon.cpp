@@ -1,6 +1,7 @@
 #include "forms/icon.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <initializer_list>
 #include <numbers>
@@ -13,61 +14,97 @@ namespace {
 constexpr double Box = 24;  // icons are drawn in a box of 24 by 24 units
 constexpr double Pen = 2;
 
-/// Draws in the units of the icon's box.
+/// Draws in the units of the icon's box. Upright and level strokes are laid on whole device pixels, so that
+/// they are sharp in small sizes.
 class Pencil {
   public:
-    Pencil(Surface& surface, const Rect& area, Color color) : surface_(surface), color_(color) {
-        const int side = std::min(area.width, area.height);
+    Pencil(Surface& surface, const Rect& area, Color color)
+        : surface_(surface), color_(color), pixel_(surface.PixelSize()) {
+        const double side = std::floor(std::min(area.width, area.height) / pixel_) * pixel_;
         unit_ = side / Box;
-        left_ = area.left + (area.width - side) / 2.0;
-        top_ = area.top + (area.height - side) / 2.0;
+        left_ = Whole(area.left + (area.width - side) / 2.0);
+        top_ = Whole(area.top + (area.height - side) / 2.0);
     }
 
-    void Line(std::initializer_list<PointF> points, double pen = Pen) {
-        surface_.DrawPolyline(Placed(points), pen * unit_, color_);
-    }
+    void Line(std::initializer_list<PointF> points, double pen = Pen) { Stroke(points, pen); }
 
     void Loop(std::initializer_list<PointF> points, double pen = Pen) {
-        std::vector<PointF> closed = Placed(points);
+        std::vector<PointF> closed(points);
         closed.push_back(closed.front());
-        surface_.DrawPolyline(closed, pen * unit_, color_);
+        Stroke(closed, pen);
     }
 
     void Rectangle(double left, double top, double right, double bottom, double pen = Pen) {
         Loop({{left, top}, {right, top}, {right, bottom}, {left, bottom}}, pen);
     }
 
-    void Fill(std::initializer_list<PointF> points) { surface_.FillPolygon(Placed(points), color_); }
+    /// A filled rectangle of whole pixels.
+    void Block(double left, double top, double right, double bottom) {
+        const PointF from{Whole(left_ + left * unit_), Whole(top_ + top * unit_)};
+        const PointF to{std::max(from.x + pixel_, Whole(left_ + right * unit_)),
+                        std::max(from.y + pixel_, Whole(top_ + bottom * unit_))};
+        const std::array<PointF, 4> corners{{from, {to.x, from.y}, to, {from.x, to.y}}};
+        surface_.FillPolygon(corners, color_);
+    }
+
+    void Fill(std::initializer_list<PointF> points) {
+        std::vector<PointF> outline;
+        for (const PointF& point : points)
+            outline.push_back(Placed(point));
+        surface_.FillPolygon(outline, color_);
+    }
 
     void Dot(double x, double y, double radius) { surface_.FillPolygon(Arc(x, y, radius), color_); }
 
     void Circle(double x, double y, double radius, double pen = Pen) {
         std::vector<PointF> outline = Arc(x, y, radius);
         outline.push_back(outline.front());
-        surface_.DrawPolyline(outline, pen * unit_, color_);
+        surface_.DrawPolyline(outline, std::max(pixel_, pen * unit_), color_);
     }
 
   private:
-    std::vector<PointF> Placed(std::initializer_list<PointF> points) const {
+    double Whole(double twips) const { return std::round(twips / pixel_) * pixel_; }
+
+    PointF Placed(PointF point) const { return {left_ + point.x * unit_, top_ + point.y * unit_}; }
+
+    /// Thin strokes are no paler than broad ones.
+    void Stroke(const std::vector<PointF>& points, double pen) {
+        double width = std::max(pixel_, pen * unit_);
+        const bool sharp = IsSquare(points);
+        if (sharp) width = Whole(width);
         std::vector<PointF> placed;
         for (const PointF& point : points)
-            placed.push_back({left_ + point.x * unit_, top_ + point.y * unit_});
-        return placed;
+            placed.push_back(sharp ? OnPixels(Placed(point), width) : Placed(point));
+        surface_.DrawPolyline(placed, width, color_);
+    }
+
+    /// Whether all strokes are upright or level.
+    static bool IsSquare(const std::vector<PointF>& points) {
+        const auto slants = [](const PointF& from, const PointF& to) {
+            return from.x != to.x && from.y != to.y;
+        };
+        return std::ranges::adjacent_find(points, slants) == points.end();
+    }
+
+    /// Moves a stroke's middle so that its sides fall on the edges of pixels.
+    PointF OnPixels(PointF point, double width) const {
+        const double half = width / 2;
+        return {Whole(point.x - half) + half, Whole(point.y - half) + half};
     }
 
     std::vector<PointF> Arc(double x, double y, double radius) const {
-        constexpr int Corners = 24;
+        constexpr int Corners = 32;
         std::vector<PointF> outline;
         for (int i = 0; i < Corners; ++i) {
             const double angle = 2 * std::numbers::pi * i / Corners;
-            outline.push_back({left_ + (x + radius * std::cos(angle)) * unit_,
-                               top_ + (y + radius * std::sin(angle)) * unit_});
+            outline.push_back(Placed({x + radius * std::cos(angle), y + radius * std::sin(angle)}));
         }
         return outline;
     }
 
     Surface& surface_;
     Color color_;
+    double pixel_;
     double unit_ = 0;
     double left_ = 0;
     double top_ = 0;
@@ -90,11 +127,11 @@ void AddressBook(Pencil& pencil) {
 }
 
 void Calculator(Pencil& pencil) {
-    pencil.Rectangle(5, 2.5, 19, 21.5);
-    pencil.Fill({{8, 5.5}, {16, 5.5}, {16, 9}, {8, 9}});
-    for (const double y : {12.5, 15.5, 18.5}) {
-        for (const double x : {8.7, 12.0, 15.3})
-            pencil.Dot(x, y, 1.1);
+    pencil.Rectangle(5, 3, 19, 21);
+    pencil.Block(8, 6, 16, 9);
+    for (const double y : {11.0, 14.0, 17.0}) {
+        for (const double x : {8.0, 11.0, 14.0})
+            pencil.Block(x, y, x + 1.5, y + 1.5);
     }
 }
 
@@ -115,10 +152,20 @@ void Modify(Pencil& pencil) {
     pencil.Line({{13.5, 7}, {17, 10.5}}, 1.6);
 }
 
+/// A waste bin.
+void Remove(Pencil& pencil) {
+    pencil.Line({{4, 6}, {20, 6}});
+    pencil.Line({{9, 6}, {9, 3}, {15, 3}, {15, 6}});
+    pencil.Line({{6, 7}, {7, 21}, {17, 21}, {18, 7}});
+    for (const double x : {10.0, 14.0})
+        pencil.Line({{x, 10}, {x, 17}}, 1.6);
+}
+
+/// A coin, and a plus sign beside it.
 void AddCurrency(Pencil& pencil) {
-    pencil.Circle(9.5, 14, 6.5);
-    pencil.Line({{9.5, 10.5}, {9.5, 17.5}}, 1.6);
-    Plus(pencil, 19, 6, 3.5);
+    pencil.Circle(8.5, 14.5, 6.5);
+    pencil.Line({{8.5, 11}, {8.5, 18}});
+    Plus(pencil, 18, 6, 4);
 }
 
 void ChartIcon(Pencil& pencil) {
@@ -165,7 +212,7 @@ void Draw(Pencil& pencil, Icon icon) {
             Modify(pencil);
             break;
         case Icon::Remove:
-            pencil.Line({{4, 12}, {20, 12}});
+            Remove(pencil);
             break;
         case Icon::AddCurrency:
             AddCurrency(pencil);
@@ -192,6 +239,7 @@ void Draw(Pencil& pencil, Icon icon) {
 }  // namespace
 
 void DrawIcon(Surface& surface, Icon icon, const Rect& area, Color color) {
+    if (area.IsEmpty()) return;
     Pencil pencil(surface, area, color);
     Draw(pencil, icon);
 }

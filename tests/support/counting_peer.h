@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+
+#include "forms/control.h"
+#include "forms/peer.h"
+
+namespace tavrin::tests {
+
+/// Stands in for what the platform shows of a control, and counts what it is asked.
+class CountingPeer : public forms::ControlPeer {
+  public:
+    /// Gives a control such a peer, which it owns from then on.
+    static const CountingPeer* Give(forms::Control& control) {
+        auto peer = std::make_unique<CountingPeer>();
+        const CountingPeer* given = peer.get();
+        control.SetPeer(std::move(peer));
+        return given;
+    }
+
+    void Changed(forms::Aspect aspect) override {
+        ++changes;
+        if (aspect == forms::Aspect::Look) ++repaints;
+    }
+    void TakeFocus() override { ++focused; }
+    void DropDown() override { ++dropDowns; }
+
+    int changes = 0;
+    int repaints = 0;
+    int focused = 0;
+    int dropDowns = 0;
+};
+
+}  // namespace tavrin::tests
