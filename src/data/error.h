@@ -23,6 +23,7 @@ class Error : public std::runtime_error {
 /// Numbers that the windows act upon or raise themselves.
 namespace error_number {
 inline constexpr std::int32_t Overflow = 6;
+inline constexpr std::int32_t DivisionByZero = 11;
 inline constexpr std::int32_t TypeMismatch = 13;
 inline constexpr std::int32_t ObjectNotSet = 91;
 inline constexpr std::int32_t InvalidUseOfNull = 94;
