@@ -1,0 +1,138 @@
+#include "forms/grouped_number.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "data/rounding.h"
+
+namespace tavrin::forms {
+
+namespace {
+
+constexpr double ExponentFrom = 1e21;
+constexpr int ExponentDigits = 14;
+constexpr int GroupSize = 3;
+
+/// Digits and separators, filled from the end; long enough for 21 digits in groups and all decimals. The
+/// platform's separators have at most three characters.
+class BackwardWriter {
+  public:
+    void Put(char character) { *--first_ = character; }
+    void Put(const std::string& separator) {
+        for (std::size_t i = std::min(separator.size(), LongestSeparator); i > 0; --i)
+            Put(separator[i - 1]);
+    }
+    /// The last `count` digits of a number; the number without them is left.
+    void PutDigits(std::uint64_t& number, int count) {
+        for (int i = 0; i < count; ++i) {
+            Put(static_cast<char>('0' + number % 10));
+            number /= 10;
+        }
+    }
+    std::string_view Written() const {
+        return {first_, static_cast<std::size_t>(buffer_.data() + buffer_.size() - first_)};
+    }
+
+  private:
+    static constexpr std::size_t LongestSeparator = 9;
+    std::array<char, 128> buffer_;
+    char* first_ = buffer_.data() + buffer_.size();
+};
+
+/// Groups digits that arrive one by one, the last first.
+class GroupWriter {
+  public:
+    GroupWriter(BackwardWriter& writer, const std::string& separator)
+        : writer_(writer), separator_(separator) {}
+
+    void Put(char digit) {
+        if (inGroup_ == GroupSize) {
+            writer_.Put(separator_);
+            inGroup_ = 0;
+        }
+        writer_.Put(digit);
+        ++inGroup_;
+    }
+
+  private:
+    BackwardWriter& writer_;
+    const std::string& separator_;
+    int inGroup_ = 0;
+};
+
+void WriteUnits(BackwardWriter& writer, std::uint64_t units, int decimals, const Locale& locale) {
+    if (decimals > 0) {
+        writer.PutDigits(units, decimals);
+        writer.Put(locale.decimalSeparator);
+    }
+    while (units >= 1000) {
+        writer.PutDigits(units, GroupSize);
+        writer.Put(locale.thousandsSeparator);
+    }
+    do {
+        writer.PutDigits(units, 1);
+    } while (units > 0);
+}
+
+/// For a number so large that a double tells no units apart.
+void WriteLarge(BackwardWriter& writer, double magnitude, int decimals, const Locale& locale) {
+    std::array<char, 32> digits;
+    char* const begin = digits.data();
+    const char* const end =
+        std::to_chars(begin, begin + digits.size(), magnitude, std::chars_format::fixed, decimals).ptr;
+    const char* at = end;
+    if (decimals > 0) {
+        while (*--at != '.')
+            writer.Put(*at);
+        writer.Put(locale.decimalSeparator);
+    }
+    GroupWriter groups(writer, locale.thousandsSeparator);
+    while (at != begin)
+        groups.Put(*--at);
+}
+
+void AppendWithExponent(std::string& text, double magnitude, const Locale& locale) {
+    std::array<char, 32> digits;
+    char* const begin = digits.data();
+    const char* const end =
+        std::to_chars(begin, begin + digits.size(), magnitude, std::chars_format::scientific, ExponentDigits)
+            .ptr;
+    const std::string_view written(begin, static_cast<std::size_t>(end - begin));
+    const std::size_t exponentAt = written.find('e');
+    const std::string_view fraction = written.substr(2, exponentAt - 2);
+    text += written.front();
+    if (const std::size_t last = fraction.find_last_not_of('0'); last != std::string_view::npos) {
+        text += locale.decimalSeparator;
+        text += fraction.substr(0, last + 1);
+    }
+    text += 'E';
+    text += written.substr(exponentAt + 1);
+}
+
+}  // namespace
+
+void WriteGroupedNumber(std::string& text, double number, int decimals, const Locale& locale) {
+    text.clear();
+    if (!std::isfinite(number)) return;
+    const double magnitude = std::fabs(number);
+    const std::optional<std::uint64_t> units = data::RoundedUnits(number, decimals);
+    if (magnitude >= ExponentFrom) {
+        if (number < 0) text += '-';
+        AppendWithExponent(text, magnitude, locale);
+        return;
+    }
+    BackwardWriter writer;
+    if (units) {
+        WriteUnits(writer, *units, decimals, locale);
+    } else {
+        WriteLarge(writer, magnitude, decimals, locale);
+    }
+    if (number < 0 && units != 0U) writer.Put('-');
+    text = writer.Written();
+}
+
+}  // namespace tavrin::forms
