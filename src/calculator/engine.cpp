@@ -1,0 +1,162 @@
+#include "calculator/engine.h"
+
+#include <utility>
+
+#include "data/rounding.h"
+
+namespace tavrin::calculator {
+
+Engine::Engine(EngineListener& listener, std::string decimalSeparator)
+    : listener_(listener), entry_(std::move(decimalSeparator)) {}
+
+void Engine::Press(Command command) {
+    switch (command) {
+        case Command::DecimalPoint:
+            return entry_.TypeSeparator();
+        case Command::Divide:
+            return TakeOperator(Operator::Divide);
+        case Command::Add:
+            return TakeOperator(Operator::Add);
+        case Command::Multiply:
+            return TakeOperator(Operator::Multiply);
+        case Command::Subtract:
+            return TakeOperator(Operator::Subtract);
+        case Command::Equals:
+            return TakeOperator(Operator::Equals);
+        case Command::Percent:
+            return TakeOperator(Operator::Percent);
+        case Command::ChangeSign:
+            return ChangeSign();
+        case Command::Clear:
+            return Clear();
+        case Command::ClearEntry:
+            return entry_.Clear();
+        case Command::Backspace:
+            return Backspace();
+        case Command::MemoryClear:
+            return ClearMemory();
+        case Command::MemoryRecall:
+            return RecallMemory();
+        case Command::MemoryAdd:
+            return StoreEntry(&Memory::Add);
+        case Command::MemorySubtract:
+            return StoreEntry(&Memory::Subtract);
+        default:
+            return TypeDigit(static_cast<int>(command) - static_cast<int>(Command::Digit0));
+    }
+}
+
+// Typing.
+
+void Engine::TypeDigit(int digit) {
+    if (entry_.TypeDigit(digit, decimals_)) listener_.ShowValues();
+}
+
+void Engine::ChangeSign() {
+    if (!entry_.ChangeSign()) return;
+    // The running result turns with the entry, whether it is what the entry shows or not.
+    arithmetic_.NegateAccumulator();
+    listener_.ShowValues();
+}
+
+void Engine::Backspace() {
+    entry_.DropLast();
+    listener_.ShowValues();
+}
+
+// Operators.
+
+double Engine::EnteredValue() const {
+    return entry_.Text() == "-0" ? 0 : listener_.ShownValue();
+}
+
+void Engine::TakeOperator(Operator taken) {
+    if (entry_.StartsAnew()) {
+        arithmetic_.SetPending(taken);
+        return;
+    }
+    switch (arithmetic_.CountOperand()) {
+        case 1:
+            return TakeFirstOperand(taken);
+        case 2:
+            return TakeSecondOperand(taken);
+        default:
+            // An error has cut an operation short; nothing but clearing all begins a new one.
+            return;
+    }
+}
+
+void Engine::TakeFirstOperand(Operator taken) {
+    arithmetic_.SetAccumulator(EnteredValue());
+    if (taken == Operator::Percent) {
+        arithmetic_.SetOperandCount(0);
+        return;
+    }
+    arithmetic_.SetPending(taken);
+    entry_.StartAnew();
+}
+
+void Engine::TakeSecondOperand(Operator taken) {
+    arithmetic_.SetOperand(EnteredValue());
+    if (taken == Operator::Percent) return FinishPercent();
+    if (arithmetic_.Pending() == Operator::Equals) return RestartAfterResult();
+    Continue(taken);
+}
+
+void Engine::FinishPercent() {
+    if (arithmetic_.ApplyPercent() == Outcome::DividedByZero) listener_.ReportDivisionByZero();
+    ShowRounded(arithmetic_.Accumulator());
+    arithmetic_.SetOperand(0);
+    arithmetic_.SetOperandCount(0);
+    entry_.StartAnew();
+    // The pending operator stays: the next number is counted as a first operand all the same.
+}
+
+void Engine::RestartAfterResult() {
+    // A number typed after "=" is shown, but neither it nor the operator is kept: the user begins again.
+    ShowRounded(arithmetic_.Operand());
+    arithmetic_.SetAccumulator(0);
+    arithmetic_.SetOperand(0);
+    arithmetic_.SetOperandCount(0);
+    entry_.StartAnew();
+}
+
+void Engine::Continue(Operator taken) {
+    if (arithmetic_.Apply() == Outcome::DividedByZero) listener_.ReportDivisionByZero();
+    ShowRounded(arithmetic_.Accumulator());
+    arithmetic_.SetOperandCount(1);
+    entry_.StartAnew();
+    arithmetic_.SetPending(taken);
+}
+
+void Engine::ShowRounded(double number) {
+    entry_.SetNumber(data::RoundHalfEven(number, decimals_));
+    listener_.ShowValues();
+}
+
+void Engine::Clear() {
+    arithmetic_.Clear();
+    memory_.Clear();
+    entry_.Clear();
+}
+
+// Memory.
+
+void Engine::ClearMemory() {
+    listener_.ShowMemoryMark(false);
+    memory_.Clear();
+}
+
+void Engine::RecallMemory() {
+    entry_.SetNumber(memory_.Value());
+    listener_.ShowValues();
+}
+
+void Engine::StoreEntry(void (Memory::*store)(double)) {
+    listener_.ShowMemoryMark(true);
+    (memory_.*store)(entry_.Value());
+    entry_.SetZero();
+    listener_.ShowValues();
+}
+
+}  // namespace tavrin::calculator

@@ -1,0 +1,20 @@
+#pragma once
+
+namespace tavrin::calculator {
+
+/// What the engine needs of whoever shows its numbers. An error thrown from here ends the command in the
+/// middle, with what it had done so far.
+class EngineListener {
+  public:
+    virtual ~EngineListener() = default;
+
+    /// The entry has changed.
+    virtual void ShowValues() = 0;
+    /// The number in the display of the chosen unit: what an operator takes as its operand.
+    virtual double ShownValue() const = 0;
+    /// Somebody divides by zero. Returns when the user has taken note.
+    virtual void ReportDivisionByZero() = 0;
+    virtual void ShowMemoryMark(bool visible) = 0;
+};
+
+}  // namespace tavrin::calculator

@@ -1,0 +1,83 @@
+#include "calculator/entry.h"
+
+#include <utility>
+
+#include "calculator/number_text.h"
+
+namespace tavrin::calculator {
+
+namespace {
+
+constexpr int MaxLength = 15;
+constexpr std::size_t LongestNumber = 400;
+
+}  // namespace
+
+Entry::Entry(std::string separator) : separator_(std::move(separator)) {
+    if (separator_.empty()) separator_ = ".";
+    text_.reserve(LongestNumber);
+    Clear();
+}
+
+double Entry::Value() const {
+    return ReadNumber(text_, separator_);
+}
+
+bool Entry::TypeDigit(int digit, int decimals) {
+    if (startsAnew_) SetZero();
+    startsAnew_ = false;
+    if (Length() >= MaxLength || FractionIsFull(decimals)) return false;
+    if (separatorPending_) {
+        text_ += separator_;
+    } else if (text_ == "0") {
+        text_.clear();
+    }
+    text_ += static_cast<char>('0' + digit);
+    separatorPending_ = false;
+    return true;
+}
+
+void Entry::TypeSeparator() {
+    if (!HasSeparator()) separatorPending_ = true;
+}
+
+bool Entry::ChangeSign() {
+    if (text_ == "0" || text_.find('-') != std::string::npos) return false;
+    text_.insert(text_.begin(), '-');
+    return true;
+}
+
+void Entry::DropLast() {
+    if (Length() == 1) {
+        SetZero();
+    } else {
+        text_.pop_back();
+        if (text_.ends_with(separator_)) text_.resize(text_.size() - separator_.size());
+    }
+    separatorPending_ = false;
+}
+
+void Entry::SetNumber(double number) {
+    WriteNumber(text_, number, separator_);
+}
+
+void Entry::Clear() {
+    SetZero();
+    startsAnew_ = true;
+    separatorPending_ = false;
+}
+
+int Entry::Length() const {
+    const std::size_t separatorExtra = separator_.size() > 1 && HasSeparator() ? separator_.size() - 1 : 0;
+    return static_cast<int>(text_.size() - separatorExtra);
+}
+
+bool Entry::FractionIsFull(int decimals) const {
+    const std::size_t separatorAt = text_.find(separator_);
+    if (separatorAt == std::string::npos || separatorAt == 0) return false;
+    const std::size_t digits = text_.size() - separatorAt - separator_.size();
+    // With no decimals the digit that brought the separator along stands; none follows it.
+    return static_cast<int>(digits) >= decimals;
+}
+
+}  // namespace tavrin::calculator

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+
+namespace tavrin::calculator {
+
+/// The number being typed, or the last result: a text in the user's locale, and what may be typed onto it.
+/// Lengths count characters; the separator is one, however many bytes it takes.
+class Entry {
+  public:
+    /// `separator` is the locale's decimal separator, as UTF-8.
+    explicit Entry(std::string separator);
+
+    const std::string& Text() const { return text_; }
+    double Value() const;
+
+    /// Whether the next digit begins a new number.
+    bool StartsAnew() const { return startsAnew_; }
+    void StartAnew() { startsAnew_ = true; }
+
+    /// False when the digit has no room: after fifteen characters, or after the last decimal. A separator
+    /// that was asked for comes with its digit, so a full fourteen digits may become sixteen characters.
+    bool TypeDigit(int digit, int decimals);
+    /// Nothing is seen of the separator before the next digit.
+    void TypeSeparator();
+    /// One way only: a number that has its minus keeps it, and zero takes none. False when nothing changed.
+    bool ChangeSign();
+    /// Takes the last character back, and with it a separator that would be left at the end.
+    void DropLast();
+
+    void SetNumber(double number);
+    /// "0", onto which typing goes on.
+    void SetZero() { text_ = "0"; }
+    /// "0", and the next digit begins a new number.
+    void Clear();
+
+  private:
+    bool HasSeparator() const { return text_.find(separator_) != std::string::npos; }
+    int Length() const;
+    bool FractionIsFull(int decimals) const;
+
+    std::string separator_;
+    std::string text_;
+    bool startsAnew_ = true;
+    bool separatorPending_ = false;
+};
+
+}  // namespace tavrin::calculator
