@@ -19,7 +19,7 @@ void CreateCompanies(EmbeddedDatabase& database) {
 
 void CreateYears(EmbeddedDatabase& database) {
     database.Run("CREATE TABLE An (An int PRIMARY KEY)");
-    for (int year = demoFirstYear; year <= demoLastYear; ++year) {
+    for (int year = DemoFirstYear; year <= DemoLastYear; ++year) {
         database.Run("INSERT INTO An VALUES (" + std::to_string(year) + ")");
     }
 }

@@ -10,13 +10,13 @@
 namespace tavrin::host {
 namespace {
 
-constexpr auto families = std::to_array<std::string_view>(
+constexpr auto Families = std::to_array<std::string_view>(
     {"Albu",  "Anghel",  "Barbu",  "Călinescu", "Ciobanu",   "Constantin", "Cristea", "Dima",
      "Dobre", "Dumitru", "Enache", "Florea",    "Georgescu", "Grigore",    "Ilie",    "Ionescu",
      "Lazăr", "Lungu",   "Manole", "Marin",     "Matei",     "Munteanu",   "Neagu",   "Nistor",
      "Pop",   "Popescu", "Rusu",   "Sandu",     "Șerban",    "Țurcanu"});
 
-constexpr auto givenNames = std::to_array<std::string_view>(
+constexpr auto GivenNames = std::to_array<std::string_view>(
     {"Adrian", "Alina",   "Ana",   "Andrei", "Bogdan",   "Carmen", "Cătălin", "Cristina",
      "Dan",    "Daniela", "Elena", "Florin", "Gabriela", "Ioana",  "Ion",     "Irina",
      "Laura",  "Maria",   "Mihai", "Radu",   "Ștefan",   "Tudor",  "Vasile",  "Viorica"});
@@ -27,7 +27,7 @@ struct Town {
     std::string_view prefix;  ///< of telephone numbers
 };
 
-constexpr auto towns = std::to_array<Town>({{"București", "București", "021"},
+constexpr auto Towns = std::to_array<Town>({{"București", "București", "021"},
                                             {"Cluj-Napoca", "Cluj", "0264"},
                                             {"Iași", "Iași", "0232"},
                                             {"Timișoara", "Timiș", "0256"},
@@ -39,13 +39,13 @@ constexpr auto towns = std::to_array<Town>({{"București", "București", "021"},
                                             {"Suceava", "Suceava", "0230"},
                                             {"Târgu Mureș", "Mureș", "0265"}});
 
-constexpr auto streets = std::to_array<std::string_view>(
+constexpr auto Streets = std::to_array<std::string_view>(
     {"Florilor", "Lungă", "Morii", "Păcii", "Primăverii", "Teilor", "Viilor"});
 
-constexpr auto trades = std::to_array<std::string_view>(
+constexpr auto Trades = std::to_array<std::string_view>(
     {"Agro", "Birotică", "Construct", "Mobilă", "Panificație", "Textil", "Transport", "Turism"});
 
-constexpr auto departments =
+constexpr auto Departments =
     std::to_array<std::pair<std::string_view, std::string_view>>({{"Contabilitate", "Contabil"},
                                                                   {"Contabilitate", "Economist"},
                                                                   {"Desfacere", "Agent de vânzări"},
@@ -54,9 +54,9 @@ constexpr auto departments =
                                                                   {"Conducere", "Director"}});
 
 // Steps through all pairs of names in a mixed order; it shares no factor with their count.
-constexpr std::size_t pairStep = 37;
-static_assert(families.size() * givenNames.size() % pairStep != 0);
-static_assert(families.size() * givenNames.size() >= demoPeople);
+constexpr std::size_t PairStep = 37;
+static_assert(Families.size() * GivenNames.size() % PairStep != 0);
+static_assert(Families.size() * GivenNames.size() >= DemoPeople);
 
 template <class List>
 std::string Pick(const List& list, std::size_t number) {
@@ -64,10 +64,10 @@ std::string Pick(const List& list, std::size_t number) {
 }
 
 std::string WithoutAccents(std::string text) {
-    static constexpr auto plain = std::to_array<std::pair<std::string_view, char>>(
+    static constexpr auto Plain = std::to_array<std::pair<std::string_view, char>>(
         {{"ă", 'a'}, {"â", 'a'}, {"î", 'i'}, {"ș", 's'}, {"ț", 't'}});
     text = FoldCase(text);
-    for (const auto& [accented, letter] : plain) {
+    for (const auto& [accented, letter] : Plain) {
         for (std::size_t at = text.find(accented); at != std::string::npos; at = text.find(accented)) {
             text.replace(at, accented.size(), 1, letter);
         }
@@ -80,7 +80,7 @@ std::string ThreeDigits(std::size_t number) {
 }
 
 std::string Address(std::size_t number) {
-    return "Str. " + Pick(streets, number) + " nr. " + std::to_string(number % 89 + 1);
+    return "Str. " + Pick(Streets, number) + " nr. " + std::to_string(number % 89 + 1);
 }
 
 std::string Quoted(const std::vector<std::string>& values) {
@@ -92,10 +92,10 @@ std::string Quoted(const std::vector<std::string>& values) {
 
 /// The sixteen values of a person. Every fifth has no firm, every third no telephone at home.
 std::vector<std::string> Person(std::size_t number) {
-    const std::size_t pair = number * pairStep % (families.size() * givenNames.size());
-    const std::string family = Pick(families, pair / givenNames.size());
-    const std::string given = Pick(givenNames, pair);
-    const Town& home = towns[number * 5 % towns.size()];
+    const std::size_t pair = number * PairStep % (Families.size() * GivenNames.size());
+    const std::string family = Pick(Families, pair / GivenNames.size());
+    const std::string given = Pick(GivenNames, pair);
+    const Town& home = Towns[number * 5 % Towns.size()];
     const std::string number3 = ThreeDigits(number);
     std::vector<std::string> values{family,
                                     given,
@@ -109,9 +109,9 @@ std::vector<std::string> Person(std::size_t number) {
         values.resize(16);
         return values;
     }
-    const Town& work = towns[number * 3 % towns.size()];
-    const auto& [department, job] = departments[number % departments.size()];
-    const std::string firm = "Exemplu " + Pick(trades, number) + " SRL";
+    const Town& work = Towns[number * 3 % Towns.size()];
+    const auto& [department, job] = Departments[number % Departments.size()];
+    const std::string firm = "Exemplu " + Pick(Trades, number) + " SRL";
     const std::string prefix(work.prefix);
     for (const std::string& value :
          {firm, Address(number * 7 + 1), std::string(work.name), std::string(work.county),
@@ -130,7 +130,7 @@ void CreateDemoPeople(EmbeddedDatabase& database) {
         "nvarchar(100), DescriereFirma nvarchar(100), AdresaFirma nvarchar(100), OrasFirma nvarchar(50), "
         "JudetFirma nvarchar(50), Telefon nvarchar(30), Fax nvarchar(30), Departament nvarchar(50), Functie "
         "nvarchar(50), PRIMARY KEY (Nume, Prenume))");
-    for (std::size_t number = 0; number < demoPeople; ++number) {
+    for (std::size_t number = 0; number < DemoPeople; ++number) {
         database.Run("INSERT INTO Agenda VALUES (" + Quoted(Person(number)) + ")");
     }
 }

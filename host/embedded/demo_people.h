@@ -4,7 +4,7 @@
 
 namespace tavrin::host {
 
-inline constexpr int demoPeople = 300;
+inline constexpr int DemoPeople = 300;
 
 /// The table `Agenda` with invented persons: names are put together from lists of common ones, telephone
 /// numbers, addresses and firms are plainly made up.

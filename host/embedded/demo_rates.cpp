@@ -15,7 +15,7 @@ struct Trend {
     double last;   ///< on the last day
 };
 
-constexpr std::array<Trend, 6> trends{{{"EUR", 25200, 40600},
+constexpr std::array<Trend, 6> Trends{{{"EUR", 25200, 40600},
                                        {"USD", 26300, 32900},
                                        {"GBP", 38700, 57400},
                                        {"CHF", 16600, 26100},
@@ -52,7 +52,7 @@ bool IsWorkingDay(double day) {
 
 void CreateRateTables(EmbeddedDatabase& database) {
     std::string columns = "[Data] datetime PRIMARY KEY, Validat int";
-    for (const Trend& trend : trends)
+    for (const Trend& trend : Trends)
         columns += std::string(", [") + trend.currency + "] float";
     database.Run("CREATE TABLE [Curs Valutar] (" + columns + ")");
     database.Run("CREATE TABLE LpVal (Valuta nvarchar(10) PRIMARY KEY, Curs float)");
@@ -63,12 +63,13 @@ void CreateRateTables(EmbeddedDatabase& database) {
 void CreateDemoRates(EmbeddedDatabase& database) {
     CreateRateTables(database);
     std::vector<Walk> walks;
-    for (const Trend& trend : trends)
+    walks.reserve(Trends.size());
+    for (const Trend& trend : Trends)
         walks.emplace_back(trend, static_cast<std::uint32_t>(walks.size() + 1));
-    const double first = data::ToOleDate({demoFirstYear, 1, 1}).days;
-    const double last = data::ToOleDate({demoLastYear, 12, 31}).days;
+    const double first = data::ToOleDate({DemoFirstYear, 1, 1}).days;
+    const double last = data::ToOleDate({DemoLastYear, 12, 31}).days;
     const double validated = data::ToOleDate({2003, 3, 31}).days;
-    std::array<long long, trends.size()> rates{};
+    std::array<long long, Trends.size()> rates{};
     for (double day = first; day <= last; ++day) {
         if (!IsWorkingDay(day)) continue;
         std::string values = "'" + data::FormatYearMonthDay({day}) + "', " + (day <= validated ? "1" : "0");
@@ -79,7 +80,7 @@ void CreateDemoRates(EmbeddedDatabase& database) {
         database.Run("INSERT INTO [Curs Valutar] VALUES (" + values + ")");
     }
     for (std::size_t index = 0; index < rates.size(); ++index) {
-        database.Run(std::string("INSERT INTO LpVal VALUES ('") + trends[index].currency + "', " +
+        database.Run(std::string("INSERT INTO LpVal VALUES ('") + Trends[index].currency + "', " +
                      std::to_string(rates[index]) + ")");
     }
 }

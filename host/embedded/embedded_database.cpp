@@ -9,7 +9,7 @@
 namespace tavrin::host {
 namespace {
 
-constexpr int busyMilliseconds = 2000;
+constexpr int BusyMilliseconds = 2000;
 
 data::Value ReadValue(const SqliteStatement& row, int column, FieldType type) {
     if (row.IsNull(column)) return data::Null{};
@@ -66,22 +66,23 @@ EmbeddedDatabase::EmbeddedDatabase(const std::string& path) {
     if (opened == nullptr) throw data::Error(dialect::provider_error::Unspecified, "Out of memory.");
     if (result != SQLITE_OK) throw EngineError(opened);
     sqlite3_extended_result_codes(opened, 1);
-    sqlite3_busy_timeout(opened, busyMilliseconds);
+    sqlite3_busy_timeout(opened, BusyMilliseconds);
     RegisterDialectFunctions(opened, pendingError_);
     IsBlank();  // reads the file: one that is no database is refused here, not at the first query
 }
 
-EmbeddedDatabase::Answer EmbeddedDatabase::Run(std::string_view text) {
-    const dialect::Translation translation = dialect::Translate(dialect::Parse(text), *this);
+EmbeddedDatabase::Answer EmbeddedDatabase::Run(std::string_view statement) {
+    const dialect::Translation translation = dialect::Translate(dialect::Parse(statement), *this);
     pendingError_.reset();
-    SqliteStatement statement(database_.get(), translation.sql);
+    SqliteStatement prepared(database_.get(), translation.sql);
     Answer answer;
     answer.fields = translation.fields;
     if (translation.givesRows) answer.rows = MakeTable(translation.fields);
     const int changesBefore = sqlite3_total_changes(database_.get());
-    while (statement.Step())
-        answer.rows->AddRow(ReadRow(statement, translation.fields));
-    if (statement.Result() != SQLITE_DONE) ThrowRefusal(translation);
+    while (prepared.Step()) {
+        answer.rows->AddRow(ReadRow(prepared, translation.fields));
+    }
+    if (prepared.Result() != SQLITE_DONE) ThrowRefusal(translation);
     answer.affectedRows = sqlite3_total_changes(database_.get()) - changesBefore;
     return answer;
 }
@@ -161,7 +162,7 @@ void EmbeddedDatabase::Transaction::Commit() {
 EmbeddedDatabase::Transaction::~Transaction() {
     if (database_ == nullptr) return;
     database_->tablesVersion_ =
-        neverRead;  // the version number goes back, and may come again for other tables
+        NeverRead;  // the version number goes back, and may come again for other tables
     try {
         database_->RunEngineStatement("ROLLBACK");
     } catch (...) {

@@ -64,8 +64,8 @@ class EmbeddedDatabase : public dialect::Schema {
     std::unique_ptr<sqlite3, Closer> database_;
 
     // Read again whenever the file's schema version has moved on.
-    static constexpr std::int64_t neverRead = -1;
-    mutable std::int64_t tablesVersion_ = neverRead;
+    static constexpr std::int64_t NeverRead = -1;
+    mutable std::int64_t tablesVersion_ = NeverRead;
     mutable std::vector<dialect::TableSchema> tables_;
 };
 

@@ -6,11 +6,11 @@
 namespace tavrin::host {
 namespace {
 
-constexpr double moneyUnits = 10000;
-constexpr double largestMoney = 922337203685477.0;
+constexpr double MoneyUnits = 10000;
+constexpr double LargestMoney = 922337203685477.0;
 
 std::int64_t RoundedHundredths(double amount) {
-    const std::int64_t units = std::llround(amount * moneyUnits);
+    const std::int64_t units = std::llround(amount * MoneyUnits);
     const std::int64_t half = units < 0 ? -50 : 50;
     return (units + half) / 100;
 }
@@ -18,8 +18,8 @@ std::int64_t RoundedHundredths(double amount) {
 }  // namespace
 
 std::optional<double> ToMoney(double amount) {
-    if (!(std::fabs(amount) < largestMoney)) return std::nullopt;
-    return static_cast<double>(std::llround(amount * moneyUnits)) / moneyUnits;
+    if (!(std::fabs(amount) < LargestMoney)) return std::nullopt;
+    return static_cast<double>(std::llround(amount * MoneyUnits)) / MoneyUnits;
 }
 
 std::string MoneyText(double amount, Thousands thousands) {

@@ -111,21 +111,21 @@ struct Function {
 };
 
 // Only what cannot fail is deterministic: the engine may run such a function although no row needs it.
-constexpr int deterministic = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
-constexpr auto functions =
-    std::to_array<Function>({{names::Year, 1, deterministic, Guarded<Year>},
-                             {names::Month, 1, deterministic, Guarded<Month>},
-                             {names::Day, 1, deterministic, Guarded<Day>},
-                             {names::DateText, 1, deterministic, Guarded<DateText>},
+constexpr int Deterministic = SQLITE_UTF8 | SQLITE_DETERMINISTIC;
+constexpr auto Functions =
+    std::to_array<Function>({{names::Year, 1, Deterministic, Guarded<Year>},
+                             {names::Month, 1, Deterministic, Guarded<Month>},
+                             {names::Day, 1, Deterministic, Guarded<Day>},
+                             {names::DateText, 1, Deterministic, Guarded<DateText>},
                              {names::Money, 1, SQLITE_UTF8, Guarded<Money>},
-                             {names::MoneyText, 2, deterministic, Guarded<MoneyTextOf>},
-                             {names::Like, 2, deterministic, Guarded<Like>},
+                             {names::MoneyText, 2, Deterministic, Guarded<MoneyTextOf>},
+                             {names::Like, 2, Deterministic, Guarded<Like>},
                              {names::FitText, 2, SQLITE_UTF8, Guarded<FitText>}});
 
 }  // namespace
 
 void RegisterDialectFunctions(sqlite3* database, PendingError& pendingError) {
-    for (const Function& function : functions) {
+    for (const Function& function : Functions) {
         const int result =
             sqlite3_create_function_v2(database, function.name, function.arguments, function.flags,
                                        &pendingError, function.run, nullptr, nullptr, nullptr);

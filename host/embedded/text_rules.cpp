@@ -11,7 +11,7 @@ struct Accent {
     char32_t plain;
 };
 
-constexpr std::array<Accent, 7> romanianLetters{{{0x102, 0x103, 'a'},
+constexpr std::array<Accent, 7> RomanianLetters{{{0x102, 0x103, 'a'},
                                                  {0xC2, 0xE2, 'a'},
                                                  {0xCE, 0xEE, 'i'},
                                                  {0x15E, 0x15F, 's'},
@@ -49,7 +49,7 @@ char32_t TakeCharacter(std::string_view& text) {
 char32_t Folded(char32_t character) {
     if (character >= 'A' && character <= 'Z') return character + ('a' - 'A');
     if (character < 0x80) return character;
-    for (const Accent& accent : romanianLetters) {
+    for (const Accent& accent : RomanianLetters) {
         if (character == accent.upper) return accent.lower;
     }
     return character;
@@ -57,7 +57,7 @@ char32_t Folded(char32_t character) {
 
 char32_t WithoutAccent(char32_t folded) {
     if (folded < 0x80) return folded;
-    for (const Accent& accent : romanianLetters) {
+    for (const Accent& accent : RomanianLetters) {
         if (folded == accent.lower) return accent.plain;
     }
     return folded;

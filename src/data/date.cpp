@@ -8,9 +8,9 @@
 namespace tavrin::data {
 namespace {
 
-constexpr double firstDay = -657434;  // 1 January 100
-constexpr double lastDay = 2958465;   // 31 December 9999
-constexpr long long oleEpochFromUnixEpoch = 25569;
+constexpr double FirstDay = -657434;  // 1 January 100
+constexpr double LastDay = 2958465;   // 31 December 9999
+constexpr long long OleEpochFromUnixEpoch = 25569;
 
 // Counts from 1 January 1970 in eras of 400 years whose years begin in March, so that the leap day comes
 // last.
@@ -36,7 +36,7 @@ CalendarDay FromUnixEpoch(long long days) {
 }
 
 double ClampedDay(double days) {
-    return std::isnan(days) ? 0 : std::clamp(std::trunc(days), firstDay, lastDay);
+    return std::isnan(days) ? 0 : std::clamp(std::trunc(days), FirstDay, LastDay);
 }
 
 std::string Padded(int number, std::size_t width) {
@@ -66,11 +66,11 @@ OleDate ToOleDate(CalendarDay day) {
     const long long months = static_cast<long long>(day.year) * 12 + day.month - 1;
     const long long year = (months >= 0 ? months : months - 11) / 12;
     const int month = static_cast<int>(months - year * 12) + 1;
-    return {static_cast<double>(DaysFromUnixEpoch(year, month, day.day) + oleEpochFromUnixEpoch)};
+    return {static_cast<double>(DaysFromUnixEpoch(year, month, day.day) + OleEpochFromUnixEpoch)};
 }
 
 CalendarDay ToCalendarDay(OleDate date) {
-    return FromUnixEpoch(static_cast<long long>(ClampedDay(date.days)) - oleEpochFromUnixEpoch);
+    return FromUnixEpoch(static_cast<long long>(ClampedDay(date.days)) - OleEpochFromUnixEpoch);
 }
 
 int DaysInMonth(int year, int month) {

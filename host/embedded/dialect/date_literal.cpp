@@ -10,7 +10,7 @@
 namespace tavrin::host::dialect {
 namespace {
 
-constexpr double secondsInDay = 86400;
+constexpr double SecondsInDay = 86400;
 
 struct Number {
     int value = 0;
@@ -94,7 +94,7 @@ double TakeTime(Reader& reader) {
     const int second = reader.TakeAnyOf(":") ? reader.TakeNumber(1, 2).value : 0;
     const double fraction = reader.TakeAnyOf(".") ? TakeSecondFraction(reader) : 0;
     if (hour > 23 || minute > 59 || second > 59) throw DateOutOfRange();
-    return (hour * 3600 + minute * 60 + second + fraction) / secondsInDay;
+    return (hour * 3600 + minute * 60 + second + fraction) / SecondsInDay;
 }
 
 data::OleDate RoundedToMinute(data::OleDate date) {

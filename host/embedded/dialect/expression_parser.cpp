@@ -9,12 +9,12 @@
 namespace tavrin::host::dialect {
 namespace {
 
-constexpr int deepestNesting = 100;
+constexpr int DeepestNesting = 100;
 
 class Nesting {
   public:
     explicit Nesting(int& depth) : depth_(depth) {
-        if (depth_ >= deepestNesting) throw NestedTooDeeply();
+        if (depth_ >= DeepestNesting) throw NestedTooDeeply();
         ++depth_;
     }
     ~Nesting() { --depth_; }
@@ -75,13 +75,13 @@ ConditionPtr ExpressionParser::ParseNegation() {
 // "(a) = 1" begins with an expression, "(a = 1) AND ..." with a condition: what follows the ")" tells.
 bool ExpressionParser::AtConditionInParentheses() const {
     if (!tokens_.AtSymbol("(")) return false;
-    static constexpr auto symbols = std::to_array<std::string_view>({"=", "<", "<=", ">", ">=", "<>", "!="});
-    static constexpr auto keywords = std::to_array<std::string_view>({"LIKE", "BETWEEN", "IN", "IS", "NOT"});
+    static constexpr auto Symbols = std::to_array<std::string_view>({"=", "<", "<=", ">", ">=", "<>", "!="});
+    static constexpr auto Keywords = std::to_array<std::string_view>({"LIKE", "BETWEEN", "IN", "IS", "NOT"});
     const std::size_t after = tokens_.ParenthesisLength();
     const auto atSymbol = [&](std::string_view symbol) { return tokens_.AtSymbol(symbol, after); };
     const auto atKeyword = [&](std::string_view keyword) { return tokens_.AtKeyword(keyword, after); };
-    return std::none_of(symbols.begin(), symbols.end(), atSymbol) &&
-           std::none_of(keywords.begin(), keywords.end(), atKeyword);
+    return std::none_of(Symbols.begin(), Symbols.end(), atSymbol) &&
+           std::none_of(Keywords.begin(), Keywords.end(), atKeyword);
 }
 
 ConditionPtr ExpressionParser::ParsePredicate() {
@@ -124,11 +124,11 @@ ConditionPtr ExpressionParser::ParseNullTest(ExpressionPtr value) {
 }
 
 ConditionPtr ExpressionParser::ParseComparison(ExpressionPtr left) {
-    static constexpr auto comparisons =
+    static constexpr auto Comparisons =
         std::to_array<std::string_view>({"=", "<", "<=", ">", ">=", "<>", "!="});
     const std::string symbol = tokens_.Peek().text;
     const bool known = tokens_.Peek().kind == TokenKind::Symbol &&
-                       std::find(comparisons.begin(), comparisons.end(), symbol) != comparisons.end();
+                       std::find(Comparisons.begin(), Comparisons.end(), symbol) != Comparisons.end();
     if (!known) tokens_.ThrowUnexpected();
     tokens_.Take();
     return MakeCondition(Comparison{symbol == "!=" ? "<>" : symbol, std::move(left), ParseExpression()});

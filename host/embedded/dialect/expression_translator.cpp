@@ -12,17 +12,17 @@ namespace {
 
 using Aggregates = ExpressionTranslator::Aggregates;
 
-constexpr SqlType intType{TypeKind::Int, 0};
-constexpr int dayMonthYearStyle = 103;
-constexpr int thousandsStyle = 1;
+constexpr SqlType IntType{TypeKind::Int, 0};
+constexpr int DayMonthYearStyle = 103;
+constexpr int ThousandsStyle = 1;
 
 TypedSql Computed(Sql sql, SqlType type) {
     return {std::move(sql), type, Literal::None, {}};
 }
 
 bool IsAggregateName(std::string_view function) {
-    static constexpr auto names = std::to_array<std::string_view>({"MIN", "MAX", "AVG", "SUM", "COUNT"});
-    return std::find(names.begin(), names.end(), function) != names.end();
+    static constexpr auto Names = std::to_array<std::string_view>({"MIN", "MAX", "AVG", "SUM", "COUNT"});
+    return std::find(Names.begin(), Names.end(), function) != Names.end();
 }
 
 const char* DatePartFunction(std::string_view function) {
@@ -87,10 +87,10 @@ class Visitor {
             throw data::Error(provider_error::ErrorsInCommand,
                               "An aggregate may not appear here: '" + call.function + "'.");
         }
-        if (call.star && call.function == "COUNT") return Computed({"count(*)", {}}, intType);
+        if (call.star && call.function == "COUNT") return Computed({"count(*)", {}}, IntType);
         RequireArguments(call, 1);
         const TypedSql operand = translator_.Translate(*call.arguments[0], Aggregates::Refused);
-        if (call.function == "COUNT") return Computed(FunctionCall("count", {operand.sql}), intType);
+        if (call.function == "COUNT") return Computed(FunctionCall("count", {operand.sql}), IntType);
         if (call.function == "MIN") return Computed(FunctionCall("min", {operand.sql}), operand.type);
         if (call.function == "MAX") return Computed(FunctionCall("max", {operand.sql}), operand.type);
         RequireNumber(call, operand.type);
@@ -106,14 +106,14 @@ class Visitor {
         Sql whole{"CAST(", {}};
         whole += average;
         whole += " AS INTEGER)";
-        return Computed(std::move(whole), intType);
+        return Computed(std::move(whole), IntType);
     }
 
     TypedSql DatePart(const Call& call, const char* part) const {
         RequireArguments(call, 1);
         const SqlType dateType{TypeKind::DateTime, 0};
         const TypedSql date = Converted(translator_.Translate(*call.arguments[0], aggregates_), dateType);
-        return Computed(FunctionCall(part, {date.sql}), intType);
+        return Computed(FunctionCall(part, {date.sql}), IntType);
     }
 
     TypedSql IsNull(const Call& call) const {
@@ -124,17 +124,16 @@ class Visitor {
         SqlType type = checked.type;
         // A datetime stands in for a smalldatetime as it is: there is nothing between the minutes to lose
         // here.
-        if (!(IsDate(type) && IsDate(replacement.type)))
-            replacement = Converted(std::move(replacement), type);
+        if (!(IsDate(type) && IsDate(replacement.type))) replacement = Converted(replacement, type);
         return Computed(FunctionCall("ifnull", {checked.sql, replacement.sql}), type);
     }
 
     static TypedSql ToText(const TypedSql& operand, SqlType target, std::optional<int> style) {
-        if (IsDate(operand.type) && style == dayMonthYearStyle) {
+        if (IsDate(operand.type) && style == DayMonthYearStyle) {
             return Computed(Shortened(FunctionCall(function_name::DateText, {operand.sql}), target.length),
                             target);
         }
-        if (operand.type.kind == TypeKind::Money && style.value_or(0) <= thousandsStyle &&
+        if (operand.type.kind == TypeKind::Money && style.value_or(0) <= ThousandsStyle &&
             RoomForNumber(target)) {
             const Sql styleArgument = Parameter(std::int64_t{style.value_or(0)});
             return Computed(FunctionCall(function_name::MoneyText, {operand.sql, styleArgument}), target);
@@ -158,95 +157,10 @@ class Visitor {
     Aggregates aggregates_;
 };
 
-/// Translates one condition, always in parentheses.
-class ConditionVisitor {
-  public:
-    explicit ConditionVisitor(const ExpressionTranslator& translator) : translator_(translator) {}
-
-    Sql operator()(const Comparison& comparison) const {
-        return Compared(translator_.Translate(*comparison.left), comparison.comparison,
-                        translator_.Translate(*comparison.right));
-    }
-
-    Sql operator()(const LikeCondition& like) const {
-        const TypedSql text = translator_.Translate(*like.text);
-        const TypedSql pattern = translator_.Translate(*like.pattern);
-        if (!IsText(text.type) || !IsText(pattern.type)) {
-            throw NotUnderstood("LIKE on " + KindName(text.type));
-        }
-        return FunctionCall(function_name::Like, {text.sql, pattern.sql});
-    }
-
-    Sql operator()(const BetweenCondition& between) const {
-        const TypedSql value = translator_.Translate(*between.value);
-        const std::vector<Sql> bounds{Compared(value, ">=", translator_.Translate(*between.low)),
-                                      Compared(value, "<=", translator_.Translate(*between.high))};
-        return Parenthesized(Joined(bounds, " AND "));
-    }
-
-    Sql operator()(const NullCondition& test) const {
-        Sql sql{"(", {}};
-        sql += translator_.Translate(*test.value).sql;
-        sql += " IS NULL)";
-        return sql;
-    }
-
-    Sql operator()(const InCondition& in) const {
-        const TypedSql value = translator_.Translate(*in.value);
-        std::vector<Sql> matches;
-        for (const ExpressionPtr& item : in.list) {
-            matches.push_back(Compared(value, "=", translator_.Translate(*item)));
-        }
-        return Parenthesized(Joined(matches, " OR "));
-    }
-
-    Sql operator()(const NotCondition& negation) const {
-        Sql sql{"(NOT ", {}};
-        sql += translator_.Translate(*negation.condition);
-        sql += ")";
-        return sql;
-    }
-
-    Sql operator()(const AndCondition& conjunction) const { return List(conjunction.terms, " AND "); }
-    Sql operator()(const OrCondition& disjunction) const { return List(disjunction.terms, " OR "); }
-
-  private:
-    static Sql Parenthesized(const Sql& inner) {
-        Sql sql{"(", {}};
-        sql += inner;
-        sql += ")";
-        return sql;
-    }
-
-    static Sql Compared(TypedSql left, const std::string& comparison, TypedSql right) {
-        Unify(left, right);
-        Sql sql{"(", {}};
-        sql += left.sql;
-        if (IsText(left.type)) sql += std::string(" COLLATE ") + function_name::Collation;
-        sql += " " + comparison + " ";
-        sql += right.sql;
-        sql += ")";
-        return sql;
-    }
-
-    Sql List(const std::vector<ConditionPtr>& terms, std::string_view separator) const {
-        std::vector<Sql> pieces;
-        for (const ConditionPtr& term : terms)
-            pieces.push_back(translator_.Translate(*term));
-        return Parenthesized(Joined(pieces, separator));
-    }
-
-    const ExpressionTranslator& translator_;
-};
-
 }  // namespace
 
 TypedSql ExpressionTranslator::Translate(const Expression& expression, Aggregates aggregates) const {
     return std::visit(Visitor(*this, aggregates), expression.content);
-}
-
-Sql ExpressionTranslator::Translate(const Condition& condition) const {
-    return std::visit(ConditionVisitor(*this), condition.content);
 }
 
 const ColumnSchema& ExpressionTranslator::Resolve(const ColumnName& column) const {

@@ -6,8 +6,8 @@
 namespace tavrin::host::dialect {
 namespace {
 
-constexpr std::string_view ownerSchema = "dbo";
-constexpr std::string_view ownerInfix = ".dbo.";
+constexpr std::string_view OwnerSchema = "dbo";
+constexpr std::string_view OwnerInfix = ".dbo.";
 
 }  // namespace
 
@@ -21,11 +21,11 @@ const ColumnSchema* TableSchema::Find(std::string_view column) const {
 std::optional<std::string> StoredName(const ObjectName& name) {
     const std::vector<std::string>& parts = name.parts;
     if (parts.empty() || parts.size() > 3) return std::nullopt;
-    if (parts.size() > 1 && !SameName(parts[parts.size() - 2], ownerSchema)) return std::nullopt;
+    if (parts.size() > 1 && !SameName(parts[parts.size() - 2], OwnerSchema)) return std::nullopt;
     // A single name that merely looks like one of three parts must not reach the other database's table.
-    if (FoldCase(parts.back()).find(ownerInfix) != std::string::npos) return std::nullopt;
+    if (FoldCase(parts.back()).find(OwnerInfix) != std::string::npos) return std::nullopt;
     if (parts.size() < 3) return parts.back();
-    return parts.front() + std::string(ownerInfix) + parts.back();
+    return parts.front() + std::string(OwnerInfix) + parts.back();
 }
 
 TableSchema RequireTable(const Schema& schema, const ObjectName& name) {

@@ -9,9 +9,9 @@
 namespace tavrin::host::dialect {
 namespace {
 
-constexpr int longestText = 4000;
+constexpr int LongestText = 4000;
 
-constexpr std::array<std::pair<std::string_view, TypeKind>, 7> learnedTypes{
+constexpr std::array<std::pair<std::string_view, TypeKind>, 7> LearnedTypes{
     {{"int", TypeKind::Int},
      {"float", TypeKind::Float},
      {"money", TypeKind::Money},
@@ -20,7 +20,7 @@ constexpr std::array<std::pair<std::string_view, TypeKind>, 7> learnedTypes{
      {"nvarchar", TypeKind::Text},
      {"varchar", TypeKind::Text}}};
 
-constexpr auto unlearnedTypes = std::to_array<std::string_view>(
+constexpr auto UnlearnedTypes = std::to_array<std::string_view>(
     {"bigint",     "binary",  "bit",   "char",  "date",      "datetime2", "datetimeoffset",
      "decimal",    "image",   "nchar", "ntext", "numeric",   "real",      "smallint",
      "smallmoney", "sysname", "text",  "time",  "timestamp", "tinyint",   "uniqueidentifier",
@@ -28,7 +28,7 @@ constexpr auto unlearnedTypes = std::to_array<std::string_view>(
 
 int TextLength(const TypeName& name, TypeUse use) {
     const int length = name.length.value_or(use == TypeUse::Column ? 1 : 30);
-    if (length < 1 || length > longestText) throw NotUnderstood("the text length " + std::to_string(length));
+    if (length < 1 || length > LongestText) throw NotUnderstood("the text length " + std::to_string(length));
     return length;
 }
 
@@ -45,13 +45,13 @@ bool IsText(SqlType type) {
 }
 
 SqlType ResolveType(const TypeName& name, TypeUse use) {
-    for (const auto& [text, kind] : learnedTypes) {
+    for (const auto& [text, kind] : LearnedTypes) {
         if (text != name.name) continue;
         if (kind == TypeKind::Text) return {kind, TextLength(name, use)};
         if (name.length) throw NotUnderstood("the type " + name.name + " with a length");
         return {kind, 0};
     }
-    if (std::find(unlearnedTypes.begin(), unlearnedTypes.end(), name.name) != unlearnedTypes.end()) {
+    if (std::find(UnlearnedTypes.begin(), UnlearnedTypes.end(), name.name) != UnlearnedTypes.end()) {
         throw NotUnderstood("the type " + name.name);
     }
     throw UnknownType(name.name);

@@ -8,7 +8,7 @@
 namespace tavrin::host::dialect {
 namespace {
 
-constexpr std::size_t longestName = 128;
+constexpr std::size_t LongestName = 128;
 
 bool IsBlank(char character) {
     return character == ' ' || character == '\t' || character == '\r' || character == '\n';
@@ -79,7 +79,7 @@ class Tokenizer {
 
     static std::string CheckedName(std::string name) {
         if (name.empty()) throw MissingName();
-        if (Utf16Length(name) > longestName) throw NameTooLong(Utf16Prefix(name, longestName));
+        if (Utf16Length(name) > LongestName) throw NameTooLong(Utf16Prefix(name, LongestName));
         if (name.find('\0') != std::string::npos) throw IncorrectSyntax(name.substr(0, name.find('\0')));
         return name;
     }
@@ -107,11 +107,11 @@ class Tokenizer {
     }
 
     std::string TakeSymbol(char first, char second) {
-        static constexpr std::array<std::string_view, 4> pairs{"<=", ">=", "<>", "!="};
+        static constexpr std::array<std::string_view, 4> Pairs{"<=", ">=", "<>", "!="};
         if ((first == '-' && second == '-') || (first == '/' && second == '*')) {
             throw NotUnderstood("a comment");
         }
-        const bool pair = std::find(pairs.begin(), pairs.end(), rest_.substr(0, 2)) != pairs.end();
+        const bool pair = std::find(Pairs.begin(), Pairs.end(), rest_.substr(0, 2)) != Pairs.end();
         return Take(pair ? 2 : 1);
     }
 
@@ -132,7 +132,7 @@ std::vector<Token> Tokenize(std::string_view statement) {
 }
 
 bool IsReserved(std::string_view word) {
-    static constexpr auto words = std::to_array<std::string_view>(
+    static constexpr auto Words = std::to_array<std::string_view>(
         {"ADD",     "ALL",      "ALTER",   "AND",     "ANY",    "AS",      "ASC",        "BEGIN",
          "BETWEEN", "BY",       "CASE",    "CHECK",   "COLUMN", "COMMIT",  "CONSTRAINT", "CONVERT",
          "CREATE",  "CROSS",    "DECLARE", "DEFAULT", "DELETE", "DESC",    "DISTINCT",   "DROP",
@@ -143,7 +143,7 @@ bool IsReserved(std::string_view word) {
          "RIGHT",   "ROLLBACK", "SELECT",  "SET",     "TABLE",  "THEN",    "TOP",        "TRUNCATE",
          "UNION",   "UNIQUE",   "UPDATE",  "USE",     "VALUES", "VIEW",    "WHEN",       "WHERE",
          "WHILE",   "WITH"});
-    return std::find(words.begin(), words.end(), UpperAscii(word)) != words.end();
+    return std::find(Words.begin(), Words.end(), UpperAscii(word)) != Words.end();
 }
 
 std::string UpperAscii(std::string_view text) {

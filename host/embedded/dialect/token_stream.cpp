@@ -10,12 +10,12 @@ namespace {
 
 // What the server's language has and this dialect has not.
 bool IsUnlearnedKeyword(std::string_view word) {
-    static constexpr auto words = std::to_array<std::string_view>(
+    static constexpr auto Words = std::to_array<std::string_view>(
         {"ALL",     "ANY",    "CASE",    "CHECK",  "COLLATE",    "CONSTRAINT", "CROSS",
          "DEFAULT", "EXISTS", "FOR",     "FULL",   "HAVING",     "IDENTITY",   "INNER",
          "INTO",    "JOIN",   "LEFT",    "OUTER",  "REFERENCES", "RIGHT",      "TOP",
          "UNION",   "WITH",   "FOREIGN", "OUTPUT", "ESCAPE",     "OVER",       "OPTION"});
-    return std::find(words.begin(), words.end(), UpperAscii(word)) != words.end();
+    return std::find(Words.begin(), Words.end(), UpperAscii(word)) != Words.end();
 }
 
 bool IsUnlearnedSymbol(std::string_view symbol) {

@@ -149,15 +149,15 @@ TypedSql NullValue() {
     return {Parameter(data::Null{}), {TypeKind::Int, 0}, Literal::Null, {}};
 }
 
-TypedSql Converted(TypedSql value, SqlType target) {
+TypedSql Converted(const TypedSql& value, SqlType target) {
     Sql sql = value.literal == Literal::None ? ExpressionAs(value, target) : LiteralAs(value, target);
     if (IsText(target) && IsText(value.type)) target.length = value.type.length;
     return {std::move(sql), target, Literal::None, {}};
 }
 
-Sql Stored(TypedSql value, SqlType column) {
+Sql Stored(const TypedSql& value, SqlType column) {
     const bool isNull = value.literal == Literal::Null;
-    Sql sql = Converted(std::move(value), column).sql;
+    Sql sql = Converted(value, column).sql;
     if (isNull) return sql;
     if (IsText(column)) {
         return FunctionCall(function_name::FitText, {sql, Parameter(std::int64_t{column.length})});
@@ -168,8 +168,8 @@ Sql Stored(TypedSql value, SqlType column) {
 
 void Unify(TypedSql& left, TypedSql& right) {
     if (left.literal == Literal::Null || right.literal == Literal::Null) return;
-    if (left.literal == Literal::Text && !IsText(right.type)) left = Converted(std::move(left), right.type);
-    if (right.literal == Literal::Text && !IsText(left.type)) right = Converted(std::move(right), left.type);
+    if (left.literal == Literal::Text && !IsText(right.type)) left = Converted(left, right.type);
+    if (right.literal == Literal::Text && !IsText(left.type)) right = Converted(right, left.type);
     if (SameFamily(left.type, right.type)) return;
     throw NotUnderstood("a comparison of " + KindName(left.type) + " with " + KindName(right.type));
 }

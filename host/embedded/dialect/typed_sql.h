@@ -44,10 +44,10 @@ TypedSql NullValue();
 
 /// The value as one of the given type, where the server converts by itself. \throws data::Error 80040E07 for
 /// a text that is no such date or number, NotUnderstood for conversions that this dialect has not learned.
-TypedSql Converted(TypedSql value, SqlType target);
+TypedSql Converted(const TypedSql& value, SqlType target);
 
 /// The same for a value that is written to a column: text must fit, whole numbers must be in range.
-Sql Stored(TypedSql value, SqlType column);
+Sql Stored(const TypedSql& value, SqlType column);
 
 /// Gives two values that are compared one type.
 void Unify(TypedSql& left, TypedSql& right);

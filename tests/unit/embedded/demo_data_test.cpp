@@ -71,8 +71,8 @@ TEST_F(DemoData, YearsAndCurrenciesAreListed) {
 }
 
 TEST_F(DemoData, AddressBookIsFullOfInventedPeople) {
-    EXPECT_EQ(Count("SELECT Count(*) FROM Agenda"), demoPeople);
-    EXPECT_EQ(Count("SELECT Count(*) FROM Agenda WHERE Email LIKE '%@example.ro'"), demoPeople);
+    EXPECT_EQ(Count("SELECT Count(*) FROM Agenda"), DemoPeople);
+    EXPECT_EQ(Count("SELECT Count(*) FROM Agenda WHERE Email LIKE '%@example.ro'"), DemoPeople);
     EXPECT_EQ(Count("SELECT Count(*) FROM Agenda WHERE Email LIKE '%[^a-z.@]%'"), 0);
     EXPECT_GT(Count("SELECT Count(*) FROM Agenda WHERE Nume = 'șerban'"), 0);
 }
