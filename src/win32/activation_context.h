@@ -22,8 +22,8 @@ class ActivationContext {
         Scope& operator=(const Scope&) = delete;
 
       private:
+        ULONG_PTR cookie_ = 0;  // before active_, whose initialisation writes it
         bool active_;
-        ULONG_PTR cookie_ = 0;
     };
 
   private:
