@@ -94,6 +94,15 @@ std::int64_t SnapshotRecordset::RecordCount() const {
     return LastPosition();
 }
 
+std::int64_t SnapshotRecordset::AbsolutePosition() const {
+    constexpr std::int64_t unknown = -1;
+    constexpr std::int64_t beforeFirst = -2;
+    constexpr std::int64_t behindLast = -3;
+    if (LastPosition() == 0) return unknown;
+    if (AtBeginning()) return beforeFirst;
+    return AtEnd() ? behindLast : position_ + 1;
+}
+
 std::size_t SnapshotRecordset::FieldCount() const {
     return IsOpen() ? table_->FieldCount() : 0;
 }

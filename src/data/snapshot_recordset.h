@@ -30,6 +30,9 @@ class SnapshotRecordset : public Recordset {
 
     TablePtr ReadAll() override;
 
+    /// The current row counted from 1. Before the first one -2, behind the last one -3, without rows -1.
+    std::int64_t AbsolutePosition() const;
+
   protected:
     /// Runs the statement. Null where it gives no rows (a write): the recordset then stays closed.
     virtual TablePtr Fetch(const std::string& source) = 0;

@@ -1,0 +1,122 @@
+// The stand-in accounting program.
+
+#include <windows.h>
+
+#include <objbase.h>
+#include <shellapi.h>
+
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <vector>
+
+#include "data/date.h"
+#include "data/error.h"
+#include "host/ado/connection_object.h"
+#include "host/ado/recordset_factory.h"
+#include "host/embedded/demo_data.h"
+#include "host/program/host_window.h"
+#include "host/program/options.h"
+#include "host/program/tour.h"
+#include "host/program/utilities.h"
+#include "win32/ado/dispatch_object.h"
+#include "win32/text.h"
+#include "win32/variant.h"
+
+namespace tavrin::host {
+namespace {
+
+using win32::ComPtr;
+using win32::Variant;
+
+class ComScope {
+  public:
+    ComScope() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
+    ~ComScope() { CoUninitialize(); }
+    ComScope(const ComScope&) = delete;
+    ComScope& operator=(const ComScope&) = delete;
+};
+
+std::vector<std::string> Arguments() {
+    int count = 0;
+    const std::unique_ptr<LPWSTR, decltype(&LocalFree)> texts(CommandLineToArgvW(GetCommandLineW(), &count),
+                                                              LocalFree);
+    std::vector<std::string> arguments;
+    for (int i = 1; i < count; ++i)
+        arguments.push_back(win32::ToUtf8(texts.get()[i]));
+    return arguments;
+}
+
+std::wstring BesideThisProgram(const wchar_t* name) {
+    std::wstring path(32768, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return path.substr(0, path.find_last_of(L'\\') + 1) + name;
+}
+
+ComPtr<IDispatch> OpenSystemAdo(const std::string& connectionString) {
+    CLSID classId;
+    ComPtr<IDispatch> connection;
+    HRESULT created = CLSIDFromProgID(L"ADODB.Connection", &classId);
+    if (SUCCEEDED(created))
+        created = CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IDispatch),
+                                   connection.ReceiveVoid());
+    if (FAILED(created)) throw data::Error(created, "ADODB.Connection: " + win32::SystemMessage(created));
+    win32::DispatchObject(connection).Call(L"Open", Variant(std::string_view(connectionString)));
+    return connection;
+}
+
+Utilities Connect(const Options& options, std::function<void()> whenLeft) {
+    if (!options.dll.empty()) return Utilities::FromFile(win32::ToWide(options.dll), std::move(whenLeft));
+    return Utilities::FromRegistration(BesideThisProgram(L"Tavrin.dll"), std::move(whenLeft));
+}
+
+std::string Summary(const Options& options) {
+    return "Societatea " + std::to_string(options.company) + ", data de lucru " +
+           data::FormatDayMonthYear(options.date) + ", exercitiul " + std::to_string(options.year);
+}
+
+void RunHost(const Options& options) {
+    const ComScope com;
+    // Registered in the process, so that the component finds the host's recordset; real ADO brings its own.
+    std::optional<RecordsetRegistration> recordsets;
+    ComPtr<IDispatch> connection;
+    if (options.adoConnection.empty()) {
+        recordsets.emplace();
+        connection = win32::MakeObject<ConnectionObject>(OpenDemoDatabase(options.database));
+    } else {
+        connection = OpenSystemAdo(options.adoConnection);
+    }
+
+    const HostWindow* left = nullptr;
+    Utilities utilities = Connect(options, [&] { left->TellLeft(); });
+    const auto open = [&] { utilities.Apel(connection, options.date, options.year, options.company); };
+    const HostWindow window(Summary(options), open);
+    left = &window;
+    open();
+    if (!options.tourFolder.empty()) RunTour(win32::ToWide(options.tourFolder));
+    RunMessageLoop();
+}
+
+int Main() try {
+    const Options options = ParseOptions(Arguments());
+    if (options.help) {
+        std::fputs(UsageText, stdout);
+        return 0;
+    }
+    RunHost(options);
+    return 0;
+} catch (const std::invalid_argument& error) {
+    std::fprintf(stderr, "tavrin_host: %s (see --help)\n", error.what());
+    return 2;
+} catch (const std::exception& error) {
+    std::fprintf(stderr, "tavrin_host: %s\n", error.what());
+    return 1;
+}
+
+}  // namespace
+}  // namespace tavrin::host
+
+int main() {
+    return tavrin::host::Main();
+}
