@@ -1,7 +1,5 @@
 #include "e2e/driver/accessible_reader.h"
 
-#include <oleacc.h>
-
 #include "e2e/driver/wait.h"
 #include "win32/com_ptr.h"
 #include "win32/text.h"
@@ -15,14 +13,6 @@ using win32::Bstr;
 using win32::ComPtr;
 using win32::ToUtf8;
 using win32::Variant;
-
-ComPtr<IAccessible> Open(const Window& control) {
-    ComPtr<IAccessible> object;
-    const HRESULT result = AccessibleObjectFromWindow(control.Handle(), static_cast<DWORD>(OBJID_CLIENT),
-                                                      IID_IAccessible, object.ReceiveVoid());
-    if (FAILED(result) || !object) throw DriverError(control.Name() + " is not accessible");
-    return object;
-}
 
 VARIANT Part(int number) {
     VARIANT part;
@@ -61,13 +51,21 @@ AccessibleFacts ReadFacts(IAccessible& object, int part) {
 
 }  // namespace
 
+ComPtr<IAccessible> OpenAccessible(const Window& control) {
+    ComPtr<IAccessible> object;
+    const HRESULT result = AccessibleObjectFromWindow(control.Handle(), static_cast<DWORD>(OBJID_CLIENT),
+                                                      IID_IAccessible, object.ReceiveVoid());
+    if (FAILED(result) || !object) throw DriverError(control.Name() + " is not accessible");
+    return object;
+}
+
 AccessibleFacts ReadAccessible(UiThread& thread, const Window& control) {
-    return thread.Call([&] { return ReadFacts(*Open(control), CHILDID_SELF); });
+    return thread.Call([&] { return ReadFacts(*OpenAccessible(control), CHILDID_SELF); });
 }
 
 std::vector<AccessibleFacts> ReadParts(UiThread& thread, const Window& control) {
     return thread.Call([&] {
-        const ComPtr<IAccessible> object = Open(control);
+        const ComPtr<IAccessible> object = OpenAccessible(control);
         std::vector<AccessibleFacts> parts;
         const int count = ReadFacts(*object, CHILDID_SELF).childCount;
         for (int part = 1; part <= count; ++part)
@@ -78,8 +76,9 @@ std::vector<AccessibleFacts> ReadParts(UiThread& thread, const Window& control) 
 
 TableTexts ReadTable(UiThread& thread, const Window& table) {
     const std::vector<AccessibleFacts> parts = ReadParts(thread, table);
-    std::size_t columns = 0;
-    while (columns < parts.size() && parts[columns].place.top == parts[0].place.top)
+    // The name of a cell is its column's header, so the first one comes back with the second row.
+    std::size_t columns = 1;
+    while (columns < parts.size() && parts[columns].name != parts[0].name)
         ++columns;
     TableTexts rows;
     for (std::size_t i = 0; i < parts.size(); ++i) {
@@ -90,7 +89,7 @@ TableTexts ReadTable(UiThread& thread, const Window& table) {
 }
 
 HRESULT DoDefaultAction(UiThread& thread, const Window& control) {
-    return thread.Call([&] { return Open(control)->accDoDefaultAction(Part(CHILDID_SELF)); });
+    return thread.Call([&] { return OpenAccessible(control)->accDoDefaultAction(Part(CHILDID_SELF)); });
 }
 
 }  // namespace tavrin::e2e

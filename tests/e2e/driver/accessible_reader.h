@@ -2,11 +2,14 @@
 
 #include <windows.h>
 
+#include <oleacc.h>
+
 #include <string>
 #include <vector>
 
 #include "e2e/driver/ui_thread.h"
 #include "e2e/driver/window.h"
+#include "win32/com_ptr.h"
 
 namespace tavrin::e2e {
 
@@ -20,11 +23,14 @@ struct AccessibleFacts {
     int childCount = 0;
 };
 
+/// The object itself; call on the thread that owns the control, and let go of it there.
+win32::ComPtr<IAccessible> OpenAccessible(const Window& control);
+
 /// Asks a control through IAccessible, on the thread that owns it. \throws DriverError when it does not
 /// answer.
 AccessibleFacts ReadAccessible(UiThread& thread, const Window& control);
 
-/// The texts of a table's cells row by row, the header first. Parts that stand at one height make a row.
+/// The texts of a table's cells row by row, the header first. No two columns may have one header.
 using TableTexts = std::vector<std::vector<std::string>>;
 TableTexts ReadTable(UiThread& thread, const Window& table);
 

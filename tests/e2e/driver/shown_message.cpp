@@ -70,4 +70,8 @@ void ShownMessage::Press(int button) const {
     Require("the message to close", [&] { return !window_.IsVisible(); });
 }
 
+void ShownMessage::Dismiss() const {
+    PostMessageW(window_.Handle(), WM_COMMAND, static_cast<WPARAM>(Buttons().back()), 0);
+}
+
 }  // namespace tavrin::e2e

@@ -30,6 +30,9 @@ class ShownMessage {
     /// Clicks a button with the mouse and waits until the message has gone.
     void Press(int button) const;
 
+    /// Ends it without mouse or keyboard, whatever the answer then is. Does not wait.
+    void Dismiss() const;
+
   private:
     explicit ShownMessage(Window window) : window_(window) {}
 

@@ -91,6 +91,7 @@ LRESULT CALLBACK UiThread::Gate(HWND window, UINT message, WPARAM wParam, LPARAM
 }
 
 void UiThread::Execute(const std::function<void()>& function) {
+    if (GetCurrentThreadId() == id_) return function();
     Task task{function, nullptr, {}};
     // Posted, not sent: inside a sent message COM refuses calls to other apartments.
     PostMessageW(gate_, RunTask, 0, reinterpret_cast<LPARAM>(&task));
