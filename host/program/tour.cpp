@@ -39,6 +39,8 @@ const std::vector<Step>& Steps() {
          {{"CursValutarDetaliu", "cmdAction(1)"}, {"CursValutar", "cmdAction(3)"}},
          "CereMoneda"},
         {"evolution", {{"CereMoneda", "cmdAction(1)"}, {"CursValutar", "cmdAction(5)"}}, "EvolutieCurs"},
+        {"address-book", {{"Utilitati", "cmdAction(1)"}}, "Agenda"},
+        {"address-book-entry", {{"Agenda", "cmdAction(3)"}}, "Agenda"},
     };
     return steps;
 }

@@ -43,11 +43,11 @@ constexpr ColumnPlace PlaceOf(Column column) {
         case Column::Search:
             return {0, 840, 900, 2355};
         case Column::Left:
-            return {PersonLeft, 1140, 1200, 2355};
+            return {PersonLeft, 1140, 1260, 2295};
         case Column::Right:
-            return {3720, 1140, 4860, 2355};
+            return {3720, 1140, 4920, 2295};
         case Column::Full:
-            return {PersonLeft, 1140, 1200, 6015};
+            return {PersonLeft, 1140, 1260, 5955};
     }
     return {};
 }

@@ -1,5 +1,6 @@
 #include "com/composition.h"
 
+#include "addressbook/agenda.h"
 #include "rates/curs_valutar.h"
 #include "shell/utilitati.h"
 
@@ -11,6 +12,8 @@ constexpr int CalculatorButton = 2;
 }  // namespace
 
 void AddWindows(shell::Module& module) {
+    module.AddLauncher("Agenda",
+                       [](shell::Module& owner) { owner.Default<addressbook::Agenda>().ShowForm(); });
     module.AddLauncher("CursValutar",
                        [](shell::Module& owner) { owner.Default<rates::CursValutar>().ShowForm(); });
 }

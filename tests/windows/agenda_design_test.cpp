@@ -70,8 +70,7 @@ TEST_F(AgendaDesignTest, EveryBoxHasItsLabelOnItsLeft) {
         const Rect& field = window.TextBoxes[box].Bounds();
         EXPECT_EQ(window.Label2[box].Caption(), captions[static_cast<std::size_t>(box)]);
         EXPECT_EQ(label.top, field.top) << box;
-        EXPECT_LE(label.Right(), field.left) << box;
-        EXPECT_LE(field.left - label.Right(), 60) << box;
+        EXPECT_EQ(field.left - label.Right(), 60) << box;
         EXPECT_EQ(window.TextBoxes[box].TextFont().face, "Arial");
         EXPECT_EQ(window.TextBoxes[box].QualifiedName(), "TextBoxes(" + std::to_string(box) + ")");
     }
