@@ -63,39 +63,54 @@ std::uint8_t ToCoverage(double value) {
     return static_cast<std::uint8_t>(std::clamp(std::lround(value), 0L, 255L));
 }
 
-/// One stretch of a line: everything within `radius` of the segment from a to b.
+/// One stretch of a line: everything within `radius` of the segment from a to b. Along a row of pixels the
+/// distance from the segment's line, and the place along it, grow evenly.
 class Stroke {
   public:
     Stroke(const PointF& a, const PointF& b, double radius)
         : a_(a),
-          dx_(b.x - a.x),
-          dy_(b.y - a.y),
-          lengthSquared_(dx_ * dx_ + dy_ * dy_),
-          reach_(radius + 0.5) {}
+          width_(b.x - a.x),
+          height_(b.y - a.y),
+          length_(std::sqrt(width_ * width_ + height_ * height_)),
+          reach_(radius + 0.5) {
+        if (length_ > 0) along_ = {width_ / length_, height_ / length_};
+        if (std::abs(height_) > 1e-9) slope_ = width_ / height_;
+    }
 
     void AddTo(CoverageMask& mask, double strength) const {
         const PixelBox& box = mask.Box();
-        const double top = std::min(a_.y, a_.y + dy_) - reach_;
-        const double bottom = std::max(a_.y, a_.y + dy_) + reach_;
-        const int firstRow = std::max(box.top, static_cast<int>(std::floor(std::max(top, box.top - 1.0))));
-        const int lastRow =
-            std::min(box.bottom - 1, static_cast<int>(std::ceil(std::min(bottom, box.bottom + 1.0))));
-        for (int y = firstRow; y <= lastRow; ++y)
-            AddRow(mask, y, strength);
+        const double top = std::min(a_.y, a_.y + height_) - reach_;
+        const double bottom = std::max(a_.y, a_.y + height_) + reach_;
+        const int rows = box.Height();
+        const int lastRow = WholeWithin(bottom - box.top, rows - 1);
+        for (int row = WholeWithin(top - box.top, rows); row <= lastRow; ++row)
+            AddRow(mask, box.top + row, 255 * strength);
     }
 
   private:
-    void AddRow(CoverageMask& mask, int y, double strength) const {
+    /// Rounded down and kept from 0 to a limit.
+    static int WholeWithin(double value, int limit) {
+        return static_cast<int>(std::clamp(value, 0.0, static_cast<double>(limit)));
+    }
+
+    void AddRow(CoverageMask& mask, int y, double full) const {
         const PixelBox& box = mask.Box();
         const auto [west, east] = Extent(y + 0.5);
-        const int first = std::max(box.left, static_cast<int>(std::floor(std::max(west, box.left - 1.0))));
-        const int last =
-            std::min(box.right - 1, static_cast<int>(std::ceil(std::min(east, box.right + 1.0))));
+        const int first = WholeWithin(west - box.left, box.Width());
+        const int last = WholeWithin(east - box.left, box.Width() - 1);
         const auto row = mask.Row(y);
+        const PointF start{box.left + first + 0.5 - a_.x, y + 0.5 - a_.y};
+        double place = start.x * along_.x + start.y * along_.y;
+        double distance = start.y * along_.x - start.x * along_.y;
         for (int x = first; x <= last; ++x) {
-            const double cover = std::clamp(reach_ - Distance(x + 0.5, y + 0.5), 0.0, 1.0);
-            std::uint8_t& pixel = row[static_cast<std::size_t>(x - box.left)];
-            pixel = std::max(pixel, ToCoverage(255 * strength * cover));
+            const double beyond = place < 0 ? place : place > length_ ? place - length_ : 0;
+            const double from =
+                beyond == 0 ? std::abs(distance) : std::sqrt(distance * distance + beyond * beyond);
+            const double cover = std::clamp(reach_ - from, 0.0, 1.0) * full;
+            std::uint8_t& pixel = row[static_cast<std::size_t>(x)];
+            pixel = std::max(pixel, static_cast<std::uint8_t>(cover + 0.5));
+            place += along_.x;
+            distance -= along_.y;
         }
     }
 
@@ -107,30 +122,22 @@ class Stroke {
     /// The stretch of the row that the stroke can reach.
     Range Extent(double y) const {
         double from = 0;
-        double to = 1;
-        if (std::abs(dy_) > 1e-9) {
-            const double t1 = (y - reach_ - a_.y) / dy_;
-            const double t2 = (y + reach_ - a_.y) / dy_;
-            from = std::clamp(std::min(t1, t2), 0.0, 1.0);
-            to = std::clamp(std::max(t1, t2), 0.0, 1.0);
+        double to = width_;
+        if (slope_ != 0) {
+            from = WithinWidth((y - reach_ - a_.y) * slope_);
+            to = WithinWidth((y + reach_ - a_.y) * slope_);
         }
-        const double x1 = a_.x + from * dx_;
-        const double x2 = a_.x + to * dx_;
-        return {std::min(x1, x2) - reach_, std::max(x1, x2) + reach_};
+        return {a_.x + std::min(from, to) - reach_, a_.x + std::max(from, to) + reach_};
     }
 
-    double Distance(double x, double y) const {
-        const double along = lengthSquared_ > 0 ? ((x - a_.x) * dx_ + (y - a_.y) * dy_) / lengthSquared_ : 0;
-        const double t = std::clamp(along, 0.0, 1.0);
-        const double offX = x - a_.x - t * dx_;
-        const double offY = y - a_.y - t * dy_;
-        return std::sqrt(offX * offX + offY * offY);
-    }
+    double WithinWidth(double x) const { return std::clamp(x, std::min(0.0, width_), std::max(0.0, width_)); }
 
     PointF a_;
-    double dx_;
-    double dy_;
-    double lengthSquared_;
+    double width_;
+    double height_;
+    double length_;
+    double slope_ = 0;  ///< how far x goes while y goes 1; 0 for upright and level strokes
+    PointF along_{1, 0};
     double reach_;
 };
 
