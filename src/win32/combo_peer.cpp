@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/look.h"
 #include "win32/edit_frame.h"
 #include "win32/edit_text.h"
 #include "win32/mouse_message.h"
@@ -176,14 +177,11 @@ void ComboPeer::FitClosedHeight(int height) {
 void ComboPeer::PlaceField() {
     const HWND field = edit_.Handle();
     if (field == nullptr) return;
-    // Between the frame and the arrow, as the model draws them.
-    constexpr int ArrowWidth = 270;
-    const RECT bounds = PixelBounds();
-    const int margin = SideMargin(PixelScale());
-    const int height = std::min(LineHeight(), Height(bounds) - 2 * FrameThickness);
+    const RECT area = PixelScale().ToPixels(control_.TextArea());
+    const int closedHeight = Height(PixelBounds());
+    const int height = std::min(LineHeight(), closedHeight - 2 * FrameThickness(PixelScale()));
     SendMessageW(field, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
-    SetWindowPos(field, nullptr, margin, (Height(bounds) - height) / 2,
-                 Width(bounds) - margin - PixelScale().ToPixels(ArrowWidth), height,
+    SetWindowPos(field, nullptr, area.left, (closedHeight - height) / 2, Width(area), height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -203,6 +201,7 @@ LRESULT ComboPeer::HandleMessage(const Message& message) {
         {WM_MOUSEMOVE, &ComboPeer::OnMouse},
         {WM_LBUTTONDOWN, &ComboPeer::OnMouse},
         {WM_LBUTTONUP, &ComboPeer::OnMouse},
+        {WM_MOUSEWHEEL, &ComboPeer::OnWheel},
     };
     if (const auto answer = Follow<ComboPeer>(routes, *this, message)) return *answer;
     return ControlWindow::HandleMessage(message);
@@ -234,7 +233,7 @@ LRESULT ComboPeer::OnDrawItem(const Message& message) {
     SetTextColor(item.hDC, control_.ForeColor());
     SetBkMode(item.hDC, TRANSPARENT);
     RECT place = item.rcItem;
-    place.left += PixelScale().ToPixels(60);
+    place.left += PixelScale().ToPixels(forms::look::Padding);
     const std::wstring text = ToWide(control_.Item(index));
     DrawTextW(item.hDC, text.c_str(), static_cast<int>(text.size()), &place,
               DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
@@ -292,6 +291,10 @@ LRESULT ComboPeer::OnMouse(const Message& message) {
     const LRESULT answer = CallDefault(message);
     InvalidateRect(Handle(), nullptr, FALSE);
     return answer;
+}
+
+LRESULT ComboPeer::OnWheel(const Message& message) {
+    return IsOpen() ? CallDefault(message) : ControlWindow::HandleMessage(message);
 }
 
 LRESULT ComboPeer::OnSetFocus(const Message& message) {

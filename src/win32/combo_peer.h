@@ -36,6 +36,7 @@ class ComboPeer final : public ControlWindow {
     LRESULT OnDrawItem(const Message& message);
     LRESULT OnChosen(const Message& message);
     LRESULT OnMouse(const Message& message);
+    LRESULT OnWheel(const Message& message);
 
     bool IsOpen() const;
     /// An open list acts on Esc, Enter and the keys that walk it before anybody else.

@@ -1,5 +1,9 @@
 #include "win32/edit_frame.h"
 
+#include <algorithm>
+
+#include "forms/look.h"
+
 namespace tavrin::win32 {
 
 namespace {
@@ -20,20 +24,27 @@ void Fill(HDC dc, const RECT& area, forms::Color color) {
 
 }  // namespace
 
-int SideMargin(Scale scale) {
-    constexpr int Twips = 60;
-    return FrameThickness + scale.ToPixels(Twips);
+int FrameThickness(Scale scale) {
+    return std::max(1, scale.ToPixels(forms::look::FocusWidth));
 }
 
-void PaintEditFrame(HWND edit, forms::Color background, forms::Color frame) {
+int PlainFrameThickness(Scale scale) {
+    return std::max(1, scale.ToPixels(forms::look::FocusWidth / 2.0));
+}
+
+int SideMargin(Scale scale) {
+    return scale.ToPixels(forms::look::Padding);
+}
+
+void PaintEditFrame(HWND edit, forms::Color background, EditFrame frame) {
     RECT outer{};
     GetWindowRect(edit, &outer);
     const RECT client = ClientWithin(edit, outer);
     RECT whole{0, 0, Width(outer), Height(outer)};
     const HDC dc = GetWindowDC(edit);
     ExcludeClipRect(dc, client.left, client.top, client.right, client.bottom);
-    Fill(dc, whole, frame);
-    InflateRect(&whole, -FrameThickness, -FrameThickness);
+    Fill(dc, whole, frame.color);
+    InflateRect(&whole, -frame.thickness, -frame.thickness);
     Fill(dc, whole, background);
     ReleaseDC(edit, dc);
 }

@@ -183,19 +183,21 @@ void EditPeer::TellModelOfMouse(const Message& message) {
 
 LRESULT EditPeer::OnCalculateClientArea(const Message& message) {
     RECT& area = *reinterpret_cast<RECT*>(message.lParam);
-    const int margin = std::max(FrameThickness, (Height(area) - LineHeight()) / 2);
+    const int margin = std::max(FrameThickness(PixelScale()), (Height(area) - LineHeight()) / 2);
     InflateRect(&area, -SideMargin(PixelScale()), -margin);
     return 0;
 }
 
 LRESULT EditPeer::OnPaintFrame(const Message&) {
-    PaintEditFrame(Handle(), control_.BackColor(), FrameColor());
+    PaintEditFrame(Handle(), control_.BackColor(), Frame());
     return 0;
 }
 
-forms::Color EditPeer::FrameColor() const {
-    if (!control_.Bordered()) return control_.BackColor();
-    return HoldsFocus() ? forms::scheme::Focus : forms::scheme::Border;
+EditFrame EditPeer::Frame() const {
+    const int thickness = PlainFrameThickness(PixelScale());
+    if (!control_.Bordered()) return {control_.BackColor(), thickness};
+    if (HoldsFocus()) return {forms::scheme::Focus, FrameThickness(PixelScale())};
+    return {control_.IsEffectivelyEnabled() ? forms::scheme::Border : forms::scheme::GridLine, thickness};
 }
 
 LRESULT EditPeer::OnHitTest(const Message&) {

@@ -2,6 +2,7 @@
 
 #include "forms/text_box.h"
 #include "win32/control_window.h"
+#include "win32/edit_frame.h"
 
 namespace tavrin::win32 {
 
@@ -34,7 +35,7 @@ class EditPeer final : public ControlWindow {
     void ShowSelection();
     void ShowFont();
     void ReportSelection();
-    forms::Color FrameColor() const;
+    EditFrame Frame() const;
     void TellModelOfMouse(const Message& message);
 
     forms::TextBox& control_;
