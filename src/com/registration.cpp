@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "win32/variant.h"
+
 namespace tavrin::com {
 namespace {
 
@@ -80,9 +82,13 @@ bool RegisterTypes(Server& server) {
 
 bool UnregisterTypes(Server& server) {
     const TLIBATTR types = server.Types().Attributes();
-    const HRESULT removed =
-        UnRegisterTypeLib(types.guid, types.wMajorVerNum, types.wMinorVerNum, types.lcid, types.syskind);
-    return SUCCEEDED(removed) || removed == TYPE_E_REGISTRYACCESS;  // which is what a missing one gives
+    BSTR path = nullptr;
+    const HRESULT registered =
+        QueryPathOfRegTypeLib(types.guid, types.wMajorVerNum, types.wMinorVerNum, types.lcid, &path);
+    const win32::Bstr owner = win32::Bstr::Attach(path);
+    if (FAILED(registered)) return true;
+    return SUCCEEDED(
+        UnRegisterTypeLib(types.guid, types.wMajorVerNum, types.wMinorVerNum, types.lcid, types.syskind));
 }
 
 }  // namespace

@@ -43,7 +43,9 @@ void Module::Launch(std::string_view windowName) {
 }
 
 forms::Form* Module::Find(std::type_index type) const {
-    const auto slot = std::ranges::find(slots_, type, &Slot::type);
+    // A window that is about to go is no one's default any more: the host may open it anew while it is told.
+    const auto slot = std::ranges::find_if(
+        slots_, [&](const Slot& entry) { return entry.type == type && !entry.form->IsUnloading(); });
     return slot != slots_.end() ? slot->form.get() : nullptr;
 }
 

@@ -66,9 +66,9 @@ TEST_F(BadConnectionTest, AGoodConnectionAfterABadOneWorks) {
     ClickRateButton();
     ExpectReport(StartsWith("Eroare 91"));
     ASSERT_EQ(host->Apel(), S_OK);
-    ClickRateButton();
     const Window list = AwaitForm("CursValutar");
-    host->Ui().Settle();
+    Click(list.Control("cmdRefresh"));
+    EXPECT_TRUE(AwaitFocus("Grid"));
     EXPECT_GT(ReadTable(host->Ui(), list.Control("Grid")).size(), 1U);
 }
 

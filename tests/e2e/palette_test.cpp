@@ -14,6 +14,10 @@ namespace {
 constexpr COLORREF Green = RGB(0, 255, 0);
 constexpr POINT PointerInTheOpen{640, 480};
 
+bool PointerHasMoved() {
+    return PointerPlace().x == PointerInTheOpen.x - 100;
+}
+
 class PaletteTest : public HostTest, public testing::WithParamInterface<LoopKind> {
   protected:
     PaletteTest() : HostTest(GetParam()) {}
@@ -75,8 +79,7 @@ TEST_P(PaletteTest, EveryKeyMovesThePointerOutOfTheWay) {
     for (const WORD key : {WORD{VK_DOWN}, WORD{VK_UP}, WORD{'K'}}) {
         MovePointer(PointerInTheOpen);
         PressKey(key);
-        EXPECT_TRUE(WaitUntil([] { return PointerPlace().x == PointerInTheOpen.x - 100; }))
-            << PointerPlace().x;
+        EXPECT_TRUE(WaitUntil(PointerHasMoved)) << PointerPlace().x;
         EXPECT_EQ(PointerPlace().y, PointerInTheOpen.y);
     }
 }
@@ -86,14 +89,14 @@ TEST_P(PaletteTest, EnterAndEscapeMoveThePointerToo) {
     MovePointer(PointerInTheOpen);
     PressKey(VK_RETURN);
     AwaitForm("CursValutar");
-    EXPECT_EQ(PointerPlace().x, PointerInTheOpen.x - 100);
+    EXPECT_TRUE(WaitUntil(PointerHasMoved)) << PointerPlace().x;
 
     Click(palette.Control("picCaption"));
     ASSERT_TRUE(WaitUntil([&] { return palette.HasFocus(); }));
     MovePointer(PointerInTheOpen);
     PressKey(VK_ESCAPE);
     ASSERT_TRUE(AwaitClosed("Utilitati"));
-    EXPECT_EQ(PointerPlace().x, PointerInTheOpen.x - 100);
+    EXPECT_TRUE(WaitUntil(PointerHasMoved)) << PointerPlace().x;
 }
 
 TEST_P(PaletteTest, EscapeClosesItAndTheRateList) {
@@ -159,7 +162,7 @@ TEST_P(PaletteTest, RollsUpToItsCaptionAndComesBackALittleLower) {
 TEST_P(PaletteTest, TheStripDragsTheWindow) {
     const POINT grip = palette.Control("picCaption").Center();
     const SIZE size{palette.Width(), palette.Height()};
-    Drag(grip, {grip.x + 200, grip.y + 160});
+    Drag(host->Ui(), grip, {grip.x + 200, grip.y + 160});
     // The move begins with the first step of the pointer, which itself is not part of it.
     EXPECT_TRUE(WaitUntil([&] { return palette.ScreenBounds().left >= 100; })) << palette.ScreenBounds().left;
     host->Ui().Settle();

@@ -39,14 +39,19 @@ class RateListTest : public HostTest {
     Window Grid() const { return list.Control("Grid"); }
     TableTexts Shown() { return ReadTable(host->Ui(), Grid()); }
 
+    std::vector<std::string> Currencies() {
+        auto columns = host->Call([&] { return host->Data().Columns("Curs Valutar"); });
+        std::erase_if(columns, [](const std::string& name) { return name == "Data" || name == "Validat"; });
+        return columns;
+    }
+
     /// What the database has for a range of days, in the form that the grid is to show.
     TableTexts Stored(const std::string& from, const std::string& to) {
         TableTexts table = {{"Data"}};
-        const auto columns = host->Rows("SELECT Valuta FROM LpVal");
         std::string query = "SELECT CONVERT(nvarchar,[Data],103)";
-        for (const auto& row : columns) {
-            table[0].push_back(row[0]);
-            query += ",[" + row[0] + "]";
+        for (const std::string& currency : Currencies()) {
+            table[0].push_back(currency);
+            query += ",[" + currency + "]";
         }
         query += " FROM [Curs Valutar] WHERE [Data] BETWEEN '" + from + "' AND '" + to + "' ORDER BY [Data]";
         std::ranges::copy(host->Rows(query), std::back_inserter(table));
@@ -147,7 +152,7 @@ TEST_F(RateListTest, ShowsTheMonthUpToTheWorkingDate) {
 }
 
 TEST_F(RateListTest, ShowsFractionsWithAPointAndNothingForNull) {
-    const std::string currency = host->Rows("SELECT Valuta FROM LpVal")[0][0];
+    const std::string currency = Currencies()[0];
     host->Run("UPDATE [Curs Valutar] SET [" + currency + "] = 1234.5 WHERE [Data] = '2003-06-02'");
     host->Run("UPDATE [Curs Valutar] SET [" + currency + "] = NULL WHERE [Data] = '2003-06-03'");
     Open();

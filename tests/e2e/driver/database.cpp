@@ -1,5 +1,7 @@
 #include "e2e/driver/database.h"
 
+#include "e2e/driver/wait.h"
+
 #include "host/embedded/demo_data.h"
 
 namespace tavrin::e2e {
@@ -20,6 +22,15 @@ long Database::AliveObjects() {
 
 void Database::Run(const std::string& statement) {
     database_->Run(statement);
+}
+
+std::vector<std::string> Database::Columns(const std::string& table) const {
+    std::vector<std::string> names;
+    const auto schema = database_->FindTable(table);
+    if (!schema) throw DriverError("no table " + table);
+    for (const auto& column : schema->columns)
+        names.push_back(column.name);
+    return names;
 }
 
 std::vector<std::vector<std::string>> Database::Rows(const std::string& query) {

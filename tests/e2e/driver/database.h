@@ -28,6 +28,9 @@ class Database {
     /// Runs a statement of its own, past the connection. \throws data::Error
     void Run(const std::string& statement);
 
+    /// The columns of a table in their order.
+    std::vector<std::string> Columns(const std::string& table) const;
+
     /// The rows of a query as texts, in the form in which the windows show values.
     std::vector<std::vector<std::string>> Rows(const std::string& query);
 

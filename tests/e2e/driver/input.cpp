@@ -95,15 +95,18 @@ void Click(const Window& target, Button button) {
     ClickAt(place, button);
 }
 
-void Drag(POINT from, POINT to) {
+void Drag(UiThread& thread, POINT from, POINT to) {
     constexpr int Steps = 4;
-    std::vector<INPUT> inputs = {MoveInput(from), MouseInput(MOUSEEVENTF_LEFTDOWN)};
+    const auto send = [&](const INPUT& input) {
+        Send({input});
+        thread.Settle();
+    };
+    send(MoveInput(from));
+    send(MouseInput(MOUSEEVENTF_LEFTDOWN));
     for (int step = 1; step <= Steps; ++step) {
-        inputs.push_back(
-            MoveInput({from.x + (to.x - from.x) * step / Steps, from.y + (to.y - from.y) * step / Steps}));
+        send(MoveInput({from.x + (to.x - from.x) * step / Steps, from.y + (to.y - from.y) * step / Steps}));
     }
-    inputs.push_back(MouseInput(MOUSEEVENTF_LEFTUP));
-    Send(std::move(inputs));
+    send(MouseInput(MOUSEEVENTF_LEFTUP));
 }
 
 }  // namespace tavrin::e2e

@@ -5,12 +5,13 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "e2e/driver/ui_thread.h"
 #include "e2e/driver/window.h"
 
 namespace tavrin::e2e {
 
-// What a user does with keyboard and mouse, put into the system's input queue. All return at once; the effect
-// is to be waited for. Places are pixels of the screen.
+// What a user does with keyboard and mouse, put into the system's input queue. Unless
+// said otherwise they return at once; the effect is to be waited for. Places are pixels of the screen.
 
 /// Presses and releases a key by its virtual-key code, the given ones held.
 void PressKey(WORD key, std::initializer_list<WORD> held = {});
@@ -25,7 +26,8 @@ POINT PointerPlace();
 /// \throws DriverError when another window covers the place: the click would not arrive.
 void Click(const Window& target, Button button = Button::Left);
 void ClickAt(POINT place, Button button = Button::Left);
-/// Presses the left button, moves in a few steps and lets go.
-void Drag(POINT from, POINT to);
+/// Presses the left button, moves in a few steps and lets go. Waits after each step until the thread has
+/// dealt with it: the system makes one message of moves that nobody has fetched.
+void Drag(UiThread& thread, POINT from, POINT to);
 
 }  // namespace tavrin::e2e

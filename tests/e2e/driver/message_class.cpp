@@ -1,10 +1,9 @@
 #include "e2e/driver/message_class.h"
 
-#include <oaidl.h>
 #include <oleauto.h>
+#include <tavrin_interfaces.h>
 
-#include <iterator>
-
+#include "e2e/driver/component.h"
 #include "e2e/driver/wait.h"
 #include "win32/com_ptr.h"
 #include "win32/text.h"
@@ -18,26 +17,16 @@ using win32::ComPtr;
 
 constexpr CLSID MessageClassId = {
     0x0A427BFB, 0x6C7C, 0x4D5D, {0x94, 0xF0, 0x23, 0xFF, 0x29, 0x58, 0xBF, 0x58}};
-constexpr DISPID OperationId = 0x60030007;
+/// As in the component's own default interface, which lends its description: any will do whose first
+/// operation has this number.
+constexpr DISPID OperationId = 1;
 constexpr UINT OperationArguments = 6;
 
-/// The type information of a class whose one operation goes by a name that nobody expects.
 ComPtr<ITypeInfo> DescribeOperation() {
-    static PARAMDATA parameters[OperationArguments] = {
-        {const_cast<wchar_t*>(L"a"), VT_BSTR}, {const_cast<wchar_t*>(L"b"), VT_I4},
-        {const_cast<wchar_t*>(L"c"), VT_I4},   {const_cast<wchar_t*>(L"d"), VT_BSTR},
-        {const_cast<wchar_t*>(L"e"), VT_I4},   {const_cast<wchar_t*>(L"f"), VT_I4}};
-    static METHODDATA operation{const_cast<wchar_t*>(L"Arata"),
-                                parameters,
-                                OperationId,
-                                0,
-                                CC_STDCALL,
-                                OperationArguments,
-                                DISPATCH_METHOD,
-                                VT_I4};
-    static INTERFACEDATA interfaceData{&operation, 1};
+    ComPtr<ITypeLib> library;
     ComPtr<ITypeInfo> info;
-    CreateDispTypeInfo(&interfaceData, LOCALE_SYSTEM_DEFAULT, info.Receive());
+    LoadTypeLibEx(Component::Path().c_str(), REGKIND_NONE, library.Receive());
+    if (library) library->GetTypeInfoOfGuid(__uuidof(_Utile), info.Receive());
     return info;
 }
 

@@ -1,0 +1,150 @@
+// Keys, characters and the focus on their way from the platform to the model and back, in both kinds of
+// loops.
+
+#include "e2e/peers_test.h"
+
+namespace tavrin::e2e {
+namespace {
+
+using PeersKeyboardTest = PeersTest;
+INSTANTIATE_TEST_SUITE_P(, PeersKeyboardTest, testing::Values(LoopKind::Plain, LoopKind::Dialog));
+
+TEST_P(PeersKeyboardTest, TypingReachesTheModelWithTheCaret) {
+    Type("ab");
+    EXPECT_EQ(Call([&] { return form->field.Text(); }), "ab");
+    EXPECT_EQ(Call([&] { return form->field.SelStart(); }), 2);
+}
+
+TEST_P(PeersKeyboardTest, ACharacterBeyondTheFirstPlaneIsOneCharacter) {
+    std::u32string pressed;
+    Call([&] { form->field.onKeyPress = [&](char32_t& character) { pressed += character; }; });
+    Send(L"a\U0001F600");
+    EXPECT_EQ(Call([&] { return form->field.Text(); }), "a\xF0\x9F\x98\x80");
+    EXPECT_EQ(Call([&] { return form->field.SelStart(); }), 2);
+    EXPECT_EQ(pressed, U"a\U0001F600");
+}
+
+TEST_P(PeersKeyboardTest, ASwallowedKeyTypesNothing) {
+    Call([&] { form->preview = [](int& code) { code = code == 'Z' ? 0 : code; }; });
+    Type("xzy");
+    EXPECT_EQ(Call([&] { return form->field.Text(); }), "xy");
+}
+
+TEST_P(PeersKeyboardTest, ASwallowedCharacterIsNotTyped) {
+    Call([&] {
+        form->field.onKeyPress = [](char32_t& character) { character = character == U'z' ? 0 : character; };
+    });
+    Type("xzy");
+    EXPECT_EQ(Call([&] { return form->field.Text(); }), "xy");
+}
+
+TEST_P(PeersKeyboardTest, TheCharacterOfAKeyThatMovesTheFocusGoesNowhere) {
+    Call([&] {
+        form->field.onKeyDown = [&](int& code, forms::Modifiers) {
+            if (code == 'Q') form->inner.SetFocus();
+        };
+    });
+    Type("q");
+    EXPECT_EQ(FocusedName(), "inner");
+    EXPECT_EQ(Call([&] { return form->field.Text() + form->inner.Text(); }), "");
+    Type("w");
+    EXPECT_EQ(Call([&] { return form->inner.Text(); }), "w");
+}
+
+TEST_P(PeersKeyboardTest, ASetTextPutsTheCaretFirstAndStaysEditable) {
+    Type("old");
+    Call([&] { form->field.SetText("new"); });
+    Press(VK_DELETE);
+    EXPECT_EQ(Call([&] { return form->field.Text(); }), "ew");
+}
+
+TEST_P(PeersKeyboardTest, ALockedFieldKeepsItsText) {
+    Call([&] {
+        form->field.SetText("fix");
+        form->field.SetLocked(true);
+    });
+    Type("x");
+    Press(VK_DELETE);
+    EXPECT_EQ(Call([&] { return form->field.Text(); }), "fix");
+}
+
+TEST_P(PeersKeyboardTest, TabAndShiftTabWalkTheControls) {
+    Press(VK_TAB);
+    EXPECT_EQ(FocusedName(), "cmdStop");
+    Press(VK_TAB);
+    EXPECT_EQ(FocusedName(), "list");
+    Press(VK_TAB, {VK_SHIFT});
+    EXPECT_EQ(FocusedName(), "cmdStop");
+    EXPECT_EQ(Call([&] { return form->ActiveControl(); }), &form->button);
+}
+
+TEST_P(PeersKeyboardTest, EnterSpaceAcceleratorAndMouseClickAButton) {
+    int clicks = 0;
+    Call([&] {
+        form->button.onClick = [&] { ++clicks; };
+        form->button.SetFocus();
+    });
+    Press(VK_RETURN);
+    Press(VK_SPACE);
+    Call([&] { form->field.SetFocus(); });
+    Press('O', {VK_MENU});
+    EXPECT_EQ(FocusedName(), "cmdStop");
+    ClickOn("cmdStop");
+    EXPECT_EQ(clicks, 4);
+    EXPECT_EQ(Call([&] { return form->field.Text(); }), "");
+}
+
+TEST_P(PeersKeyboardTest, AltAndF10OpenNoMenu) {
+    Press(VK_F10);
+    Type("a");
+    Press(VK_MENU);
+    Type("b");
+    EXPECT_EQ(Call([&] { return form->field.Text(); }), "ab");
+}
+
+TEST_P(PeersKeyboardTest, AltF4ClosesTheForm) {
+    Press(VK_F4, {VK_MENU});
+    EXPECT_TRUE(IsGone());
+}
+
+TEST_P(PeersKeyboardTest, ADisabledFrameGivesItsFocusAway) {
+    Call([&] { form->inner.SetFocus(); });
+    Call([&] { form->frame.SetEnabled(false); });
+    EXPECT_FALSE(Control("inner").IsEnabled());
+    EXPECT_THAT(FocusedName(), testing::AllOf(testing::Ne("inner"), testing::Ne("")));
+    Call([&] { form->frame.SetEnabled(true); });
+    EXPECT_TRUE(Control("inner").IsEnabled());
+}
+
+TEST_P(PeersKeyboardTest, AHiddenFrameGivesItsFocusAway) {
+    Call([&] { form->inner.SetFocus(); });
+    Call([&] { form->frame.SetVisible(false); });
+    EXPECT_THAT(FocusedName(), testing::AllOf(testing::Ne("inner"), testing::Ne("frame"), testing::Ne("")));
+}
+
+TEST_P(PeersKeyboardTest, TheFocusReturnsFromWhatCannotTakeIt) {
+    Call([&] { SetFocus(Control("frame").Handle()); });
+    EXPECT_EQ(FocusedName(), "field");
+}
+
+TEST_P(PeersKeyboardTest, ADisabledOpenerComesBackWithItsFocus) {
+    std::shared_ptr<SampleForm> child;
+    Call([&] {
+        form->button.SetFocus();
+        form->SetEnabled(false);
+        child = std::make_shared<SampleForm>(*desktop, "Child");
+        child->whenUnloading = [&] { form->SetEnabled(true); };
+        child->MoveTo(8000, 3000);
+        child->Show();
+    });
+    AwaitForm("Child");
+    EXPECT_EQ(Call([&] { return desktop->ActiveForm(); }), child.get());
+    EXPECT_EQ(Call([&] { return form->deactivations; }), 1);
+    Call([&] { child->Unload(); });
+    EXPECT_TRUE(WaitUntil([] { return FocusedName() == "cmdStop"; }));
+    EXPECT_EQ(Call([&] { return desktop->ActiveForm(); }), form.get());
+    Call([&] { child.reset(); });
+}
+
+}  // namespace
+}  // namespace tavrin::e2e
