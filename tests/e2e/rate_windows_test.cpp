@@ -34,7 +34,9 @@ class RateWindowsTest : public HostTest {
     Window OpenEntry(const HostValues& values = Saturday) {
         list = OpenRateList(values);
         Click(Action(list, 0));
-        return AwaitForm("CursValutarDetaliu");
+        const Window entry = AwaitForm("CursValutarDetaliu");
+        EXPECT_TRUE(AwaitFocus("DataCurs"));
+        return entry;
     }
 
     std::vector<std::vector<std::string>> RatesOf(const std::string& day) {
