@@ -35,6 +35,14 @@ int NumberOf(const DatePiece& piece, const data::CalendarDay& day) {
     }
 }
 
+/// The token that a format begins with, null where it begins with none.
+const Token* FindToken(std::string_view format) {
+    for (const Token& token : Tokens()) {
+        if (format.starts_with(token.text)) return &token;
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 std::string DatePiece::Text(const data::CalendarDay& day, const Locale& locale) const {
@@ -49,9 +57,7 @@ std::string DatePiece::Text(const data::CalendarDay& day, const Locale& locale) 
 std::vector<DatePiece> ParseDateFormat(std::string_view format) {
     std::vector<DatePiece> pieces;
     while (!format.empty()) {
-        const auto startsHere = [format](const Token& token) { return format.starts_with(token.text); };
-        const auto token = std::ranges::find_if(Tokens(), startsHere);
-        if (token != Tokens().end()) {
+        if (const Token* token = FindToken(format)) {
             pieces.push_back(token->piece);
             format.remove_prefix(token->text.size());
             continue;

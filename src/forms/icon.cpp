@@ -73,6 +73,7 @@ class Pencil {
         const bool sharp = IsSquare(points);
         if (sharp) width = Whole(width);
         std::vector<PointF> placed;
+        placed.reserve(points.size());
         for (const PointF& point : points)
             placed.push_back(sharp ? OnPixels(Placed(point), width) : Placed(point));
         surface_.DrawPolyline(placed, width, color_);
