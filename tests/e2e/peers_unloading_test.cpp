@@ -1,5 +1,6 @@
 // A form that unloads while the platform is still busy with one of its windows, and what is left afterwards.
 
+#include "e2e/driver/accessible_reader.h"
 #include "e2e/driver/resource_count.h"
 #include "e2e/peers_test.h"
 
@@ -93,6 +94,18 @@ TEST_P(PeersUnloadingTest, APressThatDragsTheWindowIsNoClick) {
     });
     ClickOn("cmdStop");
     EXPECT_EQ(clicks, 0);
+}
+
+TEST_P(PeersUnloadingTest, WhatAnAssistiveToolHoldsOutlivesItsControlUnconnected) {
+    win32::ComPtr<IAccessible> held = Call([&] { return OpenAccessible(Control("button")); });
+    ASSERT_TRUE(held);
+    Unload();
+    LONG children = -1;
+    EXPECT_EQ(Call([&] { return held->get_accChildCount(&children); }), CO_E_OBJNOTCONNECTED);
+    EXPECT_EQ(children, 0);
+    EXPECT_TRUE(Call([&] { return desktop->IsInUse(); })) << "the module must stay loaded for it";
+    Call([&] { held.Reset(); });
+    EXPECT_TRUE(IsGone());
 }
 
 TEST_P(PeersUnloadingTest, NothingIsLeftOfAForm) {

@@ -2,6 +2,7 @@
 
 #include "e2e/driver/wait.h"
 
+#include "e2e/driver/wait.h"
 #include "host/embedded/demo_data.h"
 
 namespace tavrin::e2e {
