@@ -1,6 +1,7 @@
 #include "forms/number_format.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace tavrin::forms {
 
@@ -18,12 +19,12 @@ bool IsDigits(std::string_view text) {
 
 /// Adds one unit in the last place. A carry out of the first place becomes a new "1" in front.
 void Increment(std::string& digits) {
-    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
-        if (*digit != '9') {
-            ++*digit;
+    for (char& digit : std::views::reverse(digits)) {
+        if (digit != '9') {
+            ++digit;
             return;
         }
-        *digit = '0';
+        digit = '0';
     }
     digits.insert(digits.begin(), '1');
 }

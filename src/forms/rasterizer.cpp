@@ -8,6 +8,7 @@ namespace tavrin::forms {
 namespace {
 
 constexpr int LinesPerPixel = 8;  // polygons are sampled on that many lines in each row of pixels
+constexpr double Half = 0.5;      // added before a fraction is cut off
 constexpr double LineWeight = 255.0 / LinesPerPixel;
 
 bool AllFinite(std::span<const PointF> points) {
@@ -108,7 +109,9 @@ class Stroke {
                 beyond == 0 ? std::abs(distance) : std::sqrt(distance * distance + beyond * beyond);
             const double cover = std::clamp(reach_ - from, 0.0, 1.0) * full;
             std::uint8_t& pixel = row[static_cast<std::size_t>(x)];
-            pixel = std::max(pixel, static_cast<std::uint8_t>(cover + 0.5));
+            // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and lround would cost a call a
+            // pixel
+            pixel = std::max(pixel, static_cast<std::uint8_t>(cover + Half));
             place += along_.x;
             distance -= along_.y;
         }

@@ -99,7 +99,7 @@ void CereMoneda::FillCurrencies() {
 }
 
 void CereMoneda::OnUnload() {
-    if (CursValutar* list = module_.Loaded<CursValutar>()) list->SetEnabled(true);
+    if (auto* list = module_.Loaded<CursValutar>()) list->SetEnabled(true);
 }
 
 // The actions.
@@ -124,7 +124,7 @@ bool CereMoneda::AddCurrency() {
         txtMoneda.SetFocus();
         return false;
     }
-    if (CursValutar* list = module_.Loaded<CursValutar>()) list->ApplyDateFilter();
+    if (auto* list = module_.Loaded<CursValutar>()) list->ApplyDateFilter();
     return true;
 }
 

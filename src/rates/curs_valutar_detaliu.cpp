@@ -117,7 +117,7 @@ void CursValutarDetaliu::OnLoad() {
     CenterOnScreen();
     FillGrid();
     DataCurs.SetDate(module_.context.workDate);
-    const CursValutar* list = module_.Loaded<CursValutar>();
+    const auto* list = module_.Loaded<CursValutar>();
     if (mode_ == "M" && list != nullptr) {
         if (const auto day = data::ParseDayMonthYear(list->SelectedDayText())) DataCurs.SetDate(*day);
     }
@@ -131,7 +131,7 @@ void CursValutarDetaliu::FillGrid() {
     Grid.SetColumnWidth(CodeColumn, CodeWidth);
     Grid.SetColumnWidth(ValueColumn, ValueWidth);
     Grid.SetColumnAlignment(ValueColumn, forms::Align::Right);
-    const CursValutar* list = module_.Loaded<CursValutar>();
+    const auto* list = module_.Loaded<CursValutar>();
     for (int i = CurrencyNames::FirstCurrency; i <= currencyNames_.UpperBound(); ++i) {
         const int row = i - CurrencyNames::FirstCurrency + 1;
         Grid.SetTextMatrix(row, CodeColumn, currencyNames_[i]);
@@ -141,7 +141,7 @@ void CursValutarDetaliu::FillGrid() {
 }
 
 void CursValutarDetaliu::OnUnload() {
-    CursValutar* list = module_.Loaded<CursValutar>();
+    auto* list = module_.Loaded<CursValutar>();
     if (list == nullptr) return;
     list->SetEnabled(true);
     list->SelectWholeRow();
@@ -343,7 +343,7 @@ void CursValutarDetaliu::cmdAction_Click(int index) {
     }
     const std::string day = DayText();
     Unload();
-    if (CursValutar* list = module_.Loaded<CursValutar>()) {
+    if (auto* list = module_.Loaded<CursValutar>()) {
         list->ApplyDateFilter();
         list->SelectDay(day);
     }
