@@ -72,7 +72,6 @@ void Grid::BringColumnIntoSight() {
 
 bool Grid::PressScrollBar(Point at) {
     const GridViewport view = Viewport();
-    // NOLINTNEXTLINE(readability-use-anyofallof): it acts on the bar that it finds
     for (const ScrollBar* bar : {&view.rowBar, &view.columnBar}) {
         if (!bar->track.Contains(at)) continue;
         if (!bar->IsNeeded()) return true;
