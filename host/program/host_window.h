@@ -19,8 +19,6 @@ class HostWindow {
     /// The user has left the utilities. Called from inside the component, so the window acts on it later.
     void TellLeft() const;
 
-    HWND Handle() const { return window_; }
-
   private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);

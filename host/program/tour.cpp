@@ -38,7 +38,9 @@ const std::vector<Step>& Steps() {
         {"add-currency",
          {{"CursValutarDetaliu", "cmdAction(1)"}, {"CursValutar", "cmdAction(3)"}},
          "CereMoneda"},
-        {"evolution", {{"CereMoneda", "cmdAction(1)"}, {"CursValutar", "cmdAction(5)"}}, "EvolutieCurs"},
+        {"evolution",
+         {{"CereMoneda", "cmdAction(1)"}, {"CursValutar", "cmdAction(5)"}, {"EvolutieCurs", "cmdAction(1)"}},
+         "EvolutieCurs"},
         {"address-book", {{"Utilitati", "cmdAction(1)"}}, "Agenda"},
         {"address-book-entry", {{"Agenda", "cmdAction(3)"}}, "Agenda"},
     };

@@ -105,6 +105,12 @@ Utilities::Utilities(win32::OwnedModule module, ComPtr<_Utile> utile, std::funct
 
 Utilities::~Utilities() {
     if (events_) events_->Unadvise(cookie_);
+    events_.Reset();
+    utile_.Reset();
+    if (!module_) return;
+    // A window that the user has left open still needs the component's code.
+    const auto canUnload = Export<HRESULT STDAPICALLTYPE()>(module_.get(), "DllCanUnloadNow");
+    if (canUnload() != S_OK) static_cast<void>(module_.release());
 }
 
 void Utilities::Apel(const ComPtr<IDispatch>& connection, data::OleDate date, std::int16_t year,
