@@ -1,0 +1,177 @@
+#include "rates/alege_moneda.h"
+
+#include <utility>
+
+#include "data/checked_arithmetic.h"
+#include "data/error.h"
+#include "forms/utf8.h"
+#include "rates/chooser_statements.h"
+#include "rates/rate_text.h"
+#include "shell/layout.h"
+
+namespace tavrin::rates {
+
+namespace {
+
+namespace key = forms::key;
+namespace layout = shell::layout;
+
+constexpr int DayColumn = 0;
+constexpr int RateColumn = 1;
+constexpr int DayWidth = 1100;
+constexpr int RateWidth = 1800;
+constexpr int ScrollBarWidth = 340;
+constexpr int GridWidth = DayWidth + RateWidth + ScrollBarWidth;
+constexpr int GridHeight = 3960;
+constexpr int LabelWidth = 900;
+constexpr int ButtonWidth = (GridWidth - layout::Gap) / 2;
+
+// The buttons' pictures by their numbers in the list.
+constexpr int AcceptPicture = 21;
+constexpr int CancelPicture = 22;
+
+}  // namespace
+
+AlegeMoneda::AlegeMoneda(shell::Module& module)
+    : Form(module.Desktop(), "AlegeMoneda", "Alege Moneda", forms::BorderStyle::FixedDialog),
+      Label2(*this, "Label2", "Moneda"),
+      cmbMoneda(*this, "cmbMoneda", forms::ComboStyle::DropDown),
+      Grid(*this, "Grid"),
+      cmdAction(*this, "cmdAction"),
+      module_(module),
+      store_(module.context),
+      lstImages_{{AcceptPicture, forms::Icon::Accept}, {CancelPicture, forms::Icon::Cancel}} {
+    PlaceControls();
+    ConnectEvents();
+}
+
+void AlegeMoneda::PlaceControls() {
+    int top = layout::Margin;
+    const int comboLeft = layout::Margin + LabelWidth;
+    Label2.SetBounds({layout::Margin, top, LabelWidth, layout::FieldHeight});
+    cmbMoneda.SetBounds({comboLeft, top, GridWidth - LabelWidth, layout::FieldHeight});
+    cmbMoneda.SetBackColor(forms::Black);
+    cmbMoneda.SetAccessibleName(Label2.Caption());
+    top += layout::FieldHeight + layout::Gap;
+    Grid.SetBounds({layout::Margin, top, GridWidth, GridHeight});
+    Grid.SetAccessibleName("Curs Valutar");
+    top += GridHeight + layout::Gap;
+    cmdAction[Accept].SetCaption("Accepta");
+    cmdAction[Cancel].SetCaption("Renunta");
+    cmdAction[Accept].SetBounds({layout::Margin, top, ButtonWidth, layout::ButtonHeight});
+    cmdAction[Cancel].SetBounds(
+        {layout::Margin + ButtonWidth + layout::Gap, top, ButtonWidth, layout::ButtonHeight});
+    SetClientSize({GridWidth + 2 * layout::Margin, top + layout::ButtonHeight + layout::Margin});
+}
+
+void AlegeMoneda::ConnectEvents() {
+    // A currency is typed, or chosen from the list.
+    cmbMoneda.onChange = [this] { IncarcaCursuri(); };
+    cmbMoneda.onClick = [this] { IncarcaCursuri(); };
+    cmbMoneda.onGotFocus = [this] { cmbMoneda_GotFocus(); };
+    cmbMoneda.onLostFocus = [this] { cmbMoneda_LostFocus(); };
+    Grid.onKeyDown = [this](int& keyCode, forms::Modifiers) { Grid_KeyDown(keyCode); };
+    Grid.onDblClick = [this] { cmdAction_Click(Accept); };
+    cmdAction.OnEach(&forms::Control::onClick, [this](int index) { cmdAction_Click(index); });
+}
+
+// Life.
+
+void AlegeMoneda::ShowForm(CurrencyTarget& caller, const std::string& currency) {
+    caller_ = std::shared_ptr<CurrencyTarget>(caller.CallingWindow().shared_from_this(), &caller);
+    caller.CallingWindow().SetEnabled(false);
+    Load();
+    cmbMoneda.SetText(currency);
+    Show();
+}
+
+void AlegeMoneda::OnLoad() {
+    cmdAction[Accept].SetPicture(lstImages_.Picture(AcceptPicture));
+    cmdAction[Cancel].SetPicture(lstImages_.Picture(CancelPicture));
+    module_.CreateMessageService();
+    CenterOnScreen();
+}
+
+void AlegeMoneda::OnActivate() {
+    KeepOnTop();
+    IncarcaMonede();
+    IncarcaCursuri();
+}
+
+void AlegeMoneda::OnUnload() {
+    if (caller_) caller_->CallingWindow().SetEnabled(true);
+}
+
+// The lists.
+
+void AlegeMoneda::IncarcaMonede() {
+    // The list is not emptied first: it grows by all the names whenever the window is activated.
+    for (std::string& name : store_.ColumnsAfterSecond())
+        cmbMoneda.AddItem(std::move(name));
+}
+
+void AlegeMoneda::IncarcaCursuri() {
+    data::TablePtr rates = store_.Read(CurrencyRatesQuery(cmbMoneda.Text()));
+    if (rates) {
+        ShowRates(std::move(rates));
+        return;
+    }
+    // For good: another currency brings neither of them back.
+    Grid.SetVisible(false);
+    cmdAction[Accept].SetEnabled(false);
+}
+
+void AlegeMoneda::ShowRates(data::TablePtr rates) {
+    Grid.SetDataSource(nullptr);
+    Grid.SetDataSource(std::move(rates));
+    Grid.SetFormatString("^Data|>" + cmbMoneda.Text());
+    Grid.SetColumnWidth(DayColumn, DayWidth);
+    Grid.SetColumnWidth(RateColumn, RateWidth);
+    Grid.SetRow(1);
+    Grid.SetCol(DayColumn);
+    Grid.SetColSel(RateColumn);
+    Grid.SetFocus();
+}
+
+// The actions.
+
+void AlegeMoneda::cmdAction_Click(int index) {
+    if (index == Accept) TakeRate();
+    Unload();
+}
+
+void AlegeMoneda::TakeRate() {
+    if (!caller_) throw data::Error(data::error_number::ObjectNotSet, "Object variable not set");
+    const forms::Locale& locale = OwnerDesktop().UserLocale();
+    const std::string& currency = cmbMoneda.Text();
+    const double amountInLei = data::CheckedResult(caller_->CurrencyAmount() * caller_->CursCurent());
+    const double rate = NumberOfRateText(Grid.TextMatrix(Grid.Row(), RateColumn), locale);
+    caller_->SetCursCurent(rate);
+    caller_->SetRateCaption(RateCaption(rate, currency, locale));
+    caller_->SetCurrencyUnit(currency);
+    caller_->SetCurrencyAmount(data::CheckedQuotient(amountInLei, rate));
+}
+
+// Focus and keys.
+
+void AlegeMoneda::cmbMoneda_GotFocus() {
+    if (!cmbMoneda.Enabled()) return;
+    cmbMoneda.SetBackColor(forms::FocusGrey);
+    cmbMoneda.Select(cmbMoneda.SelStart(), forms::CountCharacters(cmbMoneda.Text()));
+}
+
+void AlegeMoneda::cmbMoneda_LostFocus() {
+    if (cmbMoneda.Enabled()) cmbMoneda.SetBackColor(forms::Black);
+}
+
+void AlegeMoneda::Grid_KeyDown(int& keyCode) {
+    if (keyCode != key::Enter) return;
+    keyCode = key::Swallowed;
+    cmdAction_Click(Accept);
+}
+
+void AlegeMoneda::OnKeyDown(int& keyCode, forms::Modifiers /*modifiers*/) {
+    if (keyCode == key::Escape) cmdAction_Click(Cancel);
+}
+
+}  // namespace tavrin::rates

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "forms/combo_box.h"
+#include "forms/command_button.h"
+#include "forms/control_array.h"
+#include "forms/form.h"
+#include "forms/grid.h"
+#include "forms/image_list.h"
+#include "forms/label.h"
+#include "rates/currency_target.h"
+#include "rates/rate_store.h"
+#include "shell/module.h"
+
+namespace tavrin::rates {
+
+/// Lets the user pick a currency and one of its daily rates, newest first, for a window that converts
+/// amounts. That window is disabled while this one is open; it takes part only through CurrencyTarget.
+class AlegeMoneda : public forms::Form {
+  public:
+    enum Action { Accept, Cancel };
+
+    explicit AlegeMoneda(shell::Module& module);
+
+    /// `currency` is the code that stands in the list at first; the host's table need not have it.
+    void ShowForm(CurrencyTarget& caller, const std::string& currency);
+
+    forms::Label Label2;
+    forms::ComboBox cmbMoneda;
+    forms::Grid Grid;
+    forms::ControlArray<forms::CommandButton, 2> cmdAction;
+
+  protected:
+    void OnLoad() override;
+    void OnActivate() override;
+    void OnDeactivate() override { KeepOnTop(); }
+    void OnUnload() override;
+    void OnKeyDown(int& keyCode, forms::Modifiers modifiers) override;
+
+  private:
+    void PlaceControls();
+    void ConnectEvents();
+    void IncarcaMonede();
+    void IncarcaCursuri();
+    void ShowRates(data::TablePtr rates);
+    void TakeRate();
+    void cmdAction_Click(int index);
+    void cmbMoneda_GotFocus();
+    void cmbMoneda_LostFocus();
+    void Grid_KeyDown(int& keyCode);
+
+    shell::Module& module_;
+    RateStore store_;
+    forms::ImageList lstImages_;
+    /// Keeps the caller's form alive, should it unload before this one.
+    std::shared_ptr<CurrencyTarget> caller_;
+};
+
+}  // namespace tavrin::rates

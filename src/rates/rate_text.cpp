@@ -1,0 +1,55 @@
+#include "rates/rate_text.h"
+
+#include <array>
+#include <charconv>
+#include <string_view>
+#include <utility>
+
+#include "data/value.h"
+#include "forms/number_format.h"
+
+namespace tavrin::rates {
+
+namespace {
+
+void ReplaceAll(std::string& text, std::string_view what, std::string_view by) {
+    if (what.empty()) return;
+    for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + by.size()))
+        text.replace(at, what.size(), by);
+}
+
+/// A number as the user would type it.
+double NumberInLocale(const std::string& text, const forms::Locale& locale) {
+    const std::size_t separatorAt = text.find(locale.decimalSeparator);
+    std::string number = text.substr(0, separatorAt);
+    ReplaceAll(number, locale.thousandsSeparator, "");
+    if (separatorAt != std::string::npos)
+        number += "." + text.substr(separatorAt + locale.decimalSeparator.size());
+    return data::Value(std::move(number)).ToDouble();
+}
+
+std::string PlainDecimal(double number) {
+    std::array<char, 400> text;
+    const char* const end =
+        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed).ptr;
+    return std::string(static_cast<const char*>(text.data()), end);
+}
+
+}  // namespace
+
+double NumberOfRateText(std::string text, const forms::Locale& locale) {
+    ReplaceAll(text, ".", locale.decimalSeparator);
+    return NumberInLocale(text, locale);
+}
+
+std::string RateCaption(double rate, const std::string& currency, const forms::Locale& locale) {
+    const std::string amount =
+        forms::FormatNumber(PlainDecimal(rate), {.decimals = 2,
+                                                 .grouping = 3,
+                                                 .leadingZero = true,
+                                                 .decimalSeparator = locale.decimalSeparator,
+                                                 .thousandsSeparator = locale.thousandsSeparator});
+    return "Cursul este de  " + amount + " Lei pentru 1 " + currency;
+}
+
+}  // namespace tavrin::rates
