@@ -1,0 +1,333 @@
+#include "calculator/frm_calculator.h"
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+#include "calculator/key_map.h"
+#include "data/checked_arithmetic.h"
+#include "rates/alege_moneda.h"
+#include "shell/layout.h"
+#include "shell/window_helpers.h"
+
+namespace tavrin::calculator {
+
+namespace {
+
+namespace key = forms::key;
+namespace layout = shell::layout;
+namespace message = shell::message;
+
+constexpr std::array<const char*, 7> OperatorCaptions = {"/", "+", "X", "-", "=", "%", "+/-"};
+constexpr std::array<const char*, 4> Precisions = {"0 zecimale", "2 zecimale", "4 zecimale", "6 zecimale"};
+constexpr int TwoDecimals = 1;
+constexpr std::string_view LeiUnit = "Lei";
+constexpr int LeiItem = 0;
+
+constexpr int KeyColumns = 6;
+constexpr int KeyRows = 4;
+constexpr int KeyWidth = 720;
+constexpr int KeyHeight = 540;
+constexpr int KeyGap = layout::Unit;
+constexpr int PanelWidth = KeyColumns * (KeyWidth + KeyGap) - KeyGap;
+constexpr int WindowWidth = PanelWidth + 2 * layout::Margin;
+constexpr int TopRowHeight = 300;
+constexpr int DisplayHeight = 780;
+constexpr int MarkWidth = 240;
+constexpr int UnitListWidth = 1140;
+constexpr int PrecisionListWidth = 1500;
+constexpr double DisplayPoints = 22;
+
+constexpr int DisplaysTop = layout::Margin + TopRowHeight + layout::Unit;
+constexpr int ListsTop = DisplaysTop + 2 * (DisplayHeight + layout::Unit) + layout::Unit;
+constexpr int KeysTop = ListsTop + layout::FieldHeight + layout::Gap;
+constexpr int WindowHeight = KeysTop + KeyRows * (KeyHeight + KeyGap) - KeyGap + layout::Margin;
+
+void PlaceKey(KeyButton& button, int column, int row, KeyKind kind) {
+    button.SetBounds({layout::Margin + column * (KeyWidth + KeyGap), KeysTop + row * (KeyHeight + KeyGap),
+                      KeyWidth, KeyHeight});
+    button.SetKind(kind);
+}
+
+}  // namespace
+
+FrmCalculator::FrmCalculator(shell::Module& module)
+    : Form(module.Desktop(), "frmCalculator", "Calculator", forms::BorderStyle::Borderless),
+      z(*this, "z"),
+      lblCurs(z, "lblCurs", "Curs Valutar:"),
+      lblM(z, "lblM", "M"),
+      Shape1(z, "Shape1"),
+      ValLei(z, "ValLei"),
+      Shape2(z, "Shape2"),
+      ValValuta(z, "ValValuta"),
+      Number(z, "Number"),
+      Decimal(z, "Decimal", module.Desktop().UserLocale().decimalSeparator),
+      Operator(z, "Operator"),
+      Cancel(z, "Cancel", "AC"),
+      CancelEntry(z, "CancelEntry", "C"),
+      cmdMC(z, "cmdMC", "MC"),
+      cmdMR(z, "cmdMR", "MR"),
+      cmdMPlus(z, "cmdMPlus", "M+"),
+      cmdMMinus(z, "cmdMMinus", "M-"),
+      cmbUM(z, "cmbUM", forms::ComboStyle::DropDownList),
+      cmbPrecizie(z, "cmbPrecizie", forms::ComboStyle::DropDownList),
+      cmdVal(z, "cmdVal", "Alege Moneda"),
+      cmdUnload(z, "cmdUnload"),
+      module_(module),
+      engine_(*this, module.Desktop().UserLocale().decimalSeparator) {
+    PlaceDisplays();
+    PlaceLists();
+    PlaceKeys();
+    ConnectEvents();
+}
+
+// Looks.
+
+void FrmCalculator::PlaceDisplays() {
+    SetClientSize({WindowWidth, WindowHeight});
+    z.SetBounds({0, 0, WindowWidth, WindowHeight});
+
+    const int unloadLeft = layout::Margin + PanelWidth - TopRowHeight;
+    const int markLeft = unloadLeft - layout::Unit - MarkWidth;
+    lblCurs.SetBounds(
+        {layout::Margin, layout::Margin, markLeft - layout::Unit - layout::Margin, TopRowHeight});
+    lblM.SetBounds({markLeft, layout::Margin, MarkWidth, TopRowHeight});
+    lblM.SetFont({.face = "Arial", .points = 11, .bold = true});
+    lblM.SetForeColor(forms::scheme::Value);
+    lblM.SetAlign(forms::Align::Center);
+    lblM.SetAccessibleName("Memorie");
+    cmdUnload.SetBounds({unloadLeft, layout::Margin, TopRowHeight, TopRowHeight});
+    cmdUnload.SetPicture(forms::Icon::Close);
+    cmdUnload.SetToolTip("Inchide calculatorul");
+
+    const forms::Rect upper{layout::Margin, DisplaysTop, PanelWidth, DisplayHeight};
+    Shape1.SetBounds(upper);
+    Shape2.SetBounds({upper.left, upper.Bottom() + layout::Unit, upper.width, upper.height});
+    ValLei.SetBounds(Shape1.Bounds().Inset(layout::Unit));
+    ValValuta.SetBounds(Shape2.Bounds().Inset(layout::Unit));
+    ValLei.SetAccessibleName("Lei");
+    ValValuta.SetAccessibleName("Valuta");
+    ValLei.SetUnitText("Lei");
+    ValValuta.SetUnitText("Valuta");
+    for (forms::NumericDisplay* display : {&ValLei, &ValValuta})
+        display->SetFont({.face = "Arial", .points = DisplayPoints, .bold = true});
+}
+
+void FrmCalculator::PlaceLists() {
+    int left = layout::Margin;
+    const auto place = [&left](forms::Control& control, int width) {
+        control.SetBounds({left, ListsTop, width, layout::FieldHeight});
+        left += width + layout::Unit;
+    };
+    place(cmbUM, UnitListWidth);
+    place(cmbPrecizie, PrecisionListWidth);
+    place(cmdVal, layout::Margin + PanelWidth - left);
+    for (forms::ComboBox* list : {&cmbUM, &cmbPrecizie})
+        list->SetBackColor(forms::Black);
+    cmbUM.SetAccessibleName("Unitatea de masura");
+    cmbPrecizie.SetAccessibleName("Precizia");
+    cmdVal.SetPicture(forms::Icon::Exchange);
+}
+
+// Memory, digits, operators and what clears stand in columns of their own.
+void FrmCalculator::PlaceKeys() {
+    PlaceKey(cmdMC, 0, 0, KeyKind::Memory);
+    PlaceKey(cmdMR, 0, 1, KeyKind::Memory);
+    PlaceKey(cmdMPlus, 0, 2, KeyKind::Memory);
+    PlaceKey(cmdMMinus, 0, 3, KeyKind::Memory);
+
+    for (int digit = 0; digit < 10; ++digit)
+        Number[digit].SetCaption(std::to_string(digit));
+    for (int digit = 1; digit < 10; ++digit)
+        PlaceKey(Number[digit], 1 + (digit - 1) % 3, 2 - (digit - 1) / 3, KeyKind::Digit);
+    PlaceKey(Number[0], 1, 3, KeyKind::Digit);
+    PlaceKey(Decimal, 2, 3, KeyKind::Digit);
+
+    for (int i = 0; i < static_cast<int>(OperatorCaptions.size()); ++i)
+        Operator[i].SetCaption(OperatorCaptions[static_cast<std::size_t>(i)]);
+    PlaceKey(Operator[6], 3, 3, KeyKind::Operator);
+    PlaceKey(Operator[0], 4, 0, KeyKind::Operator);
+    PlaceKey(Operator[2], 4, 1, KeyKind::Operator);
+    PlaceKey(Operator[3], 4, 2, KeyKind::Operator);
+    PlaceKey(Operator[1], 4, 3, KeyKind::Operator);
+    PlaceKey(Cancel, 5, 0, KeyKind::Clear);
+    PlaceKey(CancelEntry, 5, 1, KeyKind::Clear);
+    PlaceKey(Operator[5], 5, 2, KeyKind::Operator);
+    PlaceKey(Operator[4], 5, 3, KeyKind::Result);
+}
+
+// Events.
+
+void FrmCalculator::ConnectEvents() {
+    z.onMouseDown = [this](const forms::MouseInput&) { shell::MoveByCaption(*this); };
+    cmdVal.onClick = [this] { cmdVal_Click(); };
+    cmdUnload.onClick = [this] { Unload(); };
+    cmbPrecizie.onClick = [this] { cmbPrecizie_Click(); };
+    cmbUM.onClick = [this] { cmbUM_Click(); };
+    for (forms::ComboBox* list : {&cmbUM, &cmbPrecizie}) {
+        list->onGotFocus = [list] { list->SetBackColor(forms::FocusGrey); };
+        list->onLostFocus = [list] { list->SetBackColor(forms::Black); };
+    }
+    ConnectKeys();
+}
+
+void FrmCalculator::ConnectKeys() {
+    const auto connect = [this](KeyButton& button, Command command) {
+        button.onClick = [this, command] { engine_.Press(command); };
+    };
+    Number.OnEach(&forms::Control::onClick, [this](int digit) { engine_.Press(DigitCommand(digit)); });
+    Operator.OnEach(&forms::Control::onClick, [this](int index) { Operator_Click(index); });
+    connect(Decimal, Command::DecimalPoint);
+    connect(Cancel, Command::Clear);
+    connect(CancelEntry, Command::ClearEntry);
+    connect(cmdMC, Command::MemoryClear);
+    connect(cmdMR, Command::MemoryRecall);
+    connect(cmdMPlus, Command::MemoryAdd);
+    connect(cmdMMinus, Command::MemorySubtract);
+    for (KeyButton* button : AllKeys()) {
+        button->onKeyDown = [this](int& keyCode, forms::Modifiers) { Key_KeyDown(keyCode); };
+        button->onKeyPress = [this](char32_t& character) { Key_KeyPress(character); };
+    }
+}
+
+std::vector<KeyButton*> FrmCalculator::AllKeys() {
+    std::vector<KeyButton*> keys = {&Decimal, &Cancel, &CancelEntry, &cmdMC, &cmdMR, &cmdMPlus, &cmdMMinus};
+    for (const auto& button : Number)
+        keys.push_back(button.get());
+    for (const auto& button : Operator)
+        keys.push_back(button.get());
+    return keys;
+}
+
+// Life.
+
+void FrmCalculator::OnLoad() {
+    lblCurs.SetCaption("Nu este setat nici un curs valutar!!");
+    engine_.Press(Command::Clear);
+    rate_ = 1;
+    lblM.SetVisible(false);
+    FillLists();
+    ShowValues();
+    CenterOnScreen();
+    Show();
+}
+
+void FrmCalculator::FillLists() {
+    cmbPrecizie.Clear();
+    for (const char* precision : Precisions)
+        cmbPrecizie.AddItem(precision);
+    cmbPrecizie.SetListIndex(TwoDecimals);
+    cmbUM.Clear();
+    cmbUM.AddItem(std::string(LeiUnit));
+    cmbUM.AddItem("Valuta");
+    cmbUM.SetListIndex(LeiItem);
+}
+
+void FrmCalculator::OnMouseDown(const forms::MouseInput& /*input*/) {
+    shell::MoveByCaption(*this);
+}
+
+// What the engine asks for.
+
+bool FrmCalculator::IsInLei() const {
+    return cmbUM.Text() == LeiUnit;
+}
+
+void FrmCalculator::ShowValues() {
+    if (engine_.EntryText() == "-0") {
+        ValLei.SetValue(0);
+        ValValuta.SetValue(0);
+        return;
+    }
+    const double entered = engine_.EntryValue();
+    if (IsInLei()) {
+        ValLei.SetValue(entered);
+        ValValuta.SetValue(data::CheckedQuotient(entered, rate_));
+    } else {
+        ValLei.SetValue(data::CheckedResult(entered * rate_));
+        ValValuta.SetValue(entered);
+    }
+}
+
+double FrmCalculator::ShownValue() const {
+    return IsInLei() ? ValLei.Value() : ValValuta.Value();
+}
+
+void FrmCalculator::ReportDivisionByZero() {
+    module_.ShowMessage("Impartire la 0 !!", message::Exclamation, message::Ok, "Eroare");
+}
+
+void FrmCalculator::ShowMemoryMark(bool visible) {
+    lblM.SetVisible(visible);
+}
+
+// The lists and the chooser.
+
+void FrmCalculator::cmbPrecizie_Click() {
+    if (cmbPrecizie.Text().empty()) return;
+    const int decimals = cmbPrecizie.Text().front() - '0';
+    ValLei.SetDecimals(static_cast<std::uint8_t>(decimals));
+    ValValuta.SetDecimals(static_cast<std::uint8_t>(decimals));
+    engine_.SetDecimals(decimals);
+    ShowValues();
+}
+
+void FrmCalculator::cmbUM_Click() {
+    const bool inLei = cmbUM.ListIndex() == LeiItem;
+    ValLei.SetActive(inLei);
+    Shape1.SetBackColor(inLei ? forms::FocusGrey : forms::Black);
+    ValValuta.SetActive(!inLei);
+    Shape2.SetBackColor(inLei ? forms::Black : forms::FocusGrey);
+    engine_.SetEntry(inLei ? ValLei.Value() : ValValuta.Value());
+    ShowValues();
+}
+
+void FrmCalculator::cmdVal_Click() {
+    currency_ = "$";
+    module_.Default<rates::AlegeMoneda>().ShowForm(*this, currency_);
+}
+
+// The keys.
+
+void FrmCalculator::Operator_Click(int index) {
+    if (const std::optional<Command> command = CommandOfOperator(Operator[index].Caption()))
+        engine_.Press(*command);
+}
+
+void FrmCalculator::Key_KeyDown(int& keyCode) {
+    if (keyCode != key::Enter) return;
+    // Dealt with here, so that the button does not click itself and no character follows.
+    keyCode = key::Swallowed;
+    PressAndFocus(Command::Equals);
+}
+
+void FrmCalculator::Key_KeyPress(char32_t& character) {
+    if (character == key::Escape) {
+        Unload();
+        return;
+    }
+    const std::optional<Command> command = CommandOfCharacter(character);
+    if (!command) return;
+    character = 0;
+    PressAndFocus(*command);
+}
+
+void FrmCalculator::PressAndFocus(Command command) {
+    engine_.Press(command);
+    if (KeyButton* button = KeyOf(command)) button->SetFocus();
+}
+
+KeyButton* FrmCalculator::KeyOf(Command command) {
+    if (command <= Command::Digit9) return &Number[static_cast<int>(command)];
+    if (command == Command::ClearEntry) return &CancelEntry;
+    for (const auto& button : Operator) {
+        if (CommandOfOperator(button->Caption()) == command) return button.get();
+    }
+    return nullptr;
+}
+
+void FrmCalculator::OnKeyDown(int& keyCode, forms::Modifiers /*modifiers*/) {
+    if (keyCode == key::Escape) Unload();
+}
+
+}  // namespace tavrin::calculator
