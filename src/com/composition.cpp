@@ -1,6 +1,7 @@
 #include "com/composition.h"
 
 #include "addressbook/agenda.h"
+#include "calculator/frm_calculator.h"
 #include "rates/curs_valutar.h"
 #include "shell/utilitati.h"
 
@@ -9,11 +10,18 @@ namespace {
 
 constexpr int CalculatorButton = 2;
 
+void OpenCalculator(shell::Module& module) {
+    auto& window = module.Default<calculator::FrmCalculator>();
+    window.Load();
+    window.Show();
+}
+
 }  // namespace
 
 void AddWindows(shell::Module& module) {
     module.AddLauncher("Agenda",
                        [](shell::Module& owner) { owner.Default<addressbook::Agenda>().ShowForm(); });
+    module.AddLauncher("frmCalculator", OpenCalculator);
     module.AddLauncher("CursValutar",
                        [](shell::Module& owner) { owner.Default<rates::CursValutar>().ShowForm(); });
 }
