@@ -48,19 +48,21 @@ class ArrayBuilder {
 }  // namespace
 
 Variant TakeRows(EmbeddedRecordset& recordset, std::int64_t rows) {
-    if (recordset.AtBeginning() || recordset.AtEnd())
+    if (recordset.AtBeginning() || recordset.AtEnd()) {
         throw data::Error(data::error_number::NoCurrentRecord,
                           "Either BOF or EOF is True, or the current record has been deleted. Requested "
                           "operation requires a current record.");
+    }
     const std::int64_t first = recordset.AbsolutePosition() - 1;
     const std::int64_t left = recordset.RecordCount() - first;
     const std::int64_t count = rows < 0 ? left : std::min(rows, left);
     const std::vector<FieldInfo>& fields = recordset.Fields();
     const data::TablePtr table = recordset.ReadAll();
     ArrayBuilder builder(fields.size(), static_cast<std::size_t>(count));
-    for (std::int64_t row = first; row < first + count; ++row)
+    for (std::int64_t row = first; row < first + count; ++row) {
         for (std::size_t field = 0; field < fields.size(); ++field)
             builder.Add(ToVariant(table->At(static_cast<std::size_t>(row), field), fields[field].type));
+    }
     recordset.Move(count);
     return builder.Finish();
 }

@@ -40,7 +40,7 @@ class ScriptObject : public win32::UnknownObject<IDispatch> {
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) noexcept override;
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count, LCID locale,
                                             DISPID* ids) noexcept override;
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID id, LCID locale, WORD kind, DISPPARAMS* call,
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID interfaceId, LCID locale, WORD kind, DISPPARAMS* call,
                                      VARIANT* result, EXCEPINFO* exception,
                                      UINT* badArgument) noexcept override;
 

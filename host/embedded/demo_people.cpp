@@ -111,13 +111,14 @@ std::vector<std::string> Person(std::size_t number) {
     }
     const Town& work = Towns[number * 3 % Towns.size()];
     const auto& [department, job] = Departments[number % Departments.size()];
-    const std::string firm = "Exemplu " + Pick(Trades, number) + " SRL";
-    const std::string prefix(work.prefix);
-    for (const std::string& value :
-         {firm, Address(number * 7 + 1), std::string(work.name), std::string(work.county),
-          prefix + "/111" + number3, prefix + "/112" + number3, std::string(department), std::string(job)}) {
-        values.push_back(value);
-    }
+    values.push_back("Exemplu " + Pick(Trades, number) + " SRL");
+    values.push_back(Address(number * 7 + 1));
+    values.emplace_back(work.name);
+    values.emplace_back(work.county);
+    values.push_back(std::string(work.prefix) + "/111" + number3);
+    values.push_back(std::string(work.prefix) + "/112" + number3);
+    values.emplace_back(department);
+    values.emplace_back(job);
     return values;
 }
 

@@ -38,6 +38,7 @@ data::MemoryTable::Row ReadRow(const SqliteStatement& row, const std::vector<Fie
 
 std::shared_ptr<data::MemoryTable> MakeTable(const std::vector<FieldInfo>& fields) {
     std::vector<std::string> names;
+    names.reserve(fields.size());
     for (const FieldInfo& field : fields)
         names.push_back(field.name);
     return std::make_shared<data::MemoryTable>(std::move(names));

@@ -48,11 +48,12 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void*) noexcept {
     return TRUE;
 }
 
-STDAPI DllCanUnloadNow() noexcept try { return TheServer().Retire() ? S_OK : S_FALSE; } catch (...) {
+// The platform declares the first two exports, and without noexcept.
+STDAPI DllCanUnloadNow() try { return TheServer().Retire() ? S_OK : S_FALSE; } catch (...) {
     return S_FALSE;
 }
 
-STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object) noexcept try {
+STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object) try {
     if (object == nullptr) return E_POINTER;
     *object = nullptr;
     if (!IsEqualCLSID(classId, __uuidof(::Utile))) return CLASS_E_CLASSNOTAVAILABLE;

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <string>
 #include <utility>
 
 #include "forms/look.h"
@@ -107,9 +108,10 @@ void ComboPeer::ShowList() {
         same = EntryText(i) == control_.Item(i);
     if (!same) {
         SendMessageW(Handle(), CB_RESETCONTENT, 0, 0);
-        for (int i = 0; i < control_.ListCount(); ++i)
-            SendMessageW(Handle(), CB_ADDSTRING, 0,
-                         reinterpret_cast<LPARAM>(ToWide(control_.Item(i)).c_str()));
+        for (int i = 0; i < control_.ListCount(); ++i) {
+            const std::wstring text = ToWide(control_.Item(i));
+            SendMessageW(Handle(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+        }
     }
     if (SelectedIndex() != control_.ListIndex())
         SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(control_.ListIndex()), 0);

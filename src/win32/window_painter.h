@@ -23,7 +23,7 @@ class WindowPainter {
   private:
     /// Begins and ends the painting, or takes the device context that came along.
     struct Target {
-        Target(HWND window, const Message& message);
+        Target(HWND target, const Message& message);
         ~Target();
         Target(const Target&) = delete;
         Target& operator=(const Target&) = delete;

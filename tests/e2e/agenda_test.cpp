@@ -206,6 +206,7 @@ TEST_F(AgendaTest, ASearchForNobodyLeavesTheDetailsAloneReadyForSomebody) {
     TypeText("Ion");
     PressKey('C', {VK_MENU});
     ASSERT_TRUE(AwaitFocus("Grid"));
+    host->Ui().Settle();
     EXPECT_EQ(Shown(), (TableTexts{{"Nume", "Prenume"}, {"Zzaharia", "Ion"}}));
     EXPECT_GT(window.Width(), width * 9 / 10);
     SaveScreenshot("agenda-widened");

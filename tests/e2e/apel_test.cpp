@@ -36,7 +36,7 @@ class ApelTest : public HostTest {
 
     static void ExpectNoPalette() { EXPECT_FALSE(FindForm("Utilitati")); }
 
-    const HostValues june;
+    const HostValues june{};
     const DATE day = OleDay({});
 };
 

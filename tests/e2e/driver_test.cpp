@@ -174,6 +174,16 @@ TEST_F(DriverTest, CountsEveryKindOfResource) {
     DestroyWindow(first);
 }
 
+TEST_F(DriverTest, MeasuresTheHeap) {
+    const std::size_t before = HeapBytes();
+    constexpr std::size_t Size = 12345;
+    void* block = HeapAlloc(GetProcessHeap(), 0, Size);
+    EXPECT_GE(HeapBytes(), before + Size);
+    HeapFree(GetProcessHeap(), 0, block);
+    EXPECT_LT(HeapBytes(), before + Size);
+    EXPECT_GT(PrivateBytes(), before);
+}
+
 TEST_F(DriverTest, CountsTimersOfAThread) {
     EXPECT_EQ(KillThreadTimers(thread), 0);
     thread.Call([] { SetTimer(nullptr, 0, 60000, nullptr); });

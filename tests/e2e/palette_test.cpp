@@ -149,7 +149,7 @@ TEST_P(PaletteTest, RollsUpToItsCaptionAndComesBackALittleLower) {
     Click(palette.Control("imgRollup(0)"));
     EXPECT_TRUE(WaitUntil([&] { return palette.Height() == strip + 6; })) << palette.Height();
     EXPECT_EQ(palette.Width(), width);
-    EXPECT_FALSE(palette.Control("imgRollup(0)").IsVisible());
+    EXPECT_TRUE(WaitUntil([&] { return !palette.Control("imgRollup(0)").IsVisible(); }));
 
     Click(palette.Control("imgRollup(1)"));
     EXPECT_TRUE(WaitUntil([&] { return palette.Control("imgRollup(0)").IsVisible(); }));

@@ -97,7 +97,7 @@ TEST_P(PeersUnloadingTest, APressThatDragsTheWindowIsNoClick) {
 }
 
 TEST_P(PeersUnloadingTest, WhatAnAssistiveToolHoldsOutlivesItsControlUnconnected) {
-    win32::ComPtr<IAccessible> held = Call([&] { return OpenAccessible(Control("button")); });
+    win32::ComPtr<IAccessible> held = Call([&] { return OpenAccessible(Control("cmdStop")); });
     ASSERT_TRUE(held);
     Unload();
     LONG children = -1;

@@ -79,6 +79,7 @@ class ConditionVisitor {
 
     Sql List(const std::vector<ConditionPtr>& terms, std::string_view separator) const {
         std::vector<Sql> pieces;
+        pieces.reserve(terms.size());
         for (const ConditionPtr& term : terms)
             pieces.push_back(translator_.Translate(*term));
         return Parenthesized(Joined(pieces, separator));

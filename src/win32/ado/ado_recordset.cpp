@@ -171,9 +171,10 @@ const AdoRecordset::FieldEntry& AdoRecordset::FieldAt(std::size_t field) const {
 
 /// \throws data::Error 3704 where a statement gave no recordset at all.
 const DispatchObject& AdoRecordset::OpenRecordset() const {
-    if (!recordset_)
+    if (!recordset_) {
         throw data::Error(data::error_number::ObjectClosed,
                           "Operation is not allowed when the object is closed.");
+    }
     return recordset_;
 }
 

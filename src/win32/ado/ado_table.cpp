@@ -26,9 +26,10 @@ std::size_t Extent(SAFEARRAY* array, UINT dimension) {
 RowBlock::RowBlock(Variant array, std::size_t fieldCount)
     : array_(std::move(array)), fieldCount_(fieldCount) {
     SAFEARRAY* const content = array_.Type() == (VT_ARRAY | VT_VARIANT) ? array_.Get().parray : nullptr;
-    if (content == nullptr || SafeArrayGetDim(content) != 2 || Extent(content, 1) != fieldCount)
+    if (content == nullptr || SafeArrayGetDim(content) != 2 || Extent(content, 1) != fieldCount) {
         throw data::Error(data::error_number::TypeMismatch,
                           "The provider gave no rows of the expected shape");
+    }
     rowCount_ = Extent(content, 2);
     void* cells = nullptr;
     if (FAILED(SafeArrayAccessData(content, &cells)))

@@ -36,7 +36,6 @@ data::Value FromDecimal(DECIMAL decimal) {
 data::Value ToValue(const VARIANT& variant) {
     switch (variant.vt) {
         case VT_EMPTY:
-            return {};
         case VT_ERROR:
             return {};
         case VT_NULL:

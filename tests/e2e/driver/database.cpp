@@ -1,8 +1,6 @@
 #include "e2e/driver/database.h"
 
 #include "e2e/driver/wait.h"
-
-#include "e2e/driver/wait.h"
 #include "host/embedded/demo_data.h"
 
 namespace tavrin::e2e {

@@ -53,6 +53,17 @@ std::string GdiKind(unsigned type) {
     }
 }
 
+std::size_t BytesInUse(HANDLE heap) {
+    std::size_t bytes = 0;
+    PROCESS_HEAP_ENTRY entry{};
+    HeapLock(heap);
+    while (HeapWalk(heap, &entry)) {
+        if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0) bytes += entry.cbData;
+    }
+    HeapUnlock(heap);
+    return bytes;
+}
+
 std::map<std::string, int> CountGdiObjects() {
     GdiFlush();
     std::map<std::string, int> counts;
@@ -161,6 +172,15 @@ std::size_t PrivateBytes() {
     GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),
                          sizeof counters);
     return counters.PrivateUsage;
+}
+
+std::size_t HeapBytes() {
+    std::array<HANDLE, 64> heaps{};
+    const DWORD count = GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data());
+    std::size_t bytes = 0;
+    for (DWORD i = 0; i < count && i < heaps.size(); ++i)
+        bytes += BytesInUse(heaps[i]);
+    return bytes;
 }
 
 }  // namespace tavrin::e2e

@@ -31,7 +31,9 @@ std::ostream& operator<<(std::ostream& stream, const ResourceCount& count);
 /// other way. Those of windows go with their windows.
 int KillThreadTimers(UiThread& thread);
 
-/// Memory that the process has to itself, in bytes.
+/// Memory in bytes: what the process has to itself, and what is in use in its heaps. The latter sees small
+/// leaks that the former hides.
 std::size_t PrivateBytes();
+std::size_t HeapBytes();
 
 }  // namespace tavrin::e2e

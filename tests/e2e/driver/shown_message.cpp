@@ -34,7 +34,11 @@ std::optional<ShownMessage> ShownMessage::Find() {
 }
 
 ShownMessage ShownMessage::Await() {
-    Require("a message", [] { return Find().has_value(); });
+    // A message that is still on its way to the front would miss a click.
+    Require("a message in the foreground", [] {
+        const auto message = Find();
+        return message && message->window_.HasFocus();
+    });
     return *Find();
 }
 

@@ -15,7 +15,7 @@ enum class MessageIcon { None, Error, Question, Exclamation, Information };
 /// A message that the program under test shows and waits for.
 class ShownMessage {
   public:
-    /// Waits for one. \throws DriverError when none appears.
+    /// Waits for one that has the keyboard. \throws DriverError when none appears.
     static ShownMessage Await();
     /// The foremost one that is open now.
     static std::optional<ShownMessage> Find();
