@@ -72,6 +72,20 @@ TEST_F(RecordsetTest, AnEmptyOneIsAtBothEnds) {
     EXPECT_EQ(ErrorNumber([&] { rows->Move(0); }), error_number::NoCurrentRecord);
 }
 
+TEST_F(RecordsetTest, TellsThePositionInAdosTerms) {
+    const auto opened = connection_.Execute("three");
+    auto& rows = dynamic_cast<SnapshotRecordset&>(*opened);
+    EXPECT_EQ(rows.AbsolutePosition(), 1);
+    rows.Move(2);
+    EXPECT_EQ(rows.AbsolutePosition(), 3);
+    rows.MoveNext();
+    EXPECT_EQ(rows.AbsolutePosition(), -3);
+    rows.Move(-4);
+    EXPECT_EQ(rows.AbsolutePosition(), -2);
+    const auto none = connection_.Execute("none");
+    EXPECT_EQ(dynamic_cast<SnapshotRecordset&>(*none).AbsolutePosition(), -1);
+}
+
 TEST_F(RecordsetTest, AClosedOneRefusesEverything) {
     const auto rows = connection_.Execute("write");
     EXPECT_FALSE(rows->IsOpen());
