@@ -101,6 +101,10 @@ TEST_F(DialectQueries, AggregatesOfNothing) {
 TEST_F(DialectQueries, AggregatesCountWhatIsThere) {
     EXPECT_THAT(Rows("SELECT COUNT(*), COUNT(USD), MIN(Data), MAX(Data), AVG(Validat) FROM [Curs Valutar]"),
                 ElementsAre("4|3|31/12/2002|02/06/2003|0"));
+    EXPECT_EQ(
+        Scalar("SELECT CONVERT(NVARCHAR, CONVERT(money, AVG(Validat)), 1) FROM [Curs Valutar]").ToText(),
+        "0.00")
+        << "an average of whole numbers is whole";
 }
 
 TEST_F(DialectQueries, OrderByAliasPositionAndUnselectedColumn) {
@@ -118,6 +122,7 @@ TEST_F(DialectQueries, TextSortsAndComparesWithoutCase) {
     }
     EXPECT_THAT(Rows("SELECT Valuta FROM LpVal ORDER BY Valuta"), ElementsAre("A", "Ă", "a b", "b", "C"));
     EXPECT_THAT(Rows("SELECT Valuta FROM LpVal WHERE Valuta = 'B  '"), ElementsAre("b"));
+    EXPECT_THAT(Rows("SELECT Valuta FROM LpVal WHERE 'B  ' = Valuta"), ElementsAre("b"));
     EXPECT_THAT(Rows("SELECT Valuta FROM LpVal WHERE Valuta = 'ă'"), ElementsAre("Ă"));
     EXPECT_THAT(Rows("SELECT DISTINCT Curs FROM LpVal WHERE Valuta NOT LIKE '[b-c]'"), ElementsAre("0"));
 }
