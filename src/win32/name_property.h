@@ -7,8 +7,8 @@
 namespace tavrin::win32 {
 
 /// The name of a form or a control as the window property `Tavrin.Name`, for test programs and tools of other
-/// processes. The value is a global atom, which the system keeps in the letter case in which anybody first used
-/// it. It is taken off again before the window goes.
+/// processes. The value is a global atom, which the system keeps in the letter case in which it was first
+/// used. It is taken off again before the window goes.
 class NameProperty {
   public:
     NameProperty(HWND window, std::string_view name);
