@@ -114,7 +114,7 @@ class AgendaTest : public HostTest {
         EXPECT_EQ(message.Prompt(), prompt);
         EXPECT_EQ(message.Title(), title);
         EXPECT_EQ(message.Icon(), icon);
-        EXPECT_TRUE(message.IsInFront());
+        EXPECT_TRUE(message.ComesToFront());
         message.Press(answer);
     }
 
