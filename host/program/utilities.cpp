@@ -62,6 +62,12 @@ void Register(const std::wstring& dll) {
     Check(Export<HRESULT STDAPICALLTYPE()>(module.get(), "DllRegisterServer")(), "DllRegisterServer");
 }
 
+bool CanUnload(HMODULE module) {
+    const FARPROC canUnload = GetProcAddress(module, "DllCanUnloadNow");
+    return canUnload != nullptr &&
+           reinterpret_cast<HRESULT STDAPICALLTYPE (*)()>(reinterpret_cast<void (*)()>(canUnload))() == S_OK;
+}
+
 /// What the component said about its last failure.
 std::string LastDescription(HRESULT result) {
     ComPtr<IErrorInfo> info;
@@ -109,8 +115,7 @@ Utilities::~Utilities() {
     utile_.Reset();
     if (!module_) return;
     // A window that the user has left open still needs the component's code.
-    const auto canUnload = Export<HRESULT STDAPICALLTYPE()>(module_.get(), "DllCanUnloadNow");
-    if (canUnload() != S_OK) static_cast<void>(module_.release());
+    if (!CanUnload(module_.get())) static_cast<void>(module_.release());
 }
 
 void Utilities::Apel(const ComPtr<IDispatch>& connection, data::OleDate date, std::int16_t year,

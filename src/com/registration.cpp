@@ -63,8 +63,8 @@ bool Remove(const std::wstring& key) {
 bool RemoveEntries(Server& server) {
     const std::vector<Entry> entries = Entries(server);
     bool complete = true;
-    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry)
-        complete = Remove(entry->key) && complete;
+    for (std::size_t i = entries.size(); i-- > 0;)
+        complete = Remove(entries[i].key) && complete;
     return complete;
 }
 
