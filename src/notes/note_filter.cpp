@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -33,6 +34,27 @@ struct ControlWord {
     std::string_view number;
     std::string_view whole;
 };
+
+/// What stands for a word that is not kept.
+struct PlainForm {
+    std::string_view word;
+    std::string_view instead;
+};
+
+// Readers skip it, but it ends a word that stands before what is left out.
+constexpr std::string_view Nothing = "\n";
+
+// Editors have been seen to fail over rows that are not what their definition says. A table's text stays, its
+// cells set apart by tabs, its rows by paragraphs.
+constexpr PlainForm TableWords[] = {
+    {"cell", "\\tab "}, {"nestcell", "\\tab "}, {"row", "\\par "},  {"nestrow", "\\par "},
+    {"trowd", Nothing}, {"cellx", Nothing},     {"intbl", Nothing}, {"itap", Nothing},
+};
+
+const PlainForm* PlainFormOf(std::string_view word) {
+    const auto* const found = std::ranges::find(TableWords, word, &PlainForm::word);
+    return found != std::end(TableWords) ? found : nullptr;
+}
 
 /// Walks through a file from front to back and keeps what may stay.
 class Walk {
@@ -78,8 +100,11 @@ class Walk {
 
     void Close() {
         Keep(rest_.substr(0, 1));
-        if (groups_.back().leftOut) kept_.resize(groups_.back().keptBefore);
+        const Group closed = groups_.back();
         groups_.pop_back();
+        if (!closed.leftOut) return;
+        kept_.resize(closed.keptBefore);
+        if (!IsLeftOut()) kept_ += Nothing;
     }
 
     void Control() {
@@ -88,7 +113,12 @@ class Walk {
         const ControlWord word = Read();
         if (word.name == "bin") return KeepBinary(word);
         if (word.name == "object" || word.name == "objdata") LeaveGroupOut();
-        Keep(word.whole);
+        if (const auto* plain = PlainFormOf(word.name)) {
+            if (!IsLeftOut()) kept_ += plain->instead;
+            rest_.remove_prefix(word.whole.size());
+        } else {
+            Keep(word.whole);
+        }
     }
 
     ControlWord Read() const {
@@ -132,7 +162,7 @@ class Walk {
     }
 
     void KeepDigitsOf(std::string_view bytes) {
-        kept_ += '\n';  // ends a word that came before
+        kept_ += Nothing;
         for (const char byte : bytes) {
             kept_ += HexDigits[static_cast<unsigned char>(byte) >> 4];
             kept_ += HexDigits[static_cast<unsigned char>(byte) & 0xF];

@@ -15,7 +15,8 @@ inline constexpr int MaximumNesting = 30;
 
 /// What of a note file an editor may see. A file comes from outside and editors trust it, so it is walked
 /// through once before: it must begin as RTF, end its groups, and stay within the bounds above. Embedded
-/// objects are left out, binary data is written out in digits, and nothing follows the outermost group.
+/// objects are left out, tables become text with tabs, binary data is written out in digits, and nothing
+/// follows the outermost group.
 /// \throws data::Error for a file that is no note
 std::string FilterNote(std::string_view file);
 

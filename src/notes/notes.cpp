@@ -88,7 +88,7 @@ void Notes::ConnectEvents() {
                      [this](int index, const MouseInput&) { ImgBouton_MouseMove(index); });
     ImgBouton.OnEach(&Control::onMouseUp,
                      [this](int index, const MouseInput&) { ShowTool(index, ToolLook::Raised); });
-    ImgBouton.OnEach(&Control::onMouseLeave, [this](int) { RestTools(); });
+    ImgBouton.OnEach(&Control::onMouseLeave, [this](int index) { ImgBouton_MouseLeave(index); });
     PctBarreFond.onMouseMove = [this](const MouseInput&) { RestTools(); };
     txtNota.onSelChange = [this] { ShowSelectionFormat(); };
 }
@@ -139,6 +139,11 @@ void Notes::ImgBouton_MouseMove(int index) {
     RestTools();
     lastButton_ = index;
     ShowTool(index, ToolLook::Raised);
+}
+
+void Notes::ImgBouton_MouseLeave(int index) {
+    // The platform may tell of the button that was left after it has told of the one that was reached.
+    if (index == lastButton_) RestTools();
 }
 
 void Notes::OnMouseMove(const forms::MouseInput& /*input*/) {

@@ -32,6 +32,7 @@ class Notes : public NotesDesign {
     // The bar under the mouse.
     void ImgBouton_MouseDown(int index, const forms::MouseInput& input);
     void ImgBouton_MouseMove(int index);
+    void ImgBouton_MouseLeave(int index);
     void RestTools();
 
     // The actions.

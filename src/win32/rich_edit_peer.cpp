@@ -21,8 +21,7 @@ constexpr wchar_t ClassName[] = L"RICHEDIT50W";
 constexpr WPARAM UndoLimit = 10000;
 constexpr LPARAM TextLimit = 0x7FFFFFFE;
 
-/// What the platform does not show in the control's own place: the selection stays in sight in a window that
-/// is left.
+/// The selection stays in sight while a dialog asks what to make of it.
 constexpr DWORD Style = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | ES_NOHIDESEL | WS_VSCROLL;
 
 const wchar_t* LoadedClass() {
@@ -59,6 +58,9 @@ bool IsAscii(const std::wstring& text) {
 RichEditPeer::RichEditPeer(forms::RichTextBox& control, FormPeer& form)
     : ControlWindow(control, form), control_(control) {
     Create(LoadedClass(), Style);
+    // The frame is ours only now.
+    SetWindowPos(Handle(), nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     SendMessageW(Handle(), EM_EXLIMITTEXT, 0, TextLimit);
     SendMessageW(Handle(), EM_SETUNDOLIMIT, UndoLimit, 0);
     SendMessageW(Handle(), EM_SETBKGNDCOLOR, TRUE, 0);

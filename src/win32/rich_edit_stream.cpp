@@ -58,6 +58,9 @@ std::string StreamRtfOut(HWND edit, RtfEncoding encoding) {
     SendMessageW(edit, EM_STREAMOUT, format, reinterpret_cast<LPARAM>(&stream));
     if (stream.dwError != 0)
         throw data::Error(static_cast<std::int32_t>(stream.dwError), "The note could not be written");
+    // Some versions end the document as they end a text in memory.
+    while (document.ends_with('\0'))
+        document.pop_back();
     return document;
 }
 

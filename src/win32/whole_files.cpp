@@ -27,6 +27,11 @@ OwnedFile Own(HANDLE file) {
     return OwnedFile(file != INVALID_HANDLE_VALUE ? file : nullptr);
 }
 
+bool IsReadOnly(const std::wstring& name) {
+    const DWORD attributes = GetFileAttributesW(name.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
 /// A new file beside another, which is gone with this object unless it has taken the other's place.
 class FileBeside {
   public:
@@ -92,7 +97,10 @@ std::string WholeFiles::Read(const std::string& name, std::size_t maximumSize) {
 }
 
 void WholeFiles::Replace(const std::string& name, std::string_view content) {
-    FileBeside file(ToWide(name));
+    const std::wstring target = ToWide(name);
+    if (IsReadOnly(target))
+        throw data::Error(HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED), "The file is read-only");
+    FileBeside file(target);
     file.Write(content);
     file.TakePlace();
 }

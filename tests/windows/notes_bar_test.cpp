@@ -209,6 +209,14 @@ TEST_F(NotesBarTest, ButtonsRestWhenTheMouseIsElsewhere) {
     EXPECT_EQ(Looks(window), AllRestingBut(-1, ToolLook::Resting)) << "out of the window";
 }
 
+TEST_F(NotesBarTest, LeavingOneButtonForAnotherLeavesTheOtherRaised) {
+    Notes& window = Open();
+    window.ImgBouton[1].HandleMouseMove({MouseButton::None, {100, 100}, {}});
+    window.ImgBouton[2].HandleMouseMove({MouseButton::None, {100, 100}, {}});
+    window.ImgBouton[1].HandleMouseLeave();
+    EXPECT_EQ(Looks(window), AllRestingBut(2, ToolLook::Raised));
+}
+
 TEST_F(NotesBarTest, OnlyTheLeftButtonPresses) {
     Notes& window = Open();
     auto& button = window.ImgBouton[Notes::Bold];

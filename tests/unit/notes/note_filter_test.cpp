@@ -90,11 +90,14 @@ TEST(NoteFilterTest, EmbeddedObjectsAreLeftOutWithEverythingInThem) {
     EXPECT_EQ(
         FilterNote(
             "{\\rtf1 a{\\object\\objemb{\\*\\objclass Package}{\\*\\objdata 0105}{\\result {\\pict 00}}}b}"),
-        "{\\rtf1 ab}");
-    EXPECT_EQ(FilterNote("{\\rtf1 a{\\*\\objdata 0105}b}"), "{\\rtf1 ab}");
-    EXPECT_EQ(FilterNote("{\\rtf1{x{\\b y}\\object z{c}}d}"), "{\\rtf1d}");
-    EXPECT_EQ(FilterNote("{\\rtf1{\\object{\\object a}}b}"), "{\\rtf1b}");
-    EXPECT_EQ(FilterNote("{\\rtf1{\\object1 a}b}"), "{\\rtf1b}");
+        "{\\rtf1 a\nb}");
+    EXPECT_EQ(FilterNote("{\\rtf1 a{\\*\\objdata 0105}b}"), "{\\rtf1 a\nb}");
+    EXPECT_EQ(FilterNote("{\\rtf1{x{\\b y}\\object z{c}}d}"), "{\\rtf1\nd}");
+    EXPECT_EQ(FilterNote("{\\rtf1{\\object{\\object a}}b}"), "{\\rtf1\nb}");
+    EXPECT_EQ(FilterNote("{\\rtf1{\\object1 a}b}"), "{\\rtf1\nb}");
+    // What stands before and after does not grow together.
+    EXPECT_EQ(FilterNote("{\\rtf1\\b{\\object x}ig}"), "{\\rtf1\\b\nig}");
+    EXPECT_EQ(FilterNote("{\\rtf1\\b\\intbl ig}"), "{\\rtf1\\b\nig}");
     // Words that only begin like it, and the word as text, are no objects.
     EXPECT_EQ(FilterNote("{\\rtf1{\\objectx a}\\\\object}"), "{\\rtf1{\\objectx a}\\\\object}");
 }
@@ -109,12 +112,21 @@ TEST(NoteFilterTest, BracesInsideAnObjectCountAsEverywhere) {
     EXPECT_TRUE(IsRefused("{\\rtf1{\\object" + Nested(30) + "}}"));
 }
 
+TEST(NoteFilterTest, ATableBecomesTextWithTabs) {
+    EXPECT_EQ(
+        FilterNote(
+            "{\\rtf1\\trowd\\trgaph70\\cellx1000\\cellx2000\\pard\\intbl a\\cell b\\cell\\row\\pard c}"),
+        "{\\rtf1\n\\trgaph70\n\n\\pard\na\\tab b\\tab \\par \\pard c}");
+    EXPECT_EQ(FilterNote("{\\rtf1\\itap2 a\\nestcell{\\*\\nesttableprops\\nestrow}}"),
+              "{\\rtf1\na\\tab {\\*\\nesttableprops\\par }}");
+}
+
 TEST(NoteFilterTest, BinaryDataIsWrittenInDigits) {
     EXPECT_EQ(FilterNote("{\\rtf1{\\pict\\wmetafile8\\bin4 \0{}\xFF}a}"s),
               "{\\rtf1{\\pict\\wmetafile8\n007b7dff}a}");
     EXPECT_EQ(FilterNote("{\\rtf1{\\pict\\bin0 }a}"), "{\\rtf1{\\pict\n}a}");
     EXPECT_EQ(FilterNote("{\\rtf1{\\pict\\bin}a}"), "{\\rtf1{\\pict\n}a}");
-    EXPECT_EQ(FilterNote("{\\rtf1{\\object{\\*\\objdata\\bin3 }}}}}a}"), "{\\rtf1a}");
+    EXPECT_EQ(FilterNote("{\\rtf1{\\object{\\*\\objdata\\bin3 }}}}}a}"), "{\\rtf1\na}");
 }
 
 TEST(NoteFilterTest, BinaryDataThatLiesAboutItsLengthIsRefused) {
