@@ -2,8 +2,8 @@
 
 #include <windows.h>
 
-#include <array>
 #include <cstdio>
+#include <utility>
 #include <vector>
 
 #include "data/error.h"
@@ -22,11 +22,12 @@ struct Click {
     const char* control;
 };
 
-/// One picture: what to click before it, and which window it shows.
+/// What is clicked and then typed, and which window it shows. A step without a picture leads to the next.
 struct Step {
     const char* picture;
     std::vector<Click> clicks;
     const char* form;
+    const wchar_t* typed = L"";
 };
 
 const std::vector<Step>& Steps() {
@@ -43,6 +44,10 @@ const std::vector<Step>& Steps() {
          "EvolutieCurs"},
         {"address-book", {{"Utilitati", "cmdAction(1)"}}, "Agenda"},
         {"address-book-entry", {{"Agenda", "cmdAction(3)"}}, "Agenda"},
+        {nullptr, {{"Utilitati", "cmdAction(0)"}, {"Notes", "ImgBouton(4)"}}, "Notes", L"Luni, 1 decembrie"},
+        {nullptr, {{"Notes", "ImgBouton(4)"}}, "Notes", L"\rBanca: curs EUR \u0219i USD, 500 \u20ac\r"},
+        {nullptr, {{"Notes", "ImgBouton(5)"}}, "Notes", L"de trimis balan\u021ba pe noiembrie\r"},
+        {"notes", {{"Notes", "ImgBouton(5)"}, {"Notes", "ImgBouton(6)"}}, "Notes", L"Sun\u0103 la Radu"},
     };
     return steps;
 }
@@ -81,6 +86,35 @@ POINT MiddleOf(HWND window) {
     return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
 }
 
+void Send(std::vector<INPUT> inputs) {
+    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+    Settle();
+}
+
+INPUT MouseInput(DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    return input;
+}
+
+INPUT CharacterInput(wchar_t unit, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wScan = unit;
+    input.ki.dwFlags = KEYEVENTF_UNICODE | flags;
+    return input;
+}
+
+void Type(const std::wstring& text) {
+    std::vector<INPUT> inputs;
+    for (const wchar_t unit : text) {
+        inputs.push_back(CharacterInput(unit, 0));
+        inputs.push_back(CharacterInput(unit, KEYEVENTF_KEYUP));
+    }
+    if (!inputs.empty()) Send(std::move(inputs));
+}
+
 void Perform(const Click& click) {
     const HWND form = AwaitForm(click.form);
     const HWND control = Await(std::string(click.form) + "." + click.control,
@@ -89,13 +123,7 @@ void Perform(const Click& click) {
     Settle();
     const POINT middle = MiddleOf(control);
     SetCursorPos(middle.x, middle.y);
-    std::array<INPUT, 2> inputs{};
-    inputs[0].type = INPUT_MOUSE;
-    inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    inputs[1].type = INPUT_MOUSE;
-    inputs[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof inputs[0]);
-    Settle();
+    Send({MouseInput(MOUSEEVENTF_LEFTDOWN), MouseInput(MOUSEEVENTF_LEFTUP)});
 }
 
 void TakePicture(const Step& step, const std::wstring& folder) {
@@ -116,7 +144,8 @@ void RunTour(const std::wstring& folder) {
     for (const Step& step : Steps()) {
         for (const Click& click : step.clicks)
             Perform(click);
-        TakePicture(step, folder);
+        Type(step.typed);
+        if (step.picture != nullptr) TakePicture(step, folder);
     }
     SendMessageW(AwaitForm("Utilitati"), WM_CLOSE, 0, 0);
 }

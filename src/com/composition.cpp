@@ -2,6 +2,7 @@
 
 #include "addressbook/agenda.h"
 #include "calculator/frm_calculator.h"
+#include "notes/notes.h"
 #include "rates/curs_valutar.h"
 #include "shell/utilitati.h"
 
@@ -19,6 +20,7 @@ void OpenCalculator(shell::Module& module) {
 }  // namespace
 
 void AddWindows(shell::Module& module) {
+    module.AddLauncher("Notes", [](shell::Module& owner) { owner.Default<notes::Notes>().ShowForm(); });
     module.AddLauncher("Agenda",
                        [](shell::Module& owner) { owner.Default<addressbook::Agenda>().ShowForm(); });
     module.AddLauncher("frmCalculator", OpenCalculator);

@@ -71,7 +71,7 @@ void Control::SetFocus() {
 void Control::HandleMouseDown(const MouseInput& input) {
     const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
     if (!IsEffectivelyEnabled()) return;
-    SetFocus();
+    if (TakesFocusOnPress()) SetFocus();
     if (input.button == MouseButton::Left) {
         pressed_ = true;
         Repaint();
@@ -104,7 +104,9 @@ void Control::DefaultMouseUp(const MouseInput& input) {
 }
 
 void Control::HandleMouseLeave() {
+    const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
     TrackHot(false);
+    Raise(onMouseLeave);
 }
 
 void Control::HandleCaptureLost() {

@@ -17,7 +17,7 @@ namespace tavrin::forms {
 
 /// Tells peers what to make of a control. Edit fields and lists are the platform's own; the rest draws
 /// itself.
-enum class ControlKind { Drawn, TextBox, ComboBox, DatePicker, Decoration };
+enum class ControlKind { Drawn, TextBox, ComboBox, DatePicker, RichText, Decoration };
 
 /// Whether somebody after the control still has to act on a key.
 enum class KeyOutcome {
@@ -71,6 +71,10 @@ class Control {
 
     // Focus.
     virtual bool IsFocusable() const { return false; }
+    /// Whether a press of the mouse gives the control the focus.
+    virtual bool TakesFocusOnPress() const { return true; }
+    /// Whether Tab alone is the control's own. Shift or Ctrl with Tab moves the focus then.
+    virtual bool KeepsTab() const { return false; }
     bool CanTakeFocus() const { return IsFocusable() && IsEffectivelyVisible() && IsEffectivelyEnabled(); }
     bool HasFocus() const;
     /// Makes this the form's active control and its window the active one; nothing happens while the control
@@ -88,6 +92,7 @@ class Control {
     std::function<void(const MouseInput&)> onMouseDown;
     std::function<void(const MouseInput&)> onMouseMove;
     std::function<void(const MouseInput&)> onMouseUp;
+    std::function<void()> onMouseLeave;
 
     // Entry points for input. Keys enter through the form (Form::HandleKeyDown).
     void HandleMouseDown(const MouseInput& input);

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "forms/common_dialog.h"
+#include "forms/files.h"
 #include "forms/geometry.h"
 #include "forms/locale.h"
 #include "forms/number_format.h"
@@ -41,6 +43,8 @@ class Desktop {
     virtual std::string FormatNumber(std::string_view number, const NumberFormat& format) const {
         return forms::FormatNumber(number, format);
     }
+    virtual Dialogs& PlatformDialogs() = 0;
+    virtual Files& PlatformFiles() = 0;
     /// The platform's report of an error that a handler did not expect.
     virtual void ReportError(std::int32_t number, const std::string& description) noexcept = 0;
 

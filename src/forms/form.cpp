@@ -17,6 +17,13 @@ void CollectControls(const Container& container, std::vector<Control*>& found) {
     }
 }
 
+/// Whether Tab goes to the next control rather than to this one.
+bool TabLeaves(const Control* control, Modifiers modifiers) {
+    if (modifiers.alt) return false;
+    if (control != nullptr && control->KeepsTab()) return modifiers.shift || modifiers.control;
+    return !modifiers.control;
+}
+
 bool SameLetter(char32_t left, char32_t right) {
     return std::towlower(static_cast<std::wint_t>(left)) == std::towlower(static_cast<std::wint_t>(right));
 }
@@ -187,7 +194,7 @@ KeyOutcome Form::HandleKeyDown(int keyCode, Modifiers modifiers) {
         desktop_.Guard([&] { target->onKeyDown(keyCode, modifiers); });
     }
     if (keyCode == key::Swallowed || !loaded_ || activeControl_ != target) return KeyOutcome::Done;
-    if (keyCode == key::Tab && !modifiers.control && !modifiers.alt) {
+    if (keyCode == key::Tab && TabLeaves(target, modifiers)) {
         FocusNeighbour(modifiers.shift ? -1 : 1);
         return KeyOutcome::Done;
     }

@@ -180,6 +180,53 @@ void Exit(Pencil& pencil) {
     pencil.Line({{16, 8}, {20.3, 12}, {16, 16}});
 }
 
+/// A sheet with a folded corner, and an arrow that brings something into it.
+void NewNote(Pencil& pencil) {
+    pencil.Line({{13, 3}, {5, 3}, {5, 21}, {19, 21}, {19, 14}});
+    pencil.Line({{20, 3}, {12, 11}});
+    pencil.Line({{12, 6}, {12, 11}, {17, 11}});
+}
+
+/// A diskette.
+void Save(Pencil& pencil) {
+    pencil.Loop({{4, 4}, {17, 4}, {20, 7}, {20, 20}, {4, 20}});
+    pencil.Block(8, 4, 15, 9);
+    pencil.Rectangle(8, 13, 16, 20, 1.6);
+}
+
+/// A large and a small letter.
+void Letters(Pencil& pencil) {
+    pencil.Line({{2, 19}, {8, 5}, {14, 19}});
+    pencil.Line({{4.5, 14}, {11.5, 14}});
+    pencil.Circle(18, 16, 3, 1.8);
+    pencil.Line({{21.5, 12}, {21.5, 20}}, 1.8);
+}
+
+/// A letter over a broad line.
+void TextColor(Pencil& pencil) {
+    pencil.Line({{6.5, 15}, {12, 3}, {17.5, 15}});
+    pencil.Line({{8.5, 11}, {15.5, 11}});
+    pencil.Block(4, 18, 20, 21.5);
+}
+
+void Bold(Pencil& pencil) {
+    constexpr double Broad = 3.2;
+    pencil.Line({{7.5, 4}, {7.5, 20}}, Broad);
+    pencil.Line({{7.5, 4.5}, {13, 4.5}, {15.5, 6}, {15.5, 9.5}, {13, 11.5}, {7.5, 11.5}}, Broad);
+    pencil.Line({{13, 11.5}, {16.5, 13.5}, {16.5, 17.5}, {13.5, 19.5}, {7.5, 19.5}}, Broad);
+}
+
+void Italic(Pencil& pencil) {
+    pencil.Line({{10, 4}, {18, 4}});
+    pencil.Line({{14.5, 4}, {9.5, 20}});
+    pencil.Line({{6, 20}, {14, 20}});
+}
+
+void Underline(Pencil& pencil) {
+    pencil.Line({{7, 3}, {7, 12}, {9, 15.5}, {12, 16.5}, {15, 15.5}, {17, 12}, {17, 3}});
+    pencil.Line({{5, 21}, {19, 21}});
+}
+
 void Draw(Pencil& pencil, Icon icon) {
     switch (icon) {
         case Icon::None:
@@ -233,6 +280,27 @@ void Draw(Pencil& pencil, Icon icon) {
             break;
         case Icon::Filter:
             pencil.Loop({{3.5, 5}, {20.5, 5}, {14, 12.5}, {14, 20}, {10, 17.5}, {10, 12.5}});
+            break;
+        case Icon::NewNote:
+            NewNote(pencil);
+            break;
+        case Icon::Save:
+            Save(pencil);
+            break;
+        case Icon::Letters:
+            Letters(pencil);
+            break;
+        case Icon::TextColor:
+            TextColor(pencil);
+            break;
+        case Icon::Bold:
+            Bold(pencil);
+            break;
+        case Icon::Italic:
+            Italic(pencil);
+            break;
+        case Icon::Underline:
+            Underline(pencil);
             break;
     }
 }

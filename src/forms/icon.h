@@ -23,6 +23,13 @@ enum class Icon {
     Accept,
     Cancel,
     Filter,
+    NewNote,
+    Save,
+    Letters,
+    TextColor,
+    Bold,
+    Italic,
+    Underline,
 };
 
 /// Draws an icon centred in `area`, as large as a square fits in.

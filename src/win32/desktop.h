@@ -7,7 +7,9 @@
 #include <string>
 
 #include "forms/desktop.h"
+#include "win32/platform_dialogs.h"
 #include "win32/scale.h"
+#include "win32/whole_files.h"
 
 namespace tavrin::win32 {
 
@@ -29,6 +31,8 @@ class Desktop final : public forms::Desktop {
     void SetCursorPosition(forms::PixelPoint position) override;
     const forms::Locale& UserLocale() const override { return locale_; }
     std::string FormatNumber(std::string_view number, const forms::NumberFormat& format) const override;
+    forms::Dialogs& PlatformDialogs() override { return dialogs_; }
+    forms::Files& PlatformFiles() override { return files_; }
     void ReportError(std::int32_t number, const std::string& description) noexcept override;
 
     /// Whether a window is there, or another process still looks at one: the module must not be unloaded
@@ -50,6 +54,8 @@ class Desktop final : public forms::Desktop {
 
     HINSTANCE module_;
     forms::Locale locale_;
+    win32::PlatformDialogs dialogs_;
+    WholeFiles files_;
     std::shared_ptr<const void> inUse_;
     std::weak_ptr<Toolkit> toolkit_;
     std::deque<Report> reports_;

@@ -5,6 +5,7 @@
 #include "win32/decoration_peer.h"
 #include "win32/drawn_peer.h"
 #include "win32/edit_peer.h"
+#include "win32/rich_edit_peer.h"
 
 namespace tavrin::win32 {
 
@@ -16,6 +17,8 @@ std::unique_ptr<forms::ControlPeer> CreateControlPeer(forms::Control& control, F
             return std::make_unique<ComboPeer>(dynamic_cast<forms::ComboBox&>(control), form);
         case forms::ControlKind::DatePicker:
             return std::make_unique<DatePickerPeer>(dynamic_cast<forms::DatePicker&>(control), form);
+        case forms::ControlKind::RichText:
+            return std::make_unique<RichEditPeer>(dynamic_cast<forms::RichTextBox&>(control), form);
         case forms::ControlKind::Decoration:
             return std::make_unique<DecorationPeer>(control, form);
         case forms::ControlKind::Drawn:

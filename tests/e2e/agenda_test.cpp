@@ -19,21 +19,6 @@ using Rows = std::vector<std::vector<std::string>>;
 
 enum Action { Accept, Cancel, Add, Modify, Delete };
 
-/// Types characters that no key of the layout gives, as an input method does.
-void TypeUnicode(std::wstring_view text) {
-    std::vector<INPUT> inputs;
-    for (const wchar_t unit : text) {
-        INPUT input{};
-        input.type = INPUT_KEYBOARD;
-        input.ki.wScan = unit;
-        input.ki.dwFlags = KEYEVENTF_UNICODE;
-        inputs.push_back(input);
-        input.ki.dwFlags |= KEYEVENTF_KEYUP;
-        inputs.push_back(input);
-    }
-    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
-}
-
 class AgendaTest : public HostTest {
   protected:
     explicit AgendaTest(LoopKind loop = LoopKind::Plain) : HostTest(loop) {}

@@ -6,6 +6,8 @@
 
 #include "forms/desktop.h"
 #include "forms/form.h"
+#include "support/memory_files.h"
+#include "support/recording_dialogs.h"
 
 namespace tavrin::tests {
 
@@ -32,6 +34,8 @@ class HeadlessDesktop : public forms::Desktop {
     forms::PixelPoint CursorPosition() const override { return cursor; }
     void SetCursorPosition(forms::PixelPoint position) override { cursor = position; }
     const forms::Locale& UserLocale() const override { return locale; }
+    forms::Dialogs& PlatformDialogs() override { return dialogs; }
+    forms::Files& PlatformFiles() override { return files; }
     void ReportError(std::int32_t number, const std::string& description) noexcept override;
 
     struct Report {
@@ -42,6 +46,8 @@ class HeadlessDesktop : public forms::Desktop {
 
     forms::PixelPoint cursor{500, 400};
     forms::Locale locale;
+    RecordingDialogs dialogs;
+    MemoryFiles files;
     std::vector<Report> reports;
     /// What happens while a report is up, as a user or a timer may do things then.
     std::function<void()> whileReporting;

@@ -4,6 +4,7 @@
 
 #include "forms/combo_box.h"
 #include "forms/text_box.h"
+#include "support/fake_rich_text.h"
 
 namespace tavrin::tests {
 
@@ -147,6 +148,9 @@ void HeadlessKeyboard::Character(char32_t character) {
     if (form == nullptr || form->HandleKeyPress(character) == KeyOutcome::Done) return;
     if (auto* field = dynamic_cast<forms::TextBox*>(form->ActiveControl()))
         EditWithCharacter(*field, character);
+    if (auto* note = dynamic_cast<forms::RichTextBox*>(form->ActiveControl())) {
+        if (auto* editor = dynamic_cast<FakeRichText*>(note->Peer())) editor->Type(Encode(character));
+    }
     if (auto* combo = dynamic_cast<forms::ComboBox*>(form->ActiveControl())) {
         if (combo->Style() == forms::ComboStyle::DropDown && character >= U' ') {
             combo->HandleTyped(combo->Text() + Encode(character));

@@ -84,6 +84,20 @@ void TypeText(std::string_view text) {
     }
 }
 
+void TypeUnicode(std::wstring_view text) {
+    std::vector<INPUT> inputs;
+    for (const wchar_t unit : text) {
+        for (const DWORD stroke : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
+            INPUT input{};
+            input.type = INPUT_KEYBOARD;
+            input.ki.wScan = unit;
+            input.ki.dwFlags = KEYEVENTF_UNICODE | stroke;
+            inputs.push_back(input);
+        }
+    }
+    if (!inputs.empty()) Send(std::move(inputs));
+}
+
 void MovePointer(POINT place) {
     Point(place);
 }

@@ -20,6 +20,9 @@ void PressKey(WORD key, std::initializer_list<WORD> held = {});
 /// Digits, letters and blanks.
 void TypeText(std::string_view text);
 
+/// Characters that no key of the layout gives, as an input method sends them.
+void TypeUnicode(std::wstring_view text);
+
 enum class Button { Left, Right };
 
 void MovePointer(POINT place);

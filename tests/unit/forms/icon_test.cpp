@@ -16,7 +16,7 @@ namespace {
 using forms::Icon;
 using testing::IsEmpty;
 
-constexpr int LastIcon = static_cast<int>(Icon::Filter);
+constexpr int LastIcon = static_cast<int>(Icon::Underline);
 
 std::vector<forms::Color> Picture(Icon icon, int pixels, double pixelSize) {
     SoftwareSurface surface({pixels, pixels}, pixelSize, forms::Black);

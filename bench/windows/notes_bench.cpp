@@ -1,0 +1,167 @@
+// What it costs the note pad to load and to save 1 MB of formatted text, against the platform's bare control
+// that streams the same bytes from and to a file: the median of nine, taken in turns. Ends with an error
+// where one costs more than 1.1 times the bare control.
+
+#include <windows.h>
+
+#include <richedit.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/form.h"
+#include "forms/rich_text_box.h"
+#include "notes/note_filter.h"
+#include "win32/desktop.h"
+#include "win32/text.h"
+
+namespace {
+
+namespace forms = tavrin::forms;
+
+constexpr std::size_t NoteSize = std::size_t{1} << 20;
+constexpr int Rounds = 9;
+constexpr double Worst = 1.1;
+
+class NoteForm : public forms::Form {
+  public:
+    explicit NoteForm(forms::Desktop& desktop)
+        : Form(desktop, "Note", "Note", forms::BorderStyle::FixedDialog) {
+        SetClientSize({6000, 6000});
+    }
+    forms::RichTextBox note{*this, "note", {0, 0, 6000, 6000}};
+};
+
+/// Words in several formats, one paragraph after the other, with letters that plain ASCII lacks.
+std::string MakeNote() {
+    std::string rtf =
+        "{\\rtf1\\ansi\\ansicpg1250\\uc1\\deff0{\\fonttbl{\\f0\\fnil\\fcharset238 Arial;}"
+        "{\\f1\\fnil\\fcharset238 Times New Roman;}}{\\colortbl;\\red200\\green0\\blue0;}\\pard\\f0\\fs20 ";
+    for (int line = 0; rtf.size() < NoteSize; ++line) {
+        rtf += "Nota " + std::to_string(line) +
+               ": plain text, {\\b bold text}, {\\i\\cf1 red text in italics}, \\u537?i "
+               "{\\f1\\fs28 larger \\ul text} to the end of the paragraph.\\par\r\n";
+    }
+    return rtf + "}";
+}
+
+std::wstring PlaceFor(const wchar_t* name) {
+    std::array<wchar_t, MAX_PATH + 1> folder{};
+    GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());
+    return std::wstring(folder.data()) + name;
+}
+
+HANDLE Open(const std::wstring& name, DWORD access, DWORD disposition) {
+    return CreateFileW(name.c_str(), access, 0, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+DWORD CALLBACK ReadFrom(DWORD_PTR file, LPBYTE buffer, LONG size, LONG* read) {
+    return ReadFile(reinterpret_cast<HANDLE>(file), buffer, static_cast<DWORD>(size),
+                    reinterpret_cast<LPDWORD>(read), nullptr) != FALSE
+               ? 0
+               : GetLastError();
+}
+
+DWORD CALLBACK WriteTo(DWORD_PTR file, LPBYTE buffer, LONG size, LONG* written) {
+    return WriteFile(reinterpret_cast<HANDLE>(file), buffer, static_cast<DWORD>(size),
+                     reinterpret_cast<LPDWORD>(written), nullptr) != FALSE
+               ? 0
+               : GetLastError();
+}
+
+/// The bare control of the same size, between the file and nothing else.
+class BareControl {
+  public:
+    BareControl()
+        : window_(CreateWindowExW(0, L"RICHEDIT50W", L"",
+                                  WS_POPUP | WS_VISIBLE | WS_VSCROLL | ES_MULTILINE | ES_AUTOVSCROLL, 0, 0,
+                                  400, 400, nullptr, nullptr, nullptr, nullptr)) {
+        SendMessageW(window_, EM_EXLIMITTEXT, 0, 0x7FFFFFFE);
+    }
+    ~BareControl() { DestroyWindow(window_); }
+    BareControl(const BareControl&) = delete;
+    BareControl& operator=(const BareControl&) = delete;
+
+    void Load(const std::wstring& name) const {
+        Stream(EM_STREAMIN, Open(name, GENERIC_READ, OPEN_EXISTING), ReadFrom);
+    }
+    void Save(const std::wstring& name) const {
+        Stream(EM_STREAMOUT, Open(name, GENERIC_WRITE, CREATE_ALWAYS), WriteTo);
+    }
+
+  private:
+    void Stream(UINT message, HANDLE file, EDITSTREAMCALLBACK callback) const {
+        EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(file), 0, callback};
+        SendMessageW(window_, message, SF_RTF, reinterpret_cast<LPARAM>(&stream));
+        if (message == EM_STREAMOUT) FlushFileBuffers(file);  // on the disk, as the note pad's
+        CloseHandle(file);
+    }
+
+    HWND window_;
+};
+
+double Milliseconds(const std::function<void()>& action) {
+    LARGE_INTEGER frequency{};
+    LARGE_INTEGER start{};
+    LARGE_INTEGER end{};
+    QueryPerformanceFrequency(&frequency);
+    QueryPerformanceCounter(&start);
+    action();
+    QueryPerformanceCounter(&end);
+    return 1000.0 * static_cast<double>(end.QuadPart - start.QuadPart) /
+           static_cast<double>(frequency.QuadPart);
+}
+
+double Median(std::vector<double> values) {
+    std::ranges::sort(values);
+    return values[values.size() / 2];
+}
+
+/// Takes both in turns, so that they meet the same disturbances.
+bool Compare(const char* what, const std::function<void()>& notePad, const std::function<void()>& bare) {
+    std::vector<double> ours;
+    std::vector<double> theirs;
+    for (int round = 0; round < Rounds; ++round) {
+        theirs.push_back(Milliseconds(bare));
+        ours.push_back(Milliseconds(notePad));
+    }
+    const double ratio = Median(ours) / Median(theirs);
+    std::printf("%s 1 MB: note pad %.1f ms, bare control %.1f ms, ratio %.3f (at most %.2f) %s\n", what,
+                Median(ours), Median(theirs), ratio, Worst, ratio <= Worst ? "ok" : "TOO MUCH");
+    return ratio <= Worst;
+}
+
+}  // namespace
+
+int main() {
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
+    tavrin::win32::Desktop desktop(GetModuleHandleW(nullptr));
+    auto form = std::make_shared<NoteForm>(desktop);
+    form->Show();
+    const BareControl bare;
+    const std::wstring wide = PlaceFor(L"tavrin-bench.rtf");
+    const std::wstring wideOfBare = PlaceFor(L"tavrin-bench-bare.rtf");
+    const std::string name = tavrin::win32::ToUtf8(wide);
+    forms::Files& files = desktop.PlatformFiles();
+    files.Replace(name, MakeNote());
+    files.Replace(tavrin::win32::ToUtf8(wideOfBare), MakeNote());
+
+    const auto load = [&] {
+        form->note.SetText({});
+        form->note.Load(tavrin::notes::FilterNote(files.Read(name, tavrin::notes::MaximumNoteSize)));
+    };
+    const auto loadBare = [&] { bare.Load(wideOfBare); };
+    bool right = Compare("loading", load, loadBare);
+    right &= Compare(
+        "saving", [&] { files.Replace(name, form->note.Save()); }, [&] { bare.Save(wideOfBare); });
+    DeleteFileW(wide.c_str());
+    DeleteFileW(wideOfBare.c_str());
+    form->Unload();
+    form.reset();
+    return right ? 0 : 1;
+}

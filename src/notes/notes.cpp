@@ -1,0 +1,251 @@
+#include "notes/notes.h"
+
+#include <new>
+#include <optional>
+
+#include "data/error.h"
+#include "notes/messages.h"
+#include "notes/note_filter.h"
+
+namespace tavrin::notes {
+
+namespace {
+
+namespace key = forms::key;
+namespace message = shell::message;
+using forms::CharacterFormat;
+using forms::ToolLook;
+
+constexpr int NoButton = -1;
+
+constexpr unsigned HideReadOnly = 0x4;
+constexpr unsigned NoChangeOfFolder = 0x8;
+constexpr unsigned PathMustExist = 0x800;
+constexpr unsigned FileFlags = HideReadOnly | NoChangeOfFolder | PathMustExist;
+
+constexpr unsigned ScreenAndPrinterFonts = 0x3;
+constexpr unsigned Effects = 0x100;
+constexpr unsigned FontFlags = ScreenAndPrinterFonts | Effects;
+
+/// What Ctrl and a key press, NoButton for most.
+int ButtonOfShortcut(int keyCode) {
+    switch (keyCode) {
+        case 'N':
+        case 'O':
+            return NotesDesign::NewOrOpen;
+        case 'S':
+            return NotesDesign::Save;
+        case 'D':
+            return NotesDesign::ChooseFont;
+        case 'B':
+            return NotesDesign::Bold;
+        case 'I':
+            return NotesDesign::Italic;
+        case 'U':
+            return NotesDesign::Underline;
+        default:
+            return NoButton;
+    }
+}
+
+/// A window that takes no input for a while, and takes it again whatever has happened.
+class DisabledScope {
+  public:
+    explicit DisabledScope(forms::Form& form) : form_(form) { form_.SetEnabled(false); }
+    ~DisabledScope() { form_.SetEnabled(true); }
+    DisabledScope(const DisabledScope&) = delete;
+    DisabledScope& operator=(const DisabledScope&) = delete;
+
+  private:
+    forms::Form& form_;
+};
+
+/// Runs an action whose failure ends it and is not worth a message.
+template <class Action>
+void Quietly(const Action& action) {
+    try {
+        action();
+    } catch (const data::Error&) {
+        // What went before stands.
+    } catch (const std::bad_alloc&) {
+        // A note too large for the memory at hand is one that cannot be had.
+    }
+}
+
+}  // namespace
+
+Notes::Notes(shell::Module& module) : NotesDesign(module.Desktop()), module_(module), lastButton_(NoButton) {
+    ConnectEvents();
+}
+
+void Notes::ConnectEvents() {
+    using forms::Control;
+    using forms::MouseInput;
+    ImgBouton.OnEach(&Control::onClick, [this](int index) { ImgBouton_Click(index); });
+    ImgBouton.OnEach(&Control::onMouseDown,
+                     [this](int index, const MouseInput& input) { ImgBouton_MouseDown(index, input); });
+    ImgBouton.OnEach(&Control::onMouseMove,
+                     [this](int index, const MouseInput&) { ImgBouton_MouseMove(index); });
+    ImgBouton.OnEach(&Control::onMouseUp,
+                     [this](int index, const MouseInput&) { ShowTool(index, ToolLook::Raised); });
+    ImgBouton.OnEach(&Control::onMouseLeave, [this](int index) { ImgBouton_MouseLeave(index); });
+    PctBarreFond.onMouseMove = [this](const MouseInput&) { RestTools(); };
+    txtNota.onSelChange = [this] { ShowSelectionFormat(); };
+}
+
+// Life.
+
+void Notes::ShowForm() {
+    Load();
+    Show();
+}
+
+void Notes::OnLoad() {
+    module_.CreateMessageService();
+    PlaceOnScreen();
+    PlaceControls();
+    SetPictures();
+}
+
+void Notes::OnActivate() {
+    KeepOnTop();
+    txtNota.SetFocus();
+}
+
+void Notes::OnKeyDown(int& keyCode, forms::Modifiers modifiers) {
+    if (keyCode == key::Escape) {
+        keyCode = key::Swallowed;
+        Unload();
+    } else if (modifiers.control && !modifiers.alt) {
+        const int button = ButtonOfShortcut(keyCode);
+        if (button == NoButton) return;
+        keyCode = key::Swallowed;
+        ImgBouton[button].Click();
+    }
+}
+
+// The bar under the mouse.
+
+void Notes::ShowTool(int index, ToolLook look) {
+    ImgBouton[index].SetLook(look);
+}
+
+void Notes::ImgBouton_MouseDown(int index, const forms::MouseInput& input) {
+    if (input.button == forms::MouseButton::Left) ShowTool(index, ToolLook::Sunken);
+}
+
+void Notes::ImgBouton_MouseMove(int index) {
+    if (index == lastButton_) return;
+    RestTools();
+    lastButton_ = index;
+    ShowTool(index, ToolLook::Raised);
+}
+
+void Notes::ImgBouton_MouseLeave(int index) {
+    // The platform may tell of the button that was left after it has told of the one that was reached.
+    if (index == lastButton_) RestTools();
+}
+
+void Notes::OnMouseMove(const forms::MouseInput& /*input*/) {
+    RestTools();
+}
+
+void Notes::RestTools() {
+    lastButton_ = NoButton;
+    for (int i = 0; i < ButtonCount; ++i)
+        ShowTool(i);
+}
+
+// The actions.
+
+void Notes::ImgBouton_Click(int index) {
+    if (!Enabled()) return;  // an action is under way; only an assistive tool can come here
+    {
+        const DisabledScope scope(*this);
+        Perform(index);
+    }
+    // A dialog that goes leaves the keyboard to some other window.
+    if (IsLoaded()) txtNota.SetFocus();
+}
+
+void Notes::Perform(int index) {
+    switch (index) {
+        case NewOrOpen:
+            return NewOrOpenNote();
+        case Save:
+            return Quietly([this] { SaveNote(); });
+        case ChooseFont:
+            return Quietly([this] { ChooseSelectionFont(); });
+        case ChooseColor:
+            return Quietly([this] { ChooseSelectionColor(); });
+        case Bold:
+            return Toggle(&CharacterFormat::bold);
+        case Italic:
+            return Toggle(&CharacterFormat::italic);
+        case Underline:
+            return Toggle(&CharacterFormat::underline);
+        case Leave:
+            return Unload();
+        default:
+            break;
+    }
+}
+
+void Notes::NewOrOpenNote() {
+    const int answer =
+        module_.ShowMessage(text::NewNoteQuestion, message::Question, message::YesNo, Caption());
+    if (!IsLoaded()) return;
+    if (answer == message::AnswerYes) {
+        txtNota.SetText({});
+    } else {
+        Quietly([this] { OpenNote(); });
+    }
+}
+
+void Notes::OpenNote() {
+    dlgCommonDialog.flags = FileFlags;
+    dlgCommonDialog.dialogTitle = text::OpenTitle;
+    dlgCommonDialog.filter = text::NoteFilter;
+    if (!dlgCommonDialog.ShowOpen()) return;
+    const std::string file = OwnerDesktop().PlatformFiles().Read(dlgCommonDialog.fileName, MaximumNoteSize);
+    txtNota.Load(FilterNote(file));
+}
+
+void Notes::SaveNote() {
+    dlgCommonDialog.flags = FileFlags;
+    dlgCommonDialog.dialogTitle = text::SaveTitle;
+    dlgCommonDialog.filter = text::NoteFilter;
+    if (!dlgCommonDialog.ShowSave()) return;
+    OwnerDesktop().PlatformFiles().Replace(dlgCommonDialog.fileName, txtNota.Save());
+}
+
+void Notes::ChooseSelectionFont() {
+    // Struck-through text is the one property that the dialog does not take from the selection: it offers
+    // what was chosen last.
+    const bool strikeThru = dlgCommonDialog.font.strikeThru.value_or(false);
+    dlgCommonDialog.flags = FontFlags;
+    dlgCommonDialog.font = txtNota.SelectionFormat();
+    dlgCommonDialog.font.strikeThru = strikeThru;
+    dlgCommonDialog.color = dlgCommonDialog.font.color.value_or(dlgCommonDialog.color);
+    if (dlgCommonDialog.ShowFont()) txtNota.FormatSelection(dlgCommonDialog.font);
+}
+
+void Notes::ChooseSelectionColor() {
+    if (dlgCommonDialog.ShowColor()) txtNota.FormatSelection({.color = dlgCommonDialog.color});
+}
+
+void Notes::Toggle(std::optional<bool> CharacterFormat::*property) {
+    // A selection that has it only in part gets it as a whole.
+    CharacterFormat change;
+    change.*property = !(txtNota.SelectionFormat().*property).value_or(false);
+    txtNota.FormatSelection(change);
+}
+
+void Notes::ShowSelectionFormat() {
+    const CharacterFormat format = txtNota.SelectionFormat();
+    ImgBouton[Bold].SetChecked(format.bold.value_or(false));
+    ImgBouton[Italic].SetChecked(format.italic.value_or(false));
+    ImgBouton[Underline].SetChecked(format.underline.value_or(false));
+}
+
+}  // namespace tavrin::notes

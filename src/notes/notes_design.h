@@ -1,0 +1,41 @@
+#pragma once
+
+#include "forms/common_dialog.h"
+#include "forms/control_array.h"
+#include "forms/form.h"
+#include "forms/image_list.h"
+#include "forms/picture_box.h"
+#include "forms/rich_text_box.h"
+#include "forms/tool_button.h"
+
+namespace tavrin::notes {
+
+/// The note window as it is drawn up: the bar with its buttons, the text below it. It has no behaviour.
+class NotesDesign : public forms::Form {
+  public:
+    enum Button { NewOrOpen, Save, ChooseFont, ChooseColor, Bold, Italic, Underline, Leave, ButtonCount };
+
+    explicit NotesDesign(forms::Desktop& desktop);
+
+    // The buttons lie on the bar: what is declared first is in front.
+    forms::ControlArray<forms::ToolButton, ButtonCount> ImgBouton;
+    forms::PictureBox PctBarreFond;
+    forms::RichTextBox txtNota;
+    forms::CommonDialog dlgCommonDialog;
+
+  protected:
+    /// Size and place of the window follow the screen: a third of its width and half of its height, within
+    /// bounds, near the right edge.
+    void PlaceOnScreen();
+    /// Lays the bar and the text out in the window.
+    void PlaceControls();
+    void SetPictures();
+
+  private:
+    void Describe();
+    void PlaceButtons();
+
+    forms::ImageList lstImages_;
+};
+
+}  // namespace tavrin::notes

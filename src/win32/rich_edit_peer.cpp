@@ -1,0 +1,222 @@
+#include "win32/rich_edit_peer.h"
+
+#include <algorithm>
+
+#include "data/error.h"
+#include "forms/rtf_escape.h"
+#include "win32/edit_frame.h"
+#include "win32/mouse_message.h"
+#include "win32/rich_edit_format.h"
+#include "win32/rich_edit_stream.h"
+#include "win32/system_error.h"
+#include "win32/text.h"
+
+namespace tavrin::win32 {
+
+namespace {
+
+constexpr wchar_t LibraryName[] = L"msftedit.dll";
+constexpr wchar_t ClassName[] = L"RICHEDIT50W";
+
+constexpr WPARAM UndoLimit = 10000;
+constexpr LPARAM TextLimit = 0x7FFFFFFE;
+
+/// The selection stays in sight while a dialog asks what to make of it.
+constexpr DWORD Style = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | ES_NOHIDESEL | WS_VSCROLL;
+
+const wchar_t* LoadedClass() {
+    HMODULE library = nullptr;
+    if (LoadLibraryW(LibraryName) == nullptr) ThrowLastError();
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN, LibraryName, &library);
+    return ClassName;
+}
+
+/// A control that nobody sees, for questions to the platform.
+class HiddenEdit {
+  public:
+    HiddenEdit()
+        : window_(CreateWindowExW(0, ClassName, L"", ES_MULTILINE, 0, 0, 1, 1, HWND_MESSAGE, nullptr, nullptr,
+                                  nullptr)) {
+        if (window_ == nullptr) ThrowLastError();
+    }
+    ~HiddenEdit() { DestroyWindow(window_); }
+    HiddenEdit(const HiddenEdit&) = delete;
+    HiddenEdit& operator=(const HiddenEdit&) = delete;
+
+    HWND Handle() const { return window_; }
+
+  private:
+    HWND window_;
+};
+
+bool IsAscii(const std::wstring& text) {
+    return std::ranges::all_of(text, [](wchar_t unit) { return unit < 0x80; });
+}
+
+}  // namespace
+
+RichEditPeer::RichEditPeer(forms::RichTextBox& control, FormPeer& form)
+    : ControlWindow(control, form), control_(control) {
+    Create(LoadedClass(), Style);
+    // The frame is ours only now.
+    SetWindowPos(Handle(), nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+    SendMessageW(Handle(), EM_EXLIMITTEXT, 0, TextLimit);
+    SendMessageW(Handle(), EM_SETUNDOLIMIT, UndoLimit, 0);
+    SendMessageW(Handle(), EM_SETBKGNDCOLOR, TRUE, 0);
+    UseStandardFormat();
+}
+
+void RichEditPeer::UseStandardFormat() {
+    const forms::Font& font = control_.TextFont();
+    CHARFORMAT2W format = ToPlatformFormat({.face = font.face,
+                                            .points = font.points,
+                                            .bold = font.bold,
+                                            .italic = font.italic,
+                                            .underline = font.underline,
+                                            .strikeThru = false,
+                                            .color = forms::Black});
+    format.dwEffects |= CFE_AUTOCOLOR;
+    SendMessageW(Handle(), EM_SETCHARFORMAT, SCF_DEFAULT, reinterpret_cast<LPARAM>(&format));
+    SendMessageW(Handle(), EM_SETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
+}
+
+// What the model asks for.
+
+void RichEditPeer::Changed(forms::Aspect aspect) {
+    ControlWindow::Changed(aspect);
+    if (Handle() != nullptr) RedrawFrame(Handle());
+}
+
+std::string RichEditPeer::Text() const {
+    return ToUtf8(ReadRichText(Handle()));
+}
+
+void RichEditPeer::SetText(const std::string& text) {
+    StreamTextIn(Handle(), ToWide(text));
+    UseStandardFormat();
+}
+
+forms::CharacterFormat RichEditPeer::SelectionFormat() const {
+    CHARFORMAT2W format{};
+    format.cbSize = sizeof format;
+    SendMessageW(Handle(), EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+    return ToCharacterFormat(format);
+}
+
+void RichEditPeer::FormatSelection(const forms::CharacterFormat& format) {
+    const CHARFORMAT2W change = ToPlatformFormat(format);
+    SendMessageW(Handle(), EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&change));
+}
+
+void RichEditPeer::Load(std::string_view rtf) {
+    const std::string before = Save();
+    if (StreamRtfIn(Handle(), rtf)) return;
+    StreamRtfIn(Handle(), before);
+    throw data::Error(E_FAIL, "The note could not be read");
+}
+
+std::string RichEditPeer::Save() const {
+    if (IsAscii(ReadRichText(Handle())) || WritesEveryLetter())
+        return StreamRtfOut(Handle(), RtfEncoding::Native);
+    return forms::EscapeRtf(StreamRtfOut(Handle(), RtfEncoding::Utf8));
+}
+
+/// Some versions of the control write a look-alike for a letter that the font's character set lacks.
+bool RichEditPeer::WritesEveryLetter() const {
+    if (!writesEveryLetter_) {
+        const HiddenEdit probe;
+        StreamTextIn(probe.Handle(), L"\x103");
+        writesEveryLetter_ =
+            StreamRtfOut(probe.Handle(), RtfEncoding::Native).find("\\u259") != std::string::npos;
+    }
+    return *writesEveryLetter_;
+}
+
+// What the platform tells.
+
+LRESULT RichEditPeer::HandleMessage(const Message& message) {
+    static constexpr Route<RichEditPeer> routes[] = {
+        {WM_NCCALCSIZE, &RichEditPeer::OnCalculateClientArea},
+        {WM_NCPAINT, &RichEditPeer::OnPaintFrame},
+        {WM_MOUSEMOVE, &RichEditPeer::OnMouse},
+        {WM_LBUTTONDOWN, &RichEditPeer::OnMouse},
+        {WM_LBUTTONUP, &RichEditPeer::OnMouse},
+        {WM_RBUTTONDOWN, &RichEditPeer::OnMouse},
+        {WM_RBUTTONUP, &RichEditPeer::OnMouse},
+        {WM_LBUTTONDBLCLK, &RichEditPeer::OnMouse},
+        {WM_MOUSEWHEEL, &RichEditPeer::OnMouseWheel},
+    };
+    if (const auto answer = Follow<RichEditPeer>(routes, *this, message)) return *answer;
+    return ControlWindow::HandleMessage(message);
+}
+
+LRESULT RichEditPeer::OnKey(const Message& message) {
+    if (SharedToolkit().Keys().Handle(OwnerForm(), message) == KeyRoute::Dealt) return 0;
+    const LRESULT answer = message.id == WM_CHAR ? PassCharacter(message) : CallDefault(message);
+    ReportSelection();
+    return answer;
+}
+
+LRESULT RichEditPeer::PassCharacter(const Message& message) {
+    if (const wchar_t high = SharedToolkit().Keys().HighSurrogate(); high != 0)
+        CallDefault({WM_CHAR, static_cast<WPARAM>(high), message.lParam});
+    return CallDefault(message);
+}
+
+LRESULT RichEditPeer::OnSetFocus(const Message& message) {
+    const LRESULT answer = ControlWindow::OnSetFocus(message);
+    RedrawFrame(Handle());
+    return answer;
+}
+
+LRESULT RichEditPeer::OnKillFocus(const Message& message) {
+    const LRESULT answer = ControlWindow::OnKillFocus(message);
+    RedrawFrame(Handle());
+    return answer;
+}
+
+void RichEditPeer::ReportSelection() {
+    if (OwnerForm().IsLoaded()) control_.HandleSelectionChange();
+}
+
+LRESULT RichEditPeer::OnMouse(const Message& message) {
+    const bool isUp = IsButtonUp(message.id);
+    if (!isUp) TellModelOfMouse(message);
+    if (!OwnerForm().IsLoaded()) return 0;
+    const LRESULT answer = CallDefault(message);
+    if (isUp) TellModelOfMouse(message);
+    if (message.id != WM_MOUSEMOVE) ReportSelection();
+    return answer;
+}
+
+void RichEditPeer::TellModelOfMouse(const Message& message) {
+    const forms::MouseInput input = ToMouseInput(message, PixelScale());
+    if (message.id == WM_MOUSEMOVE) return control_.HandleMouseMove(input);
+    if (IsButtonUp(message.id)) return control_.HandleMouseUp(input);
+    if (IsDoubleClick(message.id)) return control_.HandleDblClick(input);
+    control_.HandleMouseDown(input);
+}
+
+LRESULT RichEditPeer::OnMouseWheel(const Message& message) {
+    return CallDefault(message);  // the control scrolls by itself
+}
+
+// The frame.
+
+LRESULT RichEditPeer::OnCalculateClientArea(const Message& message) {
+    RECT& area = *reinterpret_cast<RECT*>(message.lParam);
+    const int margin = SideMargin(PixelScale());
+    InflateRect(&area, -margin, -margin);
+    return CallDefault(message);
+}
+
+LRESULT RichEditPeer::OnPaintFrame(const Message& message) {
+    const bool focused = HoldsFocus();
+    PaintEditFrame(Handle(), GetSysColor(COLOR_WINDOW),
+                   {focused ? forms::scheme::Focus : forms::scheme::Border,
+                    focused ? FrameThickness(PixelScale()) : PlainFrameThickness(PixelScale())});
+    return CallDefault(message);  // the scroll bar
+}
+
+}  // namespace tavrin::win32

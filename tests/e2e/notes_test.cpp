@@ -1,0 +1,626 @@
+// The note pad: opened from the palette, written in, formatted, saved and loaded by real input and through
+// the platform's own dialogs.
+
+#include <windows.h>
+
+#include <commdlg.h>
+#include <dlgs.h>
+#include <richedit.h>
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <fstream>
+
+#include "e2e/driver/accessible_reader.h"
+#include "e2e/driver/platform_dialog.h"
+#include "e2e/driver/screen.h"
+#include "e2e/driver/shown_message.h"
+#include "e2e/host_test.h"
+#include "win32/rich_edit_stream.h"
+#include "win32/text.h"
+
+namespace tavrin::e2e {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+enum Button { NewOrOpen, Save, ChooseFont, ChooseColor, Bold, Italic, Underline, Leave };
+
+constexpr char OpenTitle[] = "Alegeti fisierul dorit !";
+constexpr char SaveTitle[] = "Alegeti calea si numele fisierului in care se va salva !";
+
+/// Romanian in both ways of writing, Greek, the euro sign and an emoji.
+const std::wstring Letters =
+    L"\x103\xe2\xee \x15f\x163 \x219\x21b \x102\xc2\xce\x15e\x162\x218\x21a \x3b1\x3b2\x3a9 \x20ac "
+    L"\xd83d\xde00";
+
+/// What of a selection's look the tests compare. -1 where it differs inside the selection.
+struct Look {
+    std::string face;
+    int points = -1;
+    int bold = -1;
+    int italic = -1;
+    int underline = -1;
+    int strikeThru = -1;
+    long color = -1;
+    bool operator==(const Look&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& stream, const Look& look) {
+    return stream << look.face << ' ' << look.points << " b" << look.bold << " i" << look.italic << " u"
+                  << look.underline << " s" << look.strikeThru << " c" << look.color;
+}
+
+/// A folder of its own, gone with the test.
+class Folder {
+  public:
+    Folder() {
+        std::array<wchar_t, MAX_PATH + 1> place{};
+        GetTempPathW(static_cast<DWORD>(place.size()), place.data());
+        path_ = std::filesystem::path(place.data()) / (L"note-" + std::to_wstring(GetTickCount64()));
+        std::filesystem::create_directory(path_);
+    }
+    ~Folder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+
+    std::wstring File(const std::wstring& name) const { return (path_ / name).wstring(); }
+
+    std::vector<std::wstring> Names() const {
+        std::vector<std::wstring> names;
+        for (const auto& entry : std::filesystem::directory_iterator(path_))
+            names.push_back(entry.path().filename().wstring());
+        std::ranges::sort(names);
+        return names;
+    }
+
+  private:
+    std::filesystem::path path_;
+};
+
+std::string ReadFile(const std::wstring& name) {
+    std::ifstream stream(std::filesystem::path(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void WriteFile(const std::wstring& name, const std::string& content) {
+    std::ofstream stream(std::filesystem::path(name), std::ios::binary);
+    stream << content;
+}
+
+class NotesTest : public HostTest {
+  protected:
+    explicit NotesTest(LoopKind loop = LoopKind::Plain) : HostTest(loop) {}
+
+    void Open() {
+        Click(OpenPalette().Control("cmdAction(0)"));
+        window = AwaitForm("Notes");
+        Require("the note's focus", [] { return FocusedName() == "txtNota"; });
+        host->Ui().Settle();
+    }
+
+    Window Note() const { return window.Control("txtNota"); }
+    Window ButtonOf(int index) const { return window.Control("ImgBouton(" + std::to_string(index) + ")"); }
+
+    void ClickButton(int index) {
+        Click(ButtonOf(index));
+        host->Ui().Settle();
+    }
+
+    void Type(std::wstring_view text) {
+        TypeUnicode(text);
+        host->Ui().Settle();
+    }
+
+    void Press(WORD key, std::initializer_list<WORD> held = {}) {
+        PressKey(key, held);
+        host->Ui().Settle();
+    }
+
+    std::wstring Text() {
+        return host->Call([&] { return win32::ReadRichText(Note().Handle()); });
+    }
+
+    /// The format of a part of the text. The selection is put back.
+    Look LookAt(LONG start, LONG length) {
+        return host->Call([&] {
+            CHARRANGE before{};
+            SendMessageW(Note().Handle(), EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&before));
+            CHARRANGE range{start, start + length};
+            SendMessageW(Note().Handle(), EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
+            const Look look = SelectedLook();
+            SendMessageW(Note().Handle(), EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&before));
+            return look;
+        });
+    }
+
+    Look SelectedLook() {
+        CHARFORMAT2W format{};
+        format.cbSize = sizeof format;
+        SendMessageW(Note().Handle(), EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+        const auto effect = [&](DWORD mask, DWORD bit) {
+            if ((format.dwMask & mask) == 0) return -1;
+            return (format.dwEffects & bit) != 0 ? 1 : 0;
+        };
+        Look look;
+        if (format.dwMask & CFM_FACE) look.face = win32::ToUtf8(format.szFaceName);
+        if (format.dwMask & CFM_SIZE) look.points = static_cast<int>(format.yHeight / 20);
+        look.bold = effect(CFM_BOLD, CFE_BOLD);
+        look.italic = effect(CFM_ITALIC, CFE_ITALIC);
+        look.underline = effect(CFM_UNDERLINE, CFE_UNDERLINE);
+        look.strikeThru = effect(CFM_STRIKEOUT, CFE_STRIKEOUT);
+        if (format.dwMask & CFM_COLOR) {
+            const bool automatic = (format.dwEffects & CFE_AUTOCOLOR) != 0;
+            look.color = automatic ? 0 : static_cast<long>(format.crTextColor);
+        }
+        return look;
+    }
+
+    void Select(LONG start, LONG length) {
+        host->Call(
+            [&] { SendMessageW(Note().Handle(), EM_SETSEL, static_cast<WPARAM>(start), start + length); });
+    }
+
+    /// Clicks the first button and answers the question.
+    void AnswerQuestion(int answer) {
+        ClickButton(NewOrOpen);
+        const ShownMessage message = ShownMessage::Await();
+        EXPECT_EQ(message.Prompt(), "Doriti sa creati o nota noua ?");
+        EXPECT_EQ(message.Title(), "Bloc Notes");
+        EXPECT_EQ(message.Icon(), MessageIcon::Question);
+        EXPECT_THAT(message.Buttons(), ElementsAre(IDYES, IDNO));
+        EXPECT_TRUE(message.IsInFront());
+        EXPECT_FALSE(window.IsEnabled());
+        message.Press(answer);
+    }
+
+    PlatformDialog Dialog() {
+        const PlatformDialog dialog = PlatformDialog::AwaitOf(window);
+        EXPECT_TRUE(dialog.IsInFront());
+        EXPECT_FALSE(window.IsEnabled());
+        return dialog;
+    }
+
+    void ExpectUsable() {
+        EXPECT_TRUE(AwaitFocus("txtNota"));
+        EXPECT_TRUE(window.IsEnabled());
+        EXPECT_FALSE(ShownMessage::Find());
+        host->Ui().Settle();
+    }
+
+    void NewNote() {
+        AnswerQuestion(IDYES);
+        ExpectUsable();
+    }
+
+    void SaveAs(const std::wstring& file) {
+        ClickButton(Save);
+        const PlatformDialog dialog = Dialog();
+        EXPECT_EQ(dialog.Title(), SaveTitle);
+        EnterFile(dialog, file);
+    }
+
+    void Load(const std::wstring& file) {
+        AnswerQuestion(IDNO);
+        const PlatformDialog dialog = Dialog();
+        EXPECT_EQ(dialog.Title(), OpenTitle);
+        EnterFile(dialog, file);
+    }
+
+    /// The field for the name has the keyboard when such a dialog opens.
+    void EnterFile(const PlatformDialog& dialog, const std::wstring& file) {
+        PressKey('A', {VK_CONTROL});
+        PressKey(VK_END);
+        PressKey(VK_HOME, {VK_SHIFT});
+        TypeUnicode(file);
+        host->Ui().Settle();
+        dialog.Confirm();
+        ExpectUsable();
+    }
+
+    Window window;
+    Folder folder;
+};
+
+// The window.
+
+TEST_F(NotesTest, OpensFromThePaletteReadyToWrite) {
+    Open();
+    EXPECT_EQ(window.Text(), "Bloc Notes");
+    EXPECT_TRUE(window.IsTopmost());
+    Type(L"abc");
+    Press(VK_RETURN);
+    Press(VK_TAB);
+    Type(L"def");
+    EXPECT_EQ(Text(), L"abc\r\n\tdef");
+    const AccessibleFacts facts = ReadAccessible(host->Ui(), Note());
+    EXPECT_EQ(facts.role, ROLE_SYSTEM_TEXT);
+    EXPECT_EQ(facts.value, "abc\r\n\tdef");
+    SaveScreenshot("notes");
+}
+
+TEST_F(NotesTest, EscapeAndTheLastButtonCloseWithoutAQuestion) {
+    Open();
+    Type(L"abc");
+    Press(VK_ESCAPE);
+    EXPECT_TRUE(AwaitClosed("Notes"));
+    Click(AwaitForm("Utilitati").Control("cmdAction(0)"));
+    window = AwaitForm("Notes");
+    Require("the note's focus", [] { return FocusedName() == "txtNota"; });
+    EXPECT_EQ(Text(), L"");
+    Type(L"abc");
+    ClickButton(Leave);
+    EXPECT_TRUE(AwaitClosed("Notes"));
+    EXPECT_FALSE(ShownMessage::Find());
+}
+
+TEST_F(NotesTest, ClosesWithThePalette) {
+    Open();
+    PostMessageW(AwaitForm("Utilitati").Handle(), WM_CLOSE, 0, 0);
+    EXPECT_TRUE(AwaitClosed("Notes"));
+}
+
+TEST_F(NotesTest, TheBarShowsWhatTheMouseIsOver) {
+    constexpr COLORREF FaceHot = 0x383838;
+    constexpr COLORREF FacePressed = 0x181818;
+    Open();
+    const Window button = ButtonOf(ChooseFont);
+    EXPECT_FALSE(ShowsColor(button, FaceHot));
+    MovePointer(button.Center());
+    EXPECT_TRUE(WaitUntil([&] { return ShowsColor(button, FaceHot); }));
+    MovePointer(ButtonOf(Save).Center());
+    EXPECT_TRUE(WaitUntil([&] { return !ShowsColor(button, FaceHot); }));
+    EXPECT_TRUE(WaitUntil([&] { return ShowsColor(ButtonOf(Save), FaceHot); }));
+    MovePointer(PointerAtRest);
+    EXPECT_TRUE(WaitUntil([&] { return !ShowsColor(ButtonOf(Save), FaceHot); }));
+    EXPECT_FALSE(ShowsColor(button, FacePressed));
+}
+
+TEST_F(NotesTest, TheFocusIsToBeSeen) {
+    constexpr COLORREF Focus = 0x00FF00;
+    Open();
+    EXPECT_TRUE(WaitUntil([&] { return ShowsColor(Note(), Focus); }));
+    Press(VK_TAB, {VK_SHIFT});
+    EXPECT_TRUE(AwaitFocus("ImgBouton(7)"));
+    EXPECT_TRUE(WaitUntil([&] { return ShowsColor(ButtonOf(Leave), Focus); }));
+    EXPECT_TRUE(WaitUntil([&] { return !ShowsColor(Note(), Focus); }));
+    SaveScreenshot("notes-bar-focus");
+    Press(VK_TAB);
+    EXPECT_TRUE(AwaitFocus("txtNota"));
+}
+
+// Formats.
+
+TEST_F(NotesTest, TheSwitchesByMouseAndKeys) {
+    Open();
+    Type(L"abcd");
+    Select(1, 2);
+    ClickButton(Bold);
+    EXPECT_EQ(LookAt(0, 1).bold, 0);
+    EXPECT_EQ(LookAt(1, 2).bold, 1);
+    EXPECT_EQ(LookAt(3, 1).bold, 0);
+    Select(0, 4);
+    EXPECT_EQ(LookAt(0, 4).bold, -1);
+    ClickButton(Bold);
+    EXPECT_EQ(LookAt(0, 4).bold, 1);
+    Press('B', {VK_CONTROL});
+    EXPECT_EQ(LookAt(0, 4).bold, 0);
+    Press('I', {VK_CONTROL});
+    EXPECT_EQ(LookAt(0, 4).italic, 1);
+    Press('U', {VK_CONTROL});
+    EXPECT_EQ(LookAt(0, 4).underline, 1);
+    ClickButton(Italic);
+    ClickButton(Underline);
+    const Look plain = LookAt(0, 4);
+    EXPECT_TRUE(plain.bold == 0 && plain.italic == 0 && plain.underline == 0) << plain;
+    EXPECT_EQ(Text(), L"abcd");
+    ExpectUsable();
+}
+
+TEST_F(NotesTest, TheFontDialogShowsTheSelectionAndChangesIt) {
+    Open();
+    Type(L"abcd");
+    Select(1, 2);
+    ClickButton(Bold);
+    ClickButton(Underline);
+    ClickButton(ChooseFont);
+    const PlatformDialog dialog = Dialog();
+    EXPECT_EQ(dialog.Item(cmb1).Text(), "Arial");
+    EXPECT_EQ(dialog.Item(cmb3).Text(), "10");
+    EXPECT_FALSE(dialog.IsChecked(chx1));
+    EXPECT_TRUE(dialog.IsChecked(chx2));
+    SaveScreenshot("notes-font");
+    dialog.Fill(cmb3, L"18");
+    ClickAt(dialog.Item(chx1).Center());
+    host->Ui().Settle();
+    dialog.Confirm();
+    ExpectUsable();
+    const Look changed{"Arial", 18, 1, 0, 1, 1, 0};
+    EXPECT_EQ(LookAt(1, 2), changed);
+    const Look before{"Arial", 10, 0, 0, 0, 0, 0};
+    EXPECT_EQ(LookAt(0, 1), before);
+    EXPECT_EQ(LookAt(3, 1), before);
+}
+
+TEST_F(NotesTest, WhatDiffersInTheSelectionSurvivesTheFontDialog) {
+    Open();
+    Type(L"abcd");
+    Select(1, 2);
+    ClickButton(Bold);
+    ClickButton(Underline);
+    Select(0, 4);
+    ClickButton(ChooseFont);
+    const PlatformDialog dialog = Dialog();
+    dialog.Fill(cmb3, L"14");
+    host->Ui().Settle();
+    dialog.Confirm();
+    ExpectUsable();
+    EXPECT_EQ(LookAt(0, 4).points, 14);
+    EXPECT_EQ(LookAt(1, 2).bold, 1);
+    EXPECT_EQ(LookAt(0, 1).bold, 0);
+    EXPECT_EQ(LookAt(1, 2).underline, 1);
+    EXPECT_EQ(LookAt(0, 1).underline, 0);
+}
+
+TEST_F(NotesTest, TheColorDialogColorsTheSelection) {
+    constexpr int DefineOwn = 719;
+    constexpr int RedField = 706;
+    constexpr int GreenField = 707;
+    constexpr int BlueField = 708;
+    Open();
+    Type(L"abcd");
+    Select(1, 2);
+    ClickButton(ChooseColor);
+    const PlatformDialog dialog = Dialog();
+    Click(dialog.Item(DefineOwn));
+    host->Ui().Settle();
+    SaveScreenshot("notes-color");
+    dialog.Fill(RedField, L"200");
+    dialog.Fill(GreenField, L"30");
+    dialog.Fill(BlueField, L"40");
+    host->Ui().Settle();
+    dialog.Confirm();
+    ExpectUsable();
+    EXPECT_EQ(LookAt(1, 2).color, static_cast<long>(RGB(200, 30, 40)));
+    EXPECT_EQ(LookAt(0, 1).color, 0);
+    EXPECT_EQ(LookAt(3, 1).color, 0);
+}
+
+TEST_F(NotesTest, CancelledDialogsChangeNothing) {
+    Open();
+    Type(L"abcd");
+    Select(0, 4);
+    const Look before = LookAt(0, 4);
+    for (const int button : {Save, ChooseFont, ChooseColor}) {
+        ClickButton(button);
+        Dialog().Cancel();
+        ExpectUsable();
+        EXPECT_EQ(Text(), L"abcd");
+        EXPECT_EQ(LookAt(0, 4), before);
+    }
+    AnswerQuestion(IDNO);
+    Dialog().Cancel();
+    ExpectUsable();
+    EXPECT_EQ(Text(), L"abcd");
+    EXPECT_THAT(folder.Names(), IsEmpty());
+}
+
+// Files.
+
+TEST_F(NotesTest, WrittenFormattedSavedEmptiedAndLoaded) {
+    Open();
+    Type(L"Plain ");
+    ClickButton(Bold);
+    Type(L"bold ");
+    ClickButton(Italic);
+    Type(Letters);
+    ClickButton(Bold);
+    ClickButton(Italic);
+    Press(VK_RETURN);
+    ClickButton(Underline);
+    Type(L"under{line}\\");
+    const std::wstring text = Text();
+    EXPECT_EQ(text, L"Plain bold " + Letters + L"\r\nunder{line}\\");
+    const auto letters = static_cast<LONG>(Letters.size());
+    const auto looks = [&] {
+        return std::vector<Look>{LookAt(0, 6), LookAt(6, 5), LookAt(11, letters), LookAt(12 + letters, 12)};
+    };
+    const std::vector<Look> before = looks();
+    EXPECT_THAT(before, ElementsAre(Look{"Arial", 10, 0, 0, 0, 0, 0}, Look{"Arial", 10, 1, 0, 0, 0, 0},
+                                    Look{"Arial", 10, 1, 1, 0, 0, 0}, Look{"Arial", 10, 0, 0, 1, 0, 0}));
+    SaveScreenshot("notes-formatted");
+    const std::wstring file = folder.File(L"nota.rtf");
+    SaveAs(file);
+    EXPECT_THAT(folder.Names(), ElementsAre(L"nota.rtf")) << "no other file is left";
+    const std::string saved = ReadFile(file);
+    EXPECT_TRUE(saved.starts_with("{\\rtf1"));
+    EXPECT_EQ(saved.find('\0'), std::string::npos);
+    EXPECT_TRUE(
+        std::ranges::all_of(saved, [](char byte) { return static_cast<unsigned char>(byte) < 0x80; }));
+    NewNote();
+    EXPECT_EQ(Text(), L"");
+    Load(file);
+    EXPECT_EQ(Text(), text);
+    EXPECT_EQ(looks(), before);
+    // Again and again: nothing drifts away.
+    SaveAs(file);
+    NewNote();
+    Load(file);
+    EXPECT_EQ(Text(), text);
+    EXPECT_EQ(looks(), before);
+}
+
+TEST_F(NotesTest, ANameWithoutExtensionGetsOne) {
+    Open();
+    Type(L"abc");
+    SaveAs(folder.File(L"fara"));
+    EXPECT_THAT(folder.Names(), ElementsAre(L"fara.rtf"));
+}
+
+TEST_F(NotesTest, SavingReplacesTheOldNoteAtOnce) {
+    Open();
+    const std::wstring file = folder.File(L"nota.rtf");
+    WriteFile(file, std::string(100000, 'x'));
+    Type(L"abc");
+    SaveAs(file);
+    EXPECT_TRUE(ReadFile(file).starts_with("{\\rtf1"));
+    EXPECT_LT(ReadFile(file).size(), 10000U);
+    EXPECT_THAT(folder.Names(), ElementsAre(L"nota.rtf"));
+}
+
+TEST_F(NotesTest, AFolderThatTakesNothingEndsTheSaveSilently) {
+    Open();
+    Type(L"abc");
+    // A system folder of the machine under Wine, where nobody can make a file.
+    const std::wstring unwritable = L"Z:\\dev\\pts\\nota.rtf";
+    ASSERT_EQ(CreateFileW(L"Z:\\dev\\pts\\proba.rtf", GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr),
+              INVALID_HANDLE_VALUE);
+    SaveAs(unwritable);
+    EXPECT_EQ(Text(), L"abc");
+}
+
+TEST_F(NotesTest, AReadOnlyNoteIsNotOverwritten) {
+    Open();
+    const std::wstring file = folder.File(L"nota.rtf");
+    WriteFile(file, "old");
+    SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
+    Type(L"abc");
+    SaveAs(file);
+    SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
+    EXPECT_EQ(ReadFile(file), "old");
+    EXPECT_THAT(folder.Names(), ElementsAre(L"nota.rtf"));
+    EXPECT_EQ(Text(), L"abc");
+}
+
+TEST_F(NotesTest, ANoteThatAnotherProgramHoldsIsNotOverwritten) {
+    Open();
+    const std::wstring file = folder.File(L"nota.rtf");
+    WriteFile(file, "old");
+    const HANDLE held = CreateFileW(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(held, INVALID_HANDLE_VALUE);
+    Type(L"abc");
+    SaveAs(file);
+    Load(file);
+    CloseHandle(held);
+    EXPECT_EQ(ReadFile(file), "old");
+    EXPECT_THAT(folder.Names(), ElementsAre(L"nota.rtf"));
+    EXPECT_EQ(Text(), L"abc");
+}
+
+// What comes from outside.
+
+std::string SampleNote() {
+    std::string rtf =
+        "{\\rtf1\\ansi\\ansicpg1250\\deff0{\\fonttbl{\\f0\\fnil\\fcharset238 Arial;}{\\f1 Times New Roman;}}"
+        "{\\colortbl;\\red255\\green0\\blue0;}{\\*\\generator Writer;}\\pard\\f0\\fs20 ";
+    for (int i = 0; i < 40; ++i)
+        rtf += "{\\b line " + std::to_string(i) + "} \\'e3\\u537?{\\i\\cf1\\f1 text}\\par\r\n";
+    return rtf + "}";
+}
+
+TEST_F(NotesTest, BrokenFilesAreRefusedAndNothingIsLost) {
+    Open();
+    Type(L"Text ");
+    ClickButton(Bold);
+    Type(L"vechi");
+    const std::string note = SampleNote();
+    std::vector<std::pair<std::string, std::string>> corpus = {
+        {"empty", ""},
+        {"not RTF", "This is no note."},
+        {"a program", std::string("MZ\x90\0\3\0\0\0", 8)},
+        {"nested 5,000 deep", "{\\rtf1 " + std::string(5000, '{') + std::string(5001, '}')},
+        {"50 MB", "{\\rtf1 " + std::string(std::size_t{50} << 20, 'a') + "}"},
+        {"nul bytes", std::string("{\\rtf1 a\0b\0}", 12)},
+        {"object as a note", "{\\rtf1\\object\\objemb{\\*\\objdata 01050000}}"},
+        {"binary data beyond the end", "{\\rtf1{\\pict\\bin1000000 a}}"},
+    };
+    for (std::size_t length = 97; length < note.size(); length += 97)
+        corpus.emplace_back("truncated at " + std::to_string(length), note.substr(0, length));
+    ASSERT_GT(corpus.size(), 25U);
+    const std::wstring file = folder.File(L"nota.rtf");
+    for (const auto& [what, content] : corpus) {
+        WriteFile(file, content);
+        Load(file);
+        ASSERT_EQ(Text(), L"Text vechi") << what;
+        ASSERT_EQ(LookAt(0, 5).bold, 0) << what;
+        ASSERT_EQ(LookAt(5, 5).bold, 1) << what;
+    }
+    Load(folder.File(L"nicaieri.rtf"));
+    EXPECT_EQ(Text(), L"Text vechi");
+    WriteFile(file, note);
+    Load(file);
+    EXPECT_TRUE(Text().starts_with(L"line 0 \x103\x219text\r\nline 1 "));
+}
+
+TEST_F(NotesTest, EmbeddedObjectsAreLeftOut) {
+    Open();
+    const std::wstring file = folder.File(L"nota.rtf");
+    WriteFile(file,
+              "{\\rtf1\\ansi before{\\object\\objemb{\\*\\objclass Package}{\\*\\objdata 0105000002}"
+              "{\\result seen}} after}");
+    Load(file);
+    EXPECT_EQ(Text(), L"before after");
+}
+
+TEST_F(NotesTest, GroupsNestedAsDeepAsAllowedAreLoaded) {
+    Open();
+    const std::wstring file = folder.File(L"nota.rtf");
+    std::string note = "{\\rtf1 a";
+    for (int i = 1; i < 30; ++i)
+        note += "{\\b b";
+    WriteFile(file, note + std::string(30, '}'));
+    Load(file);
+    EXPECT_EQ(Text(), L"a" + std::wstring(29, L'b'));
+}
+
+TEST_F(NotesTest, ALongNoteIsKeptWhole) {
+    Open();
+    std::string note = "{\\rtf1\\ansi ";
+    for (int i = 0; i < 3000; ++i)
+        note += "line " + std::to_string(i) + " of a long note that has many of them\\par\r\n";
+    const std::wstring file = folder.File(L"nota.rtf");
+    WriteFile(file, note + "}");
+    Load(file);
+    const std::wstring text = Text();
+    ASSERT_GT(text.size(), 130000U) << "beyond what an edit field holds by default";
+    SaveAs(file);
+    NewNote();
+    Load(file);
+    EXPECT_EQ(Text(), text);
+}
+
+TEST_F(NotesTest, WhatWasTypedCanBeUndone) {
+    Open();
+    Type(L"abc");
+    Select(0, 3);
+    ClickButton(Bold);
+    EXPECT_EQ(LookAt(0, 3).bold, 1);
+    Press('Z', {VK_CONTROL});
+    EXPECT_EQ(LookAt(0, 3).bold, 0);
+    EXPECT_EQ(Text(), L"abc");
+}
+
+class NotesInDialogHostTest : public NotesTest {
+  protected:
+    NotesInDialogHostTest() : NotesTest(LoopKind::Dialog) {}
+};
+
+TEST_F(NotesInDialogHostTest, KeysAreTextInAHostThatTreatsWindowsAsDialogs) {
+    Open();
+    Type(L"a");
+    Press(VK_RETURN);
+    Press(VK_TAB);
+    Press(VK_LEFT);
+    Type(L"b");
+    EXPECT_EQ(Text(), L"a\r\nb\t");
+    Press(VK_ESCAPE);
+    EXPECT_TRUE(AwaitClosed("Notes"));
+}
+
+}  // namespace
+}  // namespace tavrin::e2e
