@@ -34,7 +34,7 @@ ErrorText TextOf(FaultKind kind) {
 
 bool IsValue(FaultKind kind) {
     return kind == FaultKind::NullValue || kind == FaultKind::EmptyValue || kind == FaultKind::OtherType ||
-           kind == FaultKind::HugeNumber;
+           kind == FaultKind::BigNumber || kind == FaultKind::HugeNumber;
 }
 
 /// Whether a strange answer can be given to such a touch at all.
@@ -57,10 +57,10 @@ bool CanAnswer(FaultKind kind, Touch touch) {
 }  // namespace
 
 const char* NameOf(FaultKind kind) {
-    static constexpr std::array names = {"syntax",        "timeout",       "deadlock",    "duplicate key",
-                                         "closed object", "disconnected",  "no memory",   "null value",
-                                         "empty value",   "other type",    "huge number", "fewer rows",
-                                         "one field",     "unknown count", "no result"};
+    static constexpr std::array names = {"syntax",        "timeout",      "deadlock",      "duplicate key",
+                                         "closed object", "disconnected", "no memory",     "null value",
+                                         "empty value",   "other type",   "big number",    "huge number",
+                                         "fewer rows",    "one field",    "unknown count", "no result"};
     static_assert(names.size() == AllFaultKinds.size());
     return names[static_cast<std::size_t>(kind)];
 }

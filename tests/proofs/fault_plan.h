@@ -25,7 +25,8 @@ enum class FaultKind {
     NullValue,
     EmptyValue,
     OtherType,
-    HugeNumber,
+    BigNumber,   ///< beyond 32 bits
+    HugeNumber,  ///< beyond 64 bits
     // Answers of another shape.
     FewerRows,     ///< half of the rows that were counted, and none where one was
     FewerFields,   ///< the first field alone
@@ -34,10 +35,10 @@ enum class FaultKind {
 };
 
 inline constexpr std::array AllFaultKinds = {
-    FaultKind::Syntax,       FaultKind::Timeout,      FaultKind::Deadlock,    FaultKind::DuplicateKey,
-    FaultKind::ClosedObject, FaultKind::Disconnected, FaultKind::OutOfMemory, FaultKind::NullValue,
-    FaultKind::EmptyValue,   FaultKind::OtherType,    FaultKind::HugeNumber,  FaultKind::FewerRows,
-    FaultKind::FewerFields,  FaultKind::UnknownCount, FaultKind::NoResult};
+    FaultKind::Syntax,       FaultKind::Timeout,      FaultKind::Deadlock,     FaultKind::DuplicateKey,
+    FaultKind::ClosedObject, FaultKind::Disconnected, FaultKind::OutOfMemory,  FaultKind::NullValue,
+    FaultKind::EmptyValue,   FaultKind::OtherType,    FaultKind::BigNumber,    FaultKind::HugeNumber,
+    FaultKind::FewerRows,    FaultKind::FewerFields,  FaultKind::UnknownCount, FaultKind::NoResult};
 
 const char* NameOf(FaultKind kind);
 /// Whether the fault is an error that leaves the operation, rather than a strange answer.

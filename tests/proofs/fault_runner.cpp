@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "shell/window_helpers.h"
-
 namespace tavrin::tests {
 namespace {
 

@@ -21,6 +21,8 @@ data::Value Spoiled(data::Value value, std::optional<FaultKind> fault) {
             return {};
         case FaultKind::OtherType:
             return value.IsText() ? data::Value(std::int64_t{-7}) : data::Value(std::string("neither"));
+        case FaultKind::BigNumber:
+            return std::int64_t{3'000'000'000};
         case FaultKind::HugeNumber:
             return 1e300;
         default:
