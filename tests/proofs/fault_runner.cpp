@@ -120,8 +120,9 @@ void FaultRunner::RunPair(std::size_t flow, const PlannedFault& first, FaultKind
     current_ = Describe(run, first) + ", then " + NameOf(second) + " while it is reported";
     Prepare(run);
     std::size_t struckFirst = 0;
+    bool interrupted = false;
     session_.desktop.whileReporting = [&] {
-        session_.desktop.whileReporting = nullptr;
+        if (std::exchange(interrupted, true)) return;
         struckFirst = session_.plan->Struck();
         session_.plan->Start(PlannedFault{1, second, Repeat::Always});
         Interrupt();

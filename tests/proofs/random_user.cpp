@@ -76,6 +76,14 @@ forms::Point PointIn(const forms::Control& control, unsigned number) {
     return {part(bounds.width, number % 17), part(bounds.height, number / 17 % 17)};
 }
 
+bool TakesFocus(const forms::Control& control) {
+    return control.CanTakeFocus();
+}
+
+bool OffersChoice(const forms::Control& control) {
+    return control.Kind() == forms::ControlKind::ComboBox || control.Kind() == forms::ControlKind::DatePicker;
+}
+
 void PaintAll(const forms::Container& container, forms::Surface& surface) {
     for (const forms::Control* control : container.Controls()) {
         if (!control->Visible()) continue;
@@ -104,20 +112,24 @@ std::string RandomUser::Run(std::span<const RandomEvent> events) {
     std::string complaint;
     while (next_ < events_.size() && complaint.empty())
         complaint = Step();
-    CountFaults();
+    RestartPlan();
     figures.reports += session_.desktop.reports.size();
     figures.messages += session_.messages.size();
     session_.whileShowing = nullptr;
     session_.desktop.whileReporting = nullptr;
     if (!complaint.empty()) return complaint;
-    session_.plan->Start();
     session_.LeaveAll();
     complaint = session_.ComplaintAfterLeaving();
     return complaint.empty() ? complaint : complaint + " after leaving";
 }
 
 std::string RandomUser::Step() {
+    // A host whose user has left everything is of no further interest until it calls again.
+    if (session_.desktop.Forms().empty()) session_.Apel();
+    const std::size_t open = session_.desktop.Forms().size();
     Do(events_[next_++]);
+    const std::size_t openNow = session_.desktop.Forms().size();
+    if (openNow > open) figures.openings += openNow - open;
     return session_.Complaint();
 }
 
@@ -146,13 +158,19 @@ forms::Form* RandomUser::PickWindow(unsigned number) const {
     return form != blocked_ ? form : nullptr;
 }
 
-forms::Control* RandomUser::PickControl(const RandomEvent& event) const {
+forms::Control* RandomUser::PickControl(const RandomEvent& event,
+                                        bool (*wanted)(const forms::Control&)) const {
     const forms::Form* form = PickWindow(event.choice);
     if (form == nullptr || !form->Enabled()) return nullptr;
-    const std::vector<forms::Control*> controls = form->AllControls();
-    if (controls.empty()) return nullptr;
-    forms::Control* control = controls[event.detail % controls.size()];
-    return control->IsEffectivelyVisible() ? control : nullptr;
+    std::vector<forms::Control*> controls = form->AllControls();
+    std::erase_if(controls, [](const forms::Control* control) { return !control->IsEffectivelyVisible(); });
+    constexpr unsigned anyInEight = 1;
+    if (event.detail % 8 >= anyInEight) {
+        std::vector<forms::Control*> liked = controls;
+        std::erase_if(liked, [&](const forms::Control* control) { return !wanted(*control); });
+        if (!liked.empty()) controls = std::move(liked);
+    }
+    return controls.empty() ? nullptr : controls[event.detail / 8 % controls.size()];
 }
 
 void RandomUser::Do(const RandomEvent& event) {
@@ -198,8 +216,7 @@ void RandomUser::Do(const RandomEvent& event) {
             DoFault(event);
             break;
         case EventKind::EndFaults:
-            CountFaults();
-            session_.plan->Start();
+            RestartPlan();
             break;
         case EventKind::Answer:
             if (session_.answers.size() < 4) session_.answers.push_back(event.choice % 2 == 0);
@@ -231,9 +248,9 @@ void RandomUser::DoKey(const RandomEvent& event) {
 
 void RandomUser::DoClick(const RandomEvent& event) {
     const forms::Desktop::DispatchScope scope(session_.desktop);
-    forms::Control* control = PickControl(event);
+    forms::Control* control = PickControl(event, TakesFocus);
     if (control == nullptr) return;
-    const forms::Point at = PointIn(*control, event.detail >> 6U);
+    const forms::Point at = PointIn(*control, event.detail ^ event.choice);
     forms::Form& form = control->OwnerForm();
     session_.desktop.ActivateByUser(&form);
     if (!form.IsLoaded() || !form.Enabled()) return;
@@ -243,10 +260,10 @@ void RandomUser::DoClick(const RandomEvent& event) {
 }
 
 void RandomUser::DoMousePart(const RandomEvent& event) {
-    forms::Control* control = PickControl(event);
+    forms::Control* control = PickControl(event, TakesFocus);
     if (control == nullptr) return;
     const forms::Desktop::DispatchScope scope(session_.desktop);
-    const unsigned part = event.detail >> 6U;
+    const unsigned part = event.detail ^ event.choice;
     const forms::MouseInput input{ButtonOf(part), PointIn(*control, part), {}};
     switch (part % 8) {
         case 0:
@@ -275,10 +292,10 @@ void RandomUser::DoMousePart(const RandomEvent& event) {
 }
 
 void RandomUser::DoChoose(const RandomEvent& event) {
-    forms::Control* control = PickControl(event);
+    forms::Control* control = PickControl(event, OffersChoice);
     if (control == nullptr || !control->IsEffectivelyEnabled()) return;
     const forms::Desktop::DispatchScope scope(session_.desktop);
-    const unsigned number = event.detail >> 4U;
+    const unsigned number = event.detail ^ event.choice;
     if (auto* list = dynamic_cast<forms::ComboBox*>(control)) {
         list->HandleDropped(number % 3 == 0);
         if (list->ListCount() > 0) list->HandleChosen(static_cast<int>(number) % list->ListCount());
@@ -300,17 +317,18 @@ void RandomUser::DoApel(const RandomEvent& event) {
     session_.Apel();
 }
 
-void RandomUser::CountFaults() {
+void RandomUser::RestartPlan(std::optional<PlannedFault> fault) {
     figures.faults += session_.plan->Struck();
+    figures.statements += session_.plan->Statements().size();
+    session_.plan->Start(fault);
 }
 
 void RandomUser::DoFault(const RandomEvent& event) {
-    CountFaults();
     PlannedFault fault;
     fault.kind = Pick(AllFaultKinds, event.choice);
-    fault.touch = 1 + event.detail % 24;
+    fault.touch = 1 + event.detail % 12;
     fault.repeat = event.detail % 3 == 0 ? Repeat::Always : Repeat::Once;
-    session_.plan->Start(fault);
+    RestartPlan(fault);
 }
 
 void RandomUser::DoDatabase(const RandomEvent& event) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -20,6 +21,8 @@ class RandomUser {
 
     struct Figures {
         std::size_t events = 0;
+        std::size_t openings = 0;  ///< of windows
+        std::size_t statements = 0;
         std::size_t faults = 0;
         std::size_t reports = 0;
         std::size_t messages = 0;
@@ -41,10 +44,11 @@ class RandomUser {
     void DoDatabase(const RandomEvent& event);
     void Paint(const RandomEvent& event);
     void Nested();
-    void CountFaults();
+    void RestartPlan(std::optional<PlannedFault> fault = std::nullopt);
 
     forms::Form* PickWindow(unsigned number) const;
-    forms::Control* PickControl(const RandomEvent& event) const;
+    /// Often one of those that `wanted` likes, else any that is in sight.
+    forms::Control* PickControl(const RandomEvent& event, bool (*wanted)(const forms::Control&)) const;
 
     UserSession& session_;
     std::span<const RandomEvent> events_;

@@ -138,6 +138,8 @@ int main(int argc, char** argv) {
     for (int job = 0; job < options.jobs; ++job) {
         const Progress& progress = shared.jobs[job];
         sum.events += progress.figures.events;
+        sum.openings += progress.figures.openings;
+        sum.statements += progress.figures.statements;
         sum.faults += progress.figures.faults;
         sum.reports += progress.figures.reports;
         sum.messages += progress.figures.messages;
@@ -146,7 +148,10 @@ int main(int argc, char** argv) {
         ReportFailure(options, progress.session);
     }
     if (!fine && failures == 0) failures = 1;  // at the end, when leaks are looked for
-    std::printf("random users: %zu events, %zu faults, %zu reports, %zu messages, %d failures, %.0f s\n",
-                sum.events, sum.faults, sum.reports, sum.messages, failures, taken.count());
+    std::printf(
+        "random users: %zu events, %zu windows opened, %zu statements, %zu faults, %zu reports, "
+        "%zu messages, %d failures, %.0f s\n",
+        sum.events, sum.openings, sum.statements, sum.faults, sum.reports, sum.messages, failures,
+        taken.count());
     return failures == 0 ? 0 : 1;
 }
