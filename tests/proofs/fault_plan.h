@@ -88,7 +88,8 @@ class FaultPlan {
     std::size_t Struck() const { return struck_; }
     bool IsActive() const { return fault_.has_value(); }
 
-    int recordsets = 0;  ///< alive now
+    int recordsets = 0;       ///< alive now
+    bool hasWritten = false;  ///< a statement that is no query has passed; whoever cares takes it back
 
   private:
     std::optional<PlannedFault> fault_;

@@ -1,6 +1,8 @@
 // Runs every user flow with every fault at every place, and prints the figures. Options: --jobs N processes,
-// --no-pairs, --flow NUMBER alone. The exit code is 0 when nothing failed.
+// --no-pairs, --flow NUMBER alone, --from NUMBER --to NUMBER flows from one to before another. The exit code
+// is 0 when nothing failed.
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -18,7 +20,8 @@ using tavrin::tests::FaultRunner;
 struct Options {
     int jobs = 2;
     bool pairs = true;
-    int flow = -1;
+    std::size_t from = 0;
+    std::size_t to = AllFlows().size();
 };
 
 const FaultRunner* running = nullptr;
@@ -35,17 +38,18 @@ int RunShare(const Options& options, int job, FaultFigures& figures) {
     FaultRunner runner(TellFailure);
     running = &runner;
     tavrin::tests::WhenDying(TellWhatRuns);
-    for (std::size_t flow = 0; flow < AllFlows().size(); ++flow) {
-        if (options.flow >= 0 && flow != static_cast<std::size_t>(options.flow)) continue;
-        if (options.flow < 0 &&
-            flow % static_cast<std::size_t>(options.jobs) != static_cast<std::size_t>(job))
-            continue;
+    for (std::size_t flow = options.from + static_cast<std::size_t>(job); flow < options.to;
+         flow += static_cast<std::size_t>(options.jobs)) {
         runner.RunEveryFault(flow);
         if (options.pairs) runner.RunEveryPair(flow);
         figures = runner.Figures();
     }
     running = nullptr;
     return runner.Figures().failures == 0 ? 0 : 1;
+}
+
+std::size_t NumberOf(const char* text) {
+    return std::strtoul(text, nullptr, 10);
 }
 
 }  // namespace
@@ -58,8 +62,13 @@ int main(int argc, char** argv) {
             options.pairs = false;
         } else if (option == "--jobs" && i + 1 < argc) {
             options.jobs = std::max(1, std::atoi(argv[++i]));
+        } else if (option == "--from" && i + 1 < argc) {
+            options.from = NumberOf(argv[++i]);
+        } else if (option == "--to" && i + 1 < argc) {
+            options.to = std::min(NumberOf(argv[++i]), AllFlows().size());
         } else if (option == "--flow" && i + 1 < argc) {
-            options.flow = std::atoi(argv[++i]);
+            options.from = NumberOf(argv[++i]);
+            options.to = std::min(options.from + 1, AllFlows().size());
             options.jobs = 1;
         } else {
             std::fprintf(stderr, "Unknown option %s\n", argv[i]);
@@ -75,7 +84,7 @@ int main(int argc, char** argv) {
     FaultFigures sum;
     for (const FaultFigures& share : shares.each)
         sum += share;
-    const std::size_t flows = options.flow >= 0 ? 1 : AllFlows().size();
+    const std::size_t flows = options.to - std::min(options.from, options.to);
     std::printf("faults: %zu flows, %zu touches, %zu runs, %zu injected faults, %zu pairs, %zu failures%s\n",
                 flows, sum.touches, sum.runs, sum.faults, sum.pairs, sum.failures,
                 fine ? "" : " (or a crash)");

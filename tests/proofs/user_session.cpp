@@ -201,8 +201,10 @@ void UserSession::Restart() {
     whileShowing = nullptr;
     desktop.whileReporting = nullptr;
     desktop.UnloadAll();
-    transaction_.reset();
-    transaction_ = std::make_unique<host::EmbeddedDatabase::Transaction>(*database_);
+    if (std::exchange(plan->hasWritten, false)) {
+        transaction_.reset();
+        transaction_ = std::make_unique<host::EmbeddedDatabase::Transaction>(*database_);
+    }
     desktop.reports.clear();
     desktop.cursor = {500, 400};
     messages.clear();

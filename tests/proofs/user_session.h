@@ -61,7 +61,10 @@ class UserSession {
     void LeaveAll();
 
     /// Past the faults and the counting.
-    void Run(const std::string& statement) { database_->Run(statement); }
+    void Run(const std::string& statement) {
+        plan->hasWritten = true;
+        database_->Run(statement);
+    }
     void EmptyAgenda();
 
     /// Closes every window and takes back what was written.
