@@ -5,7 +5,6 @@
 #include <tavrin_interfaces.h>
 
 #include <array>
-#include <ranges>
 #include <string>
 #include <vector>
 
@@ -64,8 +63,8 @@ bool Remove(const std::wstring& key) {
 bool RemoveEntries(Server& server) {
     const std::vector<Entry> entries = Entries(server);
     bool complete = true;
-    for (const Entry& entry : std::views::reverse(entries))
-        complete = Remove(entry.key) && complete;
+    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry)
+        complete = Remove(entry->key) && complete;
     return complete;
 }
 
