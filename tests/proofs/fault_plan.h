@@ -48,6 +48,7 @@ bool IsError(FaultKind kind);
 
 /// Everything on a connection or a recordset that a provider can fail, and a message.
 enum class Touch {
+    Window,  ///< made by the platform
     Create,
     Execute,
     Open,

@@ -63,6 +63,7 @@ UserSession::UserSession()
     : module(desktop, [this] { return std::make_unique<Messages>(*this); }),
       database_(std::make_shared<host::EmbeddedDatabase>(":memory:")) {
     com::AddWindows(module);
+    desktop.whenCreating = [this] { plan->Meet(Touch::Window); };
     FillDatabase();
     connection_ =
         std::make_shared<FaultyConnection>(std::make_shared<host::EmbeddedConnection>(database_), plan);
