@@ -24,7 +24,7 @@
 
 namespace {
 
-using namespace tavrin;  // NOLINT(google-build-using-namespace): a program of its own
+using namespace tavrin;
 using addressbook::Agenda;
 using rates::CursValutar;
 

@@ -25,7 +25,7 @@
 
 namespace {
 
-using namespace tavrin;  // NOLINT(google-build-using-namespace): a program of its own
+using namespace tavrin;
 
 void Demand(bool right, const char* what, std::string_view text) {
     if (right) return;

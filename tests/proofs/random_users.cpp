@@ -20,7 +20,7 @@
 
 namespace {
 
-using namespace tavrin::tests;  // NOLINT(google-build-using-namespace): a program of its own
+using namespace tavrin::tests;
 
 constexpr int MostJobs = 64;
 
