@@ -283,7 +283,7 @@ std::shared_ptr<data::Connection> WithLesserRows(data::Connection& underlying, s
 }
 
 TEST_F(EvolutieCursTest, RowsThatTheProviderCountsButDoesNotGiveAreNoRows) {
-    EvolutieCurs& window = Open();
+    EvolutieCurs& window = OpenAndDraw(5);
     module.context.connection = WithLesserRows(*connection, 0);
     window.cmdAction[1].Click();
     EXPECT_TRUE(window.lblMesaj2.Visible());
@@ -291,7 +291,7 @@ TEST_F(EvolutieCursTest, RowsThatTheProviderCountsButDoesNotGiveAreNoRows) {
 }
 
 TEST_F(EvolutieCursTest, AnAnswerThatLacksFieldsIsReported) {
-    EvolutieCurs& window = Open();
+    EvolutieCurs& window = OpenAndDraw(5);
     module.context.connection = WithLesserRows(*connection, 1);
     window.cmdAction[1].Click();
     ASSERT_EQ(desktop.reports.size(), 1U);
