@@ -2,8 +2,8 @@
 
 #include <windows.h>
 
-#include <array>
 #include <cstdio>
+#include <string>
 #include <vector>
 
 #include "data/error.h"
@@ -17,32 +17,52 @@ namespace {
 constexpr ULONGLONG PatienceMilliseconds = 20000;
 constexpr DWORD QuietMilliseconds = 300;
 
-struct Click {
+/// A click on a control, then what is typed: digits, capital letters and the keys' own codes.
+struct Action {
     const char* form;
     const char* control;
+    std::string keys;
 };
 
-/// One picture: what to click before it, and which window it shows.
+/// One picture: what to do before it, and which window it shows.
 struct Step {
     const char* picture;
-    std::vector<Click> clicks;
+    std::vector<Action> actions;
     const char* form;
 };
+
+const std::string Enter(1, VK_RETURN);
 
 const std::vector<Step>& Steps() {
     static const std::vector<Step> steps{
         {"palette", {}, "Utilitati"},
-        {"palette-rolled-up", {{"Utilitati", "imgRollup(0)"}}, "Utilitati"},
-        {"rate-list", {{"Utilitati", "imgRollup(1)"}, {"Utilitati", "cmdAction(3)"}}, "CursValutar"},
-        {"rate-entry", {{"CursValutar", "cmdAction(0)"}}, "CursValutarDetaliu"},
+        {"palette-rolled-up", {{"Utilitati", "imgRollup(0)", ""}}, "Utilitati"},
+        {"calculator",
+         {{"Utilitati", "imgRollup(1)", ""},
+          {"Utilitati", "cmdAction(2)", ""},
+          {"frmCalculator", "Number(1)", "25000"}},
+         "frmCalculator"},
+        {"currency-chooser", {{"frmCalculator", "cmdVal", ""}}, "AlegeMoneda"},
+        {"calculator-with-rate", {{"AlegeMoneda", "cmdAction(0)", ""}}, "frmCalculator"},
+        {"rate-list", {{"frmCalculator", "cmdUnload", ""}, {"Utilitati", "cmdAction(3)", ""}}, "CursValutar"},
+        {"rate-entry", {{"CursValutar", "cmdAction(0)", ""}}, "CursValutarDetaliu"},
+        {"rate-entry-editing", {{"CursValutarDetaliu", "DataCurs", Enter}}, "CursValutarDetaliu"},
+        {"rate-entry-modify",
+         {{"CursValutarDetaliu", "cmdAction(1)", ""}, {"CursValutar", "cmdAction(1)", ""}},
+         "CursValutarDetaliu"},
         {"add-currency",
-         {{"CursValutarDetaliu", "cmdAction(1)"}, {"CursValutar", "cmdAction(3)"}},
+         {{"CursValutarDetaliu", "cmdAction(1)", ""}, {"CursValutar", "cmdAction(3)", ""}},
          "CereMoneda"},
-        {"evolution",
-         {{"CereMoneda", "cmdAction(1)"}, {"CursValutar", "cmdAction(5)"}, {"EvolutieCurs", "cmdAction(1)"}},
+        {"evolution-prompt",
+         {{"CereMoneda", "cmdAction(1)", ""}, {"CursValutar", "cmdAction(5)", ""}},
          "EvolutieCurs"},
-        {"address-book", {{"Utilitati", "cmdAction(1)"}}, "Agenda"},
-        {"address-book-entry", {{"Agenda", "cmdAction(3)"}}, "Agenda"},
+        {"evolution", {{"EvolutieCurs", "cmdAction(1)", ""}}, "EvolutieCurs"},
+        {"address-book", {{"Utilitati", "cmdAction(1)", ""}}, "Agenda"},
+        {"address-book-modify", {{"Agenda", "cmdAction(3)", ""}}, "Agenda"},
+        {"address-book-entry", {{"Agenda", "cmdAction(1)", ""}, {"Agenda", "cmdAction(2)", ""}}, "Agenda"},
+        {"address-book-compact",
+         {{"Agenda", "cmdAction(1)", ""}, {"Agenda", "TextBoxes(0)", "NIMENI" + Enter}},
+         "Agenda"},
     };
     return steps;
 }
@@ -81,20 +101,41 @@ POINT MiddleOf(HWND window) {
     return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
 }
 
-void Perform(const Click& click) {
-    const HWND form = AwaitForm(click.form);
-    const HWND control = Await(std::string(click.form) + "." + click.control,
-                               [&] { return FindControl(form, click.control); });
-    SetForegroundWindow(form);
-    Settle();
+void Send(const INPUT& input) {
+    INPUT sent = input;
+    SendInput(1, &sent, sizeof sent);
+}
+
+void Click(HWND control) {
     const POINT middle = MiddleOf(control);
     SetCursorPos(middle.x, middle.y);
-    std::array<INPUT, 2> inputs{};
-    inputs[0].type = INPUT_MOUSE;
-    inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    inputs[1].type = INPUT_MOUSE;
-    inputs[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof inputs[0]);
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    for (const DWORD button : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
+        input.mi.dwFlags = button;
+        Send(input);
+    }
+    Settle();
+}
+
+void Press(char key) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = static_cast<WORD>(key);
+    Send(input);
+    input.ki.dwFlags = KEYEVENTF_KEYUP;
+    Send(input);
+}
+
+void Perform(const Action& action) {
+    const HWND form = AwaitForm(action.form);
+    const HWND control = Await(std::string(action.form) + "." + action.control,
+                               [&] { return FindControl(form, action.control); });
+    SetForegroundWindow(form);
+    Settle();
+    Click(control);
+    for (const char key : action.keys)
+        Press(key);
     Settle();
 }
 
@@ -114,8 +155,8 @@ void TakePicture(const Step& step, const std::wstring& folder) {
 void RunTour(const std::wstring& folder) {
     CreateDirectoryW(folder.c_str(), nullptr);
     for (const Step& step : Steps()) {
-        for (const Click& click : step.clicks)
-            Perform(click);
+        for (const Action& action : step.actions)
+            Perform(action);
         TakePicture(step, folder);
     }
     SendMessageW(AwaitForm("Utilitati"), WM_CLOSE, 0, 0);
