@@ -120,9 +120,10 @@ Section "Uninstall"
   !include "${REMOVALS}"
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"
-  ${If} $scope == user
-    RMDir "$LOCALAPPDATA\Programs"
-  ${EndIf}
   DeleteRegKey SHCTX "${KEY}"
-  DeleteRegKey /ifempty SHCTX "Software\Microsoft\Windows\CurrentVersion\Uninstall"
+  ${If} $scope == user
+    ; A user's first program brings these along.
+    RMDir "$LOCALAPPDATA\Programs"
+    DeleteRegKey /ifempty HKCU "Software\Microsoft\Windows\CurrentVersion\Uninstall"
+  ${EndIf}
 SectionEnd

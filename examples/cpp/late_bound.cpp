@@ -45,6 +45,7 @@ int wmain(int count, wchar_t** arguments) {
     point->Advise(&sink, &cookie);
 
     std::printf("Apel: %08lx\n", static_cast<unsigned long>(CallApel(utile, connection)));
+    std::fflush(stdout);
     // The plainest message loop will do: the windows deal with Tab, Enter and the arrows themselves.
     for (MSG message; GetMessageW(&message, nullptr, 0, 0) > 0; DispatchMessageW(&message))
         TranslateMessage(&message);

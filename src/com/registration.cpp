@@ -11,8 +11,8 @@
 namespace tavrin::com {
 namespace {
 
-// Keys of the system's own, which the first class of a user brings along.
-constexpr const wchar_t* SharedKeys[] = {L"CLSID", L"Interface", L"TypeLib"};
+// Keys of the system's own, which the first class of a user brings along; the last is the user's classes.
+constexpr const wchar_t* SharedKeys[] = {L"CLSID", L"Interface", L"TypeLib", L""};
 
 bool WriteAll(const Registry& registry, const std::vector<RegistryEntry>& entries) {
     return std::ranges::all_of(entries, [&](const RegistryEntry& entry) { return registry.Write(entry); });

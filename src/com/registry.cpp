@@ -3,7 +3,7 @@
 namespace tavrin::com {
 namespace {
 
-constexpr wchar_t Classes[] = L"Software\\Classes\\";
+constexpr wchar_t Classes[] = L"Software\\Classes";
 
 bool IsGone(LSTATUS removed) {
     return removed == ERROR_SUCCESS || removed == ERROR_FILE_NOT_FOUND;
@@ -46,7 +46,7 @@ HKEY Registry::Root() const {
 }
 
 std::wstring Registry::PathOf(const std::wstring& key) const {
-    return Classes + key;
+    return key.empty() ? Classes : std::wstring(Classes) + L"\\" + key;
 }
 
 }  // namespace tavrin::com

@@ -125,6 +125,16 @@ TEST_P(AccessibilityTest, EveryControlTellsItsStateAndValue) {
     }
 }
 
+TEST_P(AccessibilityTest, NoControlIsHiddenBehindAnother) {
+    for (const Window& control : VisibleControls()) {
+        // The picture that unrolls the palette waits beneath the one that rolls it up.
+        if (Facts(control).role == ROLE_SYSTEM_GROUPING || control.Name() == "imgRollup(1)") continue;
+        const HWND seen = WindowFromPoint(control.Center());
+        EXPECT_TRUE(seen == control.Handle() || IsChild(control.Handle(), seen))
+            << control.Name() << " is behind " << Window(seen).Name();
+    }
+}
+
 TEST_P(AccessibilityTest, AcceleratorsAreUnique) {
     std::map<std::string, std::string> owners;
     for (const Window& control : VisibleControls()) {

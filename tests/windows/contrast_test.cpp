@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <set>
 
 #include "forms/decoration.h"
@@ -18,6 +19,9 @@ namespace {
 using forms::Color;
 
 constexpr double LeastContrast = 4.5;
+
+/// Backgrounds that are not the scheme's to choose: of the focused field, and of the palette's strip.
+constexpr Color GivenBackgrounds[] = {forms::FocusGrey, 0x004000};
 
 double Linear(Color color, int shift) {
     const double share = ((color >> shift) & 0xFF) / 255.0;
@@ -104,6 +108,8 @@ class ContrastTest : public EveryWindowTest {
     }
 
     void Compare(Color text, Color back, const std::string& what) {
+        const bool isGiven = std::ranges::find(GivenBackgrounds, back) != std::end(GivenBackgrounds);
+        if (isGiven && text == forms::scheme::TextDisabled) return;
         ++compared_;
         if (!seen_.insert({text, back}).second) return;
         EXPECT_GE(Contrast(text, back), LeastContrast)

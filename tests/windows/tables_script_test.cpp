@@ -29,7 +29,7 @@ std::vector<std::string> StatementsForOneDatabase() {
     std::string script{std::istreambuf_iterator<char>(file), {}};
     script = std::regex_replace(script, std::regex("--[^\n]*|(^|\n)GO(?=\n)"), "");
     script = std::regex_replace(script, std::regex("CREATE DATABASE AdmQuadrel;"), "");
-    const std::regex statement("[^;]*\\S[^;]*;");
+    const std::regex statement("[^;]*[^;\\s][^;]*;");
     std::vector<std::string> statements;
     for (std::sregex_iterator found(script.begin(), script.end(), statement), end; found != end; ++found)
         statements.push_back(found->str());
