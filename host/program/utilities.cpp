@@ -57,9 +57,12 @@ Function* Export(HMODULE module, const char* name) {
     return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(address));
 }
 
+/// For the machine where the user may, else for the user alone.
 void Register(const std::wstring& dll) {
     const win32::OwnedModule module = Load(dll);
-    Check(Export<HRESULT STDAPICALLTYPE()>(module.get(), "DllRegisterServer")(), "DllRegisterServer");
+    if (SUCCEEDED(Export<HRESULT STDAPICALLTYPE()>(module.get(), "DllRegisterServer")())) return;
+    Check(Export<HRESULT STDAPICALLTYPE(BOOL, LPCWSTR)>(module.get(), "DllInstall")(TRUE, L"user"),
+          "DllInstall");
 }
 
 bool CanUnload(HMODULE module) {
