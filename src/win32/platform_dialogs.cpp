@@ -13,6 +13,7 @@
 #include "forms/form.h"
 #include "win32/dpi.h"
 #include "win32/form_peer.h"
+#include "win32/handles.h"
 #include "win32/library.h"
 #include "win32/text.h"
 
@@ -21,6 +22,7 @@ namespace tavrin::win32 {
 namespace {
 
 constexpr std::size_t LongestPath = 32768;
+constexpr std::size_t LongestPrinterName = 512;
 constexpr int PointsPerInch = 72;
 constexpr int TenthsPerPoint = 10;
 
@@ -77,6 +79,23 @@ bool ShowFileDialog(const forms::Form& owner, forms::FileDialogSettings& setting
     settings.fileName = ToUtf8(file.c_str());
     return true;
 }
+
+/// The default printer, for the fonts that it has; nothing where there is no printer.
+class PrinterContext {
+  public:
+    PrinterContext() {
+        const Library spooler(L"winspool.drv");
+        std::array<wchar_t, LongestPrinterName> name{};
+        auto size = static_cast<DWORD>(name.size());
+        if (spooler.Find<BOOL WINAPI(wchar_t*, DWORD*)>("GetDefaultPrinterW")(name.data(), &size))
+            context_.reset(CreateICW(L"WINSPOOL", name.data(), nullptr, nullptr));
+    }
+
+    HDC Get() const { return context_.get(); }
+
+  private:
+    OwnedMemoryDc context_;
+};
 
 /// Two choices of style have one list: it shows none where either differs inside the selection.
 bool HasStyle(const forms::CharacterFormat& font) {
@@ -136,12 +155,15 @@ bool PlatformDialogs::ShowSave(const forms::Form& owner, forms::FileDialogSettin
 }
 
 bool PlatformDialogs::ShowFont(const forms::Form& owner, forms::FontDialogSettings& settings) {
+    const PrinterContext printer;
     LOGFONTW log = LogFontOf(settings.font, DpiOf(WindowOf(owner)));
     CHOOSEFONTW dialog{};
     dialog.lStructSize = sizeof dialog;
     dialog.hwndOwner = WindowOf(owner);
     dialog.lpLogFont = &log;
+    dialog.hDC = printer.Get();
     dialog.Flags = FlagsOf(settings);
+    if (dialog.hDC == nullptr) dialog.Flags &= ~static_cast<DWORD>(CF_PRINTERFONTS);
     dialog.rgbColors = settings.font.color.value_or(forms::Black);
     if (!CommonDialogs().Show<decltype(ChooseFontW)>("ChooseFontW", dialog)) return false;
     TakeChosen(settings.font, dialog);

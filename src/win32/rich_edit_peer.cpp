@@ -1,7 +1,5 @@
 #include "win32/rich_edit_peer.h"
 
-#include <algorithm>
-
 #include "data/error.h"
 #include "forms/rtf_escape.h"
 #include "win32/edit_frame.h"
@@ -48,10 +46,6 @@ class HiddenEdit {
   private:
     HWND window_;
 };
-
-bool IsAscii(const std::wstring& text) {
-    return std::ranges::all_of(text, [](wchar_t unit) { return unit < 0x80; });
-}
 
 }  // namespace
 
@@ -117,8 +111,7 @@ void RichEditPeer::Load(std::string_view rtf) {
 }
 
 std::string RichEditPeer::Save() const {
-    if (IsAscii(ReadRichText(Handle())) || WritesEveryLetter())
-        return StreamRtfOut(Handle(), RtfEncoding::Native);
+    if (WritesEveryLetter()) return StreamRtfOut(Handle(), RtfEncoding::Native);
     return forms::EscapeRtf(StreamRtfOut(Handle(), RtfEncoding::Utf8));
 }
 

@@ -473,14 +473,29 @@ TEST_F(NotesTest, SavingReplacesTheOldNoteAtOnce) {
     EXPECT_THAT(folder.Names(), ElementsAre(L"nota.rtf"));
 }
 
+/// A drive that stands for a system folder in which nobody can make a file.
+class UnwritableDrive {
+  public:
+    UnwritableDrive() { DefineDosDeviceW(0, Name, Folder); }
+    ~UnwritableDrive() { DefineDosDeviceW(DDD_REMOVE_DEFINITION, Name, Folder); }
+    UnwritableDrive(const UnwritableDrive&) = delete;
+    UnwritableDrive& operator=(const UnwritableDrive&) = delete;
+
+    static std::wstring File(const wchar_t* name) { return std::wstring(Name) + L"\\" + name; }
+
+  private:
+    static constexpr const wchar_t* Name = L"Q:";
+    static constexpr const wchar_t* Folder = L"Z:\\proc\\sys";
+};
+
 TEST_F(NotesTest, AFolderThatTakesNothingEndsTheSaveSilently) {
+    const UnwritableDrive drive;
+    ASSERT_EQ(
+        CreateFileW(drive.File(L"proba.rtf").c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr),
+        INVALID_HANDLE_VALUE);
     Open();
     Type(L"abc");
-    // A system folder of the machine under Wine, where nobody can make a file.
-    const std::wstring unwritable = L"Z:\\dev\\pts\\nota.rtf";
-    ASSERT_EQ(CreateFileW(L"Z:\\dev\\pts\\proba.rtf", GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr),
-              INVALID_HANDLE_VALUE);
-    SaveAs(unwritable);
+    SaveAs(drive.File(L"nota.rtf"));
     EXPECT_EQ(Text(), L"abc");
 }
 

@@ -69,7 +69,12 @@ class Reader {
   public:
     explicit Reader(std::string_view rest) : rest_(rest) {}
 
-    bool IsAtEnd() const { return rest_ == "}"; }
+    bool IsAtEnd() {
+        // As every reader does, it passes over the ends of lines.
+        while (rest_.starts_with('\n') || rest_.starts_with('\r'))
+            rest_.remove_prefix(1);
+        return rest_ == "}";
+    }
 
     std::pair<char, CharacterFormat> Next() {
         CharacterFormat format;
