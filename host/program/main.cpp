@@ -58,9 +58,10 @@ ComPtr<IDispatch> OpenSystemAdo(const std::string& connectionString) {
     CLSID classId;
     ComPtr<IDispatch> connection;
     HRESULT created = CLSIDFromProgID(L"ADODB.Connection", &classId);
-    if (SUCCEEDED(created))
+    if (SUCCEEDED(created)) {
         created = CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IDispatch),
                                    connection.ReceiveVoid());
+    }
     if (FAILED(created)) throw data::Error(created, "ADODB.Connection: " + win32::SystemMessage(created));
     win32::DispatchObject(connection).Call(L"Open", Variant(std::string_view(connectionString)));
     return connection;

@@ -112,8 +112,10 @@ Utilities::~Utilities() {
     utile_.Reset();
     if (!module_) return;
     // A window that the user has left open still needs the component's code.
-    const auto canUnload = Export<HRESULT STDAPICALLTYPE()>(module_.get(), "DllCanUnloadNow");
-    if (canUnload() != S_OK) static_cast<void>(module_.release());
+    const FARPROC address = GetProcAddress(module_.get(), "DllCanUnloadNow");
+    const auto canUnload =
+        reinterpret_cast<HRESULT(STDAPICALLTYPE*)()>(reinterpret_cast<void (*)()>(address));
+    if (canUnload == nullptr || canUnload() != S_OK) static_cast<void>(module_.release());
 }
 
 void Utilities::Apel(const ComPtr<IDispatch>& connection, data::OleDate date, std::int16_t year,
