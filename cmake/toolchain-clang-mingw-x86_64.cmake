@@ -9,9 +9,9 @@ set(CMAKE_CXX_COMPILER_TARGET ${TAVRIN_MINGW})
 set(CMAKE_RC_COMPILER ${TAVRIN_MINGW}-windres)
 
 # Clang does not find them by itself where Debian keeps two kinds of threads side by side.
-file(GLOB gcc LIST_DIRECTORIES true /usr/lib/gcc/${TAVRIN_MINGW}/*-posix)
-list(SORT gcc COMPARE NATURAL)
-list(POP_BACK gcc gcc)
+file(GLOB versions LIST_DIRECTORIES true /usr/lib/gcc/${TAVRIN_MINGW}/*-posix)
+list(SORT versions COMPARE NATURAL)
+list(POP_BACK versions gcc)
 set(CMAKE_CXX_FLAGS_INIT
   "-isystem ${gcc}/include/c++ -isystem ${gcc}/include/c++/${TAVRIN_MINGW} -isystem ${gcc}/include/c++/backward")
 

@@ -65,9 +65,10 @@ STDAPI DllCanUnloadNow() {
 STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object) try {
     if (object == nullptr) return E_POINTER;
     *object = nullptr;
-    if (IsEqualCLSID(classId, AdoConnectionClass))
+    if (IsEqualCLSID(classId, AdoConnectionClass)) {
         return tavrin::win32::MakeObject<ObjectFactory<ConnectionObject>>(MakeConnection)
             ->QueryInterface(id, object);
+    }
     if (IsEqualCLSID(classId, AdoRecordsetClass))
         return tavrin::win32::MakeObject<ObjectFactory<RecordsetObject>>()->QueryInterface(id, object);
     return CLASS_E_CLASSNOTAVAILABLE;

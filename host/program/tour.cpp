@@ -121,17 +121,17 @@ void Click(HWND control) {
     SetCursorPos(middle.x, middle.y);
     INPUT input{};
     input.type = INPUT_MOUSE;
-    for (const DWORD button : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
-        input.mi.dwFlags = button;
-        Send(input);
-    }
+    input.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+    Send(input);
+    input.mi.dwFlags = MOUSEEVENTF_LEFTUP;
+    Send(input);
     Settle();
 }
 
 void Press(char key) {
     INPUT input{};
     input.type = INPUT_KEYBOARD;
-    input.ki.wVk = static_cast<WORD>(key);
+    input.ki.wVk = static_cast<unsigned char>(key);
     Send(input);
     input.ki.dwFlags = KEYEVENTF_KEYUP;
     Send(input);

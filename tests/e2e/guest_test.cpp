@@ -73,7 +73,7 @@ TEST_F(GuestTest, ItsFieldsAreTheCurrentCommonControlsWhateverTheHostsAre) {
     const std::string hosts = host->Call([&] {
         const HWND field = CreateWindowExW(0, L"Edit", L"", WS_CHILD, 0, 0, 50, 20,
                                            host->MainWindow().Handle(), nullptr, nullptr, nullptr);
-        const std::string library = LibraryOf(field);
+        std::string library = LibraryOf(field);
         DestroyWindow(field);
         return library;
     });

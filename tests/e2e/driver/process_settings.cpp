@@ -25,7 +25,7 @@ std::string UserNumber(const char* name) {
 std::string ActivationContextNumber() {
     HANDLE context = nullptr;
     if (GetCurrentActCtx(&context) == FALSE) return "none";
-    const std::string number = std::to_string(reinterpret_cast<ULONG_PTR>(context));
+    std::string number = std::to_string(reinterpret_cast<ULONG_PTR>(context));
     if (context != nullptr) ReleaseActCtx(context);
     return number;
 }

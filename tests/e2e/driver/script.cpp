@@ -22,7 +22,7 @@ void WriteFile(const std::wstring& path, const std::string& text) {
 ProcessResult RunScript(const std::string& text) {
     const std::wstring script = TemporaryPath(L"tavrin_e2e.vbs");
     WriteFile(script, text);
-    const ProcessResult result = RunProcess(L"cscript.exe //nologo \"" + script + L"\"");
+    ProcessResult result = RunProcess(L"cscript.exe //nologo \"" + script + L"\"");
     DeleteFileW(script.c_str());
     return result;
 }
