@@ -251,6 +251,7 @@ void TimeKeys(const char* what, std::string_view keys) {
 
 int main(int argc, char** argv) {
     const bool large = argc > 1 && std::string_view(argv[1]) == "--large";
+    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);  // a long run is watched
     std::printf("Medians of %d rounds by turns, processor time.\n", Rounds);
     std::printf("Rate list: the two statements of a refresh, bare and in the window (goal %.2f)\n",
                 GoalForLists);
