@@ -247,10 +247,32 @@ void TimeKeys(const char* what, std::string_view keys) {
     std::printf("  %-22s %6.1f ns a key%s\n", what, cost, Judged(cost, GoalForKey));
 }
 
+/// What two displays would cost with the C library alone, without groups.
+void TimePrinting() {
+    constexpr int times = 200000;
+    std::vector<double> costs;
+    double number = 1234.56;
+    char text[64];
+    int length = 0;
+    for (int round = 0; round < Rounds + 2; ++round) {
+        const double taken = bench::SecondsOf([&] {
+            for (int i = 0; i < times; ++i) {
+                number += 0.01;
+                length += std::snprintf(text, sizeof text, "%.2f", number);
+                length += std::snprintf(text, sizeof text, "%.2f", number / 4.9762);
+            }
+        });
+        costs.push_back(taken * 1e9 / times);
+    }
+    std::printf("  %-22s %6.1f ns for both numbers%s\n", "the C library alone", bench::Median(costs),
+                length > 0 ? "" : ", nothing printed");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     const bool large = argc > 1 && std::string_view(argv[1]) == "--large";
+    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);  // a long run is watched
     std::printf("Medians of %d rounds by turns, processor time.\n", Rounds);
     std::printf("Rate list: the two statements of a refresh, bare and in the window (goal %.2f)\n",
                 GoalForLists);
@@ -267,5 +289,6 @@ int main(int argc, char** argv) {
     TimeKeys("a running sum", "1+22+333+4.44+55.5+6+");
     TimeKeys("a percent", "1234.56+19%");
     TimeKeys("a conversion", "1234.56X4.9762+19%");
+    TimePrinting();
     return 0;
 }
