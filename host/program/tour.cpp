@@ -22,7 +22,7 @@ struct Action {
     const char* form;
     const char* control;
     std::string keys;
-    std::wstring text = L"";  ///< typed after the keys, in any script
+    std::wstring text = {};  ///< typed after the keys, in any script
 };
 
 /// One picture: what to do before it, and which window it shows.

@@ -9,7 +9,7 @@ namespace tavrin::forms {
 namespace {
 
 constexpr std::string_view Utf8Start = "{\\urtf";
-constexpr std::string_view AsciiStart = "{\\rtf1\\ansi\\ansicpg1252\\uc1";
+constexpr std::string_view AsciiStart = R"({\rtf1\ansi\ansicpg1252\uc1)";
 constexpr char32_t Replacement = 0xFFFD;
 
 struct Decoded {

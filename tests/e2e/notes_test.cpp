@@ -133,7 +133,7 @@ class NotesTest : public HostTest {
             SendMessageW(Note().Handle(), EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&before));
             CHARRANGE range{start, start + length};
             SendMessageW(Note().Handle(), EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
-            const Look look = SelectedLook();
+            Look look = SelectedLook();
             SendMessageW(Note().Handle(), EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&before));
             return look;
         });
@@ -490,12 +490,12 @@ class UnwritableDrive {
 
 TEST_F(NotesTest, AFolderThatTakesNothingEndsTheSaveSilently) {
     const UnwritableDrive drive;
-    ASSERT_EQ(
-        CreateFileW(drive.File(L"proba.rtf").c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr),
-        INVALID_HANDLE_VALUE);
+    ASSERT_EQ(CreateFileW(UnwritableDrive::File(L"proba.rtf").c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                          0, nullptr),
+              INVALID_HANDLE_VALUE);
     Open();
     Type(L"abc");
-    SaveAs(drive.File(L"nota.rtf"));
+    SaveAs(UnwritableDrive::File(L"nota.rtf"));
     EXPECT_EQ(Text(), L"abc");
 }
 
@@ -551,8 +551,8 @@ TEST_F(NotesTest, BrokenFilesAreRefusedAndNothingIsLost) {
         {"nested 5,000 deep", "{\\rtf1 " + std::string(5000, '{') + std::string(5001, '}')},
         {"50 MB", "{\\rtf1 " + std::string(std::size_t{50} << 20, 'a') + "}"},
         {"nul bytes", std::string("{\\rtf1 a\0b\0}", 12)},
-        {"object as a note", "{\\rtf1\\object\\objemb{\\*\\objdata 01050000}}"},
-        {"binary data beyond the end", "{\\rtf1{\\pict\\bin1000000 a}}"},
+        {"object as a note", R"({\rtf1\object\objemb{\*\objdata 01050000}})"},
+        {"binary data beyond the end", R"({\rtf1{\pict\bin1000000 a}})"},
     };
     for (std::size_t length = 97; length < note.size(); length += 97)
         corpus.emplace_back("truncated at " + std::to_string(length), note.substr(0, length));

@@ -7,6 +7,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <random>
 #include <string>
 #include <string_view>
@@ -117,9 +118,7 @@ bool ReadOptions(int argc, char** argv, Options& options) {
     return argc % 2 == 1;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int Run(int argc, char** argv) {
     Options options;
     options.seed = std::random_device{}();
     if (!ReadOptions(argc, argv, options)) {
@@ -154,4 +153,15 @@ int main(int argc, char** argv) {
         sum.events, sum.openings, sum.statements, sum.faults, sum.reports, sum.messages, failures,
         taken.count());
     return failures == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return Run(argc, argv);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "random users: %s\n", failure.what());
+        return 1;
+    }
 }

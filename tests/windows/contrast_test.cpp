@@ -101,9 +101,10 @@ class ContrastTest : public EveryWindowTest {
     void LookAtTexts(const RecordingSurface& surface, Color back, const std::string& what) {
         const std::vector<Drawn>& drawn = surface.All();
         for (std::size_t i = 0; i < drawn.size(); ++i) {
-            if (drawn[i].kind == Drawing::Text && !drawn[i].text.empty())
+            if (drawn[i].kind == Drawing::Text && !drawn[i].text.empty()) {
                 Compare(drawn[i].style.color, BackgroundOf(drawn, i, back),
                         what + " '" + drawn[i].text + "'");
+            }
         }
     }
 

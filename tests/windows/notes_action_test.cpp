@@ -119,7 +119,7 @@ TEST_F(NotesActionTest, AnEmbeddedObjectNeverReachesTheEditor) {
     Notes& window = Open();
     keyboard.Type("abc");
     SaveAs(window, File);
-    desktop.files.contents[File].insert(7, "{\\object\\objemb{\\*\\objdata 01}}");
+    desktop.files.contents[File].insert(7, R"({\object\objemb{\*\objdata 01}})");
     NewNote(window);
     desktop.dialogs.chosenFile = File;
     OpenNote(window);
