@@ -98,11 +98,17 @@ INPUT MouseInput(DWORD flags) {
     return input;
 }
 
+/// A character as an input method sends it; the end of a line as its key.
 INPUT CharacterInput(wchar_t unit, DWORD flags) {
     INPUT input{};
     input.type = INPUT_KEYBOARD;
-    input.ki.wScan = unit;
-    input.ki.dwFlags = KEYEVENTF_UNICODE | flags;
+    if (unit == L'\r') {
+        input.ki.wVk = VK_RETURN;
+        input.ki.dwFlags = flags;
+    } else {
+        input.ki.wScan = unit;
+        input.ki.dwFlags = KEYEVENTF_UNICODE | flags;
+    }
     return input;
 }
 
