@@ -1,4 +1,8 @@
 # One strictness for every compiler: all warnings, as errors.
+if(MSVC)
+  add_compile_options(/W4 /WX /utf-8 /permissive- /EHsc /wd4068)  # 4068: other compilers' pragmas
+  return()
+endif()
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
                     -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)

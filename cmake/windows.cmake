@@ -5,4 +5,8 @@ if(WIN32)
   set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
   set(CMAKE_SHARED_LIBRARY_PREFIX "")
   enable_language(RC)
+  if(MINGW)
+    # No time of building goes in: one commit always gives the same bytes.
+    add_link_options(-Wl,--no-insert-timestamp)
+  endif()
 endif()

@@ -24,6 +24,14 @@ check() {
     fi
 }
 
+# figures NAME COMMAND...: a check whose last lines are shown in any case.
+figures() {
+    local name=$1
+    if check "$@"; then
+        tail -n 12 "$logs/$name.log" | sed 's/^/    /'
+    fi
+}
+
 # not_run NAME: what could not even start has failed.
 not_run() {
     failed=$((failed + 1))

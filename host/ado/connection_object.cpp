@@ -20,9 +20,12 @@ std::int32_t ToLong(std::int64_t number) {
 
 }  // namespace
 
-ConnectionObject::ConnectionObject(std::shared_ptr<EmbeddedDatabase> database)
-    : cursorLocation_(cursor::UseServer) {
+ConnectionObject::ConnectionObject(std::shared_ptr<EmbeddedDatabase> database) {
     session_->connection = std::make_unique<EmbeddedConnection>(std::move(database));
+}
+
+ConnectionObject::ConnectionObject(Opener opener) : opener_(std::move(opener)) {
+    session_->isOpen = false;
 }
 
 std::span<const Member> ConnectionObject::Members() const {
@@ -54,6 +57,7 @@ Variant ConnectionObject::Execute(const CallArguments& arguments) {
 Variant ConnectionObject::Open(const CallArguments& arguments) {
     if (session_->isOpen) ado_error::ThrowOpen();
     if (arguments.Has(0)) connectionString_ = arguments.Text(0);
+    if (opener_) session_->connection = std::make_unique<EmbeddedConnection>(opener_(connectionString_));
     session_->isOpen = true;
     return {};
 }

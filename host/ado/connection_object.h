@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "host/ado/live_objects.h"
@@ -8,10 +9,16 @@
 
 namespace tavrin::host {
 
-/// An ADO Connection as a host passes it on, open on an embedded database.
+/// An ADO Connection on an embedded database.
 class ConnectionObject : public ScriptObject {
   public:
+    /// What opens the database that a connection string names.
+    using Opener = std::function<std::shared_ptr<EmbeddedDatabase>(const std::string& connectionString)>;
+
+    /// One that is open, as a host passes it on.
     explicit ConnectionObject(std::shared_ptr<EmbeddedDatabase> database);
+    /// One that is closed, as a host creates it.
+    explicit ConnectionObject(Opener opener);
 
     const std::shared_ptr<Session>& SharedSession() const { return session_; }
 
@@ -36,8 +43,9 @@ class ConnectionObject : public ScriptObject {
 
     win32::ObjectCount::Ticket ticket_{LiveObjects::Get().connections};
     std::shared_ptr<Session> session_ = std::make_shared<Session>();
+    Opener opener_;
     std::string connectionString_;
-    std::int32_t cursorLocation_;
+    std::int32_t cursorLocation_ = 2;   // on the server
     std::int32_t commandTimeout_ = 30;  // seconds
 };
 

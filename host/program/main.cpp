@@ -58,9 +58,10 @@ ComPtr<IDispatch> OpenSystemAdo(const std::string& connectionString) {
     CLSID classId;
     ComPtr<IDispatch> connection;
     HRESULT created = CLSIDFromProgID(L"ADODB.Connection", &classId);
-    if (SUCCEEDED(created))
+    if (SUCCEEDED(created)) {
         created = CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IDispatch),
                                    connection.ReceiveVoid());
+    }
     if (FAILED(created)) throw data::Error(created, "ADODB.Connection: " + win32::SystemMessage(created));
     win32::DispatchObject(connection).Call(L"Open", Variant(std::string_view(connectionString)));
     return connection;
@@ -71,19 +72,37 @@ Utilities Connect(const Options& options, std::function<void()> whenLeft) {
     return Utilities::FromRegistration(BesideThisProgram(L"Tavrin.dll"), std::move(whenLeft));
 }
 
+/// The component asks what the process is; a host that follows the screen's resolution says so itself.
+void FollowResolution() {
+    using Function = BOOL WINAPI(HANDLE);
+    const HANDLE perMonitor = reinterpret_cast<HANDLE>(INT_PTR{-4});
+    const FARPROC set = GetProcAddress(GetModuleHandleW(L"user32.dll"), "SetProcessDpiAwarenessContext");
+    if (set != nullptr) reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(set))(perMonitor);
+}
+
+/// The calculator asks for the currency "$" first, which the demo data do not have.
+void AddDollar(EmbeddedDatabase& database) {
+    if (database.FindTable("Curs Valutar")->Find("$") != nullptr) return;
+    database.Run("ALTER TABLE [Curs Valutar] ADD [$] float");
+    database.Run("UPDATE [Curs Valutar] SET [$] = [USD]");
+}
+
 std::string Summary(const Options& options) {
     return "Societatea " + std::to_string(options.company) + ", data de lucru " +
            data::FormatDayMonthYear(options.date) + ", exercitiul " + std::to_string(options.year);
 }
 
 void RunHost(const Options& options) {
+    if (options.followsResolution) FollowResolution();
     const ComScope com;
     // Registered in the process, so that the component finds the host's recordset; real ADO brings its own.
     std::optional<RecordsetRegistration> recordsets;
     ComPtr<IDispatch> connection;
     if (options.adoConnection.empty()) {
         recordsets.emplace();
-        connection = win32::MakeObject<ConnectionObject>(OpenDemoDatabase(options.database));
+        const std::shared_ptr<EmbeddedDatabase> database = OpenDemoDatabase(options.database);
+        if (!options.tourFolder.empty()) AddDollar(*database);
+        connection = win32::MakeObject<ConnectionObject>(database);
     } else {
         connection = OpenSystemAdo(options.adoConnection);
     }

@@ -25,6 +25,7 @@ const char* const UsageText =
     "  --dll PATH         load this DLL without registering it; else the one beside the program is "
     "registered\n"
     "  --tour FOLDER      walk through the windows, save a picture of each as PNG, and end\n"
+    "  --follow-resolution  tell Windows that the program follows the screen's resolution itself\n"
     "  --help             this text\n";
 
 namespace {
@@ -79,6 +80,10 @@ Options ParseOptions(const std::vector<std::string>& arguments) {
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         if (arguments[i] == "--help") {
             options.help = true;
+            continue;
+        }
+        if (arguments[i] == "--follow-resolution") {
+            options.followsResolution = true;
             continue;
         }
         const OptionRow& row = FindRow(arguments[i]);

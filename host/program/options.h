@@ -18,6 +18,7 @@ struct Options {
     std::int16_t year = 0;
     std::string dll;         ///< empty: the one beside the program, by registration
     std::string tourFolder;  ///< empty: no tour
+    bool followsResolution = false;
     bool help = false;
 };
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 // GDI+ calls the macros that NOMINMAX takes away.
-namespace Gdiplus {
+namespace Gdiplus {  // NOLINT(readability-identifier-naming)
 using std::max;
 using std::min;
 }  // namespace Gdiplus

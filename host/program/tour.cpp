@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include <cstdio>
-#include <utility>
+#include <string>
 #include <vector>
 
 #include "data/error.h"
@@ -17,37 +17,62 @@ namespace {
 constexpr ULONGLONG PatienceMilliseconds = 20000;
 constexpr DWORD QuietMilliseconds = 300;
 
-struct Click {
+/// A click on a control, then what is pressed: digits, capital letters and the keys' own codes.
+struct Action {
     const char* form;
     const char* control;
+    std::string keys;
+    std::wstring text = L"";  ///< typed after the keys, in any script
 };
 
-/// What is clicked and then typed, and which window it shows. A step without a picture leads to the next.
+/// One picture: what to do before it, and which window it shows.
 struct Step {
     const char* picture;
-    std::vector<Click> clicks;
+    std::vector<Action> actions;
     const char* form;
-    const wchar_t* typed = L"";
 };
+
+const std::string Enter(1, VK_RETURN);
 
 const std::vector<Step>& Steps() {
     static const std::vector<Step> steps{
         {"palette", {}, "Utilitati"},
-        {"palette-rolled-up", {{"Utilitati", "imgRollup(0)"}}, "Utilitati"},
-        {"rate-list", {{"Utilitati", "imgRollup(1)"}, {"Utilitati", "cmdAction(3)"}}, "CursValutar"},
-        {"rate-entry", {{"CursValutar", "cmdAction(0)"}}, "CursValutarDetaliu"},
+        {"palette-rolled-up", {{"Utilitati", "imgRollup(0)", ""}}, "Utilitati"},
+        {"calculator",
+         {{"Utilitati", "imgRollup(1)", ""},
+          {"Utilitati", "cmdAction(2)", ""},
+          {"frmCalculator", "Number(1)", "25000"}},
+         "frmCalculator"},
+        {"currency-chooser", {{"frmCalculator", "cmdVal", ""}}, "AlegeMoneda"},
+        {"calculator-with-rate", {{"AlegeMoneda", "cmdAction(0)", ""}}, "frmCalculator"},
+        {"rate-list", {{"frmCalculator", "cmdUnload", ""}, {"Utilitati", "cmdAction(3)", ""}}, "CursValutar"},
+        {"rate-entry", {{"CursValutar", "cmdAction(0)", ""}}, "CursValutarDetaliu"},
+        {"rate-entry-editing", {{"CursValutarDetaliu", "DataCurs", Enter}}, "CursValutarDetaliu"},
+        {"rate-entry-modify",
+         {{"CursValutarDetaliu", "cmdAction(1)", ""}, {"CursValutar", "cmdAction(1)", ""}},
+         "CursValutarDetaliu"},
         {"add-currency",
-         {{"CursValutarDetaliu", "cmdAction(1)"}, {"CursValutar", "cmdAction(3)"}},
+         {{"CursValutarDetaliu", "cmdAction(1)", ""}, {"CursValutar", "cmdAction(3)", ""}},
          "CereMoneda"},
-        {"evolution",
-         {{"CereMoneda", "cmdAction(1)"}, {"CursValutar", "cmdAction(5)"}, {"EvolutieCurs", "cmdAction(1)"}},
+        {"evolution-prompt",
+         {{"CereMoneda", "cmdAction(1)", ""}, {"CursValutar", "cmdAction(5)", ""}},
          "EvolutieCurs"},
-        {"address-book", {{"Utilitati", "cmdAction(1)"}}, "Agenda"},
-        {"address-book-entry", {{"Agenda", "cmdAction(3)"}}, "Agenda"},
-        {nullptr, {{"Utilitati", "cmdAction(0)"}, {"Notes", "ImgBouton(4)"}}, "Notes", L"Luni, 1 decembrie"},
-        {nullptr, {{"Notes", "ImgBouton(4)"}}, "Notes", L"\rBanca: curs EUR \u0219i USD, 500 \u20ac\r"},
-        {nullptr, {{"Notes", "ImgBouton(5)"}}, "Notes", L"de trimis balan\u021ba pe noiembrie\r"},
-        {"notes", {{"Notes", "ImgBouton(5)"}, {"Notes", "ImgBouton(6)"}}, "Notes", L"Sun\u0103 la Radu"},
+        {"evolution", {{"EvolutieCurs", "cmdAction(1)", ""}}, "EvolutieCurs"},
+        {"address-book", {{"Utilitati", "cmdAction(1)", ""}}, "Agenda"},
+        {"address-book-modify", {{"Agenda", "cmdAction(3)", ""}}, "Agenda"},
+        {"address-book-entry", {{"Agenda", "cmdAction(1)", ""}, {"Agenda", "cmdAction(2)", ""}}, "Agenda"},
+        {"address-book-compact",
+         {{"Agenda", "cmdAction(1)", ""}, {"Agenda", "TextBoxes(0)", "NIMENI" + Enter}},
+         "Agenda"},
+        {"notes",
+         {{"Agenda", "cmdAction(1)", ""},
+          {"Utilitati", "cmdAction(0)", ""},
+          {"Notes", "ImgBouton(4)", "", L"Luni, 1 decembrie"},
+          {"Notes", "ImgBouton(4)", "", L"\rBanca: curs EUR \u0219i USD, 500 \u20ac\r"},
+          {"Notes", "ImgBouton(5)", "", L"de trimis balan\u021ba pe noiembrie\r"},
+          {"Notes", "ImgBouton(5)", ""},
+          {"Notes", "ImgBouton(6)", "", L"Sun\u0103 la Radu"}},
+         "Notes"},
     };
     return steps;
 }
@@ -86,50 +111,54 @@ POINT MiddleOf(HWND window) {
     return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
 }
 
-void Send(std::vector<INPUT> inputs) {
-    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
-    Settle();
+void Send(const INPUT& input) {
+    INPUT sent = input;
+    SendInput(1, &sent, sizeof sent);
 }
 
-INPUT MouseInput(DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
-    return input;
-}
-
-/// A character as an input method sends it; the end of a line as its key.
-INPUT CharacterInput(wchar_t unit, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    if (unit == L'\r') {
-        input.ki.wVk = VK_RETURN;
-        input.ki.dwFlags = flags;
-    } else {
-        input.ki.wScan = unit;
-        input.ki.dwFlags = KEYEVENTF_UNICODE | flags;
-    }
-    return input;
-}
-
-void Type(const std::wstring& text) {
-    std::vector<INPUT> inputs;
-    for (const wchar_t unit : text) {
-        inputs.push_back(CharacterInput(unit, 0));
-        inputs.push_back(CharacterInput(unit, KEYEVENTF_KEYUP));
-    }
-    if (!inputs.empty()) Send(std::move(inputs));
-}
-
-void Perform(const Click& click) {
-    const HWND form = AwaitForm(click.form);
-    const HWND control = Await(std::string(click.form) + "." + click.control,
-                               [&] { return FindControl(form, click.control); });
-    SetForegroundWindow(form);
-    Settle();
+void Click(HWND control) {
     const POINT middle = MiddleOf(control);
     SetCursorPos(middle.x, middle.y);
-    Send({MouseInput(MOUSEEVENTF_LEFTDOWN), MouseInput(MOUSEEVENTF_LEFTUP)});
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+    Send(input);
+    input.mi.dwFlags = MOUSEEVENTF_LEFTUP;
+    Send(input);
+    Settle();
+}
+
+void Press(char key) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = static_cast<unsigned char>(key);
+    Send(input);
+    input.ki.dwFlags = KEYEVENTF_KEYUP;
+    Send(input);
+}
+
+void Type(wchar_t unit) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wScan = unit;
+    input.ki.dwFlags = KEYEVENTF_UNICODE;
+    Send(input);
+    input.ki.dwFlags |= KEYEVENTF_KEYUP;
+    Send(input);
+}
+
+void Perform(const Action& action) {
+    const HWND form = AwaitForm(action.form);
+    const HWND control = Await(std::string(action.form) + "." + action.control,
+                               [&] { return FindControl(form, action.control); });
+    SetForegroundWindow(form);
+    Settle();
+    Click(control);
+    for (const char key : action.keys)
+        Press(key);
+    for (const wchar_t unit : action.text)
+        Type(unit);
+    Settle();
 }
 
 void TakePicture(const Step& step, const std::wstring& folder) {
@@ -148,10 +177,9 @@ void TakePicture(const Step& step, const std::wstring& folder) {
 void RunTour(const std::wstring& folder) {
     CreateDirectoryW(folder.c_str(), nullptr);
     for (const Step& step : Steps()) {
-        for (const Click& click : step.clicks)
-            Perform(click);
-        Type(step.typed);
-        if (step.picture != nullptr) TakePicture(step, folder);
+        for (const Action& action : step.actions)
+            Perform(action);
+        TakePicture(step, folder);
     }
     SendMessageW(AwaitForm("Utilitati"), WM_CLOSE, 0, 0);
 }

@@ -57,9 +57,18 @@ Function* Export(HMODULE module, const char* name) {
     return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(address));
 }
 
+/// For the machine where the user may, else for the user alone.
 void Register(const std::wstring& dll) {
     const win32::OwnedModule module = Load(dll);
-    Check(Export<HRESULT STDAPICALLTYPE()>(module.get(), "DllRegisterServer")(), "DllRegisterServer");
+    if (SUCCEEDED(Export<HRESULT STDAPICALLTYPE()>(module.get(), "DllRegisterServer")())) return;
+    Check(Export<HRESULT STDAPICALLTYPE(BOOL, LPCWSTR)>(module.get(), "DllInstall")(TRUE, L"user"),
+          "DllInstall");
+}
+
+bool CanUnload(HMODULE module) {
+    const FARPROC canUnload = GetProcAddress(module, "DllCanUnloadNow");
+    return canUnload != nullptr &&
+           reinterpret_cast<HRESULT STDAPICALLTYPE (*)()>(reinterpret_cast<void (*)()>(canUnload))() == S_OK;
 }
 
 /// What the component said about its last failure.
@@ -109,8 +118,7 @@ Utilities::~Utilities() {
     utile_.Reset();
     if (!module_) return;
     // A window that the user has left open still needs the component's code.
-    const auto canUnload = Export<HRESULT STDAPICALLTYPE()>(module_.get(), "DllCanUnloadNow");
-    if (canUnload() != S_OK) static_cast<void>(module_.release());
+    if (!CanUnload(module_.get())) static_cast<void>(module_.release());
 }
 
 void Utilities::Apel(const ComPtr<IDispatch>& connection, data::OleDate date, std::int16_t year,

@@ -148,6 +148,7 @@ void AgendaDesign::PlaceFrames() {
     Grid.SetAccessibleName("Persoane");
     imgAgenda.SetBounds({ListWidth - PictureSide, layout::Unit, PictureSide, PictureSide});
     imgAgenda.SetBackColor(forms::Black);
+    imgAgenda.SetAccessibleName(Caption());
 }
 
 void AgendaDesign::PlaceFields() {

@@ -44,7 +44,8 @@ void PersonList::Load(std::string_view statement) {
 void PersonList::MoveTo(int row) {
     Rows().MoveFirst();
     const std::int64_t last = recordset_->RecordCount();
-    recordset_->Move(std::clamp<std::int64_t>(row, 1, last) - 1);
+    const std::int64_t reached = last > 0 ? std::min<std::int64_t>(row, last) : row;
+    recordset_->Move(std::max<std::int64_t>(reached, 1) - 1);
 }
 
 Person PersonList::Current() {
@@ -58,6 +59,7 @@ Person PersonList::Current() {
 }
 
 int FindPerson(const data::Table& persons, std::string_view nume, std::string_view prenume) {
+    if (persons.FieldCount() <= PrenumeColumn) return 0;
     const std::string_view wantedNume = Trimmed(nume);
     const std::string_view wantedPrenume = Trimmed(prenume);
     for (std::size_t row = 0; row < persons.RowCount(); ++row) {

@@ -27,7 +27,8 @@ class PersonList {
     bool AtEnd() { return Rows().AtEnd(); }
     data::TablePtr ReadAll() { return Rows().ReadAll(); }
 
-    /// Moves to a row; beyond the last one, which other users' deletions make possible, to the last.
+    /// Moves to a row; beyond the last one, which other users' deletions make possible, to the last. A
+    /// provider that does not count its rows is taken at the word of the row.
     void MoveTo(int row);
     /// The current row. \throws data::Error 94 where a column is NULL: a text box has no such value.
     Person Current();

@@ -91,6 +91,9 @@ struct PlainNumber {
 };
 
 double ReadAny(std::string_view whole, std::string_view fraction) {
+    // The library reads "inf" and "nan" as well, which are no numbers here.
+    const std::size_t begin = whole.starts_with('-') ? 1 : 0;
+    if (begin < whole.size() && (whole[begin] < '0' || whole[begin] > '9')) return 0;
     Buffer text;
     const auto copied = std::min(whole.size(), text.size() - 1);
     char* end = std::copy_n(whole.begin(), copied, text.begin());
@@ -98,7 +101,7 @@ double ReadAny(std::string_view whole, std::string_view fraction) {
     end = std::copy_n(fraction.begin(), std::min(fraction.size(), text.size() - copied - 1), end);
     double number = 0;
     std::from_chars(text.data(), end, number, std::chars_format::fixed);
-    return number;
+    return number == 0 ? 0 : number;
 }
 
 }  // namespace

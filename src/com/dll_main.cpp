@@ -1,4 +1,4 @@
-// The four exports and the one object that stands behind them. Nothing is done at process detach: by then the
+// The five exports and the one object that stands behind them. Nothing is done at process detach: by then the
 // host's objects and other modules may be gone.
 
 #include <windows.h>
@@ -62,10 +62,18 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object) try {
     return CurrentFailure().result;
 }
 
-STDAPI DllRegisterServer() noexcept try { return Register(TheServer()); } catch (...) {
+STDAPI DllRegisterServer() noexcept try { return Register(TheServer(), Scope::Machine); } catch (...) {
     return CurrentFailure().result;
 }
 
-STDAPI DllUnregisterServer() noexcept try { return Unregister(TheServer()); } catch (...) {
+STDAPI DllUnregisterServer() noexcept try { return Unregister(TheServer(), Scope::Machine); } catch (...) {
+    return CurrentFailure().result;
+}
+
+STDAPI DllInstall(BOOL install, LPCWSTR forWhom) noexcept try {
+    Scope scope{};
+    if (const HRESULT named = ScopeOf(forWhom, scope); FAILED(named)) return named;
+    return install != FALSE ? Register(TheServer(), scope) : Unregister(TheServer(), scope);
+} catch (...) {
     return CurrentFailure().result;
 }

@@ -1,115 +1,79 @@
 #include "com/registration.h"
 
-#include <oleauto.h>
 #include <olectl.h>
-#include <tavrin_interfaces.h>
 
-#include <array>
-#include <ranges>
+#include <algorithm>
 #include <string>
 #include <vector>
 
-#include "win32/variant.h"
+#include "com/registry_entries.h"
 
 namespace tavrin::com {
 namespace {
 
-constexpr wchar_t ProgramId[] = L"Tavrin.Utile";
+// Keys of the system's own, which the first class of a user brings along; the last is the user's classes.
+constexpr const wchar_t* SharedKeys[] = {L"CLSID", L"Interface", L"TypeLib", L""};
 
-/// One value below HKEY_CLASSES_ROOT; an empty name is the key's own value.
-struct Entry {
-    std::wstring key;
-    std::wstring name;
-    std::wstring value;
-};
-
-std::wstring TextOf(REFGUID id) {
-    std::array<wchar_t, 40> text{};
-    StringFromGUID2(id, text.data(), static_cast<int>(text.size()));
-    return text.data();
+bool WriteAll(const Registry& registry, const std::vector<RegistryEntry>& entries) {
+    return std::ranges::all_of(entries, [&](const RegistryEntry& entry) { return registry.Write(entry); });
 }
 
-/// Keys stand before the keys below them.
-std::vector<Entry> Entries(Server& server) {
-    const std::wstring path = ModulePath(server.Instance());
-    const TLIBATTR types = server.Types().Attributes();
-    const std::wstring version =
-        std::to_wstring(types.wMajorVerNum) + L"." + std::to_wstring(types.wMinorVerNum);
-    const std::wstring classId = TextOf(__uuidof(::Utile));
-    const std::wstring classKey = L"CLSID\\" + classId;
-    return {
-        {ProgramId, L"", ProgramId},
-        {std::wstring(ProgramId) + L"\\CLSID", L"", classId},
-        {classKey, L"", ProgramId},
-        {classKey + L"\\InprocServer32", L"", path},
-        {classKey + L"\\InprocServer32", L"ThreadingModel", L"Apartment"},
-        {classKey + L"\\ProgID", L"", ProgramId},
-        {classKey + L"\\VersionIndependentProgID", L"", ProgramId},
-        {classKey + L"\\TypeLib", L"", TextOf(types.guid)},
-        {classKey + L"\\Version", L"", version},
-    };
-}
-
-bool Write(const Entry& entry) {
-    const auto size = static_cast<DWORD>((entry.value.size() + 1) * sizeof(wchar_t));
-    return RegSetKeyValueW(HKEY_CLASSES_ROOT, entry.key.c_str(), entry.name.c_str(), REG_SZ,
-                           entry.value.c_str(), size) == ERROR_SUCCESS;
-}
-
-bool Remove(const std::wstring& key) {
-    const LSTATUS removed = RegDeleteKeyW(HKEY_CLASSES_ROOT, key.c_str());
-    return removed == ERROR_SUCCESS || removed == ERROR_FILE_NOT_FOUND;
-}
-
-bool RemoveEntries(Server& server) {
-    const std::vector<Entry> entries = Entries(server);
+/// With what other tools may have put below.
+bool RemoveAll(const Registry& registry, const std::vector<RegistryEntry>& entries) {
     bool complete = true;
-    for (const Entry& entry : std::views::reverse(entries))
-        complete = Remove(entry.key) && complete;
+    for (const RegistryEntry& entry : entries)
+        complete = registry.RemoveTree(entry.key) && complete;
     return complete;
 }
 
-bool WriteEntries(Server& server) {
-    for (const Entry& entry : Entries(server))
-        if (!Write(entry)) return false;
-    return true;
+std::wstring ParentOf(const std::wstring& key) {
+    return key.substr(0, key.find_last_of(L'\\'));
 }
 
-bool RegisterTypes(Server& server) {
-    const win32::ComPtr<ITypeLib> library = server.Types().Library();
-    std::wstring path = ModulePath(server.Instance());
-    return library && SUCCEEDED(RegisterTypeLib(library.Get(), path.data(), nullptr));
+/// The key of the files goes only when the other bitness has none in it; the rest of the library with it.
+bool RemoveTypeLibrary(const Registry& registry, Server& server) {
+    const std::wstring file = TypeLibraryFileKey(server);
+    if (!registry.Remove(file)) return false;
+    if (!registry.Remove(ParentOf(file))) return true;
+    return RemoveAll(registry, TypeLibraryEntries(server));
 }
 
-bool UnregisterTypes(Server& server) {
-    const TLIBATTR types = server.Types().Attributes();
-    BSTR path = nullptr;
-    const HRESULT registered =
-        QueryPathOfRegTypeLib(types.guid, types.wMajorVerNum, types.wMinorVerNum, types.lcid, &path);
-    const win32::Bstr owner = win32::Bstr::Attach(path);
-    if (FAILED(registered)) return true;
-    return SUCCEEDED(
-        UnRegisterTypeLib(types.guid, types.wMajorVerNum, types.wMinorVerNum, types.lcid, types.syskind));
+void RemoveSharedKeys(const Registry& registry) {
+    for (const wchar_t* key : SharedKeys)
+        registry.RemoveIfEmpty(key);
 }
 
 }  // namespace
 
-HRESULT Register(Server& server) {
-    if (!WriteEntries(server)) {
-        RemoveEntries(server);
-        return SELFREG_E_CLASS;
+HRESULT Register(Server& server, Scope scope) {
+    const Registry registry(scope);
+    HRESULT result = S_OK;
+    if (!WriteAll(registry, ClassEntries(server))) {
+        result = SELFREG_E_CLASS;
+    } else if (!WriteAll(registry, InterfaceEntries(server)) ||
+               !WriteAll(registry, TypeLibraryEntries(server))) {
+        result = SELFREG_E_TYPELIB;
     }
-    if (!RegisterTypes(server)) {
-        Unregister(server);
-        return SELFREG_E_TYPELIB;
-    }
-    return S_OK;
+    if (FAILED(result)) Unregister(server, scope);
+    return result;
 }
 
-HRESULT Unregister(Server& server) {
-    const bool typesRemoved = UnregisterTypes(server);
-    if (!RemoveEntries(server)) return SELFREG_E_CLASS;
-    return typesRemoved ? S_OK : SELFREG_E_TYPELIB;
+HRESULT Unregister(Server& server, Scope scope) {
+    const Registry registry(scope);
+    const bool libraryRemoved = RemoveTypeLibrary(registry, server);
+    const bool interfacesRemoved = RemoveAll(registry, InterfaceEntries(server));
+    const bool classRemoved = RemoveAll(registry, ClassEntries(server));
+    if (scope == Scope::User) RemoveSharedKeys(registry);
+    if (!classRemoved) return SELFREG_E_CLASS;
+    return libraryRemoved && interfacesRemoved ? S_OK : SELFREG_E_TYPELIB;
+}
+
+HRESULT ScopeOf(const wchar_t* name, Scope& scope) {
+    scope = Scope::Machine;
+    if (name == nullptr || *name == L'\0') return S_OK;
+    if (lstrcmpiW(name, L"user") != 0) return E_INVALIDARG;
+    scope = Scope::User;
+    return S_OK;
 }
 
 }  // namespace tavrin::com

@@ -21,11 +21,11 @@ inline constexpr Color FaceHot = 0x383838;      ///< under the mouse
 inline constexpr Color FacePressed = 0x181818;  ///< held down
 inline constexpr Color Border = 0x5A5A5A;
 inline constexpr Color GridLine = 0x303030;
-inline constexpr Color Text = 0x9CE69C;  ///< labels, captions
-inline constexpr Color Value = Green;    ///< what the user may change or read off
-inline constexpr Color TextDisabled = 0x808080;
-inline constexpr Color Focus = Green;         ///< the frame around the focused control
-inline constexpr Color Selection = 0x005A00;  ///< selected cells
+inline constexpr Color Text = 0x9CE69C;          ///< labels, captions
+inline constexpr Color Value = Green;            ///< what the user may change or read off
+inline constexpr Color TextDisabled = 0x9A9A9A;  ///< legible on a button and on a selected row
+inline constexpr Color Focus = Green;            ///< the frame around the focused control
+inline constexpr Color Selection = 0x005A00;     ///< selected cells
 inline constexpr Color SelectionWithoutFocus = 0x003800;
 inline constexpr Color CurrentRow = 0x001E00;  ///< the rest of the current row
 }  // namespace scheme

@@ -89,10 +89,20 @@ void Form::Show() {
     const Desktop::DispatchScope scope(desktop_);
     Load();
     if (!loaded_ || unloading_) return;
-    if (!peer_) peer_ = desktop_.CreatePeer(*this);
+    if (!peer_) MakeWindow();
     visible_ = true;
     peer_->Changed(FormAspect::Visible);
     if (enabled_) peer_->Activate();
+}
+
+void Form::MakeWindow() {
+    try {
+        peer_ = desktop_.CreatePeer(*this);
+    } catch (...) {
+        // Loaded and out of sight it could never be closed, nor let its opener in again.
+        Unload();
+        throw;
+    }
 }
 
 void Form::Unload() {

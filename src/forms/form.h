@@ -52,7 +52,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     bool IsUnloading() const { return unloading_; }
     bool IsActive() const { return active_; }
     void Load();
-    /// Loads if need be, then shows and activates the window. Modeless, without an owner.
+    /// Loads if need be, then shows and activates the window. Modeless, without an owner. A form whose window
+    /// cannot be made is unloaded again. \throws what the platform reports then
     void Show();
     void Unload();
     /// Called once the window has unloaded, before it is let go.
@@ -116,6 +117,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   private:
     friend class Control;
     friend class Desktop;
+    void MakeWindow();
     void Focus(Control& control);
     void MoveFocus(Control& control);
     void FocusFirst();

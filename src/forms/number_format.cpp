@@ -1,7 +1,6 @@
 #include "forms/number_format.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace tavrin::forms {
 
@@ -19,12 +18,12 @@ bool IsDigits(std::string_view text) {
 
 /// Adds one unit in the last place. A carry out of the first place becomes a new "1" in front.
 void Increment(std::string& digits) {
-    for (char& digit : std::views::reverse(digits)) {
-        if (digit != '9') {
-            ++digit;
+    for (std::size_t place = digits.size(); place-- > 0;) {
+        if (digits[place] != '9') {
+            ++digits[place];
             return;
         }
-        digit = '0';
+        digits[place] = '0';
     }
     digits.insert(digits.begin(), '1');
 }

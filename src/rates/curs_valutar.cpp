@@ -262,21 +262,23 @@ void CursValutar::SelectDay(const std::string& dayMonthYear) {
 // The windows that the list opens. It is disabled while one is up; each enables it again when it closes.
 
 void CursValutar::OpenEntry(const std::string& mode) {
+    auto& window = module_.Default<CursValutarDetaliu>();
     SetEnabled(false);
-    module_.Default<CursValutarDetaliu>().ShowForm(currencyNames_, mode);
+    window.ShowForm(currencyNames_, mode);
 }
 
 void CursValutar::OpenCurrencyWindow(const std::string& mode) {
-    SetEnabled(false);
     auto& window = module_.Default<CereMoneda>();
+    SetEnabled(false);
     window.Mode = mode;
     window.Load();
     window.Show();
 }
 
 void CursValutar::OpenEvolution() {
+    auto& window = module_.Default<EvolutieCurs>();
     SetEnabled(false);
-    module_.Default<EvolutieCurs>().Show();
+    window.Show();
     Unload();
 }
 

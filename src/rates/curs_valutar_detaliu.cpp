@@ -63,6 +63,7 @@ void CursValutarDetaliu::PlaceControls() {
     DataCurs.SetAccessibleName(lblDescriere.Caption());
     top += layout::FieldHeight + layout::Gap;
     Grid.SetBounds({layout::Margin, top, GridWidth, GridHeight});
+    Grid.SetAccessibleName("Valoare Curs");
     top += GridHeight + layout::Gap;
 
     cmdAction[Accept].SetCaption("Accepta");

@@ -1,7 +1,7 @@
 #include "rates/evolutie_curs.h"
 
+#include <algorithm>
 #include <array>
-#include <charconv>
 #include <initializer_list>
 
 #include "data/connection.h"
@@ -22,6 +22,8 @@ constexpr std::array<const char*, 13> Periods = {
 constexpr int WholeYear = 12;
 constexpr int MonthsInYear = 12;
 constexpr int RowsBeforeDrawing = 31;
+/// No month has as many rows; a chart of more could not be read, nor perhaps be held.
+constexpr int MostChartRows = 100000;
 
 constexpr int NumberWidth = 500;
 constexpr int RateWidth = 1800;
@@ -55,14 +57,14 @@ EvolutieCurs::EvolutieCurs(shell::Module& module)
       Line1(*this, "Line1"),
       Line2(*this, "Line2"),
       Line3(*this, "Line3"),
-      fraGrafic(*this, "fraGrafic"),
-      MSChart1(fraGrafic, "MSChart1"),
       fraMesaj(*this, "fraMesaj"),
       lblMesaj1(fraMesaj, "lblMesaj1",
                 "ALEGETI ANUL - LUNA - MONEDA PENTRU CARE DORITI SA VIZUALIZATI EVOLUTIA CURSULUI"),
       lblMesaj2(fraMesaj, "lblMesaj2",
                 "PENTRU ANUL SI LUNA ALESE NU S-AU GASIT VALORI ALE CURSULUI IN BAZA DE DATE ! ALEGETI ALTE "
                 "VALORI !"),
+      fraGrafic(*this, "fraGrafic"),
+      MSChart1(fraGrafic, "MSChart1"),
       Grid(*this, "Grid"),
       module_(module),
       store_(module.context),
@@ -194,14 +196,14 @@ EvolutionChoice EvolutieCurs::Choice() const {
 // Drawing.
 
 void EvolutieCurs::CalculeazaLimite() {
-    const data::TablePtr limits = store_.Read(LimitsStatement(Choice()));
+    const data::TablePtr limits = store_.Read(LimitsStatement(Choice()), 2);
     minimum_ = limits ? RateOf(limits->At(0, 0)).value_or(0) : 0;
     maximum_ = limits ? RateOf(limits->At(0, 1)).value_or(0) : 0;
 }
 
 bool EvolutieCurs::DeseneazaGrafic() {
     MSChart1.SetRowCount(0);
-    const data::TablePtr table = store_.Read(EvolutionStatement(Choice()));
+    const data::TablePtr table = store_.Read(EvolutionStatement(Choice()), 2);
     if (!table) {
         MSChart1.SetRowCount(RowsBeforeDrawing);
         Grid.SetColumnAlignment(1, forms::Align::Right);
@@ -220,8 +222,10 @@ bool EvolutieCurs::DeseneazaGrafic() {
 int EvolutieCurs::CountChartRows() {
     const EvolutionChoice choice = Choice();
     if (!choice.month) return MonthsInYear;
-    return static_cast<int>(
-        data::ExecuteScalar(module_.context.Database(), CountDaysStatement(choice)).ToInteger());
+    const std::int64_t days =
+        data::ExecuteScalar(module_.context.Database(), CountDaysStatement(choice)).ToInteger();
+    if (days > MostChartRows) throw data::Error(data::error_number::Overflow, "Overflow");
+    return static_cast<int>(std::max<std::int64_t>(0, days));
 }
 
 void EvolutieCurs::FillChart(const data::Table& table) {

@@ -34,11 +34,11 @@ class EvolutieCurs : public forms::Form {
     forms::Line Line1;
     forms::Line Line2;
     forms::Line Line3;
-    forms::Frame fraGrafic;
-    forms::Chart MSChart1;
-    forms::Frame fraMesaj;
+    forms::Frame fraMesaj;  // before the chart's frame, at whose place it stands in front
     forms::Label lblMesaj1;
     forms::Label lblMesaj2;
+    forms::Frame fraGrafic;
+    forms::Chart MSChart1;
     forms::Grid Grid;
 
   protected:

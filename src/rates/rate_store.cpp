@@ -2,6 +2,7 @@
 
 #include "data/connection.h"
 #include "data/date.h"
+#include "data/error.h"
 #include "rates/rate_statements.h"
 
 namespace tavrin::rates {
@@ -26,11 +27,16 @@ CurrencyNames RateStore::DiscoverCurrencies() const {
     return currencies;
 }
 
-data::TablePtr RateStore::Read(std::string_view query) const {
+data::TablePtr RateStore::Read(std::string_view query, std::size_t fields) const {
     const auto rows = context_.Database().CreateRecordset();
     rows->Open(query);
     data::TablePtr table = rows->HasRows() ? rows->ReadAll() : nullptr;
     rows->Close();
+    // A provider may count rows that it then does not give.
+    if (table == nullptr || table->RowCount() == 0) return nullptr;
+    if (table->FieldCount() < fields)
+        throw data::Error(data::error_number::ItemNotFound,
+                          "The answer has fewer fields than were asked for.");
     return table;
 }
 

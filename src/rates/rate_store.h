@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -28,7 +29,9 @@ class RateStore {
     CurrencyNames DiscoverCurrencies() const;
 
     /// The rows of a display query, read at once; null when there are none.
-    data::TablePtr Read(std::string_view query) const;
+    /// \param fields how many fields of each row the caller will look at
+    /// \throws data::Error 3265 where the rows have fewer
+    data::TablePtr Read(std::string_view query, std::size_t fields = 1) const;
 
     /// The number of rows of a day.
     std::int64_t CountDay(data::OleDate day) const;

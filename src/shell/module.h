@@ -36,7 +36,6 @@ class Module {
 
     /// A new service object replaces the one that the window before had created.
     void CreateMessageService();
-    bool HasMessageService() const { return messageService_ != nullptr; }
 
     /// Shows a message through the current service; creates one where no window has done so yet.
     int ShowMessage(const std::string& prompt, int icon, int buttons, const std::string& title);

@@ -212,7 +212,8 @@ void Utilitati::cmdAction_MouseMove(int index, const forms::MouseInput& input) {
     // Only the caption that is lit already answers the pointer; a red one waits for the keyboard or a click.
     if (CaptionOf(index).ForeColor() == forms::Red) return;
     HighlightCaption(index);
-    cmdAction[index].SetFocus();
+    // A pointer that passes by does not take the keyboard away from the window that the user is typing in.
+    if (IsActive()) cmdAction[index].SetFocus();
 }
 
 // Keys of the window.

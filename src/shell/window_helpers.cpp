@@ -8,10 +8,6 @@ namespace {
 constexpr std::uint8_t DarkMode = 1;
 }
 
-void KeepOnTop(forms::Form& form) {
-    form.KeepOnTop();
-}
-
 void MoveByCaption(forms::Form& form) {
     form.DragByCaption();
 }

@@ -138,8 +138,12 @@ HRESULT AccessibleControl::accLocation(LONG* left, LONG* top, LONG* width, LONG*
     return Answer([&] {
         const auto node = Node(child);
         if (!node) return E_INVALIDARG;
-        RECT place = form_->PixelScale().ToPixels(node->bounds);
-        MapWindowPoints(window_, nullptr, reinterpret_cast<POINT*>(&place), 2);
+        // From the control's own corner: the window of an edit field stands inside the frame.
+        const forms::Rect& control = control_->Bounds();
+        const forms::Rect& part = node->bounds;
+        RECT place = form_->PixelScale().ToPixels(
+            {control.left + part.left, control.top + part.top, part.width, part.height});
+        MapWindowPoints(GetParent(window_), nullptr, reinterpret_cast<POINT*>(&place), 2);
         *left = place.left;
         *top = place.top;
         *width = Width(place);

@@ -6,6 +6,7 @@
 #include "win32/control_window.h"
 #include "win32/dpi.h"
 #include "win32/form_style.h"
+#include "win32/monitors.h"
 #include "win32/mouse_message.h"
 #include "win32/peer_factory.h"
 #include "win32/reflection.h"
@@ -155,6 +156,7 @@ LRESULT FormPeer::HandleMessage(const Message& message) {
         {WM_DESTROY, &FormPeer::OnDestroy},
         {WM_MOVE, &FormPeer::OnMove},
         {WM_DPICHANGED, &FormPeer::OnDpiChanged},
+        {WM_DISPLAYCHANGE, &FormPeer::OnDisplayChange},
         {WM_PAINT, &FormPeer::OnPaint},
         {WM_PRINTCLIENT, &FormPeer::OnPaint},
         {WM_ERASEBKGND, &FormPeer::OnEraseBackground},
@@ -218,6 +220,16 @@ LRESULT FormPeer::OnDpiChanged(const Message& message) {
     }
     Changed(forms::FormAspect::Look);
     return 0;
+}
+
+/// A monitor may have gone, and this window with it.
+LRESULT FormPeer::OnDisplayChange(const Message& message) {
+    RECT outer{};
+    GetWindowRect(Handle(), &outer);
+    const POINT place = ReachablePlace(outer);
+    if (place.x != outer.left || place.y != outer.top)
+        SetWindowPos(Handle(), nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return CallDefault(message);
 }
 
 LRESULT FormPeer::OnPaint(const Message& message) {

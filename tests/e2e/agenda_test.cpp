@@ -67,7 +67,7 @@ class AgendaTest : public HostTest {
     void ClickBox(int box) {
         constexpr int Apart = 9;
         const RECT place = Box(box).ScreenBounds();
-        ClickAt({place.left + Apart * (1 + clicks++ % Apart), (place.top + place.bottom) / 2});
+        ClickAt({place.left + Apart * (1 + clicks_++ % Apart), (place.top + place.bottom) / 2});
         ASSERT_TRUE(AwaitFocus("TextBoxes(" + std::to_string(box) + ")"));
     }
 
@@ -99,7 +99,7 @@ class AgendaTest : public HostTest {
         EXPECT_EQ(message.Prompt(), prompt);
         EXPECT_EQ(message.Title(), title);
         EXPECT_EQ(message.Icon(), icon);
-        EXPECT_TRUE(message.IsInFront());
+        EXPECT_TRUE(message.ComesToFront());
         message.Press(answer);
     }
 
@@ -115,7 +115,7 @@ class AgendaTest : public HostTest {
     Window window;
 
   private:
-    int clicks = 0;
+    int clicks_ = 0;
 };
 
 // The list.

@@ -25,7 +25,7 @@ class BadConnectionTest : public HostTest {
         EXPECT_EQ(report.Title(), "Eroare");
         EXPECT_THAT(report.Prompt(), prompt);
         EXPECT_EQ(report.Icon(), MessageIcon::Error);
-        EXPECT_TRUE(report.IsInFront());
+        EXPECT_TRUE(report.ComesToFront());
         report.Press(IDOK);
     }
 

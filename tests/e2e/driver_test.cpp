@@ -52,6 +52,7 @@ class DriverTest : public testing::Test {
     void Open() {
         thread.Call([&] { sample.emplace(); });
         AwaitForm("Sample");
+        thread.Settle();
     }
     void TearDown() override {
         thread.Call([&] { sample.reset(); });
@@ -87,8 +88,11 @@ TEST_F(DriverTest, AClickOnACoveredWindowIsRefused) {
     Open();
     const Window form = AwaitForm("Sample");
     const HWND cover = thread.Call([&] {
-        return CreateWindowExW(WS_EX_TOPMOST, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 800, 800, nullptr,
-                               nullptr, nullptr, nullptr);
+        const HWND window =
+            CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+        // A form that lost the focus to it would come to the front again.
+        SetWindowPos(window, HWND_TOPMOST, 0, 0, 800, 800, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+        return window;
     });
     EXPECT_THROW(Click(form.Control("txtField(1)")), DriverError);
     thread.Call([&] { DestroyWindow(cover); });

@@ -2,6 +2,7 @@
 //
 // Tests Tavrin.dll from the outside. The DLL is taken from --dll, else from the environment's TAVRIN_DLL,
 // else from the root of the build folder that this program lies in. The screen is saved where a test fails.
+// Under Wine all tests together are too many for one process: ./test deals them with GTEST_TOTAL_SHARDS.
 
 #include <windows.h>
 

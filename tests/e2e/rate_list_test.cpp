@@ -100,7 +100,7 @@ class RateListTest : public HostTest {
         EXPECT_EQ(message.Title(), "Curs Valutar");
         EXPECT_EQ(message.Icon(), icon);
         EXPECT_EQ(message.Buttons(), buttons);
-        EXPECT_TRUE(message.IsInFront());
+        EXPECT_TRUE(message.ComesToFront());
         message.Press(answer);
     }
 

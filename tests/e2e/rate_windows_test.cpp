@@ -48,7 +48,7 @@ class RateWindowsTest : public HostTest {
         EXPECT_EQ(WithPlainLineBreaks(message.Prompt()), WithPlainLineBreaks(prompt));
         EXPECT_EQ(message.Title(), title);
         EXPECT_EQ(message.Icon(), icon);
-        EXPECT_TRUE(message.IsInFront());
+        EXPECT_TRUE(message.ComesToFront());
         message.Press(IDOK);
     }
 

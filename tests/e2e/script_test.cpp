@@ -18,12 +18,12 @@ constexpr const char* Prologue =
     "Set utile = CreateObject(\"Tavrin.Utile\")\n"
     "Set cnn = New Conexiune\n";
 
-ScriptResult CallFromScript(const std::string& statements) {
+ProcessResult CallFromScript(const std::string& statements) {
     return RunScript(Prologue + statements);
 }
 
 TEST(ScriptTest, CallsWithLiteralsAndVariables) {
-    const ScriptResult result = CallFromScript(
+    const ProcessResult result = CallFromScript(
         "utile.Apel cnn, #6/16/2003#, 2003, 2\n"
         "workDay = DateSerial(2003, 5, 20)\n"
         "workYear = 2003\n"
@@ -36,7 +36,7 @@ TEST(ScriptTest, CallsWithLiteralsAndVariables) {
 }
 
 TEST(ScriptTest, CallsWithNothingForTheConnection) {
-    const ScriptResult result = CallFromScript(
+    const ProcessResult result = CallFromScript(
         "utile.Apel Nothing, #6/16/2003#, 2003, 2\n"
         "Set cnn = Nothing\n"
         "utile.Apel cnn, #6/16/2003#, 2003, 2\n"
@@ -45,7 +45,7 @@ TEST(ScriptTest, CallsWithNothingForTheConnection) {
 }
 
 TEST(ScriptTest, ConvertsTextsAndNumbers) {
-    const ScriptResult result = CallFromScript(
+    const ProcessResult result = CallFromScript(
         "utile.Apel cnn, \"2003-06-16\", \"2003\", 2.0\n"
         "utile.Apel cnn, CDbl(37788), CLng(2003), CInt(2)\n"
         "WScript.Echo \"called\"\n");
@@ -53,7 +53,7 @@ TEST(ScriptTest, ConvertsTextsAndNumbers) {
 }
 
 TEST(ScriptTest, ErrorsAreTheStandardOnes) {
-    const ScriptResult result = CallFromScript(
+    const ProcessResult result = CallFromScript(
         "On Error Resume Next\n"
         "utile.Apel cnn, #6/16/2003#, 2003\n"
         "Report \"count\"\n"

@@ -34,6 +34,7 @@ HeadlessDesktop::~HeadlessDesktop() {
 }
 
 std::unique_ptr<forms::FormPeer> HeadlessDesktop::CreatePeer(forms::Form& form) {
+    if (whenCreating) whenCreating();
     return std::make_unique<Window>(*this, form);
 }
 

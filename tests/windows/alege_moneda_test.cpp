@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "calculator_fixture.h"
+#include "data/error.h"
 
 namespace tavrin::tests {
 namespace {
@@ -69,6 +70,15 @@ TEST_F(AlegeMonedaTest, AsksForTheRatesOfItsCodeFirstAndAgainWithTheCurrenciesOn
     EXPECT_THAT(connection->Log(), ElementsAre("Open: " + dollars, "ReadAll: " + dollars, "Close: " + dollars,
                                                "Open: " + columns, "Close: " + columns, "Open: " + dollars,
                                                "ReadAll: " + dollars, "Close: " + dollars));
+}
+
+TEST_F(AlegeMonedaTest, WhereItsWindowCannotBeMadeItsCallerIsEnabledAgain) {
+    Open();
+    desktop.whenCreating = [] { throw data::Error(8, "Not enough storage"); };
+    Calculator()->cmdVal.Click();
+    EXPECT_THAT(ReportedErrors(), ElementsAre(8));
+    EXPECT_EQ(Chooser(), nullptr);
+    EXPECT_TRUE(Calculator()->Enabled());
 }
 
 TEST_F(AlegeMonedaTest, ListsTheColumnsFromTheThirdOn) {

@@ -335,6 +335,18 @@ TEST_F(CursValutarTest, TheEvolutionWindowTakesTheListsPlace) {
 
 // Closing.
 
+TEST_F(CursValutarTest, IsEnabledAgainWhereTheOtherWindowCannotBeMade) {
+    CursValutar& list = OpenList();
+    desktop.whenCreating = [] { throw data::Error(8, "Not enough storage"); };
+    for (const auto action : {CursValutar::AddDay, CursValutar::AddCurrency, CursValutar::ShowEvolution}) {
+        desktop.reports.clear();
+        list.cmdAction[action].Click();
+        EXPECT_EQ(desktop.reports.size(), 1U) << action;
+        EXPECT_TRUE(list.Enabled()) << action;
+        EXPECT_EQ(desktop.Forms().size(), 1U) << action;
+    }
+}
+
 TEST_F(CursValutarTest, ClosingRaisesTheExitEventOnce) {
     OpenList().cmdAction[6].Click();
     EXPECT_EQ(module.Loaded<CursValutar>(), nullptr);

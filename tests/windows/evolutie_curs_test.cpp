@@ -2,7 +2,10 @@
 
 #include <gmock/gmock.h>
 
+#include "data/error.h"
+#include "support/pass_through_recordset.h"
 #include "support/rates_test.h"
+#include "support/scripted_connection.h"
 
 namespace tavrin::tests {
 namespace {
@@ -257,6 +260,56 @@ TEST_F(EvolutieCursTest, AFailingStatementIsReportedAndTheWindowGoesOn) {
         EXPECT_TRUE(window.MSChart1.Visible());
         window.Unload();
     }
+}
+
+/// Gives one row of that many fields, or none of no fields, whatever it counts.
+class LesserRows : public PassThroughRecordset {
+  public:
+    LesserRows(std::unique_ptr<data::Recordset> rows, std::size_t fields)
+        : PassThroughRecordset(std::move(rows)), fields_(fields) {}
+    data::TablePtr ReadAll() override {
+        auto lesser = std::make_shared<data::MemoryTable>(std::vector<std::string>(fields_, "F"));
+        if (fields_ > 0) lesser->AddRow(data::MemoryTable::Row(fields_, std::string("2003")));
+        return lesser;
+    }
+
+  private:
+    std::size_t fields_;
+};
+
+std::shared_ptr<data::Connection> WithLesserRows(data::Connection& underlying, std::size_t fields) {
+    return std::make_shared<PassThroughConnection>(
+        underlying, [fields](auto rows) { return std::make_unique<LesserRows>(std::move(rows), fields); });
+}
+
+TEST_F(EvolutieCursTest, RowsThatTheProviderCountsButDoesNotGiveAreNoRows) {
+    EvolutieCurs& window = OpenAndDraw(5);
+    module.context.connection = WithLesserRows(*connection, 0);
+    window.cmdAction[1].Click();
+    EXPECT_TRUE(window.lblMesaj2.Visible());
+    EXPECT_THAT(desktop.reports, IsEmpty());
+}
+
+TEST_F(EvolutieCursTest, AnAnswerThatLacksFieldsIsReported) {
+    EvolutieCurs& window = OpenAndDraw(5);
+    module.context.connection = WithLesserRows(*connection, 1);
+    window.cmdAction[1].Click();
+    ASSERT_EQ(desktop.reports.size(), 1U);
+    EXPECT_EQ(desktop.reports[0].number, data::error_number::ItemNotFound);
+}
+
+TEST_F(EvolutieCursTest, ACountThatNoMonthCanHaveIsAnOverflow) {
+    auto script = std::make_shared<ScriptedConnection>();
+    const rates::EvolutionChoice choice{"2003", 5, "EUR"};
+    EvolutieCurs& window = OpenAndDraw(5);
+    script->AnswerRows(rates::EvolutionStatement(choice), {"Data", "Curs valutar"},
+                       {{std::int64_t{8}, 37100.0}});
+    script->AnswerRows(rates::LimitsStatement(choice), {"Minim", "Maxim"}, {{37100.0, 37100.0}});
+    script->AnswerRows(rates::CountDaysStatement(choice), {""}, {{std::int64_t{3'000'000'000}}});
+    module.context.connection = script;
+    window.cmdAction[1].Click();
+    ASSERT_EQ(desktop.reports.size(), 1U);
+    EXPECT_EQ(desktop.reports[0].number, data::error_number::Overflow);
 }
 
 TEST_F(EvolutieCursTest, ATableWithoutCurrenciesOpensAllTheSame) {

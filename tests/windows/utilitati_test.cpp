@@ -259,6 +259,14 @@ TEST_F(UtilitatiTest, ThePointerLightsACaptionOfAnyColorButRed) {
     EXPECT_THAT(CaptionColors(palette), ElementsAre(Red, Red, Green, Red));
 }
 
+TEST_F(UtilitatiTest, ThePointerTakesNoFocusFromAnotherWindow) {
+    Utilitati& palette = Open();
+    const forms::Form& other = OpenPlain("CursValutar");
+    palette.cmdAction[0].HandleMouseMove({MouseButton::None, {10, 10}, {}});
+    EXPECT_EQ(desktop.ActiveForm(), &other);
+    EXPECT_FALSE(palette.IsActive());
+}
+
 TEST_F(UtilitatiTest, ThePointerWithAButtonHeldChangesNothing) {
     Utilitati& palette = OpenAsApelDoes();
     palette.cmdAction[0].HandleMouseMove({MouseButton::Left, {10, 10}, {}});

@@ -33,6 +33,8 @@ AccessibleFacts ReadFacts(IAccessible& object, int part) {
     AccessibleFacts facts;
     facts.name = ReadText(object, part, &IAccessible::get_accName);
     facts.value = ReadText(object, part, &IAccessible::get_accValue);
+    facts.shortcut = ReadText(object, part, &IAccessible::get_accKeyboardShortcut);
+    facts.defaultAction = ReadText(object, part, &IAccessible::get_accDefaultAction);
     Variant role, state;
     if (FAILED(object.get_accRole(Part(part), role.Receive())) ||
         FAILED(object.get_accState(Part(part), state.Receive()))) {

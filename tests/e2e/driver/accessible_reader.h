@@ -17,6 +17,8 @@ namespace tavrin::e2e {
 struct AccessibleFacts {
     std::string name;
     std::string value;
+    std::string shortcut;
+    std::string defaultAction;
     long role = 0;   ///< ROLE_SYSTEM_...
     long state = 0;  ///< STATE_SYSTEM_... flags
     RECT place{};    ///< pixels of the screen

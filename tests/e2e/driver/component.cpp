@@ -31,6 +31,11 @@ HRESULT Component::GetClassObject(REFCLSID classId, REFIID interfaceId, void** o
         classId, interfaceId, object);
 }
 
+HRESULT Component::Install(BOOL install, const wchar_t* forWhom) const {
+    using Function = HRESULT STDAPICALLTYPE(BOOL, LPCWSTR);
+    return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(Export("DllInstall")))(install, forWhom);
+}
+
 HRESULT Component::Call(const char* name) const {
     using Function = HRESULT STDAPICALLTYPE();
     return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(Export(name)))();

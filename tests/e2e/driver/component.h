@@ -26,6 +26,8 @@ class Component {
 
     HRESULT Register() const { return Call("DllRegisterServer"); }
     HRESULT Unregister() const { return Call("DllUnregisterServer"); }
+    /// What an installer calls: "user" registers for the user alone.
+    HRESULT Install(BOOL install, const wchar_t* forWhom) const;
     HRESULT CanUnloadNow() const { return Call("DllCanUnloadNow"); }
     HRESULT GetClassObject(REFCLSID classId, REFIID interfaceId, void** object) const;
 

@@ -8,6 +8,9 @@ namespace tavrin::e2e {
 
 namespace {
 
+constexpr unsigned long TimeToUncover =
+    2000;  ///< milliseconds until a window that comes to the front is there
+
 enum class Stroke { Down, Up };
 
 bool IsExtended(WORD key) {
@@ -48,6 +51,18 @@ void Send(std::vector<INPUT> inputs) {
     if (sent != inputs.size()) throw DriverError("the system took no input");
 }
 
+/// Moves the pointer and waits until the windows' threads know. The display tells them in its own time of
+/// where the pointer has been put; a button pressed before that would go down at the place before.
+void Point(POINT place) {
+    constexpr int RoundTrips = 3;  // a display that serves several clients has then come round to each
+    Send({MoveInput(place)});
+    const HDC screen = GetDC(nullptr);
+    for (int trip = 0; trip < RoundTrips; ++trip)
+        GetPixel(screen, 0, 0);
+    ReleaseDC(nullptr, screen);
+    UiThread::SettleAll();
+}
+
 }  // namespace
 
 void PressKey(WORD key, std::initializer_list<WORD> held) {
@@ -84,7 +99,7 @@ void TypeUnicode(std::wstring_view text) {
 }
 
 void MovePointer(POINT place) {
-    Send({MoveInput(place)});
+    Point(place);
 }
 
 POINT PointerPlace() {
@@ -95,14 +110,21 @@ POINT PointerPlace() {
 
 void ClickAt(POINT place, Button button) {
     const bool left = button == Button::Left;
-    Send({MoveInput(place), MouseInput(left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN),
+    Point(place);
+    Send({MouseInput(left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN),
           MouseInput(left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP)});
 }
 
 void Click(const Window& target, Button button) {
     const POINT place = target.Center();
-    const HWND hit = WindowFromPoint(place);
-    if (hit != target.Handle() && !IsChild(target.Handle(), hit)) {
+    HWND hit = nullptr;
+    const bool isFree = WaitUntil(
+        [&] {
+            hit = WindowFromPoint(place);
+            return hit == target.Handle() || IsChild(target.Handle(), hit) != FALSE;
+        },
+        TimeToUncover);
+    if (!isFree) {
         throw DriverError(target.Name() + " is covered by " + Window(hit).ClassName() + " " +
                           Window(hit).Name());
     }
@@ -111,16 +133,13 @@ void Click(const Window& target, Button button) {
 
 void Drag(UiThread& thread, POINT from, POINT to) {
     constexpr int Steps = 4;
-    const auto send = [&](const INPUT& input) {
-        Send({input});
-        thread.Settle();
-    };
-    send(MoveInput(from));
-    send(MouseInput(MOUSEEVENTF_LEFTDOWN));
-    for (int step = 1; step <= Steps; ++step) {
-        send(MoveInput({from.x + (to.x - from.x) * step / Steps, from.y + (to.y - from.y) * step / Steps}));
-    }
-    send(MouseInput(MOUSEEVENTF_LEFTUP));
+    Point(from);
+    Send({MouseInput(MOUSEEVENTF_LEFTDOWN)});
+    thread.Settle();
+    for (int step = 1; step <= Steps; ++step)
+        Point({from.x + (to.x - from.x) * step / Steps, from.y + (to.y - from.y) * step / Steps});
+    Send({MouseInput(MOUSEEVENTF_LEFTUP)});
+    thread.Settle();
 }
 
 }  // namespace tavrin::e2e

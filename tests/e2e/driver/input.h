@@ -10,8 +10,9 @@
 
 namespace tavrin::e2e {
 
-// What a user does with keyboard and mouse, put into the system's input queue. Unless
-// said otherwise they return at once; the effect is to be waited for. Places are pixels of the screen.
+// What a user does with keyboard and mouse, put into the system's input queue. Unless said otherwise they
+// return at once; the effect is to be waited for. What moves the pointer first waits until it has arrived.
+// Places are pixels of the screen.
 
 /// Presses and releases a key by its virtual-key code, the given ones held.
 void PressKey(WORD key, std::initializer_list<WORD> held = {});
@@ -26,7 +27,8 @@ enum class Button { Left, Right };
 
 void MovePointer(POINT place);
 POINT PointerPlace();
-/// \throws DriverError when another window covers the place: the click would not arrive.
+/// Waits until nothing covers the place: else the click would not arrive. \throws DriverError when something
+/// stays
 void Click(const Window& target, Button button = Button::Left);
 void ClickAt(POINT place, Button button = Button::Left);
 /// Presses the left button, moves in a few steps and lets go. Waits after each step until the thread has

@@ -1,6 +1,5 @@
 #include "e2e/driver/resource_count.h"
 
-#include <psapi.h>
 #include <winternl.h>
 
 #include <array>
@@ -167,11 +166,13 @@ int KillThreadTimers(UiThread& thread) {
 }
 
 std::size_t PrivateBytes() {
-    PROCESS_MEMORY_COUNTERS_EX counters{};
-    counters.cb = sizeof counters;
-    GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),
-                         sizeof counters);
-    return counters.PrivateUsage;
+    std::size_t bytes = 0;
+    MEMORY_BASIC_INFORMATION region{};
+    for (const char* place = nullptr; VirtualQuery(place, &region, sizeof region) != 0;
+         place = static_cast<const char*>(region.BaseAddress) + region.RegionSize) {
+        if (region.State == MEM_COMMIT && region.Type == MEM_PRIVATE) bytes += region.RegionSize;
+    }
+    return bytes;
 }
 
 std::size_t HeapBytes() {

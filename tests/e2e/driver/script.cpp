@@ -2,7 +2,6 @@
 
 #include <windows.h>
 
-#include <array>
 #include <fstream>
 
 #include "e2e/driver/wait.h"
@@ -12,87 +11,19 @@ namespace tavrin::e2e {
 
 namespace {
 
-constexpr DWORD LongestRun = 30000;
-
-class OwnedHandle {
-  public:
-    ~OwnedHandle() { Close(); }
-    OwnedHandle() = default;
-    OwnedHandle(const OwnedHandle&) = delete;
-    OwnedHandle& operator=(const OwnedHandle&) = delete;
-
-    HANDLE Get() const { return handle_; }
-    HANDLE* Receive() { return &handle_; }
-    void Close() {
-        if (handle_ != nullptr) CloseHandle(handle_);
-        handle_ = nullptr;
-    }
-
-  private:
-    HANDLE handle_ = nullptr;
-};
-
-std::wstring TemporaryPath(const wchar_t* name) {
-    std::array<wchar_t, MAX_PATH> folder{};
-    GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());
-    return std::wstring(folder.data()) + name;
-}
-
 void WriteFile(const std::wstring& path, const std::string& text) {
     std::ofstream file(win32::ToUtf8(path), std::ios::binary);
     file << text;
     if (!file.flush()) throw DriverError("cannot write " + win32::ToUtf8(path));
 }
 
-void OpenOutput(const std::wstring& path, OwnedHandle& file) {
-    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-    *file.Receive() =
-        CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
-}
-
-std::string ReadFile(const std::wstring& path) {
-    std::ifstream file(win32::ToUtf8(path), std::ios::binary);
-    std::string text{std::istreambuf_iterator<char>(file), {}};
-    std::erase(text, '\r');
-    return text;
-}
-
-DWORD RunProcess(std::wstring command, HANDLE output) {
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdOutput = startup.hStdError = output;
-    PROCESS_INFORMATION process{};
-    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
-                        &process)) {
-        throw DriverError("cannot start " + win32::ToUtf8(command));
-    }
-    OwnedHandle handle, thread;
-    *handle.Receive() = process.hProcess;
-    *thread.Receive() = process.hThread;
-    if (WaitForSingleObject(process.hProcess, LongestRun) != WAIT_OBJECT_0) {
-        TerminateProcess(process.hProcess, 1);
-        throw DriverError("the script does not end");
-    }
-    DWORD code = 0;
-    GetExitCodeProcess(process.hProcess, &code);
-    return code;
-}
-
 }  // namespace
 
-ScriptResult RunScript(const std::string& text) {
+ProcessResult RunScript(const std::string& text) {
     const std::wstring script = TemporaryPath(L"tavrin_e2e.vbs");
-    const std::wstring outputPath = TemporaryPath(L"tavrin_e2e.txt");
     WriteFile(script, text);
-    OwnedHandle output;
-    OpenOutput(outputPath, output);
-    ScriptResult result;
-    result.exitCode = RunProcess(L"cscript.exe //nologo \"" + script + L"\"", output.Get());
-    output.Close();
-    result.output = ReadFile(outputPath);
+    ProcessResult result = RunProcess(L"cscript.exe //nologo \"" + script + L"\"");
     DeleteFileW(script.c_str());
-    DeleteFileW(outputPath.c_str());
     return result;
 }
 

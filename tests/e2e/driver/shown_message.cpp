@@ -42,6 +42,10 @@ ShownMessage ShownMessage::Await() {
     return *Find();
 }
 
+bool ShownMessage::ComesToFront() const {
+    return WaitUntil([&] { return IsInFront(); });
+}
+
 std::string ShownMessage::Prompt() const {
     return Window(GetDlgItem(window_.Handle(), PromptId)).Text();
 }

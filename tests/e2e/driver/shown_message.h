@@ -26,6 +26,8 @@ class ShownMessage {
     std::vector<int> Buttons() const;  ///< IDOK, IDYES, ... in the order of their places
     /// Whether no window of this process stands above it.
     bool IsInFront() const { return TopLevelWindows().front() == window_; }
+    /// Waits for that.
+    bool ComesToFront() const;
 
     /// Clicks a button with the mouse and waits until the message has gone.
     void Press(int button) const;

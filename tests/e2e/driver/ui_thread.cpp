@@ -3,6 +3,7 @@
 #include <ole2.h>
 
 #include <cstdio>
+#include <vector>
 
 #include "e2e/driver/screen.h"
 #include "e2e/driver/wait.h"
@@ -13,6 +14,12 @@ namespace {
 
 constexpr UINT RunTask = WM_APP;
 constexpr DWORD Unanswered = 30000;
+
+/// The threads that run now. Only the test's own thread starts and ends them.
+std::vector<UiThread*>& Running() {
+    static std::vector<UiThread*> threads;
+    return threads;
+}
 
 class Event {
   public:
@@ -54,9 +61,11 @@ UiThread::UiThread(LoopKind kind) {
     const Event ready;
     thread_ = std::thread([this, kind, &ready] { Run(kind, ready.Get()); });
     if (!ready.Wait()) GiveUp();
+    Running().push_back(this);
 }
 
 UiThread::~UiThread() {
+    std::erase(Running(), this);
     PostThreadMessageW(id_, WM_QUIT, 0, 0);
     thread_.join();
 }
@@ -102,6 +111,11 @@ void UiThread::Execute(const std::function<void()>& function) {
 void UiThread::Settle() {
     const auto isIdle = [] { return HIWORD(GetQueueStatus(QS_INPUT | QS_POSTMESSAGE | QS_PAINT)) == 0; };
     Require("the host's thread to come to rest", [&] { return Call(isIdle); });
+}
+
+void UiThread::SettleAll() {
+    for (UiThread* thread : Running())
+        thread->Settle();
 }
 
 }  // namespace tavrin::e2e

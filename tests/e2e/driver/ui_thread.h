@@ -44,6 +44,8 @@ class UiThread {
 
     /// Waits until the thread has dealt with all input and messages that it has been sent, and has painted.
     void Settle();
+    /// Waits so for every thread there is.
+    static void SettleAll();
 
   private:
     struct Task;

@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "data/error.h"
+#include "support/pass_through_recordset.h"
 #include "support/recording_connection.h"
 
 namespace tavrin::addressbook {
@@ -92,6 +93,23 @@ TEST_F(PersonListTest, ARowBeyondTheLastIsTheLast) {
     EXPECT_EQ(list.Current()[PrenumeColumn], "Dan");
 }
 
+class UncountedRows : public tests::PassThroughRecordset {
+  public:
+    using PassThroughRecordset::PassThroughRecordset;
+    std::int64_t RecordCount() const override { return -1; }
+};
+
+TEST_F(PersonListTest, AProviderThatDoesNotCountIsWalkedAllTheSame) {
+    tests::PassThroughConnection uncounted(
+        connection, [](auto rows) { return std::make_unique<UncountedRows>(std::move(rows)); });
+    list.Create(uncounted);
+    list.Load(Everybody);
+    for (const auto& [row, prenume] : {std::pair{1, "Dan"}, {2, "Ana"}, {3, "Ion"}, {0, "Dan"}}) {
+        list.MoveTo(row);
+        EXPECT_EQ(list.Current()[PrenumeColumn], prenume) << row;
+    }
+}
+
 TEST_F(PersonListTest, AnEmptyListHasNoRowToMoveTo) {
     list.Create(connection);
     list.Load(Nobody);
@@ -129,6 +147,11 @@ TEST(FindPerson, ComparesTrimmedNamesExactly) {
     EXPECT_EQ(addressbook::FindPerson(persons, "  Pop", "Ion "), 3) << "the first of several";
     EXPECT_EQ(addressbook::FindPerson(persons, "pop", "Ana"), 0);
     EXPECT_EQ(addressbook::FindPerson(persons, "Ana", "Pop"), 0);
+}
+
+TEST(FindPerson, FindsNobodyWhereNamesAreMissing) {
+    const data::MemoryTable persons({"Nume"}, {{std::string("Pop")}});
+    EXPECT_EQ(addressbook::FindPerson(persons, "Pop", ""), 0);
 }
 
 }  // namespace

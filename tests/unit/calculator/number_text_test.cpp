@@ -64,6 +64,13 @@ TEST(ReadNumber, ReadsTextsThatAreNoNumberAsFarAsTheyGo) {
     EXPECT_EQ(ReadNumber("-,5", ","), -0.5);
     EXPECT_EQ(ReadNumber("1,5,7", ","), 1.5);
     EXPECT_EQ(ReadNumber(",", ","), 0);
+    EXPECT_EQ(ReadNumber("12abc", ","), 12);
+    EXPECT_FALSE(std::signbit(ReadNumber("-00000000000000000000,0", ",")));
+}
+
+TEST(ReadNumber, WordsAreNoNumbers) {
+    for (const char* word : {"nan", "NaN", "-nan", "nAn(1)x", "inf", "-infinity", "abc"})
+        EXPECT_EQ(ReadNumber(word, ","), 0) << word;
 }
 
 TEST(NumberText, ReadsBackWhatItWrites) {

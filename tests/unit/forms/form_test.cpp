@@ -121,6 +121,17 @@ TEST_F(FormTest, UnloadingRaisesUnloadOnceAndLeavesTheList) {
     EXPECT_EQ(desktop.ActiveForm(), nullptr);
 }
 
+TEST_F(FormTest, AFormWhoseWindowCannotBeMadeIsUnloaded) {
+    const auto form = Make();
+    desktop.whenCreating = [] { throw data::Error(8, "Not enough storage"); };
+    EXPECT_THROW(form->Show(), data::Error);
+    EXPECT_THAT(events, ElementsAre("load", "unload"));
+    EXPECT_THAT(desktop.Forms(), IsEmpty());
+    desktop.whenCreating = nullptr;
+    form->Show();
+    EXPECT_TRUE(form->Visible());
+}
+
 TEST_F(FormTest, AnUnloadedFormLivesUntilItsHandlerHasEnded) {
     std::weak_ptr<ProbeForm> watched;
     {

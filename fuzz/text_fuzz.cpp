@@ -1,0 +1,130 @@
+// Feeds random texts and numbers to everything that reads or writes dates and numbers, and stops where what
+// was written does not read back, or where something but a runtime error comes out.
+
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+#include <string>
+#include <string_view>
+
+#include "calculator/number_text.h"
+#include "data/date.h"
+#include "data/error.h"
+#include "data/value.h"
+#include "forms/date_format.h"
+#include "forms/grouped_number.h"
+#include "forms/number_format.h"
+#include "forms/utf8.h"
+#include "host/embedded/dialect/date_literal.h"
+#include "host/embedded/money_text.h"
+#include "host/embedded/text_rules.h"
+#include "rates/rate_text.h"
+
+namespace {
+
+using namespace tavrin;
+
+void Demand(bool right, const char* what, std::string_view text) {
+    if (right) return;
+    std::cerr << what << ": \"" << text << "\"\n";
+    std::abort();
+}
+
+template <class Call>
+void MayRefuse(Call call) {
+    try {
+        call();
+    } catch (const data::Error&) {
+        // In a runtime's or provider's terms: that is right.
+    }
+}
+
+void ReadDates(const std::string& text) {
+    if (const auto day = data::ParseDayMonthYear(text))
+        Demand(data::ParseDayMonthYear(data::FormatDayMonthYear(*day)) == day, "dd/mm/yyyy", text);
+    if (const auto day = data::ParseYearMonthDay(text))
+        Demand(data::ParseYearMonthDay(data::FormatYearMonthDay(*day)) == day, "yyyy-mm-dd", text);
+    const data::Value value(text);
+    MayRefuse([&] { static_cast<void>(value.ToDate()); });
+    for (const auto type : {host::dialect::TypeKind::DateTime, host::dialect::TypeKind::SmallDateTime})
+        MayRefuse([&] { static_cast<void>(host::dialect::ParseDateLiteral(text, type)); });
+    for (const forms::DatePiece& piece : forms::ParseDateFormat(text))
+        static_cast<void>(piece.Text({2003, 5, 20}, forms::Locale()));
+}
+
+void ReadNumbers(const std::string& text) {
+    const data::Value value(text);
+    MayRefuse([&] {
+        const double number = value.ToDouble();
+        Demand(data::Value(data::ShortestDecimal(number)).ToDouble() == number, "number", text);
+    });
+    MayRefuse([&] { static_cast<void>(value.ToInteger()); });
+    for (const char* separator : {",", "."}) {
+        forms::Locale locale;
+        locale.decimalSeparator = separator;
+        locale.thousandsSeparator = *separator == ',' ? "." : ",";
+        MayRefuse([&] { static_cast<void>(rates::NumberOfRateText(text, locale)); });
+        const double number = calculator::ReadNumber(text, separator);
+        Demand(!std::isnan(number), "no number", text);
+    }
+    for (const int decimals : {0, 2, 6})
+        static_cast<void>(forms::FormatNumber(text, {.decimals = decimals, .leadingZero = true}));
+}
+
+void ReadTexts(const std::string& text) {
+    const std::string folded = host::FoldCase(text);
+    Demand(host::FoldCase(folded) == folded, "folded twice", text);
+    Demand(host::CompareText(text, folded) == 0, "compared with its folded form", text);
+    const std::size_t units = host::Utf16Length(text);
+    Demand(host::Utf16Prefix(text, units) == text, "its own prefix", text);
+    Demand(host::Utf16Length(host::Utf16Prefix(text, units / 2)) <= units / 2, "half", text);
+    Demand(forms::CountCharacters(text) >= 0, "characters", text);
+    const std::size_t half = text.size() / 2;
+    const std::string left = text.substr(0, half);
+    const std::string right = text.substr(half);
+    const auto sign = [](int number) { return number < 0 ? -1 : number > 0 ? 1 : 0; };
+    Demand(sign(host::CompareText(left, right)) == -sign(host::CompareText(right, left)), "order", text);
+    static_cast<void>(host::LikeMatches(left, right));
+    Demand(host::LikeMatches(left, "%"), "any text", text);
+}
+
+void WriteNumbers(double number) {
+    std::string text;
+    if (std::isfinite(number)) {
+        Demand(data::Value(data::ShortestDecimal(number)).ToDouble() == number, "shortest", "");
+        calculator::WriteNumber(text, number, ",");
+        Demand(calculator::ReadNumber(text, ",") == number, "written", text);
+    }
+    for (int decimals = 0; decimals <= 6; ++decimals)
+        forms::WriteGroupedNumber(text, number, decimals, forms::Locale());
+    const data::OleDate date{number};
+    MayRefuse([&] { static_cast<void>(data::Value(number).ToInteger()); });
+    static_cast<void>(data::Value(date).ToText());
+    const data::CalendarDay day = data::ToCalendarDay(date);
+    Demand(data::ToCalendarDay(data::ToOleDate(day)) == day, "day", data::FormatDayMonthYear(date));
+    Demand(day.day >= 1 && day.day <= data::DaysInMonth(day.year, day.month), "no day", "");
+    static_cast<void>(data::RoundedDay(date));
+    if (const auto money = host::ToMoney(number)) {
+        static_cast<void>(host::MoneyText(*money, host::Thousands::Grouped));
+        static_cast<void>(host::MoneyText(*money, host::Thousands::Plain));
+    }
+    static_cast<void>(rates::RateCaption(number, "EUR", forms::Locale()));
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    const std::string text(reinterpret_cast<const char*>(bytes), size);
+    ReadDates(text);
+    ReadNumbers(text);
+    ReadTexts(text);
+    double number = 0;
+    if (size >= sizeof number) {
+        std::memcpy(&number, bytes, sizeof number);
+        WriteNumbers(number);
+    }
+    return 0;
+}

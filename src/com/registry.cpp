@@ -1,0 +1,52 @@
+#include "com/registry.h"
+
+namespace tavrin::com {
+namespace {
+
+constexpr wchar_t Classes[] = L"Software\\Classes";
+
+bool IsGone(LSTATUS removed) {
+    return removed == ERROR_SUCCESS || removed == ERROR_FILE_NOT_FOUND;
+}
+
+bool IsEmpty(HKEY root, const std::wstring& path) {
+    HKEY key = nullptr;
+    if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) return false;
+    DWORD keys = 0;
+    DWORD values = 0;
+    const LSTATUS read = RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values,
+                                          nullptr, nullptr, nullptr, nullptr);
+    RegCloseKey(key);
+    return read == ERROR_SUCCESS && keys == 0 && values == 0;
+}
+
+}  // namespace
+
+bool Registry::Write(const RegistryEntry& entry) const {
+    const auto size = static_cast<DWORD>((entry.value.size() + 1) * sizeof(wchar_t));
+    return RegSetKeyValueW(Root(), PathOf(entry.key).c_str(), entry.name.c_str(), REG_SZ, entry.value.c_str(),
+                           size) == ERROR_SUCCESS;
+}
+
+bool Registry::Remove(const std::wstring& key) const {
+    return IsGone(RegDeleteKeyW(Root(), PathOf(key).c_str()));
+}
+
+bool Registry::RemoveTree(const std::wstring& key) const {
+    return IsGone(RegDeleteTreeW(Root(), PathOf(key).c_str()));
+}
+
+void Registry::RemoveIfEmpty(const std::wstring& key) const {
+    const std::wstring path = PathOf(key);
+    if (IsEmpty(Root(), path)) RegDeleteKeyW(Root(), path.c_str());
+}
+
+HKEY Registry::Root() const {
+    return scope_ == Scope::User ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE;
+}
+
+std::wstring Registry::PathOf(const std::wstring& key) const {
+    return key.empty() ? Classes : std::wstring(Classes) + L"\\" + key;
+}
+
+}  // namespace tavrin::com

@@ -1,0 +1,206 @@
+// Every window as somebody uses it who does not see it or has no mouse: each control tells what it is and how
+// it stands, and the keyboard reaches all that can be acted upon.
+
+#include <oleacc.h>
+
+#include <map>
+#include <set>
+
+#include "e2e/driver/accessible_reader.h"
+#include "e2e/driver/event_watch.h"
+#include "e2e/host_test.h"
+
+namespace tavrin::e2e {
+namespace {
+
+/// A window, and how a user comes to it.
+struct Place {
+    const char* description;
+    std::vector<std::pair<const char*, const char*>> clicks;  ///< window and control, from the palette on
+    const char* window;
+    WORD key = VK_TAB;  ///< by which the focus moves on
+};
+
+void PrintTo(const Place& place, std::ostream* stream) {
+    *stream << place.description;
+}
+
+const std::vector<Place>& Places() {
+    static const std::vector<Place> places{
+        {"Palette", {}, "Utilitati", VK_DOWN},
+        {"RateList", {{"Utilitati", "cmdAction(3)"}}, "CursValutar"},
+        {"RateEntry", {{"Utilitati", "cmdAction(3)"}, {"CursValutar", "cmdAction(0)"}}, "CursValutarDetaliu"},
+        {"AddCurrency", {{"Utilitati", "cmdAction(3)"}, {"CursValutar", "cmdAction(3)"}}, "CereMoneda"},
+        {"Evolution", {{"Utilitati", "cmdAction(3)"}, {"CursValutar", "cmdAction(5)"}}, "EvolutieCurs"},
+        {"EvolutionWithChart",
+         {{"Utilitati", "cmdAction(3)"}, {"CursValutar", "cmdAction(5)"}, {"EvolutieCurs", "cmdAction(1)"}},
+         "EvolutieCurs"},
+        {"Calculator", {{"Utilitati", "cmdAction(2)"}}, "frmCalculator"},
+        {"CurrencyChooser", {{"Utilitati", "cmdAction(2)"}, {"frmCalculator", "cmdVal"}}, "AlegeMoneda"},
+        {"AddressBook", {{"Utilitati", "cmdAction(1)"}}, "Agenda"},
+        {"AddressBookEntry", {{"Utilitati", "cmdAction(1)"}, {"Agenda", "cmdAction(2)"}}, "Agenda"},
+    };
+    return places;
+}
+
+class AccessibilityTest : public HostTest, public testing::WithParamInterface<Place> {
+  protected:
+    void SetUp() override {
+        // The calculator asks for this currency first.
+        host->Run("ALTER TABLE [Curs Valutar] ADD [$] float");
+        host->Run("UPDATE [Curs Valutar] SET [$] = 4");
+        OpenPalette();
+        for (const auto& [form, control] : GetParam().clicks) {
+            Click(AwaitForm(form).Control(control));
+            host->Ui().Settle();
+        }
+        window = AwaitForm(GetParam().window);
+        Require("the window's focus", [&] { return window.HasFocus(); });
+        host->Ui().Settle();
+    }
+
+    std::vector<Window> VisibleControls() const {
+        std::vector<Window> controls = window.Controls();
+        std::erase_if(controls, [](const Window& control) { return !control.IsVisible(); });
+        return controls;
+    }
+
+    AccessibleFacts Facts(const Window& control) { return ReadAccessible(host->Ui(), control); }
+
+    /// A field's window lies inside the frame that belongs to the control.
+    static bool IsAround(const RECT& control, const RECT& inner) {
+        constexpr int frame = 4;
+        RECT most = inner;
+        InflateRect(&most, frame, frame);
+        return control.left <= inner.left && control.top <= inner.top && control.right >= inner.right &&
+               control.bottom >= inner.bottom && control.left >= most.left && control.top >= most.top &&
+               control.right <= most.right && control.bottom <= most.bottom;
+    }
+
+    static bool Has(const AccessibleFacts& facts, long state) { return (facts.state & state) != 0; }
+
+    /// The names of the controls that say they take the keyboard.
+    std::set<std::string> Focusable() {
+        std::set<std::string> names;
+        for (const Window& control : VisibleControls()) {
+            const AccessibleFacts facts = Facts(control);
+            if (Has(facts, STATE_SYSTEM_FOCUSABLE) && !Has(facts, STATE_SYSTEM_UNAVAILABLE))
+                names.insert(control.Name());
+        }
+        return names;
+    }
+
+    std::string Press(WORD key, std::initializer_list<WORD> held = {}) {
+        PressKey(key, held);
+        host->Ui().Settle();
+        return FocusedName();
+    }
+
+    Window window;
+};
+
+TEST_P(AccessibilityTest, EveryControlTellsWhatItIs) {
+    for (const Window& control : VisibleControls()) {
+        SCOPED_TRACE(control.Name());
+        const AccessibleFacts facts = Facts(control);
+        EXPECT_NE(facts.role, ROLE_SYSTEM_CLIENT) << "no role of its own";
+        EXPECT_NE(facts.role, ROLE_SYSTEM_WINDOW) << "no role of its own";
+        const bool mayBeNameless = facts.role == ROLE_SYSTEM_GROUPING;
+        EXPECT_TRUE(mayBeNameless || !facts.name.empty()) << "no name";
+        EXPECT_TRUE(IsAround(facts.place, control.ScreenBounds())) << "it tells another place";
+    }
+}
+
+TEST_P(AccessibilityTest, EveryControlTellsItsStateAndValue) {
+    for (const Window& control : VisibleControls()) {
+        SCOPED_TRACE(control.Name());
+        const AccessibleFacts facts = Facts(control);
+        EXPECT_FALSE(Has(facts, STATE_SYSTEM_INVISIBLE));
+        EXPECT_TRUE(control.IsEnabled() || Has(facts, STATE_SYSTEM_UNAVAILABLE));
+        EXPECT_EQ(Has(facts, STATE_SYSTEM_FOCUSED), FocusedName() == control.Name());
+        EXPECT_EQ(facts.role == ROLE_SYSTEM_PUSHBUTTON, facts.defaultAction == "Press");
+        const bool hasValue = facts.role == ROLE_SYSTEM_COMBOBOX || facts.role == ROLE_SYSTEM_DROPLIST;
+        EXPECT_TRUE(!hasValue || !facts.value.empty()) << "no value";
+        EXPECT_TRUE(facts.role != ROLE_SYSTEM_TABLE || facts.childCount > 0) << "no cells";
+    }
+}
+
+TEST_P(AccessibilityTest, NoControlIsHiddenBehindAnother) {
+    for (const Window& control : VisibleControls()) {
+        // The picture that unrolls the palette waits beneath the one that rolls it up.
+        if (Facts(control).role == ROLE_SYSTEM_GROUPING || control.Name() == "imgRollup(1)") continue;
+        const HWND seen = WindowFromPoint(control.Center());
+        // A label or a disabled control lets the mouse through, to what it stands on.
+        const bool isInSight =
+            seen == control.Handle() || IsChild(control.Handle(), seen) || IsChild(seen, control.Handle());
+        EXPECT_TRUE(isInSight) << control.Name() << " is behind " << Window(seen).Name();
+    }
+}
+
+TEST_P(AccessibilityTest, AcceleratorsAreUnique) {
+    std::map<std::string, std::string> owners;
+    for (const Window& control : VisibleControls()) {
+        const std::string shortcut = Facts(control).shortcut;
+        if (shortcut.empty()) continue;
+        const auto [found, isNew] = owners.emplace(shortcut, control.Name());
+        EXPECT_TRUE(isNew) << shortcut << ": " << found->second << " and " << control.Name();
+    }
+}
+
+TEST_P(AccessibilityTest, TheKeyboardReachesEveryControlThatTakesIt) {
+    const std::set<std::string> focusable = Focusable();
+    ASSERT_FALSE(focusable.empty());
+    std::set<std::string> reached{FocusedName()};
+    const auto press = [&](WORD key, std::initializer_list<WORD> held, const auto& isEnough) {
+        for (std::size_t i = 0; i < 2 * focusable.size() + 2 && !isEnough(); ++i)
+            reached.insert(Press(key, held));
+    };
+    const auto never = [] { return false; };
+    press(VK_TAB, {}, never);
+    press(VK_TAB, {VK_SHIFT}, never);
+    // Where a window's own keys take Tab elsewhere, the arrows go from button to button.
+    press(VK_TAB, {}, [&] { return Facts(window.Control(FocusedName())).role == ROLE_SYSTEM_PUSHBUTTON; });
+    press(VK_DOWN, {}, never);
+    for (const std::string& control : focusable)
+        EXPECT_TRUE(reached.contains(control)) << control << " is never reached";
+}
+
+TEST_P(AccessibilityTest, MovingTheFocusIsTold) {
+    const EventWatch watch(host->Ui());
+    const std::string before = FocusedName();
+    std::string now = before;
+    for (int i = 0; i < 8 && now == before; ++i)
+        now = Press(GetParam().key);
+    ASSERT_NE(now, before);
+    EXPECT_TRUE(watch.Await(EVENT_OBJECT_FOCUS, now));
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, AccessibilityTest, testing::ValuesIn(Places()),
+                         [](const auto& each) { return std::string(each.param.description); });
+
+class AccessibleEventsTest : public HostTest {};
+
+TEST_F(AccessibleEventsTest, AGridTellsOfItsSelection) {
+    const Window list = OpenRateList();
+    const Window grid = list.Control("Grid");
+    ReadAccessible(host->Ui(), grid);
+    Click(grid);
+    ASSERT_TRUE(AwaitFocus("Grid"));
+    const EventWatch watch(host->Ui());
+    PressKey(VK_HOME, {VK_CONTROL});
+    PressKey(VK_DOWN);
+    EXPECT_TRUE(watch.Await(EVENT_OBJECT_SELECTION, "Grid"));
+}
+
+TEST_F(AccessibleEventsTest, ADisplayTellsOfItsValue) {
+    Click(OpenPalette().Control("cmdAction(2)"));
+    const Window calculator = AwaitForm("frmCalculator");
+    host->Ui().Settle();
+    ReadAccessible(host->Ui(), calculator.Control("ValLei"));
+    const EventWatch watch(host->Ui());
+    Click(calculator.Control("Number(7)"));
+    EXPECT_TRUE(watch.Await(EVENT_OBJECT_VALUECHANGE, "ValLei"));
+}
+
+}  // namespace
+}  // namespace tavrin::e2e

@@ -1,0 +1,182 @@
+#include "proofs/fault_runner.h"
+
+#include <utility>
+
+namespace tavrin::tests {
+namespace {
+
+constexpr std::int32_t InternalError = 51;
+
+std::string Describe(const Flow& flow, const PlannedFault& fault) {
+    return std::string(flow.name) + ", " + NameOf(fault.kind) + " at touch " + std::to_string(fault.touch) +
+           (fault.repeat == Repeat::Once ? "" : " and after");
+}
+
+}  // namespace
+
+FaultFigures& FaultFigures::operator+=(const FaultFigures& other) {
+    flows += other.flows;
+    touches += other.touches;
+    runs += other.runs;
+    faults += other.faults;
+    pairs += other.pairs;
+    failures += other.failures;
+    return *this;
+}
+
+FaultRunner::FaultRunner(std::function<void(const std::string&)> fail) : fail_(std::move(fail)) {}
+
+void FaultRunner::Fail(const std::string& what) {
+    ++figures_.failures;
+    fail_(current_ + ": " + what);
+}
+
+void FaultRunner::Prepare(const Flow& flow) {
+    session_.Restart();
+    session_.Apel();
+    flow.prepare(session_);
+    if (!session_.desktop.reports.empty())
+        Fail("the way there reported " + session_.desktop.reports.front().description);
+    session_.desktop.reports.clear();
+    session_.messages.clear();
+}
+
+std::vector<std::string> FaultRunner::Told() const {
+    std::vector<std::string> told;
+    for (const HeadlessDesktop::Report& report : session_.desktop.reports)
+        told.push_back(std::to_string(report.number) + " " + report.description);
+    for (const UserSession::Shown& message : session_.messages)
+        told.push_back(message.text);
+    return told;
+}
+
+FaultRunner::Outcome FaultRunner::Act(const Flow& flow) {
+    session_.plan->Start();
+    flow.act(session_);
+    return {session_.plan->Touches(), session_.plan->Statements(), Told()};
+}
+
+const FaultRunner::Outcome& FaultRunner::Clean(std::size_t flow) {
+    const auto known = clean_.find(flow);
+    if (known != clean_.end()) return known->second;
+    const Flow& run = AllFlows()[flow];
+    current_ = std::string(run.name) + ", without a fault";
+    Prepare(run);
+    const Outcome& outcome = clean_.emplace(flow, Act(run)).first->second;
+    session_.plan->Start();
+    if (const std::string complaint = session_.Complaint(); !complaint.empty()) Fail(complaint);
+    ++figures_.flows;
+    figures_.touches += outcome.touches.size();
+    return outcome;
+}
+
+void FaultRunner::RunEveryFault(std::size_t flow) {
+    const std::size_t touches = Clean(flow).touches.size();
+    for (std::size_t touch = 1; touch <= touches; ++touch) {
+        for (const FaultKind kind : AllFaultKinds) {
+            for (const Repeat repeat : {Repeat::Once, Repeat::Always})
+                RunFault(flow, {touch, kind, repeat});
+        }
+    }
+}
+
+void FaultRunner::RunSomeFaults(std::size_t flow) {
+    const std::vector<Touch> touches = Clean(flow).touches;
+    for (std::size_t i = 0; i < touches.size(); ++i) {
+        if (!IsStatement(touches[i])) continue;
+        for (const FaultKind kind : {FaultKind::Syntax, FaultKind::NullValue, FaultKind::FewerRows})
+            RunFault(flow, {i + 1, kind, Repeat::Once});
+    }
+}
+
+void FaultRunner::RunEveryPair(std::size_t flow) {
+    const std::vector<Touch> touches = Clean(flow).touches;
+    for (std::size_t i = 0; i < touches.size(); ++i) {
+        if (!IsStatement(touches[i])) continue;
+        for (const FaultKind first : AllFaultKinds) {
+            for (const FaultKind second : AllFaultKinds)
+                RunPair(flow, {i + 1, first, Repeat::Once}, second);
+        }
+    }
+}
+
+void FaultRunner::RunFault(std::size_t flow, const PlannedFault& fault) {
+    const Flow& run = AllFlows()[flow];
+    current_ = Describe(run, fault);
+    Prepare(run);
+    session_.plan->Start(fault);
+    run.act(session_);
+    const std::size_t struck = session_.plan->Struck();
+    session_.plan->Start();
+    if (struck == 0) return;  // not a place for such a fault
+    ++figures_.runs;
+    figures_.faults += struck;
+    if (IsError(fault.kind) && Told().empty() && session_.hostErrors.empty()) Fail("nobody was told");
+    CheckAfter(flow);
+}
+
+void FaultRunner::RunPair(std::size_t flow, const PlannedFault& first, FaultKind second) {
+    const Flow& run = AllFlows()[flow];
+    current_ = Describe(run, first) + ", then " + NameOf(second) + " while it is reported";
+    Prepare(run);
+    std::size_t struckFirst = 0;
+    bool interrupted = false;
+    session_.desktop.whileReporting = [&] {
+        if (std::exchange(interrupted, true)) return;
+        struckFirst = session_.plan->Struck();
+        session_.plan->Start(PlannedFault{1, second, Repeat::Always});
+        Interrupt();
+        figures_.faults += struckFirst + session_.plan->Struck();
+        if (struckFirst > 0 && session_.plan->Struck() > 0) ++figures_.pairs;
+        session_.plan->Start();
+    };
+    session_.plan->Start(first);
+    run.act(session_);
+    session_.desktop.whileReporting = nullptr;
+    session_.plan->Start();
+    if (struckFirst == 0) return;
+    ++figures_.runs;
+    CheckAfter(flow);
+}
+
+/// What users and hosts do while a report stands before one window: they use the others.
+void FaultRunner::Interrupt() {
+    const forms::Form* reporting = session_.desktop.ActiveForm();
+    const std::string name = reporting != nullptr ? reporting->Name() : std::string();
+    const auto click = [&](const char* window, const char* control) {
+        if (name != window) session_.Click(window, control);
+    };
+    session_.Apel();
+    click("Utilitati", "cmdAction(1)");
+    click("Utilitati", "cmdAction(3)");
+    click("CursValutar", "cmdRefresh");
+    click("CursValutar", "cmdAction(0)");
+    click("Agenda", "Grid");
+    session_.Activate(name);
+}
+
+void FaultRunner::CheckAfter(std::size_t flow) {
+    for (const HeadlessDesktop::Report& report : session_.desktop.reports) {
+        if (report.number == InternalError) Fail("an error without a number: " + report.description);
+    }
+    if (const std::string complaint = session_.Complaint(); !complaint.empty()) Fail(complaint);
+    session_.LeaveAll();
+    if (const std::string complaint = session_.ComplaintAfterLeaving(); !complaint.empty())
+        Fail(complaint + " after leaving");
+    CheckNextFlow(flow);
+}
+
+void FaultRunner::CheckNextFlow(std::size_t flow) {
+    const std::string before = current_;
+    const std::size_t next = (flow + 1) % AllFlows().size();
+    const Outcome clean = Clean(next);
+    current_ = before;
+    const Flow& run = AllFlows()[next];
+    Prepare(run);
+    if (Act(run) != clean) Fail(std::string("afterwards another thing happens in: ") + run.name);
+    session_.plan->Start();
+    if (const std::string complaint = session_.Complaint(); !complaint.empty())
+        Fail(complaint + " after the next flow");
+}
+
+}  // namespace tavrin::tests

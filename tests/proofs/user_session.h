@@ -1,0 +1,106 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "data/date.h"
+#include "forms/form.h"
+#include "host/embedded/embedded_database.h"
+#include "proofs/fault_plan.h"
+#include "shell/module.h"
+#include "support/headless_desktop.h"
+#include "support/headless_keyboard.h"
+
+namespace tavrin::tests {
+
+/// The whole component as a host has loaded it, on a headless desktop and a small database that may fail, and
+/// a user at it. What the user asks for and cannot have (a window that is not open, a button that is
+/// disabled) is left undone, as in life. The database forgets everything at Restart.
+class UserSession {
+  public:
+    UserSession();
+    ~UserSession();
+    UserSession(const UserSession&) = delete;
+    UserSession& operator=(const UserSession&) = delete;
+
+    /// What the next Apel hands over.
+    struct HostValues {
+        bool connected = true;
+        data::OleDate workDate = data::ToOleDate({2003, 5, 20});
+        std::int16_t workYear = 2003;
+        std::int32_t companyId = 7;
+    };
+    HostValues host;
+    /// As the component's own: what it throws goes to the host, here into hostErrors.
+    void Apel();
+
+    // Looking.
+    forms::Form* Window(std::string_view name) const;
+    forms::Control* Find(std::string_view window, std::string_view control) const;
+    template <class Kind>
+    Kind* FindAs(std::string_view window, std::string_view control) const {
+        return dynamic_cast<Kind*>(Find(window, control));
+    }
+
+    // Doing.
+    void Activate(std::string_view window);
+    void Click(std::string_view window, std::string_view control);
+    void DoubleClick(std::string_view window, std::string_view control);
+    /// Chooses an entry of a list with the mouse.
+    void Choose(std::string_view window, std::string_view control, int entry);
+    void ChooseDay(std::string_view window, std::string_view control, data::CalendarDay day);
+    void Press(int keyCode, int times = 1);
+    void Type(std::string_view text) { keyboard.Type(text); }
+    void Paste(std::string_view text) { keyboard.Paste(text); }
+    /// Closes the palette, and then what it leaves open.
+    void LeaveAll();
+
+    /// Past the faults and the counting.
+    void Run(const std::string& statement) {
+        plan->hasWritten = true;
+        database_->Run(statement);
+    }
+    void EmptyAgenda();
+
+    /// Closes every window and takes back what was written.
+    void Restart();
+
+    /// What no moment between two inputs may show; empty where all is right.
+    std::string Complaint() const;
+    /// What may not be left once every window is closed.
+    std::string ComplaintAfterLeaving() const;
+
+    struct Shown {
+        std::string text;
+        int buttons;
+    };
+
+    HeadlessDesktop desktop;
+    HeadlessKeyboard keyboard{desktop};
+    std::shared_ptr<FaultPlan> plan = std::make_shared<FaultPlan>();
+    std::vector<Shown> messages;
+    std::deque<bool> answers;  ///< to the next questions: yes or no; no where none is laid down
+    std::function<void()> whileShowing;
+    std::vector<std::string> hostErrors;
+    int raised = 0;  ///< how often the host was told that the user left
+    shell::Module module;
+
+  private:
+    class Messages;
+    class Caller;
+
+    void FillDatabase();
+    int Answer(const std::string& prompt, int buttons);
+
+    std::shared_ptr<host::EmbeddedDatabase> database_;
+    std::unique_ptr<host::EmbeddedDatabase::Transaction> transaction_;
+    std::shared_ptr<data::Connection> connection_;
+    std::shared_ptr<shell::CallingObject> caller_;
+};
+
+}  // namespace tavrin::tests

@@ -1,0 +1,138 @@
+// Every text of every window can be read: its colour stands out from what is beneath it, whatever state its
+// control is in.
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <set>
+
+#include "forms/decoration.h"
+#include "forms/text_box.h"
+#include "support/recording_surface.h"
+#include "windows/every_window.h"
+
+namespace tavrin::tests {
+namespace {
+
+using forms::Color;
+
+constexpr double LeastContrast = 4.5;
+
+/// Backgrounds that are not the scheme's to choose: of the focused field, and of the palette's strip.
+constexpr Color GivenBackgrounds[] = {forms::FocusGrey, 0x004000};
+
+double Linear(Color color, int shift) {
+    const double share = ((color >> shift) & 0xFF) / 255.0;
+    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+}
+
+/// The usual measure of legibility, from 1 to 21.
+double Contrast(Color one, Color other) {
+    const auto luminance = [](Color color) {
+        return 0.2126 * Linear(color, 0) + 0.7152 * Linear(color, 8) + 0.0722 * Linear(color, 16) + 0.05;
+    };
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return lighter / darker;
+}
+
+/// Where a text begins to be seen.
+forms::Point AnchorOf(const Drawn& text) {
+    const forms::Rect& area = text.area;
+    const int inside = std::min(area.width / 2, 60);
+    int x = area.left + area.width / 2;
+    if (text.style.align == forms::Align::Left) x = area.left + inside;
+    if (text.style.align == forms::Align::Right) x = area.Right() - inside;
+    return {x, area.top + area.height / 2};
+}
+
+/// What was filled last beneath a text.
+Color BackgroundOf(const std::vector<Drawn>& drawn, std::size_t text, Color otherwise) {
+    const forms::Point anchor = AnchorOf(drawn[text]);
+    for (std::size_t i = text; i-- > 0;) {
+        const bool fills = drawn[i].kind == Drawing::Rectangle || drawn[i].kind == Drawing::Polygon;
+        if (fills && drawn[i].area.Contains(anchor)) return drawn[i].color;
+    }
+    return otherwise;
+}
+
+class ContrastTest : public EveryWindowTest {
+  protected:
+    /// Looks at all controls of the window as they are, with each of them in turn focused, under the mouse
+    /// and held down, and disabled.
+    void LookAt(forms::Form& form) {
+        window_ = form.Name();
+        RecordingSurface surface;
+        forms::DrawDecorations(form, surface);
+        LookAtTexts(surface, form.BackColor(), "decoration");
+        for (forms::Control* control : form.AllControls())
+            LookAt(*control);
+    }
+
+    void LookAt(forms::Control& control) {
+        Draw(control, "as it is");
+        control.SetFocus();
+        Draw(control, "focused");
+        control.HandleMouseMove({});
+        Draw(control, "under the mouse");
+        control.HandleMouseLeave();
+        const bool enabled = control.Enabled();
+        control.SetEnabled(false);
+        Draw(control, "disabled");
+        control.SetEnabled(enabled);
+    }
+
+    void Draw(const forms::Control& control, const char* state) {
+        const std::string what = control.QualifiedName() + " " + state;
+        RecordingSurface surface;
+        control.Draw(surface);
+        if (const auto* container = dynamic_cast<const forms::Container*>(&control))
+            forms::DrawDecorations(*container, surface);
+        LookAtTexts(surface, control.BackColor(), what);
+        // The platform draws a field's text in these.
+        if (control.Kind() == forms::ControlKind::TextBox || control.Kind() == forms::ControlKind::ComboBox) {
+            const Color text =
+                control.IsEffectivelyEnabled() ? control.ForeColor() : forms::scheme::TextDisabled;
+            Compare(text, control.BackColor(), what);
+        }
+    }
+
+    void LookAtTexts(const RecordingSurface& surface, Color back, const std::string& what) {
+        const std::vector<Drawn>& drawn = surface.All();
+        for (std::size_t i = 0; i < drawn.size(); ++i) {
+            if (drawn[i].kind == Drawing::Text && !drawn[i].text.empty())
+                Compare(drawn[i].style.color, BackgroundOf(drawn, i, back),
+                        what + " '" + drawn[i].text + "'");
+        }
+    }
+
+    void Compare(Color text, Color back, const std::string& what) {
+        const bool isGiven = std::ranges::find(GivenBackgrounds, back) != std::end(GivenBackgrounds);
+        if (isGiven && text == forms::scheme::TextDisabled) return;
+        ++compared_;
+        if (!seen_.insert({text, back}).second) return;
+        EXPECT_GE(Contrast(text, back), LeastContrast)
+            << window_ << ": " << what << std::hex << ", text " << text << " on " << back;
+    }
+
+    int compared_ = 0;
+
+  private:
+    std::string window_;
+    std::set<std::pair<Color, Color>> seen_;
+};
+
+TEST_F(ContrastTest, Measures) {
+    EXPECT_NEAR(Contrast(0x000000, 0xFFFFFF), 21, 0.01);
+    EXPECT_NEAR(Contrast(0x767676, 0xFFFFFF), 4.54, 0.01);
+    EXPECT_NEAR(Contrast(0x0000FF, 0xFFFFFF), 4.0, 0.01) << "red";
+}
+
+TEST_F(ContrastTest, EveryTextCanBeRead) {
+    ForEachWindow([this](forms::Form& form) { LookAt(form); });
+    EXPECT_GT(compared_, 1000);
+}
+
+}  // namespace
+}  // namespace tavrin::tests
