@@ -4,7 +4,7 @@ function(tavrin_collect_targets out folder)
   get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
   foreach(target ${targets})
     get_target_property(type ${target} TYPE)
-    if(type MATCHES "STATIC|SHARED|OBJECT|EXECUTABLE")
+    if(type MATCHES "STATIC|SHARED|OBJECT|INTERFACE|EXECUTABLE")
       list(APPEND found ${target})
     endif()
   endforeach()
@@ -39,11 +39,14 @@ function(tavrin_add_header_check)
                                              ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(headers PRIVATE SQLite::SQLite3 GTest::gtest GTest::gmock)
   foreach(target ${targets})
-    # A header may include what its target generates, or what its target alone knows.
-    # Folders of generated code stay system folders: the warnings of other tools are not ours.
+    # A header may include what its target generates, or what its target alone knows. Folders of generated code stay
+    # system folders: the warnings of other tools are not ours.
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL INTERFACE_LIBRARY)
+      target_link_libraries(headers PRIVATE ${target})
+      continue()
+    endif()
     target_include_directories(headers PRIVATE $<TARGET_PROPERTY:${target},INCLUDE_DIRECTORIES>)
-    target_include_directories(headers SYSTEM PRIVATE
-      $<TARGET_PROPERTY:${target},INTERFACE_SYSTEM_INCLUDE_DIRECTORIES>)
     add_dependencies(headers ${target})
   endforeach()
 endfunction()

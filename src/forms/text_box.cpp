@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/form.h"
 #include "forms/utf8.h"
 
 namespace tavrin::forms {

@@ -37,6 +37,8 @@ TEST_F(CereMonedaTest, AddingShowsATextBoxInTheMiddleOfTheScreen) {
     EXPECT_EQ(window.lblLabels[0].Caption(), "Introduceti numele monedei dorite");
     EXPECT_EQ(window.cmdAction[0].Caption(), "Accepta");
     EXPECT_EQ(window.cmdAction[1].Caption(), "Renunta");
+    EXPECT_EQ(window.cmdAction[0].Picture(), forms::Icon::Accept);
+    EXPECT_EQ(window.cmdAction[1].Picture(), forms::Icon::Cancel);
     EXPECT_EQ(window.Bounds().left, (desktop.ScreenSize().width - window.Bounds().width) / 2);
     EXPECT_EQ(window.Bounds().top, (desktop.ScreenSize().height - window.Bounds().height) / 2);
     EXPECT_EQ(FocusedControl(), "txtMoneda");

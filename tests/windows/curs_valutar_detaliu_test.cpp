@@ -182,6 +182,9 @@ TEST_F(CursValutarDetaliuTest, UpWalksBackAndStaysInTheFirstRow) {
     keyboard.Press(key::Up);
     EXPECT_EQ(entry.Grid.Row(), 1);
     EXPECT_EQ(FocusedControl(), "txtCursValutar");
+    entry.Grid.SetFocus();
+    keyboard.Type("8");
+    EXPECT_EQ(EditorText(), "8") << "in the first row as well";
 }
 
 TEST_F(CursValutarDetaliuTest, LeftAndRightLeaveOnlyAtTheEndsOfTheText) {

@@ -60,16 +60,21 @@ TEST_F(EvolutieCursTest, OpensWithItsPromptAndItsLists) {
     EXPECT_THAT(connection->Statements(),
                 ElementsAre("SELECT * FROM [Curs Valutar]",
                             "SELECT DISTINCT YEAR(Data) AS AN FROM [Curs Valutar] ORDER BY YEAR(Data)"));
-    EXPECT_EQ(window.cmbLuna.ListCount(), 13);
+    const std::vector<std::string> periods = {
+        "Ianuarie", "Februarie",  "Martie",    "Aprilie",   "Mai",       "Iunie",           "Iulie",
+        "August",   "Septembrie", "Octombrie", "Noiembrie", "Decembrie", "Toate Perioadele"};
+    ASSERT_EQ(window.cmbLuna.ListCount(), 13);
+    for (int i = 0; i < 13; ++i)
+        EXPECT_EQ(window.cmbLuna.Item(i), periods[static_cast<std::size_t>(i)]);
     EXPECT_EQ(window.cmbLuna.Text(), "Ianuarie");
-    EXPECT_EQ(window.cmbLuna.Item(8), "Septembrie");
-    EXPECT_EQ(window.cmbLuna.Item(12), "Toate Perioadele");
     EXPECT_EQ(window.cmbMoneda.ListCount(), 2);
     EXPECT_EQ(window.cmbMoneda.Text(), "EUR");
     EXPECT_EQ(window.cmbAn.ListCount(), 2);
     EXPECT_EQ(window.cmbAn.Text(), "2002");
     EXPECT_EQ(window.cmdAction[0].Caption(), "Iesire");
     EXPECT_EQ(window.cmdAction[1].Caption(), "  Actualizare Grafic");
+    EXPECT_EQ(window.cmdAction[0].Picture(), forms::Icon::Exit);
+    EXPECT_EQ(window.cmdAction[1].Picture(), forms::Icon::Chart);
     EXPECT_EQ(window.MSChart1.RowCount(), 31);
     EXPECT_EQ(window.Grid.TextMatrix(0, 0), "Zi");
     EXPECT_EQ(window.Grid.TextMatrix(0, 1), "Curs valutar");
@@ -242,6 +247,11 @@ TEST_F(EvolutieCursTest, AMonthWithoutRatesSaysSo) {
     EXPECT_TRUE(window.lblMesaj2.Visible());
     EXPECT_EQ(window.MSChart1.RowCount(), 31);
     EXPECT_EQ(FocusedControl(), "cmbAn");
+    window.cmbLuna.SetListIndex(4);
+    window.cmdAction[1].Click();
+    EXPECT_TRUE(window.MSChart1.Visible());
+    for (const forms::Label* message : {&window.lblMesaj1, &window.lblMesaj2})
+        EXPECT_FALSE(message->Visible()) << message->Caption();
 }
 
 TEST_F(EvolutieCursTest, AFailingStatementIsReportedAndTheWindowGoesOn) {

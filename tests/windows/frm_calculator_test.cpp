@@ -92,6 +92,13 @@ TEST_F(FrmCalculatorTest, EveryKeyBearsItsCaptionInArial) {
     const std::vector<std::string> operators = {"/", "+", "X", "-", "=", "%", "+/-"};
     for (int i = 0; i < 7; ++i)
         EXPECT_EQ(window.Operator[i].Caption(), operators[static_cast<std::size_t>(i)]);
+    EXPECT_EQ(window.Cancel.Caption(), "AC");
+    EXPECT_EQ(window.CancelEntry.Caption(), "C");
+    EXPECT_EQ(window.cmdMC.Caption(), "MC");
+    EXPECT_EQ(window.cmdMR.Caption(), "MR");
+    EXPECT_EQ(window.cmdMPlus.Caption(), "M+");
+    EXPECT_EQ(window.cmdMMinus.Caption(), "M-");
+    EXPECT_EQ(window.cmdVal.Caption(), "Alege Moneda");
     for (const std::string& name : KeyNames())
         EXPECT_EQ(window.FindControl(name)->TextFont().face, "Arial") << name;
     for (const char* name : {"cmbUM", "cmbPrecizie", "cmdVal", "cmdUnload"})
