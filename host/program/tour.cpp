@@ -157,7 +157,7 @@ void Perform(const Action& action) {
     for (const char key : action.keys)
         Press(key);
     for (const wchar_t unit : action.text)
-        Type(unit);
+        unit == L'\r' ? Press(VK_RETURN) : Type(unit);
     Settle();
 }
 
