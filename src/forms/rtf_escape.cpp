@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace tavrin::forms {
 
@@ -44,7 +45,9 @@ Decoded Decode(std::string_view text) {
 
 /// RTF counts in signed numbers of 16 bits.
 void AppendUnit(std::string& rtf, char32_t unit) {
-    rtf += "\\u" + std::to_string(static_cast<std::int16_t>(unit)) + "?";
+    rtf += "\\u";
+    rtf += std::to_string(static_cast<std::int16_t>(unit));
+    rtf += '?';
 }
 
 void AppendCharacter(std::string& rtf, char32_t code) {
@@ -53,8 +56,17 @@ void AppendCharacter(std::string& rtf, char32_t code) {
     AppendUnit(rtf, 0xDC00 + ((code - 0x10000) & 0x3FF));
 }
 
-bool IsAscii(char byte) {
-    return static_cast<unsigned char>(byte) < 0x80;
+/// How much of a text's start is ASCII, which most of every document is: looked at eight bytes at a time.
+std::size_t AsciiLength(std::string_view text) {
+    constexpr std::uint64_t beyondAscii = 0x8080808080808080U;
+    std::size_t length = 0;
+    for (std::uint64_t eight = 0; length + sizeof eight <= text.size(); length += sizeof eight) {
+        std::memcpy(&eight, text.data() + length, sizeof eight);
+        if ((eight & beyondAscii) != 0) break;
+    }
+    while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80)
+        ++length;
+    return length;
 }
 
 }  // namespace
@@ -69,9 +81,9 @@ std::string EscapeRtf(std::string_view utf8Rtf) {
         utf8Rtf.remove_prefix(std::min(utf8Rtf.find_first_not_of("0123456789"), utf8Rtf.size()));
     }
     while (!utf8Rtf.empty()) {
-        const auto* const beyond = std::ranges::find_if_not(utf8Rtf, IsAscii);
-        rtf.append(utf8Rtf.begin(), beyond);
-        utf8Rtf = {beyond, utf8Rtf.end()};
+        const std::size_t ascii = AsciiLength(utf8Rtf);
+        rtf.append(utf8Rtf.substr(0, ascii));
+        utf8Rtf.remove_prefix(ascii);
         if (utf8Rtf.empty()) break;
         const Decoded decoded = Decode(utf8Rtf);
         AppendCharacter(rtf, decoded.character);
