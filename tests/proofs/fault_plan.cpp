@@ -75,6 +75,10 @@ void ThrowFault(FaultKind kind) {
     throw data::Error(text.number, text.description);
 }
 
+bool IsQuiet(Touch touch) {
+    return touch == Touch::Dialog || touch == Touch::File || touch == Touch::Document;
+}
+
 bool IsStatement(Touch touch) {
     return touch == Touch::Execute || touch == Touch::Open || touch == Touch::Requery ||
            touch == Touch::ReadAll;

@@ -46,7 +46,8 @@ bool IsError(FaultKind kind);
 /// \throws data::Error, or std::bad_alloc for OutOfMemory
 [[noreturn]] void ThrowFault(FaultKind kind);
 
-/// Everything on a connection or a recordset that a provider can fail, and a message.
+/// Everything on a connection or a recordset that a provider can fail, and what the platform can: windows,
+/// messages, dialogs, files, the editor of formatted text.
 enum class Touch {
     Window,  ///< made by the platform
     Create,
@@ -60,9 +61,14 @@ enum class Touch {
     Count,
     Shape,
     Field,
-    Message
+    Message,
+    Dialog,
+    File,
+    Document  ///< comes into an editor or out of it
 };
 
+/// Whether a failure there ends what the user has begun without a word, as nothing is lost.
+bool IsQuiet(Touch touch);
 /// A statement, or the fetching of its rows.
 bool IsStatement(Touch touch);
 

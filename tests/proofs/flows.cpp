@@ -4,6 +4,7 @@
 
 #include "forms/grid.h"
 #include "rates/curs_valutar.h"
+#include "support/fake_rich_text.h"
 
 namespace tavrin::tests {
 namespace {
@@ -19,6 +20,7 @@ constexpr const char* Evolution = "EvolutieCurs";
 constexpr const char* Chooser = "AlegeMoneda";
 constexpr const char* Calculator = "frmCalculator";
 constexpr const char* Book = "Agenda";
+constexpr const char* Note = "Notes";
 
 void Nothing(Session& /*user*/) {}
 
@@ -31,7 +33,11 @@ void OpenCalculator(Session& user) {
 void OpenList(Session& user) {
     user.Click(Palette, "cmdAction(3)");
 }
+void OpenNote(Session& user) {
+    user.Click(Palette, "cmdAction(0)");
+}
 void OpenAll(Session& user) {
+    OpenNote(user);
     OpenBook(user);
     OpenCalculator(user);
     OpenList(user);
@@ -503,10 +509,105 @@ std::vector<Flow> BookFlows() {
     };
 }
 
+FakeRichText* EditorOf(Session& user) {
+    const forms::Control* box = user.Find(Note, "txtNota");
+    return box != nullptr ? dynamic_cast<FakeRichText*>(box->Peer()) : nullptr;
+}
+
+void WriteNote(Session& user) {
+    OpenNote(user);
+    user.Type("De sunat la banca");
+    if (FakeRichText* editor = EditorOf(user)) editor->Select(3, 5);
+}
+
+/// A note that was saved before, and another text in the window.
+void KeepNote(Session& user) {
+    user.ChooseFile("nota.rtf");
+    WriteNote(user);
+    user.Click(Note, "ImgBouton(1)");
+    user.Type(", poimaine");
+}
+
+std::vector<Flow> NoteFlows() {
+    return {
+        {"note: written and left with Escape", Nothing,
+         [](Session& user) {
+             WriteNote(user);
+             user.Press(key::Escape);
+         }},
+        {"note: bold, italic, underlined by mouse", WriteNote,
+         [](Session& user) {
+             for (const char* button : {"ImgBouton(4)", "ImgBouton(5)", "ImgBouton(6)", "ImgBouton(4)"})
+                 user.Click(Note, button);
+         }},
+        {"note: bold, italic, underlined by keyboard", WriteNote,
+         [](Session& user) {
+             for (const int letter : {'B', 'I', 'U', 'I'})
+                 user.keyboard.Press(letter, {.control = true});
+         }},
+        {"note: a new one", WriteNote,
+         [](Session& user) {
+             user.answers = {true};
+             user.Click(Note, "ImgBouton(0)");
+             user.Type("Alta");
+         }},
+        {"note: saved",
+         [](Session& user) {
+             WriteNote(user);
+             user.ChooseFile("nota.rtf");
+         },
+         [](Session& user) { user.Click(Note, "ImgBouton(1)"); }},
+        {"note: saved over another", KeepNote,
+         [](Session& user) { user.keyboard.Press('S', {.control = true}); }},
+        {"note: not saved after all", WriteNote, [](Session& user) { user.Click(Note, "ImgBouton(1)"); }},
+        {"note: the disk is full",
+         [](Session& user) {
+             KeepNote(user);
+             user.desktop.files.failsToWrite = true;
+         },
+         [](Session& user) { user.Click(Note, "ImgBouton(1)"); }},
+        {"note: opened", KeepNote, [](Session& user) { user.Click(Note, "ImgBouton(0)"); }},
+        {"note: not opened after all", WriteNote, [](Session& user) { user.Click(Note, "ImgBouton(0)"); }},
+        {"note: opened, but gone",
+         [](Session& user) {
+             WriteNote(user);
+             user.ChooseFile("pierduta.rtf");
+         },
+         [](Session& user) { user.Click(Note, "ImgBouton(0)"); }},
+        {"note: opened, but no note",
+         [](Session& user) {
+             WriteNote(user);
+             user.desktop.files.contents["lista.txt"] = "o lista";
+             user.ChooseFile("lista.txt");
+         },
+         [](Session& user) { user.Click(Note, "ImgBouton(0)"); }},
+        {"note: another font and colour", WriteNote,
+         [](Session& user) {
+             user.desktop.dialogs.chosenFont = forms::CharacterFormat{.face = "Courier New", .points = 14.0};
+             user.desktop.dialogs.chosenColor = forms::Color{0xFF};
+             user.Click(Note, "ImgBouton(2)");
+             user.Click(Note, "ImgBouton(3)");
+         }},
+        {"note: all closed while a dialog is up", KeepNote,
+         [](Session& user) {
+             user.whileShowing = [&user] { user.Click(Palette, "imgClose"); };
+             user.Click(Note, "ImgBouton(1)");
+             user.whileShowing = nullptr;
+         }},
+        {"note: called for again while a dialog is up", KeepNote,
+         [](Session& user) {
+             user.whileShowing = [&user] { OpenNote(user); };
+             user.Click(Note, "ImgBouton(2)");
+             user.whileShowing = nullptr;
+         }},
+        {"note: left by its button", WriteNote, [](Session& user) { user.Click(Note, "ImgBouton(7)"); }},
+    };
+}
+
 std::vector<Flow> MakeFlows() {
     std::vector<Flow> flows;
     for (const auto& part : {PaletteFlows(), ListFlows(), EntryFlows(), CurrencyFlows(), EvolutionFlows(),
-                             ChooserFlows(), CalculatorFlows(), BookFlows()})
+                             ChooserFlows(), CalculatorFlows(), BookFlows(), NoteFlows()})
         flows.insert(flows.end(), part.begin(), part.end());
     return flows;
 }

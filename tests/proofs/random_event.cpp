@@ -14,24 +14,10 @@ struct KindEntry {
     unsigned weight;
 };
 constexpr std::array<KindEntry, KindCount> Kinds = {{
-    {"key", 220},
-    {"character", 160},
-    {"click", 240},
-    {"mouse", 60},
-    {"double click", 20},
-    {"choose", 40},
-    {"paste", 15},
-    {"accelerator", 15},
-    {"activate", 60},
-    {"close", 6},
-    {"apel", 20},
-    {"fault", 30},
-    {"end of faults", 12},
-    {"answer", 40},
-    {"nest", 40},
-    {"paint", 10},
-    {"database", 5},
-    {"operation", 5},
+    {"key", 220},   {"character", 160}, {"click", 240},        {"mouse", 60},    {"double click", 20},
+    {"choose", 40}, {"paste", 15},      {"accelerator", 15},   {"activate", 60}, {"close", 6},
+    {"apel", 20},   {"fault", 30},      {"end of faults", 12}, {"answer", 40},   {"dialog", 20},
+    {"nest", 40},   {"paint", 10},      {"database", 5},       {"operation", 5},
 }};
 
 constexpr unsigned TotalWeight() {

@@ -23,7 +23,8 @@ enum class EventKind : std::uint8_t {
     Fault,
     EndFaults,
     Answer,
-    Nest,  ///< the next message or report stays up while some events pass
+    Dialog,  ///< what the next dialogs are answered
+    Nest,    ///< the next message or report stays up while some events pass
     Paint,
     Database,  ///< another user changes it
     Operation,

@@ -9,6 +9,7 @@
 #include "forms/date_picker.h"
 #include "forms/text_box.h"
 #include "rates/curs_valutar.h"
+#include "support/fake_rich_text.h"
 #include "support/recording_surface.h"
 
 namespace tavrin::tests {
@@ -16,30 +17,33 @@ namespace {
 
 namespace key = forms::key;
 
-constexpr std::array KeyCodes = {key::Enter,
-                                 key::Enter,
-                                 key::Escape,
-                                 key::Tab,
-                                 key::Tab,
-                                 key::Up,
-                                 key::Down,
-                                 key::Left,
-                                 key::Right,
-                                 key::Home,
-                                 key::End,
-                                 key::Space,
-                                 key::PageUp,
-                                 key::PageDown,
-                                 key::Delete,
-                                 key::Backspace,
-                                 key::F4,
-                                 112,
-                                 0,
-                                 255,
-                                 key::Swallowed,
-                                 18,
-                                 93,
-                                 key::Down};
+constexpr auto KeyCodes = std::to_array<int>({key::Enter,
+                                              key::Enter,
+                                              key::Escape,
+                                              key::Tab,
+                                              key::Tab,
+                                              key::Up,
+                                              key::Down,
+                                              key::Left,
+                                              key::Right,
+                                              key::Home,
+                                              key::End,
+                                              key::Space,
+                                              key::PageUp,
+                                              key::PageDown,
+                                              key::Delete,
+                                              key::Backspace,
+                                              key::F4,
+                                              112,
+                                              0,
+                                              255,
+                                              key::Swallowed,
+                                              18,
+                                              93,
+                                              key::Down,
+                                              'S',
+                                              'O',
+                                              'B'});
 
 constexpr std::array<std::string_view, 24> Characters = {"0",  "1",  "2",  "3", "5", "7", "9", "0",
                                                          "\r", "\b", "\t", " ", "+", "-", "*", "/",
@@ -56,6 +60,8 @@ constexpr std::array<const char*, 6> Writes = {
     "UPDATE [Curs Valutar] SET EUR = NULL",
     "UPDATE AdmQuadrel.dbo.Societati SET Curs = '12-31-2003'",
 };
+
+constexpr std::array<std::string_view, 4> FileNames = {"nota.rtf", "alta.rtf", "altele.txt", ""};
 
 template <class Array>
 auto Pick(const Array& from, unsigned number) {
@@ -81,7 +87,9 @@ bool TakesFocus(const forms::Control& control) {
 }
 
 bool OffersChoice(const forms::Control& control) {
-    return control.Kind() == forms::ControlKind::ComboBox || control.Kind() == forms::ControlKind::DatePicker;
+    const forms::ControlKind kind = control.Kind();
+    return kind == forms::ControlKind::ComboBox || kind == forms::ControlKind::DatePicker ||
+           kind == forms::ControlKind::RichText;
 }
 
 void PaintAll(const forms::Container& container, forms::Surface& surface) {
@@ -221,6 +229,9 @@ void RandomUser::Do(const RandomEvent& event) {
         case EventKind::Answer:
             if (session_.answers.size() < 4) session_.answers.push_back(event.choice % 2 == 0);
             break;
+        case EventKind::Dialog:
+            DoDialog(event);
+            break;
         case EventKind::Nest:
             nested_ = event.choice % 8;
             break;
@@ -301,6 +312,9 @@ void RandomUser::DoChoose(const RandomEvent& event) {
         if (list->ListCount() > 0) list->HandleChosen(static_cast<int>(number) % list->ListCount());
     } else if (auto* picker = dynamic_cast<forms::DatePicker*>(control)) {
         picker->HandleChosen({37700.0 + number % 90});
+    } else if (auto* note = dynamic_cast<forms::RichTextBox*>(control)) {
+        if (auto* editor = dynamic_cast<FakeRichText*>(note->Peer()))
+            editor->Select(number % 7, number / 7 % 9);
     } else if (auto* box = dynamic_cast<forms::TextBox*>(control)) {
         const int length = box->TextLength();
         const int start = static_cast<int>(number) % (length + 1);
@@ -337,6 +351,20 @@ void RandomUser::DoDatabase(const RandomEvent& event) {
     } catch (const std::exception&) {
         // The same person twice, perhaps: the other user's own trouble.
     }
+}
+
+/// What the user will choose in the next dialogs, or that they are cancelled.
+void RandomUser::DoDialog(const RandomEvent& event) {
+    RecordingDialogs& dialogs = session_.desktop.dialogs;
+    const auto chosen = [&](unsigned bit) { return (event.choice >> bit) % 2 != 0; };
+    dialogs.chosenFile.reset();
+    dialogs.chosenFont.reset();
+    dialogs.chosenColor.reset();
+    if (chosen(0)) dialogs.chosenFile = std::string(Pick(FileNames, event.detail));
+    if (chosen(1))
+        dialogs.chosenFont = forms::CharacterFormat{.points = 8.0 + event.detail % 20, .bold = chosen(4)};
+    if (chosen(2)) dialogs.chosenColor = event.detail;
+    session_.desktop.files.failsToWrite = event.choice % 32 == 31;
 }
 
 void RandomUser::Paint(const RandomEvent& event) {

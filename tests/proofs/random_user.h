@@ -42,6 +42,7 @@ class RandomUser {
     void DoFault(const RandomEvent& event);
     void DoApel(const RandomEvent& event);
     void DoDatabase(const RandomEvent& event);
+    void DoDialog(const RandomEvent& event);
     void Paint(const RandomEvent& event);
     void Nested();
     void RestartPlan(std::optional<PlannedFault> fault = std::nullopt);

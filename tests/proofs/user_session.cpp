@@ -11,6 +11,7 @@
 #include "forms/date_picker.h"
 #include "host/embedded/embedded_connection.h"
 #include "proofs/faulty_connection.h"
+#include "support/fake_rich_text.h"
 
 namespace tavrin::tests {
 
@@ -63,7 +64,7 @@ UserSession::UserSession()
     : module(desktop, [this] { return std::make_unique<Messages>(*this); }),
       database_(std::make_shared<host::EmbeddedDatabase>(":memory:")) {
     com::AddWindows(module);
-    desktop.whenCreating = [this] { plan->Meet(Touch::Window); };
+    ConnectPlatform();
     FillDatabase();
     connection_ =
         std::make_shared<FaultyConnection>(std::make_shared<host::EmbeddedConnection>(database_), plan);
@@ -73,6 +74,7 @@ UserSession::UserSession()
 
 UserSession::~UserSession() {
     plan->Start();
+    whileShowing = nullptr;
     desktop.UnloadAll();
 }
 
@@ -104,6 +106,25 @@ void UserSession::FillDatabase() {
         for (std::size_t i = addressbook::FirstDetailColumn; i < person.size(); ++i)
             person[i] = std::string(nume) + " " + std::to_string(i);
         database_->Run(addressbook::InsertStatement(person));
+    }
+}
+
+void UserSession::ConnectPlatform() {
+    desktop.whenCreating = [this](const forms::Form& form) {
+        plan->Meet(Touch::Window);
+        GiveEditors(form);
+    };
+    desktop.dialogs.whileShowing = [this](const forms::Form&) {
+        plan->Meet(Touch::Dialog);
+        if (whileShowing) whileShowing();
+    };
+    desktop.files.whenUsed = [this] { plan->Meet(Touch::File); };
+}
+
+void UserSession::GiveEditors(const forms::Form& form) {
+    for (forms::Control* control : form.AllControls()) {
+        if (auto* box = dynamic_cast<forms::RichTextBox*>(control))
+            FakeRichText::Give(*box).whenStreaming = [this] { plan->Meet(Touch::Document); };
     }
 }
 
@@ -207,6 +228,9 @@ void UserSession::Restart() {
         transaction_ = std::make_unique<host::EmbeddedDatabase::Transaction>(*database_);
     }
     desktop.reports.clear();
+    desktop.dialogs = {};
+    desktop.files = {};
+    ConnectPlatform();
     desktop.cursor = {500, 400};
     messages.clear();
     answers.clear();

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "data/date.h"
@@ -66,6 +67,8 @@ class UserSession {
         database_->Run(statement);
     }
     void EmptyAgenda();
+    /// What the user chooses in dialogs from now on; nothing cancels them.
+    void ChooseFile(std::optional<std::string> name) { desktop.dialogs.chosenFile = std::move(name); }
 
     /// Closes every window and takes back what was written.
     void Restart();
@@ -84,8 +87,8 @@ class UserSession {
     HeadlessKeyboard keyboard{desktop};
     std::shared_ptr<FaultPlan> plan = std::make_shared<FaultPlan>();
     std::vector<Shown> messages;
-    std::deque<bool> answers;  ///< to the next questions: yes or no; no where none is laid down
-    std::function<void()> whileShowing;
+    std::deque<bool> answers;            ///< to the next questions: yes or no; no where none is laid down
+    std::function<void()> whileShowing;  ///< a message or a dialog
     std::vector<std::string> hostErrors;
     int raised = 0;  ///< how often the host was told that the user left
     shell::Module module;
@@ -95,6 +98,8 @@ class UserSession {
     class Caller;
 
     void FillDatabase();
+    void ConnectPlatform();
+    void GiveEditors(const forms::Form& form);
     int Answer(const std::string& prompt, int buttons);
 
     std::shared_ptr<host::EmbeddedDatabase> database_;

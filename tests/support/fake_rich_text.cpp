@@ -160,6 +160,7 @@ void FakeRichText::FormatSelection(const CharacterFormat& format) {
 
 void FakeRichText::Load(std::string_view rtf) {
     ++loads;
+    if (whenStreaming) whenStreaming();
     if (!rtf.starts_with(Start)) throw data::Error(321, "no document of this editor");
     std::vector<Character> loaded;
     for (Reader reader(rtf.substr(Start.size())); !reader.IsAtEnd();) {
@@ -172,6 +173,7 @@ void FakeRichText::Load(std::string_view rtf) {
 }
 
 std::string FakeRichText::Save() const {
+    if (whenStreaming) whenStreaming();
     if (failsToSave) throw data::Error(-2147467259, "the editor fails");
     std::string rtf(Start);
     for (const Character& character : characters_)

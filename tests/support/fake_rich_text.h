@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,6 +42,7 @@ class FakeRichText : public forms::ControlPeer, public forms::RichTextEditor {
 
     int loads = 0;
     bool failsToSave = false;
+    std::function<void()> whenStreaming;  ///< before a document comes or goes; may throw
 
   private:
     struct Character {

@@ -34,7 +34,7 @@ HeadlessDesktop::~HeadlessDesktop() {
 }
 
 std::unique_ptr<forms::FormPeer> HeadlessDesktop::CreatePeer(forms::Form& form) {
-    if (whenCreating) whenCreating();
+    if (whenCreating) whenCreating(form);
     return std::make_unique<Window>(*this, form);
 }
 

@@ -50,7 +50,7 @@ class HeadlessDesktop : public forms::Desktop {
     MemoryFiles files;
     std::vector<Report> reports;
     /// Before the window of a form is made. May throw, as a platform does that has no more windows to give.
-    std::function<void()> whenCreating;
+    std::function<void(forms::Form& form)> whenCreating;
     /// What happens while a report is up, as a user or a timer may do things then.
     std::function<void()> whileReporting;
 

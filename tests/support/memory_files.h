@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -13,6 +14,7 @@ namespace tavrin::tests {
 class MemoryFiles : public forms::Files {
   public:
     std::string Read(const std::string& name, std::size_t maximumSize) override {
+        if (whenUsed) whenUsed();
         const auto file = contents.find(name);
         if (file == contents.end()) throw data::Error(-2147024894, "The file is not there");
         if (file->second.size() > maximumSize) throw data::Error(-2147024673, "The file is too large");
@@ -20,12 +22,14 @@ class MemoryFiles : public forms::Files {
     }
 
     void Replace(const std::string& name, std::string_view content) override {
+        if (whenUsed) whenUsed();
         if (failsToWrite || name.empty()) throw data::Error(-2147024784, "The disk is full");
         contents[name] = content;
     }
 
     std::map<std::string, std::string> contents;
     bool failsToWrite = false;
+    std::function<void()> whenUsed;  ///< before every reading and writing; may throw
 };
 
 }  // namespace tavrin::tests

@@ -74,7 +74,7 @@ TEST_F(AlegeMonedaTest, AsksForTheRatesOfItsCodeFirstAndAgainWithTheCurrenciesOn
 
 TEST_F(AlegeMonedaTest, WhereItsWindowCannotBeMadeItsCallerIsEnabledAgain) {
     Open();
-    desktop.whenCreating = [] { throw data::Error(8, "Not enough storage"); };
+    desktop.whenCreating = [](const forms::Form&) { throw data::Error(8, "Not enough storage"); };
     Calculator()->cmdVal.Click();
     EXPECT_THAT(ReportedErrors(), ElementsAre(8));
     EXPECT_EQ(Chooser(), nullptr);

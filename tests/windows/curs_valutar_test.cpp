@@ -337,7 +337,7 @@ TEST_F(CursValutarTest, TheEvolutionWindowTakesTheListsPlace) {
 
 TEST_F(CursValutarTest, IsEnabledAgainWhereTheOtherWindowCannotBeMade) {
     CursValutar& list = OpenList();
-    desktop.whenCreating = [] { throw data::Error(8, "Not enough storage"); };
+    desktop.whenCreating = [](const forms::Form&) { throw data::Error(8, "Not enough storage"); };
     for (const auto action : {CursValutar::AddDay, CursValutar::AddCurrency, CursValutar::ShowEvolution}) {
         desktop.reports.clear();
         list.cmdAction[action].Click();

@@ -123,7 +123,7 @@ TEST_F(FormTest, UnloadingRaisesUnloadOnceAndLeavesTheList) {
 
 TEST_F(FormTest, AFormWhoseWindowCannotBeMadeIsUnloaded) {
     const auto form = Make();
-    desktop.whenCreating = [] { throw data::Error(8, "Not enough storage"); };
+    desktop.whenCreating = [](const forms::Form&) { throw data::Error(8, "Not enough storage"); };
     EXPECT_THROW(form->Show(), data::Error);
     EXPECT_THAT(events, ElementsAre("load", "unload"));
     EXPECT_THAT(desktop.Forms(), IsEmpty());
