@@ -1,8 +1,9 @@
 #include "data/rounding.h"
 
 #include <array>
-#include <bit>
 #include <cmath>
+
+#include "data/binary_parts.h"
 
 namespace tavrin::data {
 
@@ -12,23 +13,6 @@ constexpr std::array<double, MaxRoundingDecimals + 1> PowersOfTen = {1, 1e1, 1e2
 constexpr std::array<std::uint64_t, MaxRoundingDecimals + 1> PowersOfFive = {1, 5, 25, 125, 625, 3125, 15625};
 // 9e15 units, a little less than 2^53.
 constexpr std::array<double, MaxRoundingDecimals + 1> Limits = {9e15, 9e14, 9e13, 9e12, 9e11, 9e10, 9e9};
-
-/// A positive double as significand * 2^exponent.
-struct BinaryParts {
-    std::uint64_t significand;
-    int exponent;
-};
-
-BinaryParts Split(double magnitude) {
-    constexpr int FractionBits = 52;
-    constexpr int Bias = 1075;
-    constexpr std::uint64_t HiddenBit = std::uint64_t{1} << FractionBits;
-    const auto bits = std::bit_cast<std::uint64_t>(magnitude);
-    const auto exponent = static_cast<int>(bits >> FractionBits);
-    const std::uint64_t fraction = bits & (HiddenBit - 1);
-    if (exponent == 0) return {fraction, 1 - Bias};
-    return {fraction | HiddenBit, exponent - Bias};
-}
 
 enum class Below { Nothing, Something };  ///< whether smaller digits than those at hand are not all zero
 

@@ -1,12 +1,13 @@
 #include "forms/grouped_number.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <optional>
+#include <ranges>
 #include <string_view>
 
+#include "data/decimal.h"
 #include "data/rounding.h"
 
 namespace tavrin::forms {
@@ -80,37 +81,31 @@ void WriteUnits(BackwardWriter& writer, std::uint64_t units, int decimals, const
 
 /// For a number so large that a double tells no units apart.
 void WriteLarge(BackwardWriter& writer, double magnitude, int decimals, const Locale& locale) {
-    std::array<char, 32> digits;
-    char* const begin = digits.data();
-    const char* const end =
-        std::to_chars(begin, begin + digits.size(), magnitude, std::chars_format::fixed, decimals).ptr;
-    const char* at = end;
+    data::Decimal number = data::ExactDecimal(magnitude);
+    number.RoundToPlaces(decimals);
+    number.digits.Resize(static_cast<std::size_t>(number.point + decimals));
+    const std::string_view digits = number.digits.View();
+    const auto point = static_cast<std::size_t>(number.point);
     if (decimals > 0) {
-        while (*--at != '.')
-            writer.Put(*at);
+        for (const char digit : digits.substr(point) | std::views::reverse)
+            writer.Put(digit);
         writer.Put(locale.decimalSeparator);
     }
     GroupWriter groups(writer, locale.thousandsSeparator);
-    while (at != begin)
-        groups.Put(*--at);
+    for (const char digit : digits.substr(0, point) | std::views::reverse)
+        groups.Put(digit);
 }
 
 void AppendWithExponent(std::string& text, double magnitude, const Locale& locale) {
-    std::array<char, 32> digits;
-    char* const begin = digits.data();
-    const char* const end =
-        std::to_chars(begin, begin + digits.size(), magnitude, std::chars_format::scientific, ExponentDigits)
-            .ptr;
-    const std::string_view written(begin, static_cast<std::size_t>(end - begin));
-    const std::size_t exponentAt = written.find('e');
-    const std::string_view fraction = written.substr(2, exponentAt - 2);
-    text += written.front();
-    if (const std::size_t last = fraction.find_last_not_of('0'); last != std::string_view::npos) {
+    data::Decimal number = data::ExactDecimal(magnitude);
+    number.RoundToDigits(1 + ExponentDigits);
+    const std::string_view digits = number.digits.View();
+    text += digits.front();
+    if (digits.size() > 1) {
         text += locale.decimalSeparator;
-        text += fraction.substr(0, last + 1);
+        text += digits.substr(1);
     }
-    text += 'E';
-    text += written.substr(exponentAt + 1);
+    text += "E+" + std::to_string(number.point - 1);
 }
 
 }  // namespace
