@@ -39,20 +39,20 @@ void WriteUnits(std::string& text, std::uint64_t units, int decimals, std::strin
     text.append(point, end);
 }
 
-/// Digits as they are typed: nothing but a sign, digits and a separator, few enough to be exact.
+/// Digits as they are typed, few enough to be exact.
 struct PlainNumber {
     std::uint64_t units = 0;
     int digits = 0;
-    bool plain = true;
 
-    void Take(std::string_view part) {
-        for (const char character : part) {
-            if (character < '0' || character > '9' || ++digits > ExactDigits) {
-                plain = false;
-                return;
-            }
-            units = units * 10 + static_cast<std::uint64_t>(character - '0');
+    /// What follows the digits that a text begins with.
+    std::string_view Take(std::string_view text) {
+        std::size_t taken = 0;
+        for (; taken < text.size() && digits < ExactDigits; ++taken, ++digits) {
+            const auto digit = static_cast<unsigned char>(text[taken] - '0');
+            if (digit > 9) break;
+            units = units * 10 + digit;
         }
+        return text.substr(taken);
     }
 };
 
@@ -75,23 +75,22 @@ void WriteNumber(std::string& text, double number, std::string_view separator) {
 }
 
 double ReadNumber(std::string_view text, std::string_view separator) {
-    const std::size_t separatorAt = text.find(separator);
-    const std::string_view whole = text.substr(0, separatorAt);
-    std::string_view fraction;
-    if (separatorAt != std::string_view::npos) {
-        fraction = text.substr(separatorAt + separator.size());
-        fraction = fraction.substr(0, fraction.find(separator));
-    }
-    const bool negative = whole.starts_with('-');
+    const bool negative = text.starts_with('-');
     PlainNumber number;
-    number.Take(whole.substr(negative ? 1 : 0));
-    number.Take(fraction);
-    if (!number.plain) {
+    std::string_view rest = number.Take(text.substr(negative ? 1 : 0));
+    int places = 0;
+    if (rest.starts_with(separator)) {
+        const int whole = number.digits;
+        rest = number.Take(rest.substr(separator.size()));
+        places = number.digits - whole;
+    }
+    if (!rest.empty()) {
         const double any = data::ReadDecimal(text, data::Exponents::NotRead, separator).number;
         return any == 0 ? 0 : any;
     }
     if (number.units == 0) return 0;
-    const double magnitude = static_cast<double>(number.units) / PowersOfTen[fraction.size()];
+    const double magnitude =
+        static_cast<double>(number.units) / PowersOfTen[static_cast<std::size_t>(places)];
     return negative ? -magnitude : magnitude;
 }
 

@@ -1,6 +1,6 @@
-// What the runtime does with an exception that nobody catches. Its own handler prints the exception's name, for
-// which it brings a demangler and the C library's printing along, a twentieth of the DLL; and a host has no
-// console to read it on.
+// What the runtime does with an exception that nobody catches. Its own handler prints the exception's name,
+// for which it brings a demangler and the C library's printing along, a twentieth of the DLL; and a host has
+// no console to read it on.
 
 #include <cstdlib>
 

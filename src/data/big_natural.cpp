@@ -1,7 +1,6 @@
 #include "data/big_natural.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace tavrin::data {
 
@@ -41,7 +40,7 @@ void BigNatural::DropLeadingZeros() {
 
 void BigNatural::MultiplyAdd(std::uint32_t factor, std::uint32_t addend) {
     std::uint64_t carry = addend;
-    for (std::uint32_t& word : std::span(words_).first(size_)) {
+    for (std::uint32_t& word : Words()) {
         carry += std::uint64_t{word} * factor;
         word = static_cast<std::uint32_t>(carry);
         carry >>= WordBits;
@@ -72,9 +71,9 @@ void BigNatural::ShiftLeft(int bits) {
 
 std::uint32_t BigNatural::DivideBy(std::uint32_t divisor) {
     std::uint64_t rest = 0;
-    for (std::uint32_t& word : std::span(words_).first(size_) | std::views::reverse) {
-        rest = rest << WordBits | word;
-        word = static_cast<std::uint32_t>(rest / divisor);
+    for (std::size_t i = size_; i-- > 0;) {
+        rest = rest << WordBits | words_[i];
+        words_[i] = static_cast<std::uint32_t>(rest / divisor);
         rest %= divisor;
     }
     DropLeadingZeros();
@@ -98,9 +97,9 @@ DigitText BigNatural::Digits() const {
 
 std::strong_ordering BigNatural::operator<=>(const BigNatural& other) const {
     if (size_ != other.size_) return size_ <=> other.size_;
-    const auto ours = Words() | std::views::reverse;
-    const auto theirs = other.Words() | std::views::reverse;
-    return std::lexicographical_compare_three_way(ours.begin(), ours.end(), theirs.begin(), theirs.end());
+    const auto ours = Words();
+    const auto theirs = other.Words();
+    return std::lexicographical_compare_three_way(ours.rbegin(), ours.rend(), theirs.rbegin(), theirs.rend());
 }
 
 }  // namespace tavrin::data

@@ -34,6 +34,7 @@ class BigNatural {
     void DropLeadingZeros();
 
     void Push(std::uint32_t word) { words_[size_++] = word; }
+    std::span<std::uint32_t> Words() { return std::span(words_).first(size_); }
     std::span<const std::uint32_t> Words() const { return std::span(words_).first(size_); }
 
     /// 800 digits times or against ten to the power of 1,200, and a double's own factor of two.

@@ -47,13 +47,13 @@ std::strong_ordering CompareWithMiddleAbove(const Decimal& decimal, double magni
 
 bool IsNearerAbove(const Decimal& decimal, double magnitude) {
     const auto order = CompareWithMiddleAbove(decimal, magnitude);
-    return order > 0 || (order == 0 && IsOdd(magnitude));
+    return std::is_gt(order) || (std::is_eq(order) && IsOdd(magnitude));
 }
 
 bool IsNearerBelow(const Decimal& decimal, double magnitude) {
     if (magnitude == 0) return false;
     const auto order = CompareWithMiddleAbove(decimal, std::nextafter(magnitude, 0));
-    return order < 0 || (order == 0 && IsOdd(magnitude));
+    return std::is_lt(order) || (std::is_eq(order) && IsOdd(magnitude));
 }
 
 std::uint64_t NumberOf(std::string_view digits) {
@@ -154,14 +154,15 @@ int TakeExponent(Scanner& scanner) {
 Decimal FromParts(std::string_view whole, std::string_view fraction, int exponent) {
     const std::size_t wholeZeros = std::min(whole.find_first_not_of('0'), whole.size());
     whole.remove_prefix(wholeZeros);
-    const auto point = static_cast<int>(std::min<std::size_t>(whole.size(), HugePoint * 2));
+    const auto point = static_cast<int>(std::min(whole.size(), DecisiveDigits));
     const std::size_t zeros = whole.empty() ? std::min(fraction.find_first_not_of('0'), fraction.size()) : 0;
     fraction.remove_prefix(zeros);
     Decimal decimal{{}, point - static_cast<int>(zeros) + exponent};
     for (const std::string_view part : {whole, fraction}) {
         const std::size_t room = DecisiveDigits - std::min(DecisiveDigits, decimal.digits.Size());
         decimal.digits.Append(part.substr(0, room));
-        const bool isLonger = part.size() > room && part.find_first_not_of('0', room) != part.npos;
+        const bool isLonger =
+            part.size() > room && part.find_first_not_of('0', room) != std::string_view::npos;
         if (isLonger) decimal.digits.Append("1");
     }
     decimal.digits.DropLast('0');

@@ -39,11 +39,25 @@ std::uint64_t ScaleRounded(std::uint64_t significand, std::uint64_t factor, int 
     return ShiftRounded(high, shift - Spare, (low & SpareMask) != 0 ? Below::Something : Below::Nothing);
 }
 
+/// Most numbers lie far from every tie: where even the product, which may be off by a 500th, is clear of
+/// them, it shows the nearest integer.
+std::optional<std::uint64_t> RoundedProduct(double magnitude, double power) {
+    constexpr double SafeProduct = 17'592'186'044'416.0;  // 2^44, where doubles are 2^-8 apart
+    constexpr double ClearOfTies = 0.49;
+    const double product = magnitude * power;
+    if (!(product < SafeProduct)) return std::nullopt;
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and ties are not for here
+    const auto nearest = static_cast<std::int64_t>(product + 0.5);
+    if (std::fabs(product - static_cast<double>(nearest)) > ClearOfTies) return std::nullopt;
+    return static_cast<std::uint64_t>(nearest);
+}
+
 }  // namespace
 
 std::optional<std::uint64_t> RoundedUnits(double number, int decimals) {
     const auto places = static_cast<std::size_t>(decimals);
     const double magnitude = std::fabs(number);
+    if (const auto units = RoundedProduct(magnitude, PowersOfTen[places])) return units;
     if (!(magnitude < Limits[places])) return std::nullopt;
     // Ten is two times five: the twos go into the exponent, so only a small factor is left to multiply by.
     const BinaryParts parts = Split(magnitude);

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstdint>
 #include <optional>
-#include <ranges>
 #include <string_view>
 
 #include "data/decimal.h"
@@ -27,11 +26,15 @@ class BackwardWriter {
         for (std::size_t i = std::min(separator.size(), LongestSeparator); i > 0; --i)
             Put(separator[i - 1]);
     }
-    /// The last `count` digits of a number; the number without them is left.
+    /// The last `count` digits of a number, six at most; the number without them is left.
     void PutDigits(std::uint64_t& number, int count) {
+        // One division of the long number; the digits come off the short one.
+        const std::uint32_t power = PowersOfTen[static_cast<std::size_t>(count)];
+        auto part = static_cast<std::uint32_t>(number % power);
+        number /= power;
         for (int i = 0; i < count; ++i) {
-            Put(static_cast<char>('0' + number % 10));
-            number /= 10;
+            Put(static_cast<char>('0' + part % 10));
+            part /= 10;
         }
     }
     std::string_view Written() const {
@@ -39,6 +42,8 @@ class BackwardWriter {
     }
 
   private:
+    static constexpr std::array<std::uint32_t, data::MaxRoundingDecimals + 1> PowersOfTen = {
+        1, 10, 100, 1'000, 10'000, 100'000, 1'000'000};
     static constexpr std::size_t LongestSeparator = 9;
     std::array<char, 128> buffer_;
     char* first_ = buffer_.data() + buffer_.size();
@@ -83,17 +88,19 @@ void WriteUnits(BackwardWriter& writer, std::uint64_t units, int decimals, const
 void WriteLarge(BackwardWriter& writer, double magnitude, int decimals, const Locale& locale) {
     data::Decimal number = data::ExactDecimal(magnitude);
     number.RoundToPlaces(decimals);
-    number.digits.Resize(static_cast<std::size_t>(number.point + decimals));
+    const int size = number.point + decimals;
+    number.digits.Resize(static_cast<std::size_t>(size));
     const std::string_view digits = number.digits.View();
     const auto point = static_cast<std::size_t>(number.point);
+    std::size_t at = digits.size();
     if (decimals > 0) {
-        for (const char digit : digits.substr(point) | std::views::reverse)
-            writer.Put(digit);
+        while (at > point)
+            writer.Put(digits[--at]);
         writer.Put(locale.decimalSeparator);
     }
     GroupWriter groups(writer, locale.thousandsSeparator);
-    for (const char digit : digits.substr(0, point) | std::views::reverse)
-        groups.Put(digit);
+    while (at > 0)
+        groups.Put(digits[--at]);
 }
 
 void AppendWithExponent(std::string& text, double magnitude, const Locale& locale) {
