@@ -13,6 +13,12 @@ void RunUntilPainted() {
     GdiFlush();
 }
 
+void Settle() {
+    constexpr DWORD LongEnough = 20;
+    Sleep(LongEnough);
+    RunUntilPainted();
+}
+
 void PressKey(const e2e::Window& window, WPARAM key) {
     PostMessageW(window.Handle(), WM_KEYDOWN, key, 1);
     PostMessageW(window.Handle(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));

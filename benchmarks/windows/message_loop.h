@@ -9,6 +9,9 @@ namespace tavrin::bench {
 /// Runs a host's bare loop until the thread has nothing left to do, and so has painted everything.
 void RunUntilPainted();
 
+/// Lets what other processes still have to say of earlier windows arrive first.
+void Settle();
+
 /// Posts what the system would, to that window alone: no other program's input gets in between.
 void PressKey(const e2e::Window& window, WPARAM key);
 void TypeCharacter(const e2e::Window& window, wchar_t character);

@@ -87,6 +87,7 @@ void CompareWindow(const Way& way) {
     SIZE size{};
     const auto ours = [&] {
         Open(way.opener);  // one of them closes it
+        Settle();
         const double time = MillisecondsOf([&] { Follow(way); });
         const e2e::Window window = e2e::AwaitForm(way.window);
         size = SizeOf(window);
@@ -95,11 +96,9 @@ void CompareWindow(const Way& way) {
     };
     const double first = ours();
     const auto bare = [&] {
+        Settle();
         std::unique_ptr<BareWindow> window;
-        const double time = MillisecondsOf([&] { window = std::make_unique<BareWindow>(size); });
-        window.reset();
-        RunUntilPainted();
-        return time;
+        return MillisecondsOf([&] { window = std::make_unique<BareWindow>(size); });
     };
     const Turns turns = TakeTurns(bare, ours);
     std::printf("  %-28s %8.2f ms, bare %8.2f ms, the first time %.2f ms\n", way.window, turns.ours,
@@ -148,14 +147,15 @@ void ComparePalettes() {
 
     AccountingHost host;
     const auto bare = [&] {
+        Settle();
         std::unique_ptr<BareWindow> window;
         return MillisecondsOf([&] { window = std::make_unique<BareWindow>(size); });
     };
     const auto ours = [&] {
+        Settle();
         const double time = MillisecondsOf([&] { host.OpenPalette(); });
         host.Leave();
         if (e2e::Component::IsLoaded()) throw e2e::DriverError("the DLL stays loaded");
-        RunUntilPainted();
         return time;
     };
     Report::Difference("again, the DLL loaded anew", TakeTurns(bare, ours), PaletteGoal);

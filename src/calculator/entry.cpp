@@ -28,7 +28,8 @@ bool Entry::TypeDigit(int digit, int decimals) {
     startsAnew_ = false;
     if (Length() >= MaxLength || FractionIsFull(decimals)) return false;
     if (separatorPending_) {
-        separatorAt_ = text_.size();
+        // One that was asked for before a number was recalled comes as a second one.
+        if (!HasSeparator()) separatorAt_ = text_.size();
         text_ += separator_;
     } else if (text_ == "0") {
         text_.clear();
@@ -54,10 +55,8 @@ void Entry::DropLast() {
         SetZero();
     } else {
         text_.pop_back();
-        if (HasSeparator() && text_.size() == separatorAt_ + separator_.size()) {
-            text_.resize(separatorAt_);
-            separatorAt_ = std::string::npos;
-        }
+        if (text_.ends_with(separator_)) text_.resize(text_.size() - separator_.size());
+        if (text_.size() == separatorAt_) separatorAt_ = std::string::npos;
     }
     separatorPending_ = false;
 }

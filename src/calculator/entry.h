@@ -45,7 +45,7 @@ class Entry {
 
     std::string separator_;
     std::string text_;
-    std::size_t separatorAt_ = std::string::npos;  ///< where it stands in the text
+    std::size_t separatorAt_ = std::string::npos;  ///< where the first one stands in the text
     bool startsAnew_ = true;
     bool separatorPending_ = false;
 };
