@@ -16,6 +16,7 @@ namespace {
 constexpr double ExponentFrom = 1e21;
 constexpr int ExponentDigits = 14;
 constexpr int GroupSize = 3;
+constexpr std::uint64_t GroupLimit = 1000;
 
 /// Digits and separators, filled from the end; long enough for 21 digits in groups and all decimals. The
 /// platform's separators have at most three characters.
@@ -26,24 +27,24 @@ class BackwardWriter {
         for (std::size_t i = std::min(separator.size(), LongestSeparator); i > 0; --i)
             Put(separator[i - 1]);
     }
-    /// The last `count` digits of a number, six at most; the number without them is left.
-    void PutDigits(std::uint64_t& number, int count) {
+    /// The last digit of a number; the number without it is left.
+    template <class Number>
+    void PutDigit(Number& number) {
+        Put(static_cast<char>('0' + number % 10));
+        number /= 10;
+    }
+    void PutGroup(std::uint64_t& number) {
         // One division of the long number; the digits come off the short one.
-        const std::uint32_t power = PowersOfTen[static_cast<std::size_t>(count)];
-        auto part = static_cast<std::uint32_t>(number % power);
-        number /= power;
-        for (int i = 0; i < count; ++i) {
-            Put(static_cast<char>('0' + part % 10));
-            part /= 10;
-        }
+        auto group = static_cast<std::uint32_t>(number % GroupLimit);
+        number /= GroupLimit;
+        for (int i = 0; i < GroupSize; ++i)
+            PutDigit(group);
     }
     std::string_view Written() const {
         return {first_, static_cast<std::size_t>(buffer_.data() + buffer_.size() - first_)};
     }
 
   private:
-    static constexpr std::array<std::uint32_t, data::MaxRoundingDecimals + 1> PowersOfTen = {
-        1, 10, 100, 1'000, 10'000, 100'000, 1'000'000};
     static constexpr std::size_t LongestSeparator = 9;
     std::array<char, 128> buffer_;
     char* first_ = buffer_.data() + buffer_.size();
@@ -71,16 +72,15 @@ class GroupWriter {
 };
 
 void WriteUnits(BackwardWriter& writer, std::uint64_t units, int decimals, const Locale& locale) {
-    if (decimals > 0) {
-        writer.PutDigits(units, decimals);
-        writer.Put(locale.decimalSeparator);
-    }
-    while (units >= 1000) {
-        writer.PutDigits(units, GroupSize);
+    for (int i = 0; i < decimals; ++i)
+        writer.PutDigit(units);
+    if (decimals > 0) writer.Put(locale.decimalSeparator);
+    while (units >= GroupLimit) {
+        writer.PutGroup(units);
         writer.Put(locale.thousandsSeparator);
     }
     do {
-        writer.PutDigits(units, 1);
+        writer.PutDigit(units);
     } while (units > 0);
 }
 
