@@ -1,10 +1,10 @@
 #pragma once
 
-#include <algorithm>
-#include <cstddef>
 #include <ctime>
 #include <functional>
 #include <vector>
+
+#include "median.h"
 
 namespace tavrin::bench {
 
@@ -19,12 +19,6 @@ inline double SecondsOf(const std::function<void()>& work) {
     const double start = ProcessorTime();
     work();
     return ProcessorTime() - start;
-}
-
-inline double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    const std::size_t middle = values.size() / 2;
-    return values.size() % 2 == 1 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
 }
 
 struct Comparison {

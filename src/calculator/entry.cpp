@@ -28,6 +28,8 @@ bool Entry::TypeDigit(int digit, int decimals) {
     startsAnew_ = false;
     if (Length() >= MaxLength || FractionIsFull(decimals)) return false;
     if (separatorPending_) {
+        // One that was asked for before a number was recalled comes as a second one.
+        if (!HasSeparator()) separatorAt_ = text_.size();
         text_ += separator_;
     } else if (text_ == "0") {
         text_.clear();
@@ -44,6 +46,7 @@ void Entry::TypeSeparator() {
 bool Entry::ChangeSign() {
     if (text_ == "0" || text_.find('-') != std::string::npos) return false;
     text_.insert(text_.begin(), '-');
+    if (HasSeparator()) ++separatorAt_;
     return true;
 }
 
@@ -53,12 +56,14 @@ void Entry::DropLast() {
     } else {
         text_.pop_back();
         if (text_.ends_with(separator_)) text_.resize(text_.size() - separator_.size());
+        if (text_.size() == separatorAt_) separatorAt_ = std::string::npos;
     }
     separatorPending_ = false;
 }
 
 void Entry::SetNumber(double number) {
     WriteNumber(text_, number, separator_);
+    separatorAt_ = text_.find(separator_);
 }
 
 void Entry::Clear() {
@@ -73,9 +78,8 @@ int Entry::Length() const {
 }
 
 bool Entry::FractionIsFull(int decimals) const {
-    const std::size_t separatorAt = text_.find(separator_);
-    if (separatorAt == std::string::npos || separatorAt == 0) return false;
-    const std::size_t digits = text_.size() - separatorAt - separator_.size();
+    if (!HasSeparator() || separatorAt_ == 0) return false;
+    const std::size_t digits = text_.size() - separatorAt_ - separator_.size();
     // With no decimals the digit that brought the separator along stands; none follows it.
     return static_cast<int>(digits) >= decimals;
 }

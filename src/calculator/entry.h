@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace tavrin::calculator {
@@ -30,17 +31,21 @@ class Entry {
 
     void SetNumber(double number);
     /// "0", onto which typing goes on.
-    void SetZero() { text_ = "0"; }
+    void SetZero() {
+        text_ = "0";
+        separatorAt_ = std::string::npos;
+    }
     /// "0", and the next digit begins a new number.
     void Clear();
 
   private:
-    bool HasSeparator() const { return text_.find(separator_) != std::string::npos; }
+    bool HasSeparator() const { return separatorAt_ != std::string::npos; }
     int Length() const;
     bool FractionIsFull(int decimals) const;
 
     std::string separator_;
     std::string text_;
+    std::size_t separatorAt_ = std::string::npos;  ///< where the first one stands in the text
     bool startsAnew_ = true;
     bool separatorPending_ = false;
 };

@@ -4,6 +4,9 @@
 #include <tavrin_interfaces.h>
 
 #include <array>
+#include <string>
+
+#include "win32/text.h"
 
 namespace tavrin::com {
 namespace {
@@ -23,7 +26,7 @@ std::wstring TextOf(REFGUID id) {
 }
 
 std::wstring VersionOf(const TLIBATTR& types) {
-    return std::to_wstring(types.wMajorVerNum) + L"." + std::to_wstring(types.wMinorVerNum);
+    return win32::ToWide(std::to_string(types.wMajorVerNum) + "." + std::to_string(types.wMinorVerNum));
 }
 
 std::wstring LibraryKey(const TLIBATTR& types) {

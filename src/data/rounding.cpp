@@ -1,8 +1,9 @@
 #include "data/rounding.h"
 
 #include <array>
-#include <bit>
 #include <cmath>
+
+#include "data/binary_parts.h"
 
 namespace tavrin::data {
 
@@ -12,23 +13,8 @@ constexpr std::array<double, MaxRoundingDecimals + 1> PowersOfTen = {1, 1e1, 1e2
 constexpr std::array<std::uint64_t, MaxRoundingDecimals + 1> PowersOfFive = {1, 5, 25, 125, 625, 3125, 15625};
 // 9e15 units, a little less than 2^53.
 constexpr std::array<double, MaxRoundingDecimals + 1> Limits = {9e15, 9e14, 9e13, 9e12, 9e11, 9e10, 9e9};
-
-/// A positive double as significand * 2^exponent.
-struct BinaryParts {
-    std::uint64_t significand;
-    int exponent;
-};
-
-BinaryParts Split(double magnitude) {
-    constexpr int FractionBits = 52;
-    constexpr int Bias = 1075;
-    constexpr std::uint64_t HiddenBit = std::uint64_t{1} << FractionBits;
-    const auto bits = std::bit_cast<std::uint64_t>(magnitude);
-    const auto exponent = static_cast<int>(bits >> FractionBits);
-    const std::uint64_t fraction = bits & (HiddenBit - 1);
-    if (exponent == 0) return {fraction, 1 - Bias};
-    return {fraction | HiddenBit, exponent - Bias};
-}
+constexpr double SafeProduct = 17'592'186'044'416.0;  // 2^44, below which doubles are 2^-9 apart or less
+constexpr double ClearOfTies = 0.49;
 
 enum class Below { Nothing, Something };  ///< whether smaller digits than those at hand are not all zero
 
@@ -60,6 +46,14 @@ std::uint64_t ScaleRounded(std::uint64_t significand, std::uint64_t factor, int 
 std::optional<std::uint64_t> RoundedUnits(double number, int decimals) {
     const auto places = static_cast<std::size_t>(decimals);
     const double magnitude = std::fabs(number);
+    // Most numbers lie far from every tie: where even the product, which may be off by a 500th, is clear of
+    // them, it shows the nearest integer.
+    if (const double product = magnitude * PowersOfTen[places]; product < SafeProduct) {
+        // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and ties are not for here
+        const auto nearest = static_cast<std::int64_t>(product + 0.5);
+        if (std::fabs(product - static_cast<double>(nearest)) < ClearOfTies)
+            return static_cast<std::uint64_t>(nearest);
+    }
     if (!(magnitude < Limits[places])) return std::nullopt;
     // Ten is two times five: the twos go into the exponent, so only a small factor is left to multiply by.
     const BinaryParts parts = Split(magnitude);

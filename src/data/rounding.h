@@ -7,7 +7,7 @@ namespace tavrin::data {
 
 inline constexpr int MaxRoundingDecimals = 6;
 
-/// Rounds to 0 to 6 decimals, a tie to the even digit. Decided on the number that the double really is, never
+/// Rounds to 0 to 6 decimals, a tie to the even digit. Decided on the number that the double really is, not
 /// on a product: 1.005 lies a little below its tie and becomes 1, 2.5 is one and becomes 2. The result is the
 /// double nearest to the rounded decimal; a result of zero has no sign. Infinities and NaN come back as they
 /// are.

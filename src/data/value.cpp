@@ -1,13 +1,13 @@
 // Conversions of a field's value, in the terms of the runtime that the windows' rules come from.
 #include "data/value.h"
 
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
 #include <optional>
 
 #include "data/date.h"
+#include "data/decimal.h"
 #include "data/error.h"
 
 namespace tavrin::data {
@@ -29,23 +29,17 @@ std::string_view Trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-// from_chars knows no plus sign, and knows "inf" and "nan", which are no numbers here.
+// What reads numbers knows no plus sign.
 std::string_view WithoutPlus(std::string_view text) {
     if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
     return text;
 }
 
-bool LooksNumeric(std::string_view text) {
-    return !text.empty() && text.find_first_not_of("0123456789+-.eE") == std::string_view::npos;
-}
-
 double NumberFromText(std::string_view original) {
     const std::string_view text = WithoutPlus(Trimmed(original));
-    double number = 0;
-    if (!LooksNumeric(text)) ThrowTypeMismatch();
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (end != text.data() + text.size() || error == std::errc::invalid_argument) ThrowTypeMismatch();
-    if (error == std::errc::result_out_of_range) ThrowOverflow();
+    const auto [number, length] = ReadDecimal(text, Exponents::Read);
+    if (length == 0 || length != text.size()) ThrowTypeMismatch();
+    if (!std::isfinite(number)) ThrowOverflow();
     return number;
 }
 
@@ -86,6 +80,22 @@ std::string DateText(OleDate date) {
     if (seconds == 0) return text;
     return text + " " + TwoDigits(seconds / 3600) + ":" + TwoDigits(seconds / 60 % 60) + ":" +
            TwoDigits(seconds % 60);
+}
+
+constexpr double LongestPlain = 1e15;
+
+/// "1.5e+20", or the number without an exponent where that is no longer.
+std::string LargeText(double magnitude) {
+    if (std::isinf(magnitude)) return "inf";
+    const Decimal shortest = ShortestDigits(magnitude);
+    std::string scientific(shortest.digits.View());
+    if (scientific.size() > 1) scientific.insert(1, ".");
+    scientific += "e+" + std::to_string(shortest.point - 1);
+    std::string plain;
+    // From 2^53 on every digit before the point is one that the number has.
+    constexpr double AllWhole = 9007199254740992.0;
+    (magnitude < AllWhole ? shortest : ExactDecimal(magnitude)).AppendTo(plain, ".");
+    return plain.size() <= scientific.size() ? plain : scientific;
 }
 
 struct ToDoubleVisitor {
@@ -143,13 +153,13 @@ std::string Value::ToText() const {
 }
 
 std::string ShortestDecimal(double number) {
-    if (number == 0) return "0";   // also the negative zero, whose sign means nothing to a reader
-    std::array<char, 400> buffer;  // the smallest doubles have more than 320 digits
-    const bool plain = std::fabs(number) < 1e15;
-    const auto [end, error] =
-        plain ? std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed)
-              : std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
-    return {buffer.data(), end};
+    if (number == 0) return "0";  // also the negative zero, whose sign means nothing to a reader
+    if (std::isnan(number)) return "nan";
+    std::string text = number < 0 ? "-" : "";
+    const double magnitude = std::fabs(number);
+    if (magnitude >= LongestPlain) return text + LargeText(magnitude);
+    ShortestDigits(magnitude).AppendTo(text, ".");
+    return text;
 }
 
 }  // namespace tavrin::data

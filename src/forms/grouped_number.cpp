@@ -1,12 +1,12 @@
 #include "forms/grouped_number.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <optional>
 #include <string_view>
 
+#include "data/decimal.h"
 #include "data/rounding.h"
 
 namespace tavrin::forms {
@@ -16,6 +16,7 @@ namespace {
 constexpr double ExponentFrom = 1e21;
 constexpr int ExponentDigits = 14;
 constexpr int GroupSize = 3;
+constexpr std::uint64_t GroupLimit = 1000;
 
 /// Digits and separators, filled from the end; long enough for 21 digits in groups and all decimals. The
 /// platform's separators have at most three characters.
@@ -26,12 +27,18 @@ class BackwardWriter {
         for (std::size_t i = std::min(separator.size(), LongestSeparator); i > 0; --i)
             Put(separator[i - 1]);
     }
-    /// The last `count` digits of a number; the number without them is left.
-    void PutDigits(std::uint64_t& number, int count) {
-        for (int i = 0; i < count; ++i) {
-            Put(static_cast<char>('0' + number % 10));
-            number /= 10;
-        }
+    /// The last digit of a number; the number without it is left.
+    template <class Number>
+    void PutDigit(Number& number) {
+        Put(static_cast<char>('0' + number % 10));
+        number /= 10;
+    }
+    void PutGroup(std::uint64_t& number) {
+        // One division of the long number; the digits come off the short one.
+        auto group = static_cast<std::uint32_t>(number % GroupLimit);
+        number /= GroupLimit;
+        for (int i = 0; i < GroupSize; ++i)
+            PutDigit(group);
     }
     std::string_view Written() const {
         return {first_, static_cast<std::size_t>(buffer_.data() + buffer_.size() - first_)};
@@ -65,52 +72,47 @@ class GroupWriter {
 };
 
 void WriteUnits(BackwardWriter& writer, std::uint64_t units, int decimals, const Locale& locale) {
-    if (decimals > 0) {
-        writer.PutDigits(units, decimals);
-        writer.Put(locale.decimalSeparator);
-    }
-    while (units >= 1000) {
-        writer.PutDigits(units, GroupSize);
+    for (int i = 0; i < decimals; ++i)
+        writer.PutDigit(units);
+    if (decimals > 0) writer.Put(locale.decimalSeparator);
+    while (units >= GroupLimit) {
+        writer.PutGroup(units);
         writer.Put(locale.thousandsSeparator);
     }
     do {
-        writer.PutDigits(units, 1);
+        writer.PutDigit(units);
     } while (units > 0);
 }
 
 /// For a number so large that a double tells no units apart.
 void WriteLarge(BackwardWriter& writer, double magnitude, int decimals, const Locale& locale) {
-    std::array<char, 32> digits;
-    char* const begin = digits.data();
-    const char* const end =
-        std::to_chars(begin, begin + digits.size(), magnitude, std::chars_format::fixed, decimals).ptr;
-    const char* at = end;
+    data::Decimal number = data::ExactDecimal(magnitude);
+    number.RoundToPlaces(decimals);
+    const int size = number.point + decimals;
+    number.digits.Resize(static_cast<std::size_t>(size));
+    const std::string_view digits = number.digits.View();
+    const auto point = static_cast<std::size_t>(number.point);
+    std::size_t at = digits.size();
     if (decimals > 0) {
-        while (*--at != '.')
-            writer.Put(*at);
+        while (at > point)
+            writer.Put(digits[--at]);
         writer.Put(locale.decimalSeparator);
     }
     GroupWriter groups(writer, locale.thousandsSeparator);
-    while (at != begin)
-        groups.Put(*--at);
+    while (at > 0)
+        groups.Put(digits[--at]);
 }
 
 void AppendWithExponent(std::string& text, double magnitude, const Locale& locale) {
-    std::array<char, 32> digits;
-    char* const begin = digits.data();
-    const char* const end =
-        std::to_chars(begin, begin + digits.size(), magnitude, std::chars_format::scientific, ExponentDigits)
-            .ptr;
-    const std::string_view written(begin, static_cast<std::size_t>(end - begin));
-    const std::size_t exponentAt = written.find('e');
-    const std::string_view fraction = written.substr(2, exponentAt - 2);
-    text += written.front();
-    if (const std::size_t last = fraction.find_last_not_of('0'); last != std::string_view::npos) {
+    data::Decimal number = data::ExactDecimal(magnitude);
+    number.RoundToDigits(1 + ExponentDigits);
+    const std::string_view digits = number.digits.View();
+    text += digits.front();
+    if (digits.size() > 1) {
         text += locale.decimalSeparator;
-        text += fraction.substr(0, last + 1);
+        text += digits.substr(1);
     }
-    text += 'E';
-    text += written.substr(exponentAt + 1);
+    text += "E+" + std::to_string(number.point - 1);
 }
 
 }  // namespace

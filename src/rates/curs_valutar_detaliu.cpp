@@ -1,11 +1,11 @@
 #include "rates/curs_valutar_detaliu.h"
 
-#include <charconv>
 #include <cmath>
 #include <optional>
 
 #include "data/connection.h"
 #include "data/date.h"
+#include "data/decimal.h"
 #include "rates/curs_valutar.h"
 #include "shell/layout.h"
 
@@ -32,12 +32,9 @@ constexpr int ThousandsGrouping = 3;
 std::optional<double> NumberIn(std::string text) {
     std::erase(text, ',');
     std::erase(text, ' ');
-    double number = 0;
-    const auto [end, error] =
-        std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-    const bool whole = error == std::errc{} && end == text.data() + text.size();
-    if (!whole || !std::isfinite(number)) return std::nullopt;
-    return number;
+    const auto [number, length] = data::ReadDecimal(text, data::Exponents::NotRead);
+    const bool isWhole = length > 0 && length == text.size();
+    return isWhole && std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
 #include "rates/rate_text.h"
 
-#include <array>
-#include <charconv>
+#include <cmath>
 #include <string_view>
 #include <utility>
 
+#include "data/decimal.h"
 #include "data/value.h"
 #include "forms/number_format.h"
 
@@ -29,10 +29,10 @@ double NumberInLocale(const std::string& text, const forms::Locale& locale) {
 }
 
 std::string PlainDecimal(double number) {
-    std::array<char, 400> text;
-    const char* const end =
-        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed).ptr;
-    return std::string(static_cast<const char*>(text.data()), end);
+    if (!std::isfinite(number)) return {};
+    std::string text = number < 0 ? "-" : "";
+    data::ShortestDigits(std::fabs(number)).AppendTo(text, ".");
+    return text;
 }
 
 }  // namespace

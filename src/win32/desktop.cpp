@@ -1,6 +1,5 @@
 #include "win32/desktop.h"
 
-#include <cstdio>
 #include <utility>
 
 #include "win32/dpi.h"
@@ -19,14 +18,9 @@ namespace {
 constexpr std::size_t MaximumReports = 8;
 
 std::wstring TextOf(std::int32_t number, const std::string& description) {
-    char heading[48];
-    if (number < 0) {
-        std::snprintf(heading, sizeof heading, "Eroare %d (%08X)", static_cast<int>(number),
-                      static_cast<unsigned>(number));
-    } else {
-        std::snprintf(heading, sizeof heading, "Eroare %d", static_cast<int>(number));
-    }
-    return ToWide(std::string(heading) + "\n\n" + description);
+    std::string heading = "Eroare " + std::to_string(number);
+    if (number < 0) heading += " (" + HexText(static_cast<std::uint32_t>(number)) + ")";
+    return ToWide(heading + "\n\n" + description);
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 #include "win32/text.h"
 
 #include <array>
-#include <cstdint>
-#include <cstdio>
 
 namespace tavrin::win32 {
 
@@ -26,6 +24,15 @@ std::string ToUtf8(std::wstring_view text) {
     return narrow;
 }
 
+std::string HexText(std::uint32_t number) {
+    std::string text(8, '0');
+    for (auto digit = text.rbegin(); digit != text.rend(); ++digit) {
+        *digit = "0123456789ABCDEF"[number % 16];
+        number /= 16;
+    }
+    return text;
+}
+
 std::string SystemMessage(HRESULT result) {
     std::array<wchar_t, 512> buffer{};
     const DWORD flags = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS;
@@ -34,9 +41,7 @@ std::string SystemMessage(HRESULT result) {
     while (length > 0 && buffer[length - 1] <= L' ')
         --length;
     if (length > 0) return ToUtf8({buffer.data(), length});
-    std::array<char, 32> number{};
-    std::snprintf(number.data(), number.size(), "Error 0x%08X", static_cast<unsigned>(result));
-    return number.data();
+    return "Error 0x" + HexText(static_cast<std::uint32_t>(result));
 }
 
 }  // namespace tavrin::win32

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,9 @@ namespace tavrin::win32 {
 /// character in the other; nothing throws but std::bad_alloc.
 std::wstring ToWide(std::string_view text);
 std::string ToUtf8(std::wstring_view text);
+
+/// A result or error code the way the platform writes it: eight hexadecimal digits, capital letters.
+std::string HexText(std::uint32_t number);
 
 /// The system's own description of an error, without its line break; "Error 0x..." where it has none.
 std::string SystemMessage(HRESULT result);

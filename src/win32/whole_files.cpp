@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <string>
 #include <utility>
 
 #include "data/error.h"
@@ -37,8 +38,8 @@ class FileBeside {
   public:
     explicit FileBeside(std::wstring target) : target_(std::move(target)) {
         for (int i = 0; i < NamesTried && !file_; ++i) {
-            name_ =
-                target_ + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(i) + L".tmp";
+            name_ = target_ +
+                    ToWide("." + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(i) + ".tmp");
             file_ = Own(CreateFileW(name_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                     FILE_ATTRIBUTE_NORMAL, nullptr));
             if (!file_ && GetLastError() != ERROR_FILE_EXISTS) break;
