@@ -1,5 +1,5 @@
-// The five exports and the one object that stands behind them. Nothing is done at process detach: by then the
-// host's objects and other modules may be gone.
+// The five exports and the one object that stands behind them. Nothing of the component's is done at process
+// detach: by then the host's objects and other modules may be gone. The runtime alone gives its memory back.
 
 #include <windows.h>
 
@@ -12,6 +12,7 @@
 #include "com/class_factory.h"
 #include "com/failure.h"
 #include "com/registration.h"
+#include "com/runtime_memory.h"
 #include "com/server.h"
 
 namespace tavrin::com {
@@ -43,8 +44,9 @@ Server& TheServer() {
 
 using namespace tavrin::com;
 
-extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void*) noexcept {
+extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void* processEnds) noexcept {
     if (reason == DLL_PROCESS_ATTACH) instance = module;
+    if (reason == DLL_PROCESS_DETACH && processEnds == nullptr) FreeRuntimeMemory();
     return TRUE;
 }
 
