@@ -18,25 +18,13 @@
 namespace tavrin::com {
 namespace {
 
-HINSTANCE instance = nullptr;
-
-/// Holds an object that is never destroyed. Server::Retire empties it when the component may go.
-template <class Object>
-class NeverDestroyed {
-  public:
-    template <class... Arguments>
-    explicit NeverDestroyed(Arguments&&... arguments)
-        : object_(new (storage_) Object(std::forward<Arguments>(arguments)...)) {}
-    Object& Get() { return *object_; }
-
-  private:
-    alignas(Object) std::byte storage_[sizeof(Object)];
-    Object* object_;
-};
+// Made when the DLL comes, never destroyed: Server::Retire empties it when the component may go. A static of
+// a function would be made under a lock, for which the runtime takes memory that it never gives back.
+alignas(Server) std::byte serverStorage[sizeof(Server)];
+Server* server = nullptr;
 
 Server& TheServer() {
-    static NeverDestroyed<Server> server(instance);
-    return server.Get();
+    return *server;
 }
 
 }  // namespace
@@ -45,7 +33,7 @@ Server& TheServer() {
 using namespace tavrin::com;
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void* processEnds) noexcept {
-    if (reason == DLL_PROCESS_ATTACH) instance = module;
+    if (reason == DLL_PROCESS_ATTACH) server = new (serverStorage) Server(module);
     if (reason == DLL_PROCESS_DETACH && processEnds == nullptr) FreeRuntimeMemory();
     return TRUE;
 }

@@ -14,11 +14,14 @@
 #include <string>
 
 #include "e2e/driver/component.h"
+#include "e2e/driver/program_path.h"
 #include "e2e/driver/screen.h"
 #include "win32/text.h"
 
 namespace {
 
+using tavrin::e2e::BesideThisProgram;
+using tavrin::e2e::FullPath;
 using tavrin::win32::ToWide;
 
 class ScreenshotOfFailure : public testing::EmptyTestEventListener {
@@ -35,19 +38,6 @@ std::wstring FromEnvironment(const wchar_t* name) {
     std::array<wchar_t, 1024> value{};
     const DWORD length = GetEnvironmentVariableW(name, value.data(), static_cast<DWORD>(value.size()));
     return {value.data(), length};
-}
-
-std::wstring FullPath(const std::wstring& path) {
-    std::array<wchar_t, 1024> full{};
-    const DWORD length =
-        GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
-    return {full.data(), length};
-}
-
-std::wstring BesideThisProgram(const wchar_t* relative) {
-    std::array<wchar_t, 1024> program{};
-    GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
-    return FullPath(std::wstring(program.data()) + L"\\..\\" + relative);
 }
 
 std::wstring OptionOr(int count, char** arguments, const char* name, std::wstring otherwise) {

@@ -42,9 +42,11 @@ std::string GdiKind(unsigned type) {
         case 0x04:
             return "region";
         case 0x05:
-            return "bitmap";
+            return "surface";
         case 0x08:
             return "palette";
+        case 0x09:
+            return "bitmap";
         case 0x0A:
             return "font";
         case 0x10:
