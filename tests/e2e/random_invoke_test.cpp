@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <random>
 #include <vector>
 
+#include "e2e/driver/random.h"
 #include "e2e/driver/resource_count.h"
 #include "e2e/host_test.h"
 #include "win32/variant.h"
@@ -33,27 +33,6 @@ struct Argument {
 struct Expected {
     HRESULT result = S_OK;
     int place = -1;
-};
-
-class Random {
-  public:
-    explicit Random(unsigned seed) : generator_(seed) {}
-
-    unsigned Below(unsigned limit) { return static_cast<unsigned>(generator_() % limit); }
-    bool OnceIn(unsigned times) { return Below(times) == 0; }
-    /// Of any size up to 64 bits.
-    std::uint64_t Bits() { return generator_() >> Below(64); }
-    template <class Array>
-    auto Pick(const Array& from) {
-        return from[Below(static_cast<unsigned>(from.size()))];
-    }
-    template <class Array>
-    void Shuffle(Array& items) {
-        std::ranges::shuffle(items, generator_);
-    }
-
-  private:
-    std::mt19937_64 generator_;
 };
 
 constexpr std::array<VARTYPE, 24> Types = {VT_EMPTY,

@@ -3,6 +3,8 @@
 #include <ole2.h>
 
 #include <cstdio>
+#include <memory>
+#include <utility>
 #include <vector>
 
 #include "e2e/driver/screen.h"
@@ -13,6 +15,7 @@ namespace tavrin::e2e {
 namespace {
 
 constexpr UINT RunTask = WM_APP;
+constexpr UINT RunPosted = WM_APP + 1;
 constexpr DWORD Unanswered = 30000;
 
 /// The threads that run now. Only the test's own thread starts and ends them.
@@ -36,8 +39,10 @@ class Event {
     HANDLE handle_;
 };
 
-[[noreturn]] void GiveUp() {
-    std::fprintf(stderr, "The host's thread does not answer any more.\n");
+/// \param gate the window through which the thread is called
+[[noreturn]] void GiveUp(HWND gate) {
+    std::fprintf(stderr, "The host's thread does not answer any more%s.\n",
+                 IsWindow(gate) ? "" : ": its window is gone");
     SaveScreenshot("hang");
     std::fflush(nullptr);
     TerminateProcess(GetCurrentProcess(), 3);
@@ -47,6 +52,50 @@ class Event {
 bool TakenByDialog(MSG& message) {
     const HWND active = GetActiveWindow();
     return active != nullptr && IsDialogMessageW(active, &message);
+}
+
+/// Messages by their kinds instead of in their order. \return false at the end
+bool TakeInputFirst(MSG& message) {
+    for (;;) {
+        const bool taken = PeekMessageW(&message, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE) ||
+                           PeekMessageW(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE) ||
+                           PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);
+        if (taken) return message.message != WM_QUIT;
+        WaitMessage();
+    }
+}
+
+/// A host's own shortcuts, for its own windows alone.
+class Accelerators {
+  public:
+    Accelerators() {
+        ACCEL help{FVIRTKEY, VK_F12, 1};
+        table_ = CreateAcceleratorTableW(&help, 1);
+    }
+    ~Accelerators() { DestroyAcceleratorTable(table_); }
+    Accelerators(const Accelerators&) = delete;
+    Accelerators& operator=(const Accelerators&) = delete;
+
+    bool Take(MSG& message) const {
+        constexpr int hooksOfHost = 1;
+        const HWND active = GetActiveWindow();
+        return CallMsgFilterW(&message, hooksOfHost) ||
+               (active != nullptr && TranslateAcceleratorW(active, table_, &message));
+    }
+
+  private:
+    HACCEL table_;
+};
+
+/// Takes the function over.
+LRESULT RunAndForget(std::function<void()>& function) {
+    const std::unique_ptr<std::function<void()>> owner(&function);
+    try {
+        function();
+    } catch (...) {
+        // Nobody waits for it.
+    }
+    return 0;
 }
 
 }  // namespace
@@ -60,7 +109,7 @@ struct UiThread::Task {
 UiThread::UiThread(LoopKind kind) {
     const Event ready;
     thread_ = std::thread([this, kind, &ready] { Run(kind, ready.Get()); });
-    if (!ready.Wait()) GiveUp();
+    if (!ready.Wait()) GiveUp(gate_);
     Running().push_back(this);
 }
 
@@ -77,9 +126,11 @@ void UiThread::Run(LoopKind kind, HANDLE ready) {
     SetWindowLongPtrW(gate_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&UiThread::Gate));
     SetEvent(ready);
 
+    const Accelerators accelerators;
     MSG message{};
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+    while (kind == LoopKind::Filtering ? TakeInputFirst(message) : GetMessageW(&message, nullptr, 0, 0) > 0) {
         if (kind == LoopKind::Dialog && TakenByDialog(message)) continue;
+        if (kind == LoopKind::Filtering && accelerators.Take(message)) continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }
@@ -88,6 +139,7 @@ void UiThread::Run(LoopKind kind, HANDLE ready) {
 }
 
 LRESULT CALLBACK UiThread::Gate(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == RunPosted) return RunAndForget(*reinterpret_cast<std::function<void()>*>(lParam));
     if (message != RunTask) return DefWindowProcW(window, message, wParam, lParam);
     auto& task = *reinterpret_cast<Task*>(lParam);
     try {
@@ -103,9 +155,13 @@ void UiThread::Execute(const std::function<void()>& function) {
     if (GetCurrentThreadId() == id_) return function();
     Task task{function, nullptr, {}};
     // Posted, not sent: inside a sent message COM refuses calls to other apartments.
-    PostMessageW(gate_, RunTask, 0, reinterpret_cast<LPARAM>(&task));
-    if (!task.done.Wait()) GiveUp();
+    if (!PostMessageW(gate_, RunTask, 0, reinterpret_cast<LPARAM>(&task)) || !task.done.Wait()) GiveUp(gate_);
     if (task.failure) std::rethrow_exception(task.failure);
+}
+
+void UiThread::Post(std::function<void()> function) {
+    auto owner = std::make_unique<std::function<void()>>(std::move(function));
+    if (PostMessageW(gate_, RunPosted, 0, reinterpret_cast<LPARAM>(owner.get()))) owner.release();
 }
 
 void UiThread::Settle() {

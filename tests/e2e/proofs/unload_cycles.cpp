@@ -12,12 +12,12 @@
 #include <exception>
 #include <string_view>
 
-#include "e2e/driver/program_path.h"
 #include "e2e/driver/input.h"
+#include "e2e/driver/program_path.h"
 #include "e2e/driver/tour.h"
 #include "e2e/driver/wait.h"
 #include "e2e/proofs/footprint.h"
-#include "win32/handles.h"
+#include "e2e/proofs/host_libraries.h"
 
 namespace {
 
@@ -52,8 +52,7 @@ void RunCycles(Host& host, int cycles) {
 }
 
 int Run(const Options& options) {
-    // As in any host with controls. Wine's library loses a bitmap each time that it is loaded anew.
-    const tavrin::win32::OwnedModule controls(LoadLibraryW(L"comctl32.dll"));
+    const HostLibraries libraries;
     MovePointer({640, 900});
     Host host;
     PrepareForTour(host);
