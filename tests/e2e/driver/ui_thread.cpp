@@ -2,6 +2,7 @@
 
 #include <ole2.h>
 
+#include <atomic>
 #include <cstdio>
 #include <memory>
 #include <utility>
@@ -39,10 +40,9 @@ class Event {
     HANDLE handle_;
 };
 
-/// \param gate the window through which the thread is called
-[[noreturn]] void GiveUp(HWND gate) {
-    std::fprintf(stderr, "The host's thread does not answer any more%s.\n",
-                 IsWindow(gate) ? "" : ": its window is gone");
+/// \param how far the thread has come with what it was to do
+[[noreturn]] void GiveUp(const char* how) {
+    std::fprintf(stderr, "The host's thread does not answer any more: %s.\n", how);
     SaveScreenshot("hang");
     std::fflush(nullptr);
     TerminateProcess(GetCurrentProcess(), 3);
@@ -104,12 +104,13 @@ struct UiThread::Task {
     const std::function<void()>& function;
     std::exception_ptr failure;
     Event done;
+    std::atomic<bool> isBegun = false;
 };
 
 UiThread::UiThread(LoopKind kind) {
     const Event ready;
     thread_ = std::thread([this, kind, &ready] { Run(kind, ready.Get()); });
-    if (!ready.Wait()) GiveUp(gate_);
+    if (!ready.Wait()) GiveUp("it does not start");
     Running().push_back(this);
 }
 
@@ -142,6 +143,7 @@ LRESULT CALLBACK UiThread::Gate(HWND window, UINT message, WPARAM wParam, LPARAM
     if (message == RunPosted) return RunAndForget(*reinterpret_cast<std::function<void()>*>(lParam));
     if (message != RunTask) return DefWindowProcW(window, message, wParam, lParam);
     auto& task = *reinterpret_cast<Task*>(lParam);
+    task.isBegun = true;
     try {
         task.function();
     } catch (...) {
@@ -153,9 +155,10 @@ LRESULT CALLBACK UiThread::Gate(HWND window, UINT message, WPARAM wParam, LPARAM
 
 void UiThread::Execute(const std::function<void()>& function) {
     if (GetCurrentThreadId() == id_) return function();
-    Task task{function, nullptr, {}};
+    Task task{function, nullptr, {}, {}};
     // Posted, not sent: inside a sent message COM refuses calls to other apartments.
-    if (!PostMessageW(gate_, RunTask, 0, reinterpret_cast<LPARAM>(&task)) || !task.done.Wait()) GiveUp(gate_);
+    if (!PostMessageW(gate_, RunTask, 0, reinterpret_cast<LPARAM>(&task))) GiveUp("its window is gone");
+    if (!task.done.Wait()) GiveUp(task.isBegun ? "it has not ended" : "it has not begun");
     if (task.failure) std::rethrow_exception(task.failure);
 }
 

@@ -18,7 +18,7 @@ constexpr int FileNameField = 0x480;
 constexpr unsigned OnceInAttentions = 4;  ///< how long things stay open
 
 /// What the windows may say, by the beginnings of the prompts.
-constexpr std::array<std::string_view, 19> KnownPrompts = {
+constexpr std::array<std::string_view, 20> KnownPrompts = {
     "Numele este obligatoriu !",
     "Prenumele este obligatoriu !",
     "Doriti sa parasiti forma?",
@@ -37,6 +37,7 @@ constexpr std::array<std::string_view, 19> KnownPrompts = {
     "Impartire la 0 !!",
     "Eroare 91\n",                      // a host without a connection
     "Eroare 13\n",                      // a day is to be changed where the list has none
+    "Eroare -2147217873 (80040E2F)\n",  // a person is entered who is there already
     "Eroare -2147217900 (80040E14)\n",  // the database refuses a name that was typed
 };
 
