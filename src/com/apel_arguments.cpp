@@ -20,6 +20,8 @@ using Places = std::array<std::optional<UINT>, ParameterCount>;
 
 HRESULT FindPlaces(const DISPPARAMS& call, Places& places, UINT& badArgument) {
     if (call.cArgs != ParameterCount || call.cNamedArgs > call.cArgs) return DISP_E_BADPARAMCOUNT;
+    if (call.rgvarg == nullptr || (call.cNamedArgs > 0 && call.rgdispidNamedArgs == nullptr))
+        return E_POINTER;
     for (UINT place = 0; place < call.cArgs; ++place) {
         badArgument = place;
         const bool isNamed = place < call.cNamedArgs;

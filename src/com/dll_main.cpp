@@ -1,5 +1,5 @@
-// The five exports and the one object that stands behind them. Nothing is done at process detach: by then the
-// host's objects and other modules may be gone.
+// The five exports and the one object that stands behind them. Nothing of the component's is done at process
+// detach: by then the host's objects and other modules may be gone. The runtime alone gives its memory back.
 
 #include <windows.h>
 
@@ -12,30 +12,19 @@
 #include "com/class_factory.h"
 #include "com/failure.h"
 #include "com/registration.h"
+#include "com/runtime_memory.h"
 #include "com/server.h"
 
 namespace tavrin::com {
 namespace {
 
-HINSTANCE instance = nullptr;
-
-/// Holds an object that is never destroyed. Server::Retire empties it when the component may go.
-template <class Object>
-class NeverDestroyed {
-  public:
-    template <class... Arguments>
-    explicit NeverDestroyed(Arguments&&... arguments)
-        : object_(new (storage_) Object(std::forward<Arguments>(arguments)...)) {}
-    Object& Get() { return *object_; }
-
-  private:
-    alignas(Object) std::byte storage_[sizeof(Object)];
-    Object* object_;
-};
+// Made when the DLL comes, never destroyed: Server::Retire empties it when the component may go. A static of
+// a function would be made under a lock, for which the runtime takes memory that it never gives back.
+alignas(Server) std::byte serverStorage[sizeof(Server)];
+Server* server = nullptr;
 
 Server& TheServer() {
-    static NeverDestroyed<Server> server(instance);
-    return server.Get();
+    return *server;
 }
 
 }  // namespace
@@ -43,8 +32,9 @@ Server& TheServer() {
 
 using namespace tavrin::com;
 
-extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void*) noexcept {
-    if (reason == DLL_PROCESS_ATTACH) instance = module;
+extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void* processEnds) noexcept {
+    if (reason == DLL_PROCESS_ATTACH) server = new (serverStorage) Server(module);
+    if (reason == DLL_PROCESS_DETACH && processEnds == nullptr) FreeRuntimeMemory();
     return TRUE;
 }
 

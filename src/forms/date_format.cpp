@@ -9,20 +9,19 @@ namespace {
 
 struct Token {
     std::string_view text;
-    DatePiece piece;
+    DatePart part;
+    int digits;
+    bool showsName;
 };
 
 /// Longer tokens first.
-const std::array<Token, 5>& Tokens() {
-    static const std::array<Token, 5> tokens{{
-        {"yyyy", {DatePart::Year, 4, false, {}}},
-        {"yy", {DatePart::Year, 2, false, {}}},
-        {"MMM", {DatePart::Month, 2, true, {}}},
-        {"MM", {DatePart::Month, 2, false, {}}},
-        {"dd", {DatePart::Day, 2, false, {}}},
-    }};
-    return tokens;
-}
+constexpr std::array<Token, 5> Tokens = {{
+    {"yyyy", DatePart::Year, 4, false},
+    {"yy", DatePart::Year, 2, false},
+    {"MMM", DatePart::Month, 2, true},
+    {"MM", DatePart::Month, 2, false},
+    {"dd", DatePart::Day, 2, false},
+}};
 
 int NumberOf(const DatePiece& piece, const data::CalendarDay& day) {
     switch (piece.part) {
@@ -37,7 +36,7 @@ int NumberOf(const DatePiece& piece, const data::CalendarDay& day) {
 
 /// The token that a format begins with, null where it begins with none.
 const Token* FindToken(std::string_view format) {
-    for (const Token& token : Tokens()) {
+    for (const Token& token : Tokens) {
         if (format.starts_with(token.text)) return &token;
     }
     return nullptr;
@@ -58,7 +57,7 @@ std::vector<DatePiece> ParseDateFormat(std::string_view format) {
     std::vector<DatePiece> pieces;
     while (!format.empty()) {
         if (const Token* token = FindToken(format)) {
-            pieces.push_back(token->piece);
+            pieces.push_back({token->part, token->digits, token->showsName, {}});
             format.remove_prefix(token->text.size());
             continue;
         }

@@ -4,6 +4,7 @@
 
 #include <olectl.h>
 
+#include "e2e/driver/component.h"
 #include "e2e/host_test.h"
 
 namespace tavrin::e2e {
@@ -104,6 +105,39 @@ TEST_F(EventTest, AListenerMayLetGoOfTheObjectDuringTheEvent) {
     ClosePalette();
     EXPECT_EQ(host->Iesire(), 1);
     EXPECT_FALSE(host->Object());
+}
+
+TEST_F(EventTest, AListenerMayLetGoOfEverythingDuringTheEvent) {
+    host->Sink()->onIesire = [&] {
+        host->Release();
+        CoFreeUnusedLibrariesEx(0, 0);
+        EXPECT_TRUE(Component::IsLoaded()) << "its own code is still under way";
+        return S_OK;
+    };
+    OpenPalette();
+    ClosePalette();
+    EXPECT_EQ(host->Iesire(), 1);
+    host->Call([] { CoFreeUnusedLibrariesEx(0, 0); });
+    EXPECT_FALSE(Component::IsLoaded());
+    EXPECT_EQ(host->ReferencesToConnection(), 0);
+}
+
+TEST_F(EventTest, ReachesTheListenersOfTheObjectThatCalledLast) {
+    ComPtr<_Utile> first = host->Object();
+    const ComPtr<EventSink> firstSink = AdviseAnother();
+    host->CreateObject();  // and the host's own listener now hears the second one
+    IDispatch* connection = &host->Data().Connection();
+    EXPECT_EQ(host->Call([&] { return first->Apel(&connection, OleDay({}), 2003, 2); }), S_OK);
+    OpenPalette();
+    ClosePalette();
+    EXPECT_EQ(firstSink->Iesire(), 0);
+    EXPECT_EQ(host->Iesire(), 1);
+
+    host->Call([&] { return first->Apel(&connection, OleDay({}), 2003, 2); });
+    ASSERT_TRUE(AwaitFocus("cmdAction(2)"));
+    ClosePalette();
+    EXPECT_EQ(firstSink->Iesire(), 1);
+    host->Call([&] { first.Reset(); });
 }
 
 TEST_F(EventTest, AListenerMayOpenThePaletteAgainDuringTheEvent) {

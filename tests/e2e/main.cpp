@@ -1,7 +1,8 @@
-// Usage: tavrin_e2e [--dll PATH] [--screenshots FOLDER] [GoogleTest's options]
+// Usage: tavrin_e2e [--dll PATH] [--screenshots FOLDER] [--leave HOW] [GoogleTest's options]
 //
 // Tests Tavrin.dll from the outside. The DLL is taken from --dll, else from the environment's TAVRIN_DLL,
 // else from the root of the build folder that this program lies in. The screen is saved where a test fails.
+// With --leave HOW it is a host that leaves at a bad moment instead, for the test of those.
 // Under Wine all tests together are too many for one process: ./test deals them with GTEST_TOTAL_SHARDS.
 
 #include <windows.h>
@@ -14,11 +15,15 @@
 #include <string>
 
 #include "e2e/driver/component.h"
+#include "e2e/driver/program_path.h"
 #include "e2e/driver/screen.h"
+#include "e2e/leaving_host.h"
 #include "win32/text.h"
 
 namespace {
 
+using tavrin::e2e::BesideThisProgram;
+using tavrin::e2e::FullPath;
 using tavrin::win32::ToWide;
 
 class ScreenshotOfFailure : public testing::EmptyTestEventListener {
@@ -37,24 +42,16 @@ std::wstring FromEnvironment(const wchar_t* name) {
     return {value.data(), length};
 }
 
-std::wstring FullPath(const std::wstring& path) {
-    std::array<wchar_t, 1024> full{};
-    const DWORD length =
-        GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
-    return {full.data(), length};
-}
-
-std::wstring BesideThisProgram(const wchar_t* relative) {
-    std::array<wchar_t, 1024> program{};
-    GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
-    return FullPath(std::wstring(program.data()) + L"\\..\\" + relative);
-}
-
-std::wstring OptionOr(int count, char** arguments, const char* name, std::wstring otherwise) {
+/// The word after the option, null where it is not given.
+const char* Option(int count, char** arguments, const char* name) {
     for (int i = 1; i + 1 < count; ++i) {
-        if (std::strcmp(arguments[i], name) == 0) return FullPath(ToWide(arguments[i + 1]));
+        if (std::strcmp(arguments[i], name) == 0) return arguments[i + 1];
     }
-    return otherwise;
+    return nullptr;
+}
+
+std::wstring PathOr(const char* option, std::wstring otherwise) {
+    return option != nullptr ? FullPath(ToWide(option)) : otherwise;
 }
 
 }  // namespace
@@ -62,12 +59,12 @@ std::wstring OptionOr(int count, char** arguments, const char* name, std::wstrin
 int main(int count, char** arguments) {
     testing::InitGoogleTest(&count, arguments);
     const std::wstring fromEnvironment = FromEnvironment(L"TAVRIN_DLL");
-    const std::wstring dll = OptionOr(
-        count, arguments, "--dll",
-        fromEnvironment.empty() ? BesideThisProgram(L"..\\..\\Tavrin.dll") : FullPath(fromEnvironment));
-    tavrin::e2e::Component::SetPath(dll);
+    tavrin::e2e::Component::SetPath(PathOr(
+        Option(count, arguments, "--dll"),
+        fromEnvironment.empty() ? BesideThisProgram(L"..\\..\\Tavrin.dll") : FullPath(fromEnvironment)));
+    if (const char* how = Option(count, arguments, "--leave")) return tavrin::e2e::LeaveBadly(how);
     tavrin::e2e::SetScreenshotFolder(
-        OptionOr(count, arguments, "--screenshots", BesideThisProgram(L"screenshots")));
+        PathOr(Option(count, arguments, "--screenshots"), BesideThisProgram(L"screenshots")));
     testing::UnitTest::GetInstance()->listeners().Append(new ScreenshotOfFailure);  // owned by GoogleTest
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     return RUN_ALL_TESTS();

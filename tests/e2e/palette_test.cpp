@@ -223,8 +223,13 @@ TEST_P(PaletteTest, AnAssistiveToolCanPressAButton) {
     AwaitForm("CursValutar");
 }
 
-INSTANTIATE_TEST_SUITE_P(EitherLoop, PaletteTest, testing::Values(LoopKind::Plain, LoopKind::Dialog),
-                         [](const auto& loop) { return loop.param == LoopKind::Plain ? "Plain" : "Dialog"; });
+std::string NameOfLoop(const testing::TestParamInfo<LoopKind>& loop) {
+    constexpr const char* names[] = {"Plain", "Dialog", "Filtering"};
+    return names[static_cast<int>(loop.param)];
+}
+
+INSTANTIATE_TEST_SUITE_P(AnyLoop, PaletteTest,
+                         testing::Values(LoopKind::Plain, LoopKind::Dialog, LoopKind::Filtering), NameOfLoop);
 
 }  // namespace
 }  // namespace tavrin::e2e

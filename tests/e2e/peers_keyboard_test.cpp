@@ -7,7 +7,8 @@ namespace tavrin::e2e {
 namespace {
 
 using PeersKeyboardTest = PeersTest;
-INSTANTIATE_TEST_SUITE_P(, PeersKeyboardTest, testing::Values(LoopKind::Plain, LoopKind::Dialog));
+INSTANTIATE_TEST_SUITE_P(, PeersKeyboardTest,
+                         testing::Values(LoopKind::Plain, LoopKind::Dialog, LoopKind::Filtering));
 
 TEST_P(PeersKeyboardTest, TypingReachesTheModelWithTheCaret) {
     Type("ab");

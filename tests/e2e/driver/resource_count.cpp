@@ -1,11 +1,13 @@
 #include "e2e/driver/resource_count.h"
 
+#include <psapi.h>
 #include <winternl.h>
 
 #include <array>
 #include <cstdint>
 
 #include "win32/handles.h"
+#include "win32/text.h"
 
 namespace tavrin::e2e {
 
@@ -40,9 +42,11 @@ std::string GdiKind(unsigned type) {
         case 0x04:
             return "region";
         case 0x05:
-            return "bitmap";
+            return "surface";
         case 0x08:
             return "palette";
+        case 0x09:
+            return "bitmap";
         case 0x0A:
             return "font";
         case 0x10:
@@ -163,6 +167,19 @@ int KillThreadTimers(UiThread& thread) {
         }
         return killed;
     });
+}
+
+std::set<std::string> LoadedModules() {
+    std::array<HMODULE, 1024> modules{};
+    DWORD size = 0;
+    K32EnumProcessModules(GetCurrentProcess(), modules.data(), sizeof modules, &size);
+    std::set<std::string> names;
+    for (std::size_t i = 0; i < size / sizeof(HMODULE) && i < modules.size(); ++i) {
+        std::array<wchar_t, 1024> path{};
+        GetModuleFileNameW(modules[i], path.data(), static_cast<DWORD>(path.size()));
+        names.insert(win32::ToUtf8(path.data()));
+    }
+    return names;
 }
 
 std::size_t PrivateBytes() {

@@ -4,6 +4,7 @@
 
 #include <map>
 #include <ostream>
+#include <set>
 #include <string>
 
 #include "e2e/driver/ui_thread.h"
@@ -30,6 +31,9 @@ std::ostream& operator<<(std::ostream& stream, const ResourceCount& count);
 /// Kills all timers of the thread that belong to no window and counts them: the system tells of them in no
 /// other way. Those of windows go with their windows.
 int KillThreadTimers(UiThread& thread);
+
+/// The modules in this process by their file names.
+std::set<std::string> LoadedModules();
 
 /// Memory in bytes: what the process has to itself, and what is in use in its heaps. The latter sees small
 /// leaks that the former hides.

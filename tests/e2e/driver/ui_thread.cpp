@@ -2,7 +2,10 @@
 
 #include <ole2.h>
 
+#include <atomic>
 #include <cstdio>
+#include <memory>
+#include <utility>
 #include <vector>
 
 #include "e2e/driver/screen.h"
@@ -13,6 +16,7 @@ namespace tavrin::e2e {
 namespace {
 
 constexpr UINT RunTask = WM_APP;
+constexpr UINT RunPosted = WM_APP + 1;
 constexpr DWORD Unanswered = 30000;
 
 /// The threads that run now. Only the test's own thread starts and ends them.
@@ -36,8 +40,9 @@ class Event {
     HANDLE handle_;
 };
 
-[[noreturn]] void GiveUp() {
-    std::fprintf(stderr, "The host's thread does not answer any more.\n");
+/// \param how far the thread has come with what it was to do
+[[noreturn]] void GiveUp(const char* how) {
+    std::fprintf(stderr, "The host's thread does not answer any more: %s.\n", how);
     SaveScreenshot("hang");
     std::fflush(nullptr);
     TerminateProcess(GetCurrentProcess(), 3);
@@ -49,18 +54,63 @@ bool TakenByDialog(MSG& message) {
     return active != nullptr && IsDialogMessageW(active, &message);
 }
 
+/// Messages by their kinds instead of in their order. \return false at the end
+bool TakeInputFirst(MSG& message) {
+    for (;;) {
+        const bool taken = PeekMessageW(&message, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE) ||
+                           PeekMessageW(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE) ||
+                           PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);
+        if (taken) return message.message != WM_QUIT;
+        WaitMessage();
+    }
+}
+
+/// A host's own shortcuts, for its own windows alone.
+class Accelerators {
+  public:
+    Accelerators() {
+        ACCEL help{FVIRTKEY, VK_F12, 1};
+        table_ = CreateAcceleratorTableW(&help, 1);
+    }
+    ~Accelerators() { DestroyAcceleratorTable(table_); }
+    Accelerators(const Accelerators&) = delete;
+    Accelerators& operator=(const Accelerators&) = delete;
+
+    bool Take(MSG& message) const {
+        constexpr int hooksOfHost = 1;
+        const HWND active = GetActiveWindow();
+        return CallMsgFilterW(&message, hooksOfHost) ||
+               (active != nullptr && TranslateAcceleratorW(active, table_, &message));
+    }
+
+  private:
+    HACCEL table_;
+};
+
+/// Takes the function over.
+LRESULT RunAndForget(std::function<void()>& function) {
+    const std::unique_ptr<std::function<void()>> owner(&function);
+    try {
+        function();
+    } catch (...) {
+        // Nobody waits for it.
+    }
+    return 0;
+}
+
 }  // namespace
 
 struct UiThread::Task {
     const std::function<void()>& function;
     std::exception_ptr failure;
     Event done;
+    std::atomic<bool> isBegun = false;
 };
 
 UiThread::UiThread(LoopKind kind) {
     const Event ready;
     thread_ = std::thread([this, kind, &ready] { Run(kind, ready.Get()); });
-    if (!ready.Wait()) GiveUp();
+    if (!ready.Wait()) GiveUp("it does not start");
     Running().push_back(this);
 }
 
@@ -77,9 +127,11 @@ void UiThread::Run(LoopKind kind, HANDLE ready) {
     SetWindowLongPtrW(gate_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&UiThread::Gate));
     SetEvent(ready);
 
+    const Accelerators accelerators;
     MSG message{};
-    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+    while (kind == LoopKind::Filtering ? TakeInputFirst(message) : GetMessageW(&message, nullptr, 0, 0) > 0) {
         if (kind == LoopKind::Dialog && TakenByDialog(message)) continue;
+        if (kind == LoopKind::Filtering && accelerators.Take(message)) continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }
@@ -88,8 +140,10 @@ void UiThread::Run(LoopKind kind, HANDLE ready) {
 }
 
 LRESULT CALLBACK UiThread::Gate(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == RunPosted) return RunAndForget(*reinterpret_cast<std::function<void()>*>(lParam));
     if (message != RunTask) return DefWindowProcW(window, message, wParam, lParam);
     auto& task = *reinterpret_cast<Task*>(lParam);
+    task.isBegun = true;
     try {
         task.function();
     } catch (...) {
@@ -101,11 +155,16 @@ LRESULT CALLBACK UiThread::Gate(HWND window, UINT message, WPARAM wParam, LPARAM
 
 void UiThread::Execute(const std::function<void()>& function) {
     if (GetCurrentThreadId() == id_) return function();
-    Task task{function, nullptr, {}};
+    Task task{function, nullptr, {}, {}};
     // Posted, not sent: inside a sent message COM refuses calls to other apartments.
-    PostMessageW(gate_, RunTask, 0, reinterpret_cast<LPARAM>(&task));
-    if (!task.done.Wait()) GiveUp();
+    if (!PostMessageW(gate_, RunTask, 0, reinterpret_cast<LPARAM>(&task))) GiveUp("its window is gone");
+    if (!task.done.Wait()) GiveUp(task.isBegun ? "it has not ended" : "it has not begun");
     if (task.failure) std::rethrow_exception(task.failure);
+}
+
+void UiThread::Post(std::function<void()> function) {
+    auto owner = std::make_unique<std::function<void()>>(std::move(function));
+    if (PostMessageW(gate_, RunPosted, 0, reinterpret_cast<LPARAM>(owner.get()))) owner.release();
 }
 
 void UiThread::Settle() {

@@ -12,8 +12,9 @@ namespace tavrin::e2e {
 
 /// How a host's loop treats messages.
 enum class LoopKind {
-    Plain,   ///< GetMessage, TranslateMessage, DispatchMessage
-    Dialog,  ///< as many hosts do: IsDialogMessage on the active window first
+    Plain,      ///< GetMessage, TranslateMessage, DispatchMessage
+    Dialog,     ///< as many hosts do: IsDialogMessage on the active window first
+    Filtering,  ///< keys and the mouse before all else, and hooks and accelerators are asked first
 };
 
 /// The host's user-interface thread: a single-threaded apartment with the host's message loop. The test's own
@@ -41,6 +42,10 @@ class UiThread {
             return std::move(*result);
         }
     }
+
+    /// Has the function run in the loop and does not wait for it: what it opens may stay open. Nobody hears
+    /// of what it throws.
+    void Post(std::function<void()> function);
 
     /// Waits until the thread has dealt with all input and messages that it has been sent, and has painted.
     void Settle();

@@ -1,0 +1,22 @@
+#include "e2e/driver/program_path.h"
+
+#include <windows.h>
+
+#include <array>
+
+namespace tavrin::e2e {
+
+std::wstring FullPath(const std::wstring& path) {
+    std::array<wchar_t, 1024> full{};
+    const DWORD length =
+        GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+    return {full.data(), length};
+}
+
+std::wstring BesideThisProgram(const wchar_t* relative) {
+    std::array<wchar_t, 1024> program{};
+    GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
+    return FullPath(std::wstring(program.data()) + L"\\..\\" + relative);
+}
+
+}  // namespace tavrin::e2e

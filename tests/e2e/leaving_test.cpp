@@ -1,0 +1,35 @@
+// Hosts that leave at a bad moment: each is a process of its own, which has to reach its end without a crash.
+
+#include <windows.h>
+
+#include <gmock/gmock.h>
+
+#include <array>
+
+#include "e2e/driver/component.h"
+#include "e2e/driver/process.h"
+#include "win32/text.h"
+
+namespace tavrin::e2e {
+namespace {
+
+class LeavingTest : public testing::TestWithParam<const char*> {
+  protected:
+    static std::wstring ThisProgram() {
+        std::array<wchar_t, 1024> path{};
+        GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+        return path.data();
+    }
+};
+
+TEST_P(LeavingTest, TheProcessEndsWithoutACrash) {
+    const ProcessResult result = RunProcess(L"\"" + ThisProgram() + L"\" --dll \"" + Component::Path() +
+                                            L"\" --leave " + win32::ToWide(GetParam()));
+    EXPECT_EQ(result.exitCode, 0U) << result.output;
+    EXPECT_THAT(result.output, testing::IsEmpty());
+}
+INSTANTIATE_TEST_SUITE_P(, LeavingTest, testing::Values("return", "exit", "release", "quit", "uninitialize"),
+                         [](const auto& how) { return std::string(how.param); });
+
+}  // namespace
+}  // namespace tavrin::e2e

@@ -1,0 +1,152 @@
+#include "e2e/proofs/attendant.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "e2e/driver/process.h"
+#include "e2e/driver/wait.h"
+
+namespace tavrin::e2e {
+
+namespace {
+
+constexpr int PromptId = 0xFFFF;
+constexpr int FileNameField = 0x480;
+constexpr unsigned OnceInAttentions = 4;  ///< how long things stay open
+
+/// What the windows may say, by the beginnings of the prompts.
+constexpr std::array<std::string_view, 20> KnownPrompts = {
+    "Numele este obligatoriu !",
+    "Prenumele este obligatoriu !",
+    "Doriti sa parasiti forma?",
+    "Doriti sa stergeti din agenda persoana ",
+    "Nu poate fi stearsa aceasta inregistrare",
+    "Doriti sa creati o nota noua ?",
+    "Valoare obligatorie !",
+    "Valoarea cursului trebuie sa fie >= 0  !",
+    "Exista curs valutar la aceasta data!",
+    "Nume Obligatoriu",
+    "Moneda deja existenta !",
+    "Acest curs a fost validat !",
+    "Sunteti sigur ca doriti sa stergeti cursul valutar",
+    "Data documentului introdus nu poate fi mai mica",
+    "Nu puteti sterge toate monedele !",
+    "Impartire la 0 !!",
+    "Eroare 91\n",                      // a host without a connection
+    "Eroare 13\n",                      // a day is to be changed where the list has none
+    "Eroare -2147217873 (80040E2F)\n",  // a person is entered who is there already
+    "Eroare -2147217900 (80040E14)\n",  // the database refuses a name that was typed
+};
+
+std::vector<Window> Modals() {
+    std::vector<Window> windows = TopLevelWindows();
+    std::erase_if(windows,
+                  [](const Window& window) { return window.ClassName() != "#32770" || !window.IsEnabled(); });
+    return windows;
+}
+
+Window PromptOf(const Window& window) {
+    return Window(GetDlgItem(window.Handle(), PromptId));
+}
+
+bool IsKnown(const std::string& prompt) {
+    return std::ranges::any_of(KnownPrompts,
+                               [&](std::string_view known) { return prompt.starts_with(known); });
+}
+
+bool BelongsToDialog(const Window& message) {
+    const Window owner(GetWindow(message.Handle(), GW_OWNER));
+    return owner.ClassName() == "#32770";
+}
+
+/// Where random notes are written and found again.
+std::wstring RandomNote(unsigned number) {
+    return TemporaryPath((L"random" + std::to_wstring(number) + L".rtf").c_str());
+}
+
+}  // namespace
+
+void Attendant::Attend() {
+    constexpr std::size_t TooMany = 2;
+    EndMenuOrDrag(Zeal::Sometimes);
+    EndModal(Modals().size() > TooMany ? Zeal::AtOnce : Zeal::Sometimes);
+}
+
+/// \return whether there was one
+bool Attendant::EndModal(Zeal zeal) {
+    const std::vector<Window> modals = Modals();
+    if (modals.empty()) return false;
+    const Window& front = modals.front();
+    const bool isMessage = PromptOf(front).Exists();
+    if (isMessage) Remember(front);
+    if (zeal == Zeal::Sometimes && !random_.OnceIn(OnceInAttentions)) return true;
+    isMessage ? Answer(front) : EndDialog(front, zeal);
+    return true;
+}
+
+void Attendant::Remember(const Window& message) {
+    if (message.Handle() == lastMessage_) return;
+    lastMessage_ = message.Handle();
+    const std::string prompt = PromptOf(message).Text();
+    constexpr std::size_t enough = 60;
+    ++messages_[message.Text() + ": " + prompt.substr(0, enough)];
+    if (!IsKnown(prompt) && !BelongsToDialog(message)) unknown_ = message.Text() + ": " + prompt;
+}
+
+void Attendant::Answer(const Window& message) {
+    constexpr std::array buttons = {IDOK, IDYES, IDNO, IDCANCEL};
+    std::vector<int> there;
+    std::ranges::copy_if(buttons, std::back_inserter(there),
+                         [&](int id) { return GetDlgItem(message.Handle(), id) != nullptr; });
+    if (there.empty()) return;
+    PostMessageW(message.Handle(), WM_COMMAND, static_cast<WPARAM>(random_.Pick(there)), 0);
+}
+
+void Attendant::EndDialog(const Window& dialog, Zeal zeal) {
+    if (dialog.Handle() != lastDialog_) ++dialogs_;
+    lastDialog_ = dialog.Handle();
+    if (zeal == Zeal::AtOnce || random_.OnceIn(2)) {
+        PostMessageW(dialog.Handle(), WM_COMMAND, IDCANCEL, 0);
+        return;
+    }
+    const HWND handle = dialog.Handle();
+    host_.Ui().Post([handle, name = RandomNote(random_.Below(4))] {
+        if (GetDlgItem(handle, FileNameField) != nullptr)
+            SetDlgItemTextW(handle, FileNameField, name.c_str());
+    });
+    PostMessageW(handle, WM_COMMAND, IDOK, 0);
+}
+
+void Attendant::EndMenuOrDrag(Zeal zeal) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    if (!GetGUIThreadInfo(host_.Ui().Id(), &info)) return;
+    if ((info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE)) != 0)
+        host_.Ui().Post([] { EndMenu(); });
+    const bool isDragging = (info.flags & GUI_INMOVESIZE) != 0;
+    if (isDragging && (zeal == Zeal::AtOnce || random_.OnceIn(OnceInAttentions)))
+        PostMessageW(info.hwndMoveSize, WM_LBUTTONUP, 0, 0);
+}
+
+bool Attendant::CloseOneWindow() {
+    const std::vector<Window> forms = OpenForms();
+    if (!forms.empty()) PostMessageW(forms.front().Handle(), WM_CLOSE, 0, 0);
+    return !forms.empty();
+}
+
+void Attendant::CloseEverything() {
+    const bool isClosed = WaitUntil([&] {
+        EndMenuOrDrag(Zeal::AtOnce);
+        if (EndModal(Zeal::AtOnce)) return false;
+        const bool wasOpen = CloseOneWindow();
+        host_.Call([] {});
+        return !wasOpen;
+    });
+    if (!isClosed) throw DriverError("a window does not close");
+    host_.Ui().Settle();
+}
+
+}  // namespace tavrin::e2e

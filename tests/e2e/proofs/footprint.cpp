@@ -1,0 +1,52 @@
+#include "e2e/proofs/footprint.h"
+
+#include <sstream>
+
+namespace tavrin::e2e {
+
+namespace {
+
+int GdiObjects(const ResourceCount& count) {
+    int sum = 0;
+    for (const auto& [kind, number] : count.gdiObjects)
+        sum += number;
+    return sum;
+}
+
+}  // namespace
+
+Footprint Footprint::Take() {
+    Footprint footprint;
+    footprint.modules = LoadedModules();
+    footprint.heapBytes = HeapBytes();
+    footprint.privateBytes = PrivateBytes();
+    footprint.resources = ResourceCount::Take();
+    return footprint;
+}
+
+std::string Differences(const Footprint& before, const Footprint& after, std::size_t tolerance) {
+    std::ostringstream text;
+    if (!(after.resources == before.resources))
+        text << "resources were " << before.resources << " and are " << after.resources << "; ";
+    for (const std::string& module : after.modules) {
+        if (!before.modules.contains(module)) text << module << " has stayed; ";
+    }
+    if (after.privateBytes > before.privateBytes + tolerance)
+        text << "private bytes have grown by " << after.privateBytes - before.privateBytes << "; ";
+    return text.str();
+}
+
+std::string Describe(const Footprint& before, const Footprint& after) {
+    const ResourceCount& then = before.resources;
+    const ResourceCount& now = after.resources;
+    std::ostringstream text;
+    text << "GDI objects " << GdiObjects(then) << " to " << GdiObjects(now) << ", windows " << then.windows
+         << " to " << now.windows << ", menus " << then.menus << " to " << now.menus << ", icons "
+         << then.icons << " to " << now.icons << ", atoms " << then.globalAtoms << " to " << now.globalAtoms
+         << ", modules " << before.modules.size() << " to " << after.modules.size() << ", heap bytes "
+         << before.heapBytes << " to " << after.heapBytes << ", private bytes " << before.privateBytes
+         << " to " << after.privateBytes;
+    return text.str();
+}
+
+}  // namespace tavrin::e2e

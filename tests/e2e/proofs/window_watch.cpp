@@ -1,0 +1,86 @@
+#include "e2e/proofs/window_watch.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <vector>
+
+#include "e2e/driver/wait.h"
+
+namespace tavrin::e2e {
+
+namespace {
+
+/// Which windows let their opener in again when they close.
+struct Holder {
+    std::string_view held;
+    std::array<std::string_view, 3> holders;
+};
+constexpr std::array<Holder, 2> Holders = {{
+    {"CursValutar", {"CursValutarDetaliu", "CereMoneda", "EvolutieCurs"}},
+    {"frmCalculator", {"AlegeMoneda"}},
+}};
+
+/// A window of the component's, or one that shuts the others out.
+struct Seen {
+    HWND handle;
+    std::string name;  ///< empty for a message or a dialog
+    bool isVisible;
+    bool isEnabled;
+};
+
+BOOL CALLBACK See(HWND handle, LPARAM seen) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(handle, &process);
+    if (process != GetCurrentProcessId()) return TRUE;
+    const Window window(handle);
+    std::string name = window.Name();
+    const bool isModal = name.empty() && window.IsVisible() && window.ClassName() == "#32770";
+    if (!name.empty() || isModal) {
+        reinterpret_cast<std::vector<Seen>*>(seen)->push_back(
+            {handle, std::move(name), window.IsVisible(), window.IsEnabled()});
+    }
+    return TRUE;
+}
+
+bool IsHeld(const Seen& window, const std::vector<Seen>& all) {
+    return std::ranges::any_of(all, [&](const Seen& other) {
+        return std::ranges::any_of(Holders, [&](const Holder& entry) {
+            return entry.held == window.name &&
+                   std::ranges::find(entry.holders, other.name) != entry.holders.end();
+        });
+    });
+}
+
+}  // namespace
+
+std::string WindowWatch::Complaint() {
+    std::string complaint = Look();
+    if (complaint.empty()) return complaint;
+    WaitUntil([&] {
+        complaint = Look();
+        return complaint.empty();
+    });
+    return complaint;
+}
+
+std::string WindowWatch::Look() {
+    std::vector<Seen> seen;
+    host_.Call([&] { EnumWindows(See, reinterpret_cast<LPARAM>(&seen)); });
+    std::set<HWND> open;
+    for (const Seen& window : seen) {
+        if (window.name.empty()) continue;
+        open.insert(window.handle);
+        if (!open_.contains(window.handle)) ++openings_;
+    }
+    open_ = std::move(open);
+    if (std::ranges::any_of(seen, [](const Seen& window) { return window.name.empty(); })) return {};
+    for (const Seen& window : seen) {
+        if (!window.isVisible) return window.name + " is open and out of sight";
+        if (!window.isEnabled && !IsHeld(window, seen))
+            return window.name + " is disabled and nobody will enable it";
+    }
+    return {};
+}
+
+}  // namespace tavrin::e2e

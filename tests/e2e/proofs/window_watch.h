@@ -1,0 +1,30 @@
+#pragma once
+
+#include <set>
+#include <string>
+
+#include "e2e/driver/host.h"
+
+namespace tavrin::e2e {
+
+/// Looks at the component's windows between events: what must hold of them at any time.
+class WindowWatch {
+  public:
+    explicit WindowWatch(Host& host) : host_(host) {}
+
+    /// Has the host's thread answer, and looks. What a handler is still busy with gets time to pass.
+    /// \return what is wrong; empty when nothing is
+    std::string Complaint();
+
+    /// How many windows have been opened as far as was seen.
+    int Openings() const { return openings_; }
+
+  private:
+    std::string Look();
+
+    Host& host_;
+    std::set<HWND> open_;
+    int openings_ = 0;
+};
+
+}  // namespace tavrin::e2e
