@@ -18,7 +18,7 @@ constexpr int FileNameField = 0x480;
 constexpr unsigned OnceInAttentions = 4;  ///< how long things stay open
 
 /// What the windows may say, by the beginnings of the prompts.
-constexpr std::array<std::string_view, 20> KnownPrompts = {
+constexpr std::array<std::string_view, 21> KnownPrompts = {
     "Numele este obligatoriu !",
     "Prenumele este obligatoriu !",
     "Doriti sa parasiti forma?",
@@ -35,10 +35,11 @@ constexpr std::array<std::string_view, 20> KnownPrompts = {
     "Data documentului introdus nu poate fi mai mica",
     "Nu puteti sterge toate monedele !",
     "Impartire la 0 !!",
-    "Eroare 91\n",                      // a host without a connection
-    "Eroare 13\n",                      // a day is to be changed where the list has none
-    "Eroare -2147217873 (80040E2F)\n",  // a person is entered who is there already
-    "Eroare -2147217900 (80040E14)\n",  // the database refuses a name that was typed
+    "String or binary data would be truncated.",  // a currency's name is too long
+    "Eroare 91\n",                                // a host without a connection
+    "Eroare 13\n",                                // a day is to be changed where the list has none
+    "Eroare -2147217873 (80040E2F)\n",            // a person is entered who is there already
+    "Eroare -2147217900 (80040E14)\n",            // the database refuses a name that was typed
 };
 
 std::vector<Window> Modals() {
