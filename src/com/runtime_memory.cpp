@@ -4,9 +4,9 @@
 
 #ifdef __GLIBCXX__
 namespace __gnu_cxx {
-void __freeres();  // NOLINT(bugprone-reserved-identifier): the runtime's own name, which no header of it
-                   // declares
-}
+// The runtime's own name, which no header of it declares.
+void __freeres();  // NOLINT(bugprone-reserved-identifier,readability-identifier-naming)
+}  // namespace __gnu_cxx
 #endif
 
 namespace tavrin::com {

@@ -3,11 +3,11 @@
 // no console to read it on.
 
 #include <cstdlib>
+#include <exception>
 
 namespace __gnu_cxx {  // NOLINT(bugprone-reserved-identifier): the runtime's own name for it
 
-void __verbose_terminate_handler();  // NOLINT(bugprone-reserved-identifier)
-void __verbose_terminate_handler() {
+void __verbose_terminate_handler() {  // NOLINT(bugprone-reserved-identifier,readability-identifier-naming)
     std::abort();
 }
 

@@ -25,11 +25,9 @@ std::string ToUtf8(std::wstring_view text) {
 }
 
 std::string HexText(std::uint32_t number) {
-    std::string text(8, '0');
-    for (auto digit = text.rbegin(); digit != text.rend(); ++digit) {
-        *digit = "0123456789ABCDEF"[number % 16];
-        number /= 16;
-    }
+    std::string text;
+    for (int shift = 28; shift >= 0; shift -= 4)
+        text += "0123456789ABCDEF"[number >> shift & 0xFU];
     return text;
 }
 

@@ -13,6 +13,7 @@
 #include <cstdio>
 #include <cstring>
 #include <string>
+#include <utility>
 
 #include "e2e/driver/component.h"
 #include "e2e/driver/program_path.h"
@@ -51,7 +52,7 @@ const char* Option(int count, char** arguments, const char* name) {
 }
 
 std::wstring PathOr(const char* option, std::wstring otherwise) {
-    return option != nullptr ? FullPath(ToWide(option)) : otherwise;
+    return option != nullptr ? FullPath(ToWide(option)) : std::move(otherwise);
 }
 
 }  // namespace

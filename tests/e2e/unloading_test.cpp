@@ -109,7 +109,7 @@ TEST_F(CycleTest, ALifeWithEveryWindowLeavesNothingBehind) {
     constexpr int WarmUp = 3;  // what the system loads on first use stays
     constexpr int Cycles = 10;
     // What the C++ runtime keeps for exceptions is more than this in each cycle.
-    constexpr std::size_t Tolerance = Cycles * 4 * std::size_t{1024};
+    constexpr std::size_t Tolerance = std::size_t{Cycles} * 4 * 1024;
     ASSERT_NO_FATAL_FAILURE(Run(WarmUp));
     const ResourceCount before = ResourceCount::Take();
     const std::set<std::string> modulesBefore = LoadedModules();

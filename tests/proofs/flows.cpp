@@ -1,5 +1,6 @@
 #include "proofs/flows.h"
 
+#include <string_view>
 #include <vector>
 
 #include "forms/grid.h"
@@ -542,8 +543,8 @@ std::vector<Flow> NoteFlows() {
          }},
         {"note: bold, italic, underlined by keyboard", WriteNote,
          [](Session& user) {
-             for (const int letter : {'B', 'I', 'U', 'I'})
-                 user.keyboard.Press(letter, {.control = true});
+             for (const char letter : std::string_view("BIUI"))
+                 user.keyboard.Press(static_cast<unsigned char>(letter), {.control = true});
          }},
         {"note: a new one", WriteNote,
          [](Session& user) {

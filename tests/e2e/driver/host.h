@@ -50,6 +50,9 @@ class Host {
 
     /// The host's own main window.
     const Window& MainWindow() const { return mainWindow_; }
+    /// The mouse's button comes up over that window. This ends a drag wherever it goes on, as the system then
+    /// takes all messages of the thread.
+    void LetGoOfMouse() const { PostMessageW(mainWindow_.Handle(), WM_LBUTTONUP, 0, 0); }
 
     Database& Data() { return *database_; }
     const win32::ComPtr<_Utile>& Object() const { return object_; }

@@ -164,7 +164,8 @@ void UiThread::Execute(const std::function<void()>& function) {
 
 void UiThread::Post(std::function<void()> function) {
     auto owner = std::make_unique<std::function<void()>>(std::move(function));
-    if (PostMessageW(gate_, RunPosted, 0, reinterpret_cast<LPARAM>(owner.get()))) owner.release();
+    if (PostMessageW(gate_, RunPosted, 0, reinterpret_cast<LPARAM>(owner.get())))
+        static_cast<void>(owner.release());  // the loop's now
 }
 
 void UiThread::Settle() {

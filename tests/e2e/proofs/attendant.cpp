@@ -127,9 +127,7 @@ void Attendant::EndMenuOrDrag(Zeal zeal) {
     if (!GetGUIThreadInfo(host_.Ui().Id(), &info)) return;
     if ((info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE)) != 0)
         host_.Ui().Post([] { EndMenu(); });
-    const bool isDragging = (info.flags & GUI_INMOVESIZE) != 0;
-    if (isDragging && (zeal == Zeal::AtOnce || random_.OnceIn(OnceInAttentions)))
-        PostMessageW(info.hwndMoveSize, WM_LBUTTONUP, 0, 0);
+    if (zeal == Zeal::AtOnce || random_.OnceIn(OnceInAttentions)) host_.LetGoOfMouse();
 }
 
 bool Attendant::CloseOneWindow() {

@@ -71,9 +71,10 @@ void SentEvents::Look() {
         targets_.push_back({form, form, takesInput});
         std::vector<HWND> children;
         EnumChildWindows(form.Handle(), Collect, reinterpret_cast<LPARAM>(&children));
-        for (const HWND child : children)
+        for (const HWND child : children) {
             targets_.push_back(
                 {Window(child), form, takesInput && IsWindowVisible(child) && IsWindowEnabled(child)});
+        }
     }
 }
 

@@ -52,20 +52,15 @@ bool IsHeld(const Seen& window, const std::vector<Seen>& all) {
     });
 }
 
-/// A window that is dragged keeps the handler under way, and what that has closed is gone only when it has
-/// ended.
-bool IsDragging(DWORD thread) {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    return GetGUIThreadInfo(thread, &info) && (info.flags & GUI_INMOVESIZE) != 0;
-}
-
 }  // namespace
 
 std::string WindowWatch::Complaint() {
     std::string complaint = Look();
     if (complaint.empty()) return complaint;
+    // A window that is dragged keeps the handler under way, and what that has closed is gone only when it has
+    // ended. The system need not know of the drag any more: what takes the mouse away does not end it.
     WaitUntil([&] {
+        host_.LetGoOfMouse();
         complaint = Look();
         return complaint.empty();
     });
@@ -83,7 +78,6 @@ std::string WindowWatch::Look() {
     }
     open_ = std::move(open);
     if (std::ranges::any_of(seen, [](const Seen& window) { return window.name.empty(); })) return {};
-    if (IsDragging(host_.Ui().Id())) return {};
     for (const Seen& window : seen) {
         if (!window.isVisible) return window.name + " is open and out of sight";
         if (!window.isEnabled && !IsHeld(window, seen))
