@@ -7,18 +7,12 @@
 #include <cstdint>
 
 #include "data/decimal.h"
+#include "data/powers_of_ten.h"
 #include "data/rounding.h"
 
 namespace tavrin::calculator {
 
 namespace {
-
-// Up to this many digits, decimals and doubles tell each other apart: an integer divided by a power of ten is
-// the double of that decimal, and its digits are the shortest that read back.
-constexpr int ExactDigits = 15;
-constexpr std::uint64_t ExactLimit = 1'000'000'000'000'000;
-constexpr std::array<double, ExactDigits + 1> PowersOfTen = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                             1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
 /// Writes units / 10^decimals without zeros at its end.
 void WriteUnits(std::string& text, std::uint64_t units, int decimals, std::string_view separator) {
@@ -26,7 +20,7 @@ void WriteUnits(std::string& text, std::uint64_t units, int decimals, std::strin
         units /= 10;
         --decimals;
     }
-    std::array<char, ExactDigits + 1> digits;
+    std::array<char, data::SafeDigits + 1> digits;
     const char* const begin = digits.data();
     const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), units).ptr;
     const auto places = static_cast<std::ptrdiff_t>(decimals);
@@ -47,7 +41,7 @@ struct PlainNumber {
     /// What follows the digits that a text begins with.
     std::string_view Take(std::string_view text) {
         std::size_t taken = 0;
-        for (; taken < text.size() && digits < ExactDigits; ++taken, ++digits) {
+        for (; taken < text.size() && digits < data::SafeDigits; ++taken, ++digits) {
             const auto digit = static_cast<unsigned char>(text[taken] - '0');
             if (digit > 9) break;
             units = units * 10 + digit;
@@ -62,12 +56,8 @@ void WriteNumber(std::string& text, double number, std::string_view separator) {
     text.clear();
     if (number < 0) text += '-';
     const double magnitude = std::fabs(number);
-    constexpr int Decimals = data::MaxRoundingDecimals;
-    const std::optional<std::uint64_t> units = data::RoundedUnits(number, Decimals);
-    const bool isExact =
-        units && *units < ExactLimit && static_cast<double>(*units) / PowersOfTen[Decimals] == magnitude;
-    if (isExact) {
-        WriteUnits(text, *units, Decimals, separator);
+    if (const auto units = data::ShortestUnits(magnitude)) {
+        WriteUnits(text, *units, data::MaxRoundingDecimals, separator);
     } else {
         // Zeros stand for the last digits of a whole number that a double does not know.
         data::ShortestDigits(magnitude).AppendTo(text, separator);
@@ -90,7 +80,7 @@ double ReadNumber(std::string_view text, std::string_view separator) {
     }
     if (number.units == 0) return 0;
     const double magnitude =
-        static_cast<double>(number.units) / PowersOfTen[static_cast<std::size_t>(places)];
+        static_cast<double>(number.units) / data::PowersOfTen[static_cast<std::size_t>(places)];
     return negative ? -magnitude : magnitude;
 }
 

@@ -1,7 +1,6 @@
 #include "data/decimal.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
 #include <cmath>
 #include <limits>
@@ -9,6 +8,7 @@
 
 #include "data/big_natural.h"
 #include "data/binary_parts.h"
+#include "data/powers_of_ten.h"
 #include "data/rounding.h"
 
 namespace tavrin::data {
@@ -17,17 +17,13 @@ namespace {
 
 using Limits = std::numeric_limits<double>;
 
-// Up to so many digits, decimals and doubles tell each other apart; with more than 17 no double is mistaken.
-constexpr int SafeDigits = 15;
+// With so many digits no double is mistaken for another.
 constexpr int EnoughDigits = 17;
 // No digit beyond these says on which side of the middle between two doubles a number lies, only that
 // something follows.
 constexpr std::size_t DecisiveDigits = 800;
 // Far beyond the largest and the smallest double.
 constexpr int HugePoint = 400;
-
-constexpr std::array<double, SafeDigits + 1> PowersOfTen = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                            1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
 bool IsOdd(double magnitude) {
     return Split(magnitude).significand % 2 == 1;
@@ -77,14 +73,6 @@ Decimal DecimalOf(const DigitText& digits, int places) {
     decimal.point = static_cast<int>(decimal.digits.Size()) - places;
     decimal.digits.DropLast('0');
     return decimal;
-}
-
-/// For numbers of few digits, as amounts and rates are.
-std::optional<Decimal> FewDigits(double magnitude) {
-    const auto units = RoundedUnits(magnitude, MaxRoundingDecimals);
-    if (!units || *units >= static_cast<std::uint64_t>(PowersOfTen[SafeDigits])) return std::nullopt;
-    if (static_cast<double>(*units) / PowersOfTen[MaxRoundingDecimals] != magnitude) return std::nullopt;
-    return DecimalOf(BigNatural(*units).Digits(), MaxRoundingDecimals);
 }
 
 /// The number with so many digits, if it reads back as the same double.
@@ -239,8 +227,16 @@ Decimal ExactDecimal(double magnitude) {
     return DecimalOf(whole.Digits(), std::max(-exponent, 0));
 }
 
+std::optional<std::uint64_t> ShortestUnits(double magnitude) {
+    const auto units = RoundedUnits(magnitude, MaxRoundingDecimals);
+    if (!units || *units >= static_cast<std::uint64_t>(PowersOfTen[SafeDigits])) return std::nullopt;
+    if (static_cast<double>(*units) / PowersOfTen[MaxRoundingDecimals] != magnitude) return std::nullopt;
+    return units;
+}
+
 Decimal ShortestDigits(double magnitude) {
-    if (auto few = FewDigits(magnitude)) return *few;
+    if (const auto units = ShortestUnits(magnitude))
+        return DecimalOf(BigNatural(*units).Digits(), MaxRoundingDecimals);
     const Decimal exact = ExactDecimal(magnitude);
     // Where doubles have all their bits, fewer digits would be the same number with zeros at its end.
     const int fewest = magnitude < Limits::min() ? 1 : SafeDigits;

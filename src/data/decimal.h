@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -39,6 +41,10 @@ Decimal ExactDecimal(double magnitude);
 
 /// The fewest digits that read back as the same double, and of those the nearest. \pre finite, not negative
 Decimal ShortestDigits(double magnitude);
+
+/// A number in units of 10^-MaxRoundingDecimals, where it needs no other digits and few enough to be told
+/// from every other double, as amounts and rates do: the quick way to its shortest digits. \pre not negative
+std::optional<std::uint64_t> ShortestUnits(double magnitude);
 
 enum class Exponents { Read, NotRead };
 

@@ -4,12 +4,12 @@
 #include <cmath>
 
 #include "data/binary_parts.h"
+#include "data/powers_of_ten.h"
 
 namespace tavrin::data {
 
 namespace {
 
-constexpr std::array<double, MaxRoundingDecimals + 1> PowersOfTen = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
 constexpr std::array<std::uint64_t, MaxRoundingDecimals + 1> PowersOfFive = {1, 5, 25, 125, 625, 3125, 15625};
 // 9e15 units, a little less than 2^53.
 constexpr std::array<double, MaxRoundingDecimals + 1> Limits = {9e15, 9e14, 9e13, 9e12, 9e11, 9e10, 9e9};

@@ -1,7 +1,6 @@
 #include "proofs/user_session.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "addressbook/addressbook_statements.h"
@@ -12,6 +11,7 @@
 #include "host/embedded/embedded_connection.h"
 #include "proofs/faulty_connection.h"
 #include "support/fake_rich_text.h"
+#include "support/window_holders.h"
 
 namespace tavrin::tests {
 
@@ -37,28 +37,6 @@ class UserSession::Caller : public shell::CallingObject {
   private:
     int& raised_;
 };
-
-namespace {
-
-/// Which windows let their opener in again when they close.
-struct Holder {
-    std::string_view held;
-    std::array<std::string_view, 3> holders;
-};
-constexpr std::array<Holder, 2> Holders = {{
-    {"CursValutar", {"CursValutarDetaliu", "CereMoneda", "EvolutieCurs"}},
-    {"frmCalculator", {"AlegeMoneda"}},
-}};
-
-bool MayHold(std::string_view holder, std::string_view held) {
-    for (const Holder& entry : Holders) {
-        if (entry.held == held && std::ranges::find(entry.holders, holder) != entry.holders.end())
-            return true;
-    }
-    return false;
-}
-
-}  // namespace
 
 UserSession::UserSession()
     : module(desktop, [this] { return std::make_unique<Messages>(*this); }),

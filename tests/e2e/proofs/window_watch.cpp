@@ -1,25 +1,14 @@
 #include "e2e/proofs/window_watch.h"
 
 #include <algorithm>
-#include <array>
-#include <string_view>
 #include <vector>
 
 #include "e2e/driver/wait.h"
+#include "support/window_holders.h"
 
 namespace tavrin::e2e {
 
 namespace {
-
-/// Which windows let their opener in again when they close.
-struct Holder {
-    std::string_view held;
-    std::array<std::string_view, 3> holders;
-};
-constexpr std::array<Holder, 2> Holders = {{
-    {"CursValutar", {"CursValutarDetaliu", "CereMoneda", "EvolutieCurs"}},
-    {"frmCalculator", {"AlegeMoneda"}},
-}};
 
 /// A window of the component's, or one that shuts the others out.
 struct Seen {
@@ -44,12 +33,8 @@ BOOL CALLBACK See(HWND handle, LPARAM seen) {
 }
 
 bool IsHeld(const Seen& window, const std::vector<Seen>& all) {
-    return std::ranges::any_of(all, [&](const Seen& other) {
-        return std::ranges::any_of(Holders, [&](const Holder& entry) {
-            return entry.held == window.name &&
-                   std::ranges::find(entry.holders, other.name) != entry.holders.end();
-        });
-    });
+    return std::ranges::any_of(all,
+                               [&](const Seen& other) { return tests::MayHold(other.name, window.name); });
 }
 
 }  // namespace
