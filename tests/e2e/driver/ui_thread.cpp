@@ -4,7 +4,6 @@
 
 #include <atomic>
 #include <cstdio>
-#include <memory>
 #include <utility>
 #include <vector>
 
@@ -15,9 +14,11 @@ namespace tavrin::e2e {
 
 namespace {
 
-constexpr UINT RunTask = WM_APP;
-constexpr UINT RunPosted = WM_APP + 1;
+constexpr UINT RunNextTask = WM_APP;
 constexpr DWORD Unanswered = 30000;
+/// After so many milliseconds without an answer the thread is told once more that there is something to do:
+/// Wine's dialogs drop the message they have just taken when another thread's sent message ended them.
+constexpr DWORD KnockAgain = 500;
 
 /// The threads that run now. Only the test's own thread starts and ends them.
 std::vector<UiThread*>& Running() {
@@ -33,8 +34,10 @@ class Event {
     Event& operator=(const Event&) = delete;
 
     HANDLE Get() const { return handle_; }
-    void Set() { SetEvent(handle_); }
-    bool Wait() const { return WaitForSingleObject(handle_, Unanswered) == WAIT_OBJECT_0; }
+    void Set() const { SetEvent(handle_); }
+    bool Wait(DWORD milliseconds = Unanswered) const {
+        return WaitForSingleObject(handle_, milliseconds) == WAIT_OBJECT_0;
+    }
 
   private:
     HANDLE handle_;
@@ -87,25 +90,7 @@ class Accelerators {
     HACCEL table_;
 };
 
-/// Takes the function over.
-LRESULT RunAndForget(std::function<void()>& function) {
-    const std::unique_ptr<std::function<void()>> owner(&function);
-    try {
-        function();
-    } catch (...) {
-        // Nobody waits for it.
-    }
-    return 0;
-}
-
 }  // namespace
-
-struct UiThread::Task {
-    const std::function<void()>& function;
-    std::exception_ptr failure;
-    Event done;
-    std::atomic<bool> isBegun = false;
-};
 
 UiThread::UiThread(LoopKind kind) {
     const Event ready;
@@ -124,6 +109,7 @@ void UiThread::Run(LoopKind kind, HANDLE ready) {
     OleInitialize(nullptr);
     id_ = GetCurrentThreadId();
     gate_ = CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    SetWindowLongPtrW(gate_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     SetWindowLongPtrW(gate_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&UiThread::Gate));
     SetEvent(ready);
 
@@ -140,32 +126,67 @@ void UiThread::Run(LoopKind kind, HANDLE ready) {
 }
 
 LRESULT CALLBACK UiThread::Gate(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == RunPosted) return RunAndForget(*reinterpret_cast<std::function<void()>*>(lParam));
-    if (message != RunTask) return DefWindowProcW(window, message, wParam, lParam);
-    auto& task = *reinterpret_cast<Task*>(lParam);
-    task.isBegun = true;
-    try {
-        task.function();
-    } catch (...) {
-        task.failure = std::current_exception();
-    }
-    task.done.Set();
+    if (message != RunNextTask) return DefWindowProcW(window, message, wParam, lParam);
+    reinterpret_cast<UiThread*>(GetWindowLongPtrW(window, GWLP_USERDATA))->RunNext();
     return 0;
+}
+
+/// Has the loop take the next task. Posted, not sent: inside a sent message COM refuses calls to other
+/// apartments.
+void UiThread::Knock() {
+    if (!PostMessageW(gate_, RunNextTask, 0, 0)) GiveUp("its window is gone");
+}
+
+void UiThread::RunNext() {
+    std::function<void()> task;
+    {
+        const std::scoped_lock guard(lock_);
+        if (tasks_.empty()) return;
+        task = std::move(tasks_.front());
+        tasks_.pop_front();
+        // The task may open a modal window, and the others must not wait for its end.
+        if (!tasks_.empty()) Knock();
+    }
+    task();
 }
 
 void UiThread::Execute(const std::function<void()>& function) {
     if (GetCurrentThreadId() == id_) return function();
-    Task task{function, nullptr, {}, {}};
-    // Posted, not sent: inside a sent message COM refuses calls to other apartments.
-    if (!PostMessageW(gate_, RunTask, 0, reinterpret_cast<LPARAM>(&task))) GiveUp("its window is gone");
-    if (!task.done.Wait()) GiveUp(task.isBegun ? "it has not ended" : "it has not begun");
-    if (task.failure) std::rethrow_exception(task.failure);
+    std::exception_ptr failure;
+    const Event done;
+    std::atomic<bool> isBegun = false;
+    {
+        const std::scoped_lock guard(lock_);
+        tasks_.emplace_back([&] {
+            isBegun = true;
+            try {
+                function();
+            } catch (...) {
+                failure = std::current_exception();
+            }
+            done.Set();
+        });
+    }
+    const ULONGLONG start = GetTickCount64();
+    do {
+        if (!isBegun) Knock();
+    } while (!done.Wait(KnockAgain) && GetTickCount64() - start < Unanswered);
+    if (!done.Wait(0)) GiveUp(isBegun ? "it has not ended" : "it has not begun");
+    if (failure) std::rethrow_exception(failure);
 }
 
 void UiThread::Post(std::function<void()> function) {
-    auto owner = std::make_unique<std::function<void()>>(std::move(function));
-    if (PostMessageW(gate_, RunPosted, 0, reinterpret_cast<LPARAM>(owner.get())))
-        static_cast<void>(owner.release());  // the loop's now
+    {
+        const std::scoped_lock guard(lock_);
+        tasks_.emplace_back([function = std::move(function)] {
+            try {
+                function();
+            } catch (...) {
+                // Nobody waits for it.
+            }
+        });
+    }
+    Knock();
 }
 
 void UiThread::Settle() {

@@ -2,8 +2,10 @@
 
 #include <windows.h>
 
+#include <deque>
 #include <exception>
 #include <functional>
+#include <mutex>
 #include <optional>
 #include <thread>
 #include <type_traits>
@@ -53,14 +55,16 @@ class UiThread {
     static void SettleAll();
 
   private:
-    struct Task;
-
     void Run(LoopKind kind, HANDLE ready);
     void Execute(const std::function<void()>& function);
+    void Knock();
+    void RunNext();
     static LRESULT CALLBACK Gate(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     HWND gate_ = nullptr;
     DWORD id_ = 0;
+    std::mutex lock_;
+    std::deque<std::function<void()>> tasks_;
     std::thread thread_;
 };
 
