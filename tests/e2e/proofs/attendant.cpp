@@ -18,7 +18,7 @@ constexpr int FileNameField = 0x480;
 constexpr unsigned OnceInAttentions = 4;  ///< how long things stay open
 
 /// What the windows may say, by the beginnings of the prompts.
-constexpr std::array<std::string_view, 21> KnownPrompts = {
+constexpr std::array<std::string_view, 24> KnownPrompts = {
     "Numele este obligatoriu !",
     "Prenumele este obligatoriu !",
     "Doriti sa parasiti forma?",
@@ -35,11 +35,14 @@ constexpr std::array<std::string_view, 21> KnownPrompts = {
     "Data documentului introdus nu poate fi mai mica",
     "Nu puteti sterge toate monedele !",
     "Impartire la 0 !!",
-    "String or binary data would be truncated.",  // a currency's name is too long
-    "Eroare 91\n",                                // a host without a connection
-    "Eroare 13\n",                                // a day is to be changed where the list has none
-    "Eroare -2147217873 (80040E2F)\n",            // a person is entered who is there already
-    "Eroare -2147217900 (80040E14)\n",            // the database refuses a name that was typed
+    "String or binary data would be truncated.",       // a currency's name is too long
+    "Eroare 6\n",                                      // a result is too large for a number
+    "Eroare 11\n",                                     // a rate is 0, which may be entered
+    "Eroare 91\n",                                     // a host without a connection
+    "Object variable or With block variable not set",  // the same while a currency is added
+    "Eroare 13\n",                                     // a day is to be changed where the list has none
+    "Eroare -2147217873 (80040E2F)\n",                 // a person is entered who is there already
+    "Eroare -2147217900 (80040E14)\n",                 // the database refuses a name that was typed
 };
 
 std::vector<Window> Modals() {
@@ -72,7 +75,8 @@ std::wstring RandomNote(unsigned number) {
 
 void Attendant::Attend() {
     constexpr std::size_t TooMany = 2;
-    EndMenuOrDrag(Zeal::Sometimes);
+    EndMenu();
+    if (random_.OnceIn(OnceInAttentions)) host_.LetGoOfMouse();
     EndModal(Modals().size() > TooMany ? Zeal::AtOnce : Zeal::Sometimes);
 }
 
@@ -103,31 +107,39 @@ void Attendant::Answer(const Window& message) {
     std::ranges::copy_if(buttons, std::back_inserter(there),
                          [&](int id) { return GetDlgItem(message.Handle(), id) != nullptr; });
     if (there.empty()) return;
-    PostMessageW(message.Handle(), WM_COMMAND, static_cast<WPARAM>(random_.Pick(there)), 0);
+    Press(message, random_.Pick(there));
 }
 
 void Attendant::EndDialog(const Window& dialog, Zeal zeal) {
     if (dialog.Handle() != lastDialog_) ++dialogs_;
     lastDialog_ = dialog.Handle();
-    if (zeal == Zeal::AtOnce || random_.OnceIn(2)) {
-        PostMessageW(dialog.Handle(), WM_COMMAND, IDCANCEL, 0);
-        return;
-    }
+    if (zeal == Zeal::AtOnce || random_.OnceIn(2)) return Press(dialog, IDCANCEL);
     const HWND handle = dialog.Handle();
     host_.Ui().Post([handle, name = RandomNote(random_.Below(4))] {
         if (GetDlgItem(handle, FileNameField) != nullptr)
             SetDlgItemTextW(handle, FileNameField, name.c_str());
     });
-    PostMessageW(handle, WM_COMMAND, IDOK, 0);
+    Press(dialog, IDOK);
 }
 
-void Attendant::EndMenuOrDrag(Zeal zeal) {
+/// Once at most: a dialog that has been ended, and only waits for one above it, may not be ended again.
+void Attendant::Press(const Window& modal, int button) {
+    host_.Ui().Post([modal, button] {
+        if (modal.IsVisible()) SendMessageW(modal.Handle(), WM_COMMAND, static_cast<WPARAM>(button), 0);
+    });
+}
+
+void Attendant::EndMenu() {
     GUITHREADINFO info{};
     info.cbSize = sizeof info;
     if (!GetGUIThreadInfo(host_.Ui().Id(), &info)) return;
     if ((info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE | GUI_SYSTEMMENUMODE)) != 0)
-        host_.Ui().Post([] { EndMenu(); });
-    if (zeal == Zeal::AtOnce || random_.OnceIn(OnceInAttentions)) host_.LetGoOfMouse();
+        host_.Ui().Post([] { ::EndMenu(); });
+}
+
+void Attendant::EndMenuAndDrag() {
+    EndMenu();
+    host_.LetGoOfMouse();
 }
 
 bool Attendant::CloseOneWindow() {
@@ -138,7 +150,7 @@ bool Attendant::CloseOneWindow() {
 
 void Attendant::CloseEverything() {
     const bool isClosed = WaitUntil([&] {
-        EndMenuOrDrag(Zeal::AtOnce);
+        EndMenuAndDrag();
         if (EndModal(Zeal::AtOnce)) return false;
         const bool wasOpen = CloseOneWindow();
         host_.Call([] {});

@@ -19,6 +19,8 @@ class Attendant {
     /// Ends all of it, with the windows: waits until nothing is open. \throws DriverError when something
     /// stays
     void CloseEverything();
+    /// Ends a menu and a drag that go on, whatever the system knows of them.
+    void EndMenuAndDrag();
 
     /// How often each message was shown, by title and beginning of its prompt.
     const std::map<std::string, int>& Messages() const { return messages_; }
@@ -30,9 +32,10 @@ class Attendant {
     enum class Zeal { Sometimes, AtOnce };
 
     bool EndModal(Zeal zeal);
-    void EndMenuOrDrag(Zeal zeal);
+    void EndMenu();
     void Answer(const Window& message);
     void EndDialog(const Window& dialog, Zeal zeal);
+    void Press(const Window& modal, int button);
     void Remember(const Window& message);
     bool CloseOneWindow();
 

@@ -18,9 +18,14 @@ struct Footprint {
     static Footprint Take();
 };
 
-/// What has grown or changed from one time to the other, in words; empty when nothing has. The private bytes
-/// may grow by the tolerance.
-std::string Differences(const Footprint& before, const Footprint& after, std::size_t tolerance);
+/// By how much a process may grow all the same.
+struct Allowance {
+    std::size_t privateBytes = 0;
+    int gdiObjects = 0;
+};
+
+/// What has grown or changed from one time to the other, in words; empty when nothing has.
+std::string Differences(const Footprint& before, const Footprint& after, const Allowance& allowed);
 
 /// Both in one line.
 std::string Describe(const Footprint& before, const Footprint& after);

@@ -24,7 +24,7 @@ namespace {
 using namespace tavrin::e2e;
 
 /// Private bytes come in pages, and the system's heaps grow in steps: a loss in each cycle would be far more.
-constexpr std::size_t Tolerance = std::size_t{1024} * 1024;
+constexpr Allowance Allowed{.privateBytes = std::size_t{1024} * 1024};
 
 struct Options {
     int cycles = 1000;
@@ -66,7 +66,7 @@ int Run(const Options& options) {
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
     const Footprint after = Footprint::Take();
 
-    std::string complaint = Differences(before, after, Tolerance);
+    std::string complaint = Differences(before, after, Allowed);
     if (const int timers = KillThreadTimers(host.Ui()); timers != 0)
         complaint += std::to_string(timers) + " timers are alive; ";
     if (host.Iesire() - eventsBefore != options.cycles * EventsOfTour) complaint += "events have been lost; ";

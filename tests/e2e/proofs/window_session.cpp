@@ -32,7 +32,17 @@ void WindowSession::OpenIfClosed() {
 std::string WindowSession::LookAround() {
     attendant_.Attend();
     if (!attendant_.UnknownMessage().empty()) return "an unknown message: " + attendant_.UnknownMessage();
-    return watch_.Complaint();
+    std::string complaint = watch_.Complaint();
+    if (complaint.empty()) return complaint;
+    // A menu or a drag keeps the handler under way in which it began, and what that has closed is gone only
+    // when it has ended. The system need not know of a drag any more: what takes the mouse away does not end
+    // it.
+    WaitUntil([&] {
+        attendant_.EndMenuAndDrag();
+        complaint = watch_.Complaint();
+        return complaint.empty();
+    });
+    return complaint;
 }
 
 std::string WindowSession::Send(int events) {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "e2e/driver/wait.h"
 #include "support/window_holders.h"
 
 namespace tavrin::e2e {
@@ -40,19 +39,6 @@ bool IsHeld(const Seen& window, const std::vector<Seen>& all) {
 }  // namespace
 
 std::string WindowWatch::Complaint() {
-    std::string complaint = Look();
-    if (complaint.empty()) return complaint;
-    // A window that is dragged keeps the handler under way, and what that has closed is gone only when it has
-    // ended. The system need not know of the drag any more: what takes the mouse away does not end it.
-    WaitUntil([&] {
-        host_.LetGoOfMouse();
-        complaint = Look();
-        return complaint.empty();
-    });
-    return complaint;
-}
-
-std::string WindowWatch::Look() {
     std::vector<Seen> seen;
     host_.Call([&] { EnumWindows(See, reinterpret_cast<LPARAM>(&seen)); });
     std::set<HWND> open;
@@ -64,9 +50,10 @@ std::string WindowWatch::Look() {
     open_ = std::move(open);
     if (std::ranges::any_of(seen, [](const Seen& window) { return window.name.empty(); })) return {};
     for (const Seen& window : seen) {
+        // Who was opened from a window keeps it, closed and out of sight as it may be by now.
+        if (IsHeld(window, seen)) continue;
         if (!window.isVisible) return window.name + " is open and out of sight";
-        if (!window.isEnabled && !IsHeld(window, seen))
-            return window.name + " is disabled and nobody will enable it";
+        if (!window.isEnabled) return window.name + " is disabled and nobody will enable it";
     }
     return {};
 }

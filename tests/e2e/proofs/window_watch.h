@@ -12,7 +12,7 @@ class WindowWatch {
   public:
     explicit WindowWatch(Host& host) : host_(host) {}
 
-    /// Has the host's thread answer, and looks. What a handler is still busy with gets time to pass.
+    /// Has the host's thread answer, and looks.
     /// \return what is wrong; empty when nothing is
     std::string Complaint();
 
@@ -20,8 +20,6 @@ class WindowWatch {
     int Openings() const { return openings_; }
 
   private:
-    std::string Look();
-
     Host& host_;
     std::set<HWND> open_;
     int openings_ = 0;
