@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "calculator/arithmetic.h"
 #include "calculator/command.h"
@@ -25,7 +26,7 @@ class Engine {
     /// How many decimals may be typed and are kept of a result: 0, 2, 4 or 6. What was typed stays.
     void SetDecimals(int decimals) { decimals_ = decimals; }
 
-    const std::string& EntryText() const { return entry_.Text(); }
+    std::string_view EntryText() const { return entry_.Text(); }
     double EntryValue() const { return entry_.Value(); }
     /// Puts another number in place of the entry; whether the next digit begins a new one does not change.
     void SetEntry(double number) { entry_.SetNumber(number); }

@@ -31,7 +31,7 @@ bool Entry::TypeDigit(int digit, int decimals) {
         // One that was asked for before a number was recalled comes as a second one.
         if (!HasSeparator()) separatorAt_ = text_.size();
         text_ += separator_;
-    } else if (text_ == "0") {
+    } else if (Text() == "0") {
         text_.clear();
     }
     text_ += static_cast<char>('0' + digit);
@@ -44,7 +44,7 @@ void Entry::TypeSeparator() {
 }
 
 bool Entry::ChangeSign() {
-    if (text_ == "0" || text_.find('-') != std::string::npos) return false;
+    if (Text() == "0" || text_.find('-') != std::string::npos) return false;
     text_.insert(text_.begin(), '-');
     if (HasSeparator()) ++separatorAt_;
     return true;

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace tavrin::calculator {
 
@@ -12,7 +13,8 @@ class Entry {
     /// `separator` is the locale's decimal separator, as UTF-8.
     explicit Entry(std::string separator);
 
-    const std::string& Text() const { return text_; }
+    /// Until the entry changes.
+    std::string_view Text() const { return text_; }
     double Value() const;
 
     /// Whether the next digit begins a new number.

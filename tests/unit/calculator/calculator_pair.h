@@ -33,7 +33,7 @@ class CalculatorPair {
         const int engineError = ErrorOf([&] { DoToEngine(action, choice); });
         const int naiveError = ErrorOf([&] { DoToNaive(action, choice); });
         return Difference("error", engineError, naiveError) +
-               Difference("entry", engine.engine.EntryText(), naive.entry) +
+               Difference("entry", std::string(engine.engine.EntryText()), naive.entry) +
                Difference("lei", engine.lei, naive.lei) +
                Difference("currency", engine.currency, naive.currency) +
                Difference("memory mark", engine.memoryMark, naive.mark) +
