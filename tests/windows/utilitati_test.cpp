@@ -98,6 +98,14 @@ TEST_F(UtilitatiTest, OpensInTheTopLeftCornerBorderless) {
     EXPECT_EQ(palette.Border(), forms::BorderStyle::Borderless);
 }
 
+TEST_F(UtilitatiTest, LoadingAlonePrintsTheCaption) {
+    auto& palette = module.Default<Utilitati>();
+    EXPECT_THAT(palette.picCaption.Printed(), testing::IsEmpty());
+    palette.Load();
+    EXPECT_THAT(palette.picCaption.Printed(),
+                ElementsAre(forms::PictureBox::PrintedText{{7, 8}, "Utilitati"}));
+}
+
 TEST_F(UtilitatiTest, LoadingAddsSixtyTwipsToTheDesignedHeight) {
     auto& palette = module.Default<Utilitati>();
     const forms::Rect designed = palette.Bounds();
