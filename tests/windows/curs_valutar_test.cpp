@@ -39,6 +39,10 @@ TEST_F(CursValutarTest, OpensOnTheMonthOfTheWorkingDate) {
     EXPECT_EQ(list.dpDataFin.MinDate(), Day(2003, 1, 1));
     EXPECT_EQ(list.dpDataFin.MaxDate(), Day(2004, 1, 31));
     EXPECT_THAT(connection->Statements(), ElementsAre(Discover, MayList));
+    EXPECT_THAT(connection->Log(),
+                ElementsAre("Open: " + std::string(Discover), "Close: " + std::string(Discover),
+                            "Open: " + std::string(MayList), "ReadAll: " + std::string(MayList),
+                            "Close: " + std::string(MayList)));
     EXPECT_EQ(messages.created, 1);
     EXPECT_THAT(desktop.reports, IsEmpty());
 }

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "data/error.h"
+#include "support/counting_peer.h"
 #include "support/pass_through_recordset.h"
 #include "support/rates_test.h"
 #include "support/scripted_connection.h"
@@ -419,21 +420,36 @@ TEST_F(EvolutieCursTest, ListsDoNotGoAroundTheirEndsAndIgnoreLeft) {
     EXPECT_EQ(FocusedControl(), "cmbLuna");
 }
 
-TEST_F(EvolutieCursTest, KeysThatListsIgnoreDoNotReachThePlatformsList) {
+TEST_F(EvolutieCursTest, AtTheEndsOfAListUpAndDownReachNobody) {
     AddMonthsOf2002(1);
     EvolutieCurs& window = Open();
     for (forms::ComboBox* combo : {&window.cmbAn, &window.cmbLuna, &window.cmbMoneda}) {
         const int last = combo->ListCount() - 1;
         ASSERT_GT(last, 0) << combo->Name();
+        const CountingPeer* peer = CountingPeer::Give(*combo);
         combo->SetFocus();
-        for (const int item : {0, last}) {
-            combo->SetListIndex(item);
-            EXPECT_EQ(window.HandleKeyDown(key::Left, {}), forms::KeyOutcome::Done) << combo->Name();
-        }
         combo->SetListIndex(last);
-        EXPECT_EQ(window.HandleKeyDown(key::Down, {}), forms::KeyOutcome::Done) << combo->Name();
+        keyboard.Press(key::Down, {.alt = true});
+        EXPECT_EQ(peer->dropDowns, 0) << combo->Name() << ": not even to open the list";
+        keyboard.Press(key::Up, {.alt = true});
+        EXPECT_EQ(peer->dropDowns, 1) << combo->Name();
         combo->SetListIndex(0);
-        EXPECT_EQ(window.HandleKeyDown(key::Up, {}), forms::KeyOutcome::Done) << combo->Name();
+        keyboard.Press(key::Up, {.alt = true});
+        EXPECT_EQ(peer->dropDowns, 1) << combo->Name();
+        keyboard.Press(key::Down, {.alt = true});
+        EXPECT_EQ(peer->dropDowns, 2) << combo->Name();
+    }
+}
+
+TEST_F(EvolutieCursTest, LeftNeverChangesAList) {
+    AddMonthsOf2002(1);
+    EvolutieCurs& window = Open();
+    for (forms::ComboBox* combo : {&window.cmbAn, &window.cmbLuna, &window.cmbMoneda}) {
+        const int last = combo->ListCount() - 1;
+        combo->SetFocus();
+        combo->SetListIndex(last);
+        keyboard.Press(key::Left);
+        EXPECT_EQ(combo->ListIndex(), last) << combo->Name();
     }
 }
 
