@@ -325,8 +325,11 @@ TEST_F(UtilitatiTest, EscapeLeavesTheCalculatorOpen) {
 
 TEST_F(UtilitatiTest, EscapeClosesEveryWindowOfAListedName) {
     Utilitati& palette = Open();
-    for (const char* name : {"Agenda", "Agenda", "Calculator", "Altceva", "CursValutar"})
+    OpenPlain("Altceva");
+    for (const char* name : {"Agenda", "AlegeMoneda", "Calculator", "Notes", "CursValutar"}) {
         OpenPlain(name);
+        OpenPlain(name);
+    }
     desktop.ActivateByUser(&palette);
     keyboard.Press(key::Escape);
     ASSERT_EQ(desktop.Forms().size(), 1U);
