@@ -95,8 +95,12 @@ TEST_F(CursValutarDetaliuTest, TheOpenerIsDisabledAndEnabledAgain) {
 }
 
 TEST_F(CursValutarDetaliuTest, ClosingReturnsToTheListsRowMarkedAsAWhole) {
-    OpenToModify(4).cmdAction[1].Click();
-    const CursValutar& list = *module.Loaded<CursValutar>();
+    CursValutar& list = OpenList();
+    list.Grid.SetRow(4);
+    ClickWithMouse(list.cmdAction[1]);
+    ASSERT_EQ(list.ActiveControl(), &list.cmdAction[1]);
+    ClickWithMouse(Entry().cmdAction[1]);
+    EXPECT_EQ(ActiveWindow(), "CursValutar");
     EXPECT_EQ(FocusedControl(), "Grid");
     EXPECT_EQ(list.Grid.Row(), 4);
     EXPECT_EQ(list.Grid.Col(), 0);

@@ -108,6 +108,19 @@ TEST_F(CursValutarTest, ATableWithoutCurrenciesListsDaysAlone) {
     EXPECT_THAT(desktop.reports, IsEmpty());
 }
 
+TEST_F(CursValutarTest, ADayIsFoundInEveryRowAndMarkedAsAWhole) {
+    CursValutar& list = OpenList();
+    for (int row = 5; row >= 1; --row) {
+        list.SelectDay(list.Grid.TextMatrix(row, 0));
+        EXPECT_EQ(list.Grid.Row(), row);
+        EXPECT_EQ(list.Grid.Col(), 0);
+        EXPECT_EQ(list.Grid.ColSel(), 3);
+    }
+    list.Grid.SetRow(4);
+    list.SelectDay("01/01/2003");
+    EXPECT_EQ(list.Grid.Row(), 4) << "a day that is not in the list";
+}
+
 TEST_F(CursValutarTest, NullRatesAreBlankCells) {
     Run("INSERT INTO [Curs Valutar]([Data],[EUR]) VALUES('05-15-2003',37600)");
     const CursValutar& list = OpenList();
