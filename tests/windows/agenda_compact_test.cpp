@@ -47,6 +47,8 @@ TEST_F(AgendaCompactTest, AnEmptyBookOpensReadyForItsFirstPerson) {
     const int designed = DesignedWidth();
     const Agenda& window = Open();
     ExpectCompact(window);
+    EXPECT_EQ(window.Grid.TextMatrix(0, 0), "Nume");
+    EXPECT_EQ(window.Grid.TextMatrix(0, 1), "Prenume");
     EXPECT_EQ(window.Bounds().width, designed - FrameWidth);
     EXPECT_EQ(window.cmdAction[0].Bounds(), (forms::Rect{7920 - FrameWidth, 6180, 1290, 375}));
     EXPECT_EQ(window.cmdAction[1].Bounds(), (forms::Rect{9240 - FrameWidth, 6180, 1290, 375}));
@@ -124,6 +126,7 @@ TEST_F(AgendaCompactTest, ASearchThatFindsNobodyGoesThereToo) {
     ExpectCompact(window);
     EXPECT_EQ(window.Bounds().width, designed - FrameWidth);
     EXPECT_EQ(window.TextBoxes[0].Text(), "Zz/");
+    EXPECT_EQ(window.Grid.DataSource(), nullptr);
     EXPECT_THAT(messages.shown, IsEmpty());
 }
 

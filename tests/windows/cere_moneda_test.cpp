@@ -60,6 +60,23 @@ TEST_F(CereMonedaTest, RemovingListsTheColumnsAfterTheSecondAndRemovesNone) {
     EXPECT_TRUE(List().Enabled());
 }
 
+TEST_F(CereMonedaTest, ASingleCurrencyIsChosenAtOnceAndNoneIsNoError) {
+    for (const bool any : {true, false}) {
+        module.Default<CursValutar>().Unload();
+        database = std::make_shared<host::EmbeddedDatabase>(":memory:");
+        Run(std::string("CREATE TABLE [Curs Valutar] (Data datetime NOT NULL PRIMARY KEY, Validat int") +
+            (any ? ", EUR float)" : ")"));
+        module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
+        auto& window = module.Default<CereMoneda>();
+        window.Mode = "S";
+        window.Show();
+        EXPECT_EQ(window.cmbMoneda.ListIndex(), any ? 0 : -1);
+        EXPECT_EQ(window.cmbMoneda.Text(), any ? "EUR" : "");
+        EXPECT_THAT(desktop.reports, IsEmpty());
+        window.Unload();
+    }
+}
+
 TEST_F(CereMonedaTest, AnEmptyNameIsRefused) {
     for (const char* name : {"", "   "}) {
         CereMoneda& window = OpenToAdd();
@@ -229,6 +246,20 @@ TEST_F(CereMonedaTest, ArrowsWalkBetweenTheFieldAndTheButtons) {
     EXPECT_EQ(FocusedControl(), "cmdAction(0)");
     keyboard.Press(key::Left);
     EXPECT_EQ(FocusedControl(), "cmbMoneda");
+}
+
+TEST_F(CereMonedaTest, KeysThatChooseInTheListStayInIt) {
+    CereMoneda& window = OpenToRemove();
+    for (const int keyCode : {key::Up, key::Down, key::Home, key::End, static_cast<int>('U')}) {
+        window.cmbMoneda.SetFocus();
+        keyboard.Press(keyCode);
+        EXPECT_EQ(FocusedControl(), "cmbMoneda") << keyCode;
+    }
+    for (const int keyCode : {key::Enter, key::Right}) {
+        window.cmbMoneda.SetFocus();
+        keyboard.Press(keyCode);
+        EXPECT_EQ(FocusedControl(), "cmdAction(0)") << keyCode;
+    }
 }
 
 TEST_F(CereMonedaTest, StaysOnTopWhenEnteredAndWhenLeft) {

@@ -95,8 +95,12 @@ TEST_F(CursValutarDetaliuTest, TheOpenerIsDisabledAndEnabledAgain) {
 }
 
 TEST_F(CursValutarDetaliuTest, ClosingReturnsToTheListsRowMarkedAsAWhole) {
-    OpenToModify(4).cmdAction[1].Click();
-    const CursValutar& list = *module.Loaded<CursValutar>();
+    CursValutar& list = OpenList();
+    list.Grid.SetRow(4);
+    ClickWithMouse(list.cmdAction[1]);
+    ASSERT_EQ(list.ActiveControl(), &list.cmdAction[1]);
+    ClickWithMouse(Entry().cmdAction[1]);
+    EXPECT_EQ(ActiveWindow(), "CursValutar");
     EXPECT_EQ(FocusedControl(), "Grid");
     EXPECT_EQ(list.Grid.Row(), 4);
     EXPECT_EQ(list.Grid.Col(), 0);
@@ -202,6 +206,37 @@ TEST_F(CursValutarDetaliuTest, LeftAndRightLeaveOnlyAtTheEndsOfTheText) {
     EXPECT_EQ(entry.Grid.Row(), 2);
 }
 
+TEST_F(CursValutarDetaliuTest, WithinTheTextAndFromASelectionLeftAndRightStay) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r12\r345");
+    entry.txtCursValutar.Select(1, 0);
+    keyboard.Press(key::Right);
+    EXPECT_EQ(FocusedControl(), "txtCursValutar");
+    EXPECT_EQ(entry.Grid.Row(), 2);
+    EXPECT_EQ(entry.txtCursValutar.SelStart(), 2);
+    for (const int keyCode : {key::Left, key::Right}) {
+        entry.txtCursValutar.SelectAll();
+        keyboard.Press(keyCode);
+        EXPECT_EQ(FocusedControl(), "txtCursValutar") << keyCode;
+        EXPECT_EQ(entry.Grid.Row(), 2) << keyCode;
+    }
+}
+
+TEST_F(CursValutarDetaliuTest, UpAndDownGoOneRowAtATime) {
+    Run("ALTER TABLE [Curs Valutar] ADD  [GBP] float");
+    Run("ALTER TABLE [Curs Valutar] ADD  [HUF] float");
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Press(key::Enter);
+    for (const int row : {2, 3, 4}) {
+        keyboard.Press(key::Down);
+        EXPECT_EQ(entry.Grid.Row(), row);
+    }
+    for (const int row : {3, 2, 1}) {
+        keyboard.Press(key::Up);
+        EXPECT_EQ(entry.Grid.Row(), row);
+    }
+}
+
 TEST_F(CursValutarDetaliuTest, AnEmptyCellIsRefusedWhereverTheUserGoes) {
     for (const int keyCode : {key::Up, key::Down, key::Enter, key::Tab}) {
         OpenToAdd();
@@ -226,7 +261,7 @@ TEST_F(CursValutarDetaliuTest, BlanksCountAsEmpty) {
 TEST_F(CursValutarDetaliuTest, PastedSignsAndLettersAreRefused) {
     OpenToAdd();
     keyboard.Press(key::Enter);
-    for (const char* text : {"-5", "abc", "12abc", "1e5", "--", "nan", "inf", "0x10"}) {
+    for (const char* text : {",", ", ,", "-5", "abc", "12abc", "1e5", "--", "nan", "inf", "0x10"}) {
         Entry().txtCursValutar.SelectAll();
         keyboard.Paste(text);
         messages.shown.clear();
@@ -299,13 +334,27 @@ TEST_F(CursValutarDetaliuTest, EnterClickAndADigitInTheGridStartEditing) {
     keyboard.Press(key::Down);
     keyboard.Press(key::Enter);
     EXPECT_EQ(EditorText(), "32300");
-    entry.Grid.SetFocus();
-    keyboard.Type("7");
-    EXPECT_EQ(EditorText(), "7");
+    for (const char* digit : {"0", "7", "9"}) {
+        entry.Grid.SetFocus();
+        EXPECT_FALSE(entry.txtCursValutar.Visible());
+        keyboard.Type(digit);
+        EXPECT_EQ(EditorText(), digit) << "in place of the old value";
+        EXPECT_EQ(FocusedControl(), "txtCursValutar");
+        EXPECT_TRUE(entry.txtCursValutar.Visible());
+    }
     entry.Grid.SetFocus();
     ClickWithMouse(entry.Grid, {300, entry.Grid.CellBounds(1, 0).top + 10});
     EXPECT_EQ(entry.Grid.Row(), 1);
     EXPECT_EQ(FocusedControl(), "txtCursValutar");
+}
+
+TEST_F(CursValutarDetaliuTest, OtherCharactersInTheGridStartNothing) {
+    CursValutarDetaliu& entry = OpenToModify(3);
+    entry.Grid.SetFocus();
+    keyboard.Type("aZ-+.,/: %");
+    EXPECT_FALSE(entry.txtCursValutar.Visible());
+    EXPECT_EQ(FocusedControl(), "Grid");
+    EXPECT_THAT(ColumnOf(entry.Grid, 1), ElementsAre("Valoare Curs", "37300.5", "32300"));
 }
 
 // Saving.

@@ -39,6 +39,10 @@ TEST_F(CursValutarTest, OpensOnTheMonthOfTheWorkingDate) {
     EXPECT_EQ(list.dpDataFin.MinDate(), Day(2003, 1, 1));
     EXPECT_EQ(list.dpDataFin.MaxDate(), Day(2004, 1, 31));
     EXPECT_THAT(connection->Statements(), ElementsAre(Discover, MayList));
+    EXPECT_THAT(connection->Log(),
+                ElementsAre("Open: " + std::string(Discover), "Close: " + std::string(Discover),
+                            "Open: " + std::string(MayList), "ReadAll: " + std::string(MayList),
+                            "Close: " + std::string(MayList)));
     EXPECT_EQ(messages.created, 1);
     EXPECT_THAT(desktop.reports, IsEmpty());
 }
@@ -104,6 +108,19 @@ TEST_F(CursValutarTest, ATableWithoutCurrenciesListsDaysAlone) {
     EXPECT_THAT(desktop.reports, IsEmpty());
 }
 
+TEST_F(CursValutarTest, ADayIsFoundInEveryRowAndMarkedAsAWhole) {
+    CursValutar& list = OpenList();
+    for (int row = 5; row >= 1; --row) {
+        list.SelectDay(list.Grid.TextMatrix(row, 0));
+        EXPECT_EQ(list.Grid.Row(), row);
+        EXPECT_EQ(list.Grid.Col(), 0);
+        EXPECT_EQ(list.Grid.ColSel(), 3);
+    }
+    list.Grid.SetRow(4);
+    list.SelectDay("01/01/2003");
+    EXPECT_EQ(list.Grid.Row(), 4) << "a day that is not in the list";
+}
+
 TEST_F(CursValutarTest, NullRatesAreBlankCells) {
     Run("INSERT INTO [Curs Valutar]([Data],[EUR]) VALUES('05-15-2003',37600)");
     const CursValutar& list = OpenList();
@@ -139,6 +156,7 @@ TEST_F(CursValutarTest, FilteringTakesBothDatesInTheOrderOfThePickers) {
                     "SELECT COnvert(nvarchar,[Data],103) AS [D], [Data] , [EUR] , [USD]  FROM [Curs Valutar] "
                     "Where Data between  '2003-05-20' and '2003-05-01'  ORDER BY [Data]"));
     EXPECT_FALSE(list.fraGrid.Visible());
+    EXPECT_EQ(list.Grid.TextMatrix(0, 0), "") << "nothing is left of the list before";
     EXPECT_EQ(FocusedControl(), "dpDataFin");
 }
 
@@ -157,6 +175,28 @@ TEST_F(CursValutarTest, TheGridComesBackWhenTheRangeHasDaysAgain) {
     list.cmdRefresh.Click();
     EXPECT_TRUE(list.fraGrid.Visible());
     EXPECT_EQ(list.Grid.Rows(), 6);
+}
+
+TEST_F(CursValutarTest, FilteringEnablesWhatWasDisabled) {
+    CursValutar& list = OpenList();
+    const std::vector<forms::Control*> controls = {&list.cmdAction[1], &list.cmdAction[2], &list.cmdAction[5],
+                                                   &list.dpDataIn,     &list.dpDataFin,    &list.fraGrid};
+    for (forms::Control* control : controls)
+        control->SetEnabled(false);
+    list.ApplyDateFilter();
+    for (const forms::Control* control : controls)
+        EXPECT_TRUE(control->Enabled()) << control->QualifiedName();
+}
+
+TEST_F(CursValutarTest, SixCurrenciesFillTheList) {
+    for (const char* currency : {"CHF", "GBP", "HUF", "PLN"})
+        Run("ALTER TABLE [Curs Valutar] ADD  [" + std::string(currency) + "] float");
+    const CursValutar& list = OpenList();
+    const forms::Rect last = list.Grid.CellBounds(1, 7);
+    EXPECT_EQ(last.width, 1400) << "all of the last currency is in sight";
+    const int beside = list.Grid.Bounds().width - last.Right();
+    EXPECT_GT(beside, 0) << "there is room for the scroll bar of a long list";
+    EXPECT_LT(beside, 1400) << "and for no more";
 }
 
 TEST_F(CursValutarTest, AFailedRefreshLeavesTheOldListInSight) {
@@ -410,6 +450,47 @@ TEST_F(CursValutarTest, TabFromDeleteWalksOnWhileThereIsNoGrid) {
     EXPECT_EQ(FocusedControl(), "cmdAction(3)");
 }
 
+TEST_F(CursValutarTest, TabAndRightFromTheLastButtonsWalkOn) {
+    CursValutar& list = OpenList();
+    for (const int keyCode : {key::Tab, key::Right}) {
+        list.cmdAction[5].SetFocus();
+        keyboard.Press(keyCode);
+        EXPECT_EQ(FocusedControl(), "cmdAction(6)") << keyCode;
+    }
+}
+
+TEST_F(CursValutarTest, ShiftTabFromTheButtonsWalksBack) {
+    CursValutar& list = OpenList();
+    for (const int button : {1, 2, 3}) {
+        list.cmdAction[button].SetFocus();
+        keyboard.Press(key::Tab, {.shift = true});
+        EXPECT_EQ(FocusedControl(), "cmdAction(" + std::to_string(button - 1) + ")");
+    }
+}
+
+TEST_F(CursValutarTest, TheOtherKeysStayInTheGrid) {
+    const CursValutar& list = OpenList();
+    for (const int keyCode : {key::Down, key::Up, key::End, key::Home, static_cast<int>('A')}) {
+        keyboard.Press(keyCode);
+        EXPECT_EQ(FocusedControl(), "Grid") << keyCode;
+    }
+    EXPECT_TRUE(list.IsLoaded());
+}
+
+TEST_F(CursValutarTest, ARowWithoutADayIsATypeMismatch) {
+    CursValutar& list = OpenList();
+    list.Grid.SetDataSource(nullptr);
+    list.Grid.SetSize(2, 4);
+    for (const int index : {1, 2}) {
+        desktop.reports.clear();
+        connection->ClearRecord();
+        list.cmdAction[index].Click();
+        ASSERT_EQ(desktop.reports.size(), 1U) << index;
+        EXPECT_EQ(desktop.reports[0].number, data::error_number::TypeMismatch);
+        EXPECT_THAT(connection->Statements(), IsEmpty());
+    }
+}
+
 TEST_F(CursValutarTest, EnterWalksThroughTheRangeToTheFilterButton) {
     CursValutar& list = OpenList();
     list.dpDataIn.SetFocus();
@@ -494,6 +575,16 @@ TEST_F(CursValutarTest, ALowerCaseValidatColumnIsACurrency) {
     EXPECT_EQ(scripted->Statements().back(),
               "SELECT COnvert(nvarchar,[Data],103) AS [D], [Data] , [validat] , [data] , [EUR]  FROM [Curs "
               "Valutar] "
+              "Where Data between  '2003-05-01' and '2003-05-20'  ORDER BY [Data]");
+}
+
+TEST_F(CursValutarTest, TheColumnsOfTheDayMayStandAnywhere) {
+    const auto scripted = std::make_shared<RecordingConnection>();
+    scripted->Script().AnswerRows(Discover, {"EUR", "Validat", "USD", "Data"}, {});
+    module.context.connection = scripted;
+    OpenList();
+    EXPECT_EQ(scripted->Statements().back(),
+              "SELECT COnvert(nvarchar,[Data],103) AS [D], [Data] , [EUR] , [USD]  FROM [Curs Valutar] "
               "Where Data between  '2003-05-01' and '2003-05-20'  ORDER BY [Data]");
 }
 

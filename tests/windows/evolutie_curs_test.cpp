@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "data/error.h"
+#include "support/counting_peer.h"
 #include "support/pass_through_recordset.h"
 #include "support/rates_test.h"
 #include "support/scripted_connection.h"
@@ -33,6 +34,18 @@ class EvolutieCursTest : public RatesTest {
         connection->ClearRecord();
         window.cmdAction[1].Click();
         return window;
+    }
+
+    /// From now on May has one rate, whatever number of days is counted and whatever the limits are.
+    void AnswerForMay(std::int64_t count,
+                      const std::vector<data::MemoryTable::Row>& limits = {{37100.0, 37100.0}}) {
+        const rates::EvolutionChoice may{"2003", 5, "EUR"};
+        const auto script = std::make_shared<ScriptedConnection>();
+        script->AnswerRows(rates::EvolutionStatement(may), {"Data", "Curs valutar"},
+                           {{std::int64_t{8}, 37100.0}});
+        script->AnswerRows(rates::LimitsStatement(may), {"Minim", "Maxim"}, limits);
+        script->AnswerRows(rates::CountDaysStatement(may), {""}, {{count}});
+        module.context.connection = script;
     }
 
     static std::vector<std::string> LabelsOf(const Chart& chart) {
@@ -168,6 +181,16 @@ TEST_F(EvolutieCursTest, ANullRateLeavesItsRowOpen) {
     EXPECT_EQ(window.MSChart1.Row(6).label, "15");
     EXPECT_EQ(window.MSChart1.Row(6).value, std::nullopt);
     EXPECT_THAT(desktop.reports, IsEmpty());
+}
+
+TEST_F(EvolutieCursTest, NoRowKeepsTheValueOfAnEarlierDrawing) {
+    Run("INSERT INTO [Curs Valutar]([Data],[USD]) VALUES('08-15-2003',32000)");
+    EvolutieCurs& window = OpenAndDraw(5);
+    ASSERT_NE(window.MSChart1.Row(1).value, std::nullopt);
+    window.cmbLuna.SetListIndex(7);
+    window.cmdAction[1].Click();
+    EXPECT_EQ(window.MSChart1.RowCount(), 1);
+    EXPECT_EQ(window.MSChart1.Row(1).value, std::nullopt);
 }
 
 TEST_F(EvolutieCursTest, AMonthOfNullRatesIsDrawnEmpty) {
@@ -309,17 +332,34 @@ TEST_F(EvolutieCursTest, AnAnswerThatLacksFieldsIsReported) {
 }
 
 TEST_F(EvolutieCursTest, ACountThatNoMonthCanHaveIsAnOverflow) {
-    auto script = std::make_shared<ScriptedConnection>();
-    const rates::EvolutionChoice choice{"2003", 5, "EUR"};
     EvolutieCurs& window = OpenAndDraw(5);
-    script->AnswerRows(rates::EvolutionStatement(choice), {"Data", "Curs valutar"},
-                       {{std::int64_t{8}, 37100.0}});
-    script->AnswerRows(rates::LimitsStatement(choice), {"Minim", "Maxim"}, {{37100.0, 37100.0}});
-    script->AnswerRows(rates::CountDaysStatement(choice), {""}, {{std::int64_t{3'000'000'000}}});
-    module.context.connection = script;
+    for (const std::int64_t count : {std::int64_t{100'001}, std::int64_t{3'000'000'000}}) {
+        desktop.reports.clear();
+        AnswerForMay(count);
+        window.cmdAction[1].Click();
+        ASSERT_EQ(desktop.reports.size(), 1U) << count;
+        EXPECT_EQ(desktop.reports[0].number, data::error_number::Overflow);
+    }
+}
+
+TEST_F(EvolutieCursTest, TheChartHasAsManyRowsAsWereCounted) {
+    EvolutieCurs& window = OpenAndDraw(5);
+    for (const std::int64_t count : {std::int64_t{-1}, std::int64_t{0}, std::int64_t{100'000}}) {
+        AnswerForMay(count);
+        window.cmdAction[1].Click();
+        EXPECT_EQ(window.MSChart1.RowCount(), std::max<std::int64_t>(0, count));
+        EXPECT_TRUE(window.MSChart1.Visible());
+    }
+    EXPECT_THAT(desktop.reports, IsEmpty());
+}
+
+TEST_F(EvolutieCursTest, WithoutLimitsTheScaleIsZero) {
+    EvolutieCurs& window = OpenAndDraw(5);
+    AnswerForMay(1, {});
     window.cmdAction[1].Click();
-    ASSERT_EQ(desktop.reports.size(), 1U);
-    EXPECT_EQ(desktop.reports[0].number, data::error_number::Overflow);
+    EXPECT_EQ(window.MSChart1.Minimum(), 0);
+    EXPECT_EQ(window.MSChart1.Maximum(), 0);
+    EXPECT_THAT(desktop.reports, IsEmpty());
 }
 
 TEST_F(EvolutieCursTest, ATableWithoutCurrenciesOpensAllTheSame) {
@@ -331,6 +371,27 @@ TEST_F(EvolutieCursTest, ATableWithoutCurrenciesOpensAllTheSame) {
     EXPECT_THAT(desktop.reports, IsEmpty());
     window.cmdAction[1].Click();
     EXPECT_TRUE(window.IsLoaded());
+}
+
+TEST_F(EvolutieCursTest, ASingleCurrencyIsChosenAtOnce) {
+    database = std::make_shared<host::EmbeddedDatabase>(":memory:");
+    Run("CREATE TABLE [Curs Valutar] (Data datetime NOT NULL PRIMARY KEY, Validat int, EUR float)");
+    Run("INSERT INTO [Curs Valutar]([Data],[EUR]) VALUES('05-08-2003',37100)");
+    module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
+    const EvolutieCurs& window = Open();
+    EXPECT_EQ(window.cmbMoneda.ListIndex(), 0);
+    EXPECT_EQ(window.cmbMoneda.Text(), "EUR");
+}
+
+TEST_F(EvolutieCursTest, RatesStandAtTheRightWhetherThereAreAnyOrNot) {
+    EvolutieCurs& window = Open();
+    for (const int month : {1, 5}) {
+        window.Grid.SetColumnAlignment(1, forms::Align::Left);
+        window.cmbLuna.SetListIndex(month - 1);
+        window.cmdAction[1].Click();
+        EXPECT_EQ(window.Grid.ColumnAlignment(1), forms::Align::Right) << month;
+        EXPECT_EQ(window.Grid.Columns(), 2);
+    }
 }
 
 // Keys.
@@ -359,6 +420,39 @@ TEST_F(EvolutieCursTest, ListsDoNotGoAroundTheirEndsAndIgnoreLeft) {
     EXPECT_EQ(FocusedControl(), "cmbLuna");
 }
 
+TEST_F(EvolutieCursTest, AtTheEndsOfAListUpAndDownReachNobody) {
+    AddMonthsOf2002(1);
+    EvolutieCurs& window = Open();
+    for (forms::ComboBox* combo : {&window.cmbAn, &window.cmbLuna, &window.cmbMoneda}) {
+        const int last = combo->ListCount() - 1;
+        ASSERT_GT(last, 0) << combo->Name();
+        const CountingPeer* peer = CountingPeer::Give(*combo);
+        combo->SetFocus();
+        combo->SetListIndex(last);
+        keyboard.Press(key::Down, {.alt = true});
+        EXPECT_EQ(peer->dropDowns, 0) << combo->Name() << ": not even to open the list";
+        keyboard.Press(key::Up, {.alt = true});
+        EXPECT_EQ(peer->dropDowns, 1) << combo->Name();
+        combo->SetListIndex(0);
+        keyboard.Press(key::Up, {.alt = true});
+        EXPECT_EQ(peer->dropDowns, 1) << combo->Name();
+        keyboard.Press(key::Down, {.alt = true});
+        EXPECT_EQ(peer->dropDowns, 2) << combo->Name();
+    }
+}
+
+TEST_F(EvolutieCursTest, LeftNeverChangesAList) {
+    AddMonthsOf2002(1);
+    EvolutieCurs& window = Open();
+    for (forms::ComboBox* combo : {&window.cmbAn, &window.cmbLuna, &window.cmbMoneda}) {
+        const int last = combo->ListCount() - 1;
+        combo->SetFocus();
+        combo->SetListIndex(last);
+        keyboard.Press(key::Left);
+        EXPECT_EQ(combo->ListIndex(), last) << combo->Name();
+    }
+}
+
 TEST_F(EvolutieCursTest, TheFocusedListIsGrey) {
     EvolutieCurs& window = Open();
     for (forms::ComboBox* combo : {&window.cmbAn, &window.cmbLuna, &window.cmbMoneda}) {
@@ -379,6 +473,15 @@ TEST_F(EvolutieCursTest, DownFromAButtonGoesToTheGridOnceThereIsAChart) {
     window.cmdAction[1].SetFocus();
     keyboard.Press(key::Down);
     EXPECT_EQ(FocusedControl(), "Grid");
+}
+
+TEST_F(EvolutieCursTest, NoOtherKeyOnAButtonGoesToTheGrid) {
+    EvolutieCurs& window = OpenAndDraw(5);
+    for (const int keyCode : {key::Right, key::Left, key::Up, key::Home}) {
+        window.cmdAction[1].SetFocus();
+        keyboard.Press(keyCode);
+        EXPECT_NE(FocusedControl(), "Grid") << keyCode;
+    }
 }
 
 TEST_F(EvolutieCursTest, RightOnAButtonIsSwallowed) {

@@ -466,6 +466,7 @@ TEST_F(NotesActionTest, TheWindowMayCloseWhileADialogIsUp) {
         Open().ImgBouton[Notes::NewOrOpen].Click();
     }
     EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(desktop.dialogs.opened.size(), 1U) << "no dialog of a window that is gone";
     EXPECT_THAT(desktop.files.contents, IsEmpty());
     EXPECT_THAT(desktop.reports, IsEmpty());
 }

@@ -78,6 +78,37 @@ TEST_F(NotesBarTest, ButtonsStandOnTheBarInTheirOrderWithoutOverlap) {
     EXPECT_EQ(window.Controls().front(), window.ImgBouton.begin()->get());
 }
 
+TEST_F(NotesBarTest, ButtonsOfAGroupTouchAndGroupsStandApart) {
+    const Notes& window = Open();
+    std::vector<bool> standsApart;
+    for (int i = 1; i < Notes::ButtonCount; ++i) {
+        const int gap = window.ImgBouton[i].Bounds().left - window.ImgBouton[i - 1].Bounds().Right();
+        standsApart.push_back(gap > 0);
+        EXPECT_TRUE(gap == 0 || gap >= 120) << i;
+    }
+    EXPECT_THAT(standsApart, ElementsAre(false, true, false, true, false, false, true));
+}
+
+TEST_F(NotesBarTest, TheButtonsAreSquaresOfWholePixels) {
+    const Notes& window = Open();
+    const forms::Rect& first = window.ImgBouton[0].Bounds();
+    EXPECT_EQ(first.width, first.height);
+    EXPECT_EQ(first.width % 15, 0);
+    EXPECT_EQ(first.left % 15, 0);
+    for (const auto& button : window.ImgBouton) {
+        EXPECT_EQ(button->Bounds().width, first.width);
+        EXPECT_EQ(button->Bounds().height, first.height);
+        EXPECT_EQ(button->Bounds().top, first.top);
+    }
+}
+
+TEST_F(NotesBarTest, TheButtonsAreOfTheBarsColor) {
+    const Notes& window = Open();
+    for (const auto& button : window.ImgBouton)
+        EXPECT_EQ(button->BackColor(), window.PctBarreFond.BackColor()) << button->Index();
+    EXPECT_NE(window.PctBarreFond.BackColor(), window.txtNota.BackColor());
+}
+
 TEST_F(NotesBarTest, SizeAndPlaceFollowTheScreen) {
     const Notes& window = Open();
     const forms::Size screen = desktop.ScreenSize();
@@ -207,6 +238,16 @@ TEST_F(NotesBarTest, ButtonsRestWhenTheMouseIsElsewhere) {
     hover();
     window.ImgBouton[1].HandleMouseLeave();
     EXPECT_EQ(Looks(window), AllRestingBut(-1, ToolLook::Resting)) << "out of the window";
+}
+
+TEST_F(NotesBarTest, EveryButtonIsRaisedUnderTheMouseAndRestsAfterIt) {
+    Notes& window = Open();
+    for (int i = 0; i < Notes::ButtonCount; ++i) {
+        window.ImgBouton[i].HandleMouseMove({MouseButton::None, {100, 100}, {}});
+        EXPECT_EQ(Looks(window), AllRestingBut(i, ToolLook::Raised)) << i;
+        window.HandleMouseMove({MouseButton::None, {10, 3000}, {}});
+        EXPECT_EQ(Looks(window), AllRestingBut(-1, ToolLook::Resting)) << i;
+    }
 }
 
 TEST_F(NotesBarTest, LeavingOneButtonForAnotherLeavesTheOtherRaised) {

@@ -98,6 +98,14 @@ TEST_F(UtilitatiTest, OpensInTheTopLeftCornerBorderless) {
     EXPECT_EQ(palette.Border(), forms::BorderStyle::Borderless);
 }
 
+TEST_F(UtilitatiTest, LoadingAlonePrintsTheCaption) {
+    auto& palette = module.Default<Utilitati>();
+    EXPECT_THAT(palette.picCaption.Printed(), testing::IsEmpty());
+    palette.Load();
+    EXPECT_THAT(palette.picCaption.Printed(),
+                ElementsAre(forms::PictureBox::PrintedText{{7, 8}, "Utilitati"}));
+}
+
 TEST_F(UtilitatiTest, LoadingAddsSixtyTwipsToTheDesignedHeight) {
     auto& palette = module.Default<Utilitati>();
     const forms::Rect designed = palette.Bounds();
@@ -317,8 +325,11 @@ TEST_F(UtilitatiTest, EscapeLeavesTheCalculatorOpen) {
 
 TEST_F(UtilitatiTest, EscapeClosesEveryWindowOfAListedName) {
     Utilitati& palette = Open();
-    for (const char* name : {"Agenda", "Agenda", "Calculator", "Altceva", "CursValutar"})
+    OpenPlain("Altceva");
+    for (const char* name : {"Agenda", "AlegeMoneda", "Calculator", "Notes", "CursValutar"}) {
         OpenPlain(name);
+        OpenPlain(name);
+    }
     desktop.ActivateByUser(&palette);
     keyboard.Press(key::Escape);
     ASSERT_EQ(desktop.Forms().size(), 1U);

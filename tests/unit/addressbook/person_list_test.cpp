@@ -93,6 +93,17 @@ TEST_F(PersonListTest, ARowBeyondTheLastIsTheLast) {
     EXPECT_EQ(list.Current()[PrenumeColumn], "Dan");
 }
 
+TEST_F(PersonListTest, ARowBeyondTheOnlyOneIsThatOne) {
+    constexpr const char* Somebody = "somebody";
+    connection.Script().AnswerRows(Somebody, {Columns.begin(), Columns.end()}, {Row("Ene", "Dan")});
+    list.Create(connection);
+    list.Load(Somebody);
+    for (const int row : {0, 1, 2, 1000}) {
+        list.MoveTo(row);
+        EXPECT_EQ(list.Current()[PrenumeColumn], "Dan") << row;
+    }
+}
+
 class UncountedRows : public tests::PassThroughRecordset {
   public:
     using PassThroughRecordset::PassThroughRecordset;
@@ -147,6 +158,13 @@ TEST(FindPerson, ComparesTrimmedNamesExactly) {
     EXPECT_EQ(addressbook::FindPerson(persons, "  Pop", "Ion "), 3) << "the first of several";
     EXPECT_EQ(addressbook::FindPerson(persons, "pop", "Ana"), 0);
     EXPECT_EQ(addressbook::FindPerson(persons, "Ana", "Pop"), 0);
+}
+
+TEST(FindPerson, FindsTheFirstAndTheLast) {
+    const data::MemoryTable persons({"Nume", "Prenume"}, {{std::string("Albu"), std::string("Dan")},
+                                                          {std::string("Pop"), std::string("Ana")}});
+    EXPECT_EQ(addressbook::FindPerson(persons, "Albu", "Dan"), 1);
+    EXPECT_EQ(addressbook::FindPerson(persons, "Pop", "Ana"), 2);
 }
 
 TEST(FindPerson, FindsNobodyWhereNamesAreMissing) {

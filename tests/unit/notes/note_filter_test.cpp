@@ -121,6 +121,14 @@ TEST(NoteFilterTest, ATableBecomesTextWithTabs) {
               "{\\rtf1\na\\tab {\\*\\nesttableprops\\par }}");
 }
 
+TEST(NoteFilterTest, ATableWordGoesWithItsNumberAndItsBlank) {
+    EXPECT_EQ(FilterNote("{\\rtf1\\cellx-100 b}"), "{\\rtf1\nb}");
+    EXPECT_EQ(FilterNote("{\\rtf1\\cellx100 b}"), "{\\rtf1\nb}");
+    EXPECT_EQ(FilterNote("{\\rtf1\\cellx100  b}"), "{\\rtf1\n b}") << "one blank ends a word";
+    EXPECT_EQ(FilterNote("{\\rtf1\\cellx-1\\b b}"), "{\\rtf1\n\\b b}");
+    EXPECT_EQ(FilterNote("{\\rtf1\\cellx- b}"), "{\\rtf1\n- b}") << "a dash alone is text";
+}
+
 TEST(NoteFilterTest, BinaryDataIsWrittenInDigits) {
     EXPECT_EQ(FilterNote("{\\rtf1{\\pict\\wmetafile8\\bin4 \0{}\xFF}a}"s),
               "{\\rtf1{\\pict\\wmetafile8\n007b7dff}a}");

@@ -1,0 +1,47 @@
+// What holds for the layout of every window, whatever its controls' places are.
+
+#include <gmock/gmock.h>
+
+#include <set>
+#include <string>
+
+#include "windows/every_window.h"
+
+namespace tavrin::tests {
+namespace {
+
+using forms::Rect;
+
+constexpr int TwipsPerPixel = 15;
+
+class WindowLayoutTest : public EveryWindowTest {
+  protected:
+    static void ExpectWholePixels(const forms::Form& form) {
+        for (const forms::Control* control : form.AllControls()) {
+            const Rect& bounds = control->Bounds();
+            for (const int length : {bounds.left, bounds.top, bounds.width, bounds.height})
+                EXPECT_EQ(length % TwipsPerPixel, 0) << form.Name() << "." << control->QualifiedName();
+        }
+    }
+};
+
+TEST_F(WindowLayoutTest, EveryControlBeginsAndEndsOnAWholePixel) {
+    ForEachWindow(ExpectWholePixels);
+}
+
+TEST_F(WindowLayoutTest, WindowsOpenInTheMiddleOfTheScreen) {
+    const std::set<std::string> centred = {"CursValutar",  "CursValutarDetaliu", "CereMoneda",
+                                           "EvolutieCurs", "frmCalculator",      "AlegeMoneda"};
+    std::set<std::string> seen;
+    ForEachWindow([&](const forms::Form& form) {
+        if (!centred.contains(form.Name())) return;
+        seen.insert(form.Name());
+        const Rect& bounds = form.Bounds();
+        EXPECT_EQ(bounds.left, (desktop.ScreenSize().width - bounds.width) / 2) << form.Name();
+        EXPECT_EQ(bounds.top, (desktop.ScreenSize().height - bounds.height) / 2) << form.Name();
+    });
+    EXPECT_EQ(seen, centred);
+}
+
+}  // namespace
+}  // namespace tavrin::tests
