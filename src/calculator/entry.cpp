@@ -73,7 +73,7 @@ void Entry::Clear() {
 }
 
 int Entry::Length() const {
-    const std::size_t separatorExtra = separator_.size() > 1 && HasSeparator() ? separator_.size() - 1 : 0;
+    const std::size_t separatorExtra = HasSeparator() ? separator_.size() - 1 : 0;
     return static_cast<int>(text_.size() - separatorExtra);
 }
 
