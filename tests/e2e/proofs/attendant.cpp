@@ -18,7 +18,7 @@ constexpr int FileNameField = 0x480;
 constexpr unsigned OnceInAttentions = 4;  ///< how long things stay open
 
 /// What the windows may say, by the beginnings of the prompts.
-constexpr std::array<std::string_view, 25> KnownPrompts = {
+constexpr std::array<std::string_view, 26> KnownPrompts = {
     "Numele este obligatoriu !",
     "Prenumele este obligatoriu !",
     "Doriti sa parasiti forma?",
@@ -42,6 +42,7 @@ constexpr std::array<std::string_view, 25> KnownPrompts = {
     "Object variable or With block variable not set",  // the same while a currency is added
     "Eroare 13\n",                                     // a day is to be changed where the list has none
     "Eroare 94\n",                                     // a person that another user has entered lacks a text
+    "Eroare -2147217833 (80040E57)\n",                 // a person's text is too long
     "Eroare -2147217873 (80040E2F)\n",                 // a person is entered who is there already
     "Eroare -2147217900 (80040E14)\n",                 // the database refuses a name that was typed
 };
