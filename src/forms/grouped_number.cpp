@@ -24,6 +24,7 @@ class BackwardWriter {
   public:
     void Put(char character) { *--first_ = character; }
     void Put(const std::string& separator) {
+        if (separator.size() == 1) return Put(separator.front());
         for (std::size_t i = std::min(separator.size(), LongestSeparator); i > 0; --i)
             Put(separator[i - 1]);
     }
@@ -134,7 +135,7 @@ void WriteGroupedNumber(std::string& text, double number, int decimals, const Lo
         WriteLarge(writer, magnitude, decimals, locale);
     }
     if (number < 0 && units != 0U) writer.Put('-');
-    text = writer.Written();
+    text += writer.Written();
 }
 
 }  // namespace tavrin::forms

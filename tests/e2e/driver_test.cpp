@@ -165,7 +165,7 @@ TEST_F(DriverTest, CountsEveryKindOfResource) {
     const ResourceCount with = ResourceCount::Take();
     EXPECT_NE(with.gdiObjects, before.gdiObjects);
     EXPECT_EQ(with.windows, before.windows + 1);
-    EXPECT_EQ(with.menus, before.menus + 1);
+    EXPECT_EQ(with.menus.size(), before.menus.size() + 1);
     EXPECT_EQ(with.icons, before.icons + 1);
     EXPECT_EQ(with.globalAtoms, before.globalAtoms + 1);
 

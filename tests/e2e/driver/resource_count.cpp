@@ -129,6 +129,27 @@ bool IsIcon(std::uintptr_t slot) {
     return true;
 }
 
+std::string TextOf(HMENU menu) {
+    std::wstring texts;
+    for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+        std::array<wchar_t, 64> text{};
+        GetMenuStringW(menu, static_cast<UINT>(i), text.data(), static_cast<int>(text.size()), MF_BYPOSITION);
+        texts += (i == 0 ? L"" : L", ") + std::wstring(text.data());
+    }
+    return win32::ToUtf8(texts);
+}
+
+std::multiset<std::string> TextsOfMenus() {
+    std::multiset<std::string> texts;
+    CountUserHandles([&](std::uintptr_t slot) {
+        const auto menu = reinterpret_cast<HMENU>(slot);
+        if (!IsMenu(menu)) return false;
+        texts.insert(TextOf(menu));
+        return true;
+    });
+    return texts;
+}
+
 int CountGlobalAtoms() {
     int count = 0;
     std::array<wchar_t, 256> name{};
@@ -144,7 +165,7 @@ int CountGlobalAtoms() {
 ResourceCount ResourceCount::Take() {
     ResourceCount count;
     count.windows = CountWindows();
-    count.menus = CountUserHandles([](std::uintptr_t slot) { return IsMenu(reinterpret_cast<HMENU>(slot)); });
+    count.menus = TextsOfMenus();
     count.icons = CountUserHandles(IsIcon);
     count.globalAtoms = CountGlobalAtoms();
     count.gdiObjects = CountGdiObjects();
@@ -154,8 +175,8 @@ ResourceCount ResourceCount::Take() {
 std::ostream& operator<<(std::ostream& stream, const ResourceCount& count) {
     for (const auto& [kind, number] : count.gdiObjects)
         stream << kind << ": " << number << ", ";
-    return stream << "windows: " << count.windows << ", menus: " << count.menus << ", icons: " << count.icons
-                  << ", atoms: " << count.globalAtoms;
+    return stream << "windows: " << count.windows << ", menus: " << count.menus.size()
+                  << ", icons: " << count.icons << ", atoms: " << count.globalAtoms;
 }
 
 int KillThreadTimers(UiThread& thread) {

@@ -15,10 +15,10 @@ namespace tavrin::e2e {
 /// of counting does not matter, since counting itself leaves nothing behind.
 struct ResourceCount {
     std::map<std::string, int>
-        gdiObjects;   ///< by kind, from the table that the process shares with the system
-    int windows = 0;  ///< hidden and message-only ones too
-    int menus = 0;
-    int icons = 0;  ///< cursors too
+        gdiObjects;                    ///< by kind, from the table that the process shares with the system
+    int windows = 0;                   ///< hidden and message-only ones too
+    std::multiset<std::string> menus;  ///< by the texts of their entries
+    int icons = 0;                     ///< cursors too
     int globalAtoms = 0;
 
     static ResourceCount Take();

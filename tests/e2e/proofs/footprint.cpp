@@ -1,6 +1,9 @@
 #include "e2e/proofs/footprint.h"
 
+#include <algorithm>
+#include <iterator>
 #include <sstream>
+#include <vector>
 
 namespace tavrin::e2e {
 
@@ -31,6 +34,10 @@ std::string Differences(const Footprint& before, const Footprint& after, const A
     if (grown > 0 && grown <= allowed.gdiObjects) resources.gdiObjects = before.resources.gdiObjects;
     if (!(resources == before.resources))
         text << "resources were " << before.resources << " and are " << after.resources << "; ";
+    std::vector<std::string> menus;
+    std::ranges::set_difference(after.resources.menus, before.resources.menus, std::back_inserter(menus));
+    for (const std::string& menu : menus)
+        text << "a menu of \"" << menu << "\" has stayed; ";
     for (const std::string& module : after.modules) {
         if (!before.modules.contains(module)) text << module << " has stayed; ";
     }
@@ -44,11 +51,11 @@ std::string Describe(const Footprint& before, const Footprint& after) {
     const ResourceCount& now = after.resources;
     std::ostringstream text;
     text << "GDI objects " << GdiObjects(then) << " to " << GdiObjects(now) << ", windows " << then.windows
-         << " to " << now.windows << ", menus " << then.menus << " to " << now.menus << ", icons "
-         << then.icons << " to " << now.icons << ", atoms " << then.globalAtoms << " to " << now.globalAtoms
-         << ", modules " << before.modules.size() << " to " << after.modules.size() << ", heap bytes "
-         << before.heapBytes << " to " << after.heapBytes << ", private bytes " << before.privateBytes
-         << " to " << after.privateBytes;
+         << " to " << now.windows << ", menus " << then.menus.size() << " to " << now.menus.size()
+         << ", icons " << then.icons << " to " << now.icons << ", atoms " << then.globalAtoms << " to "
+         << now.globalAtoms << ", modules " << before.modules.size() << " to " << after.modules.size()
+         << ", heap bytes " << before.heapBytes << " to " << after.heapBytes << ", private bytes "
+         << before.privateBytes << " to " << after.privateBytes;
     return text.str();
 }
 
