@@ -18,7 +18,7 @@ constexpr int FileNameField = 0x480;
 constexpr unsigned OnceInAttentions = 4;  ///< how long things stay open
 
 /// What the windows may say, by the beginnings of the prompts.
-constexpr std::array<std::string_view, 26> KnownPrompts = {
+constexpr std::array<std::string_view, 29> KnownPrompts = {
     "Numele este obligatoriu !",
     "Prenumele este obligatoriu !",
     "Doriti sa parasiti forma?",
@@ -36,6 +36,9 @@ constexpr std::array<std::string_view, 26> KnownPrompts = {
     "Nu puteti sterge toate monedele !",
     "Impartire la 0 !!",
     "String or binary data would be truncated.",       // a currency's name is too long
+    "Incorrect syntax near ",                          // a currency's name ends its quotation
+    "Unclosed quotation mark ",                        // the same
+    "The embedded database does not understand ",      // the same, in words that a server might take
     "Eroare 6\n",                                      // a result is too large for a number
     "Eroare 11\n",                                     // a rate is 0, which may be entered
     "Eroare 91\n",                                     // a host without a connection
