@@ -18,7 +18,7 @@ constexpr int FileNameField = 0x480;
 constexpr unsigned OnceInAttentions = 4;  ///< how long things stay open
 
 /// What the windows may say, by the beginnings of the prompts.
-constexpr std::array<std::string_view, 29> KnownPrompts = {
+constexpr auto KnownPrompts = std::to_array<std::string_view>({
     "Numele este obligatoriu !",
     "Prenumele este obligatoriu !",
     "Doriti sa parasiti forma?",
@@ -48,7 +48,7 @@ constexpr std::array<std::string_view, 29> KnownPrompts = {
     "Eroare -2147217833 (80040E57)\n",                 // a person's text is too long
     "Eroare -2147217873 (80040E2F)\n",                 // a person is entered who is there already
     "Eroare -2147217900 (80040E14)\n",                 // the database refuses a name that was typed
-};
+});
 
 std::vector<Window> Modals() {
     std::vector<Window> windows = TopLevelWindows();
