@@ -166,8 +166,8 @@ TEST_F(DriverTest, CountsEveryKindOfResource) {
     EXPECT_NE(with.gdiObjects, before.gdiObjects);
     EXPECT_EQ(with.windows, before.windows + 1);
     EXPECT_EQ(with.menus.size(), before.menus.size() + 1);
-    EXPECT_EQ(with.icons, before.icons + 1);
-    EXPECT_EQ(with.globalAtoms, before.globalAtoms + 1);
+    EXPECT_EQ(with.icons.size(), before.icons.size() + 1);
+    EXPECT_EQ(with.globalAtoms.size(), before.globalAtoms.size() + 1);
 
     GlobalDeleteAtom(atom);
     DestroyIcon(icon);

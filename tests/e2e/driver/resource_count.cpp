@@ -5,6 +5,8 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <string>
 
 #include "win32/handles.h"
 #include "win32/text.h"
@@ -111,25 +113,35 @@ int CountWindows() {
 
 // Handles of the window manager are even numbers of a small range; without their upper half they stand for
 // whatever lives in their slot now.
-template <class Predicate>
-int CountUserHandles(Predicate&& isCounted) {
-    int count = 0;
+template <class Description>
+std::multiset<std::string> DescribeUserHandles(Description&& description) {
+    std::multiset<std::string> descriptions;
     for (std::uintptr_t slot = 0x20; slot < 0x10000; slot += 2) {
-        if (isCounted(slot)) ++count;
+        if (const std::optional<std::string> text = description(slot)) descriptions.insert(*text);
     }
-    return count;
+    return descriptions;
 }
 
-bool IsIcon(std::uintptr_t slot) {
-    ICONINFO info{};
-    if (!GetIconInfo(reinterpret_cast<HICON>(slot), &info)) return false;
+std::string OriginOf(const ICONINFOEXW& info) {
+    if (info.szModName[0] == 0) return "made by the program";
+    const std::string resource =
+        info.wResID != 0 ? std::to_string(info.wResID) : win32::ToUtf8(info.szResName);
+    return resource + " of " + win32::ToUtf8(info.szModName);
+}
+
+std::optional<std::string> DescriptionOfIcon(std::uintptr_t slot) {
+    ICONINFOEXW info{};
+    info.cbSize = sizeof info;
+    if (!GetIconInfoExW(reinterpret_cast<HICON>(slot), &info)) return std::nullopt;
     // The bitmaps are copies made for the caller.
     const win32::OwnedBitmap mask(info.hbmMask);
     const win32::OwnedBitmap color(info.hbmColor);
-    return true;
+    return (info.fIcon ? "icon " : "cursor ") + OriginOf(info);
 }
 
-std::string TextOf(HMENU menu) {
+std::optional<std::string> DescriptionOfMenu(std::uintptr_t slot) {
+    const auto menu = reinterpret_cast<HMENU>(slot);
+    if (!IsMenu(menu)) return std::nullopt;
     std::wstring texts;
     for (int i = 0; i < GetMenuItemCount(menu); ++i) {
         std::array<wchar_t, 64> text{};
@@ -139,25 +151,14 @@ std::string TextOf(HMENU menu) {
     return win32::ToUtf8(texts);
 }
 
-std::multiset<std::string> TextsOfMenus() {
-    std::multiset<std::string> texts;
-    CountUserHandles([&](std::uintptr_t slot) {
-        const auto menu = reinterpret_cast<HMENU>(slot);
-        if (!IsMenu(menu)) return false;
-        texts.insert(TextOf(menu));
-        return true;
-    });
-    return texts;
-}
-
-int CountGlobalAtoms() {
-    int count = 0;
+std::multiset<std::string> NamesOfGlobalAtoms() {
+    std::multiset<std::string> names;
     std::array<wchar_t, 256> name{};
     for (unsigned atom = 0xC000; atom <= 0xFFFF; ++atom) {
         if (GlobalGetAtomNameW(static_cast<ATOM>(atom), name.data(), static_cast<int>(name.size())) != 0)
-            ++count;
+            names.insert(win32::ToUtf8(name.data()));
     }
-    return count;
+    return names;
 }
 
 }  // namespace
@@ -165,9 +166,9 @@ int CountGlobalAtoms() {
 ResourceCount ResourceCount::Take() {
     ResourceCount count;
     count.windows = CountWindows();
-    count.menus = TextsOfMenus();
-    count.icons = CountUserHandles(IsIcon);
-    count.globalAtoms = CountGlobalAtoms();
+    count.menus = DescribeUserHandles(DescriptionOfMenu);
+    count.icons = DescribeUserHandles(DescriptionOfIcon);
+    count.globalAtoms = NamesOfGlobalAtoms();
     count.gdiObjects = CountGdiObjects();
     return count;
 }
@@ -176,7 +177,7 @@ std::ostream& operator<<(std::ostream& stream, const ResourceCount& count) {
     for (const auto& [kind, number] : count.gdiObjects)
         stream << kind << ": " << number << ", ";
     return stream << "windows: " << count.windows << ", menus: " << count.menus.size()
-                  << ", icons: " << count.icons << ", atoms: " << count.globalAtoms;
+                  << ", icons: " << count.icons.size() << ", atoms: " << count.globalAtoms.size();
 }
 
 int KillThreadTimers(UiThread& thread) {

@@ -18,8 +18,8 @@ struct ResourceCount {
         gdiObjects;                    ///< by kind, from the table that the process shares with the system
     int windows = 0;                   ///< hidden and message-only ones too
     std::multiset<std::string> menus;  ///< by the texts of their entries
-    int icons = 0;                     ///< cursors too
-    int globalAtoms = 0;
+    std::multiset<std::string> icons;  ///< cursors too, by where they come from
+    std::multiset<std::string> globalAtoms;
 
     static ResourceCount Take();
 

@@ -1,9 +1,14 @@
 #include "e2e/proofs/footprint.h"
 
+#include <windows.h>
+
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <sstream>
 #include <vector>
+
+#include "win32/text.h"
 
 namespace tavrin::e2e {
 
@@ -14,6 +19,41 @@ int GdiObjects(const ResourceCount& count) {
     for (const auto& [kind, number] : count.gdiObjects)
         sum += number;
     return sum;
+}
+
+using Names = std::multiset<std::string>;
+
+// What the system makes when it is first needed, and keeps: nobody is to give it back.
+
+/// Cursors and icons of its libraries, one of each.
+bool IsKeptIcon(const std::string& icon, const Names& icons) {
+    std::array<wchar_t, MAX_PATH> folder{};
+    GetSystemDirectoryW(folder.data(), static_cast<UINT>(folder.size()));
+    return icons.count(icon) == 1 && icon.find(win32::ToUtf8(folder.data())) != std::string::npos;
+}
+
+/// Classes of controls, whose names begin with the version of their library (6.0.2600.2982!Edit), the
+/// messages of the common dialogs and the shell's clipboard format.
+bool IsKeptAtom(const std::string& atom, const Names& /*atoms*/) {
+    const std::size_t version = atom.find_first_not_of("0123456789.");
+    const bool isClass = version != 0 && version != std::string::npos && atom[version] == '!';
+    return isClass || atom.starts_with("commdlg_") || atom == "Shell IDList Array";
+}
+
+/// All but what has come and is kept.
+Names WithoutKept(const Names& before, const Names& after,
+                  bool (*isKept)(const std::string& name, const Names& names)) {
+    Names names = after;
+    std::erase_if(names,
+                  [&](const std::string& name) { return !before.contains(name) && isKept(name, after); });
+    return names;
+}
+
+void AddNew(std::ostream& text, const std::string& kind, const Names& before, const Names& after) {
+    std::vector<std::string> added;
+    std::ranges::set_difference(after, before, std::back_inserter(added));
+    for (const std::string& name : added)
+        text << kind << " \"" << name << "\" has stayed; ";
 }
 
 }  // namespace
@@ -32,12 +72,14 @@ std::string Differences(const Footprint& before, const Footprint& after, const A
     ResourceCount resources = after.resources;
     const int grown = GdiObjects(resources) - GdiObjects(before.resources);
     if (grown > 0 && grown <= allowed.gdiObjects) resources.gdiObjects = before.resources.gdiObjects;
+    resources.icons = WithoutKept(before.resources.icons, after.resources.icons, IsKeptIcon);
+    resources.globalAtoms =
+        WithoutKept(before.resources.globalAtoms, after.resources.globalAtoms, IsKeptAtom);
     if (!(resources == before.resources))
-        text << "resources were " << before.resources << " and are " << after.resources << "; ";
-    std::vector<std::string> menus;
-    std::ranges::set_difference(after.resources.menus, before.resources.menus, std::back_inserter(menus));
-    for (const std::string& menu : menus)
-        text << "a menu of \"" << menu << "\" has stayed; ";
+        text << "resources were " << before.resources << " and are " << resources << "; ";
+    AddNew(text, "menu", before.resources.menus, resources.menus);
+    AddNew(text, "icon", before.resources.icons, resources.icons);
+    AddNew(text, "atom", before.resources.globalAtoms, resources.globalAtoms);
     for (const std::string& module : after.modules) {
         if (!before.modules.contains(module)) text << module << " has stayed; ";
     }
@@ -52,10 +94,11 @@ std::string Describe(const Footprint& before, const Footprint& after) {
     std::ostringstream text;
     text << "GDI objects " << GdiObjects(then) << " to " << GdiObjects(now) << ", windows " << then.windows
          << " to " << now.windows << ", menus " << then.menus.size() << " to " << now.menus.size()
-         << ", icons " << then.icons << " to " << now.icons << ", atoms " << then.globalAtoms << " to "
-         << now.globalAtoms << ", modules " << before.modules.size() << " to " << after.modules.size()
-         << ", heap bytes " << before.heapBytes << " to " << after.heapBytes << ", private bytes "
-         << before.privateBytes << " to " << after.privateBytes;
+         << ", icons " << then.icons.size() << " to " << now.icons.size() << ", atoms "
+         << then.globalAtoms.size() << " to " << now.globalAtoms.size() << ", modules "
+         << before.modules.size() << " to " << after.modules.size() << ", heap bytes " << before.heapBytes
+         << " to " << after.heapBytes << ", private bytes " << before.privateBytes << " to "
+         << after.privateBytes;
     return text.str();
 }
 
