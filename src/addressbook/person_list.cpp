@@ -27,8 +27,7 @@ void PersonList::Release() {
 }
 
 data::Recordset& PersonList::Rows() const {
-    if (!recordset_)
-        throw data::Error(data::error_number::ObjectNotSet, "Object variable or With block variable not set");
+    if (!recordset_) throw data::ObjectNotSet();
     return *recordset_;
 }
 

@@ -35,4 +35,9 @@ inline constexpr std::int32_t ErrorsInCommand = -2147217900;  ///< 80040E14: the
 inline constexpr std::int32_t IntegrityViolation = -2147217873;  ///< 80040E2F: a constraint refuses the row
 }  // namespace error_number
 
+/// What the use of an object raises that there is none of.
+inline Error ObjectNotSet() {
+    return {error_number::ObjectNotSet, "Object variable or With block variable not set"};
+}
+
 }  // namespace tavrin::data

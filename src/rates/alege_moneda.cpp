@@ -141,7 +141,7 @@ void AlegeMoneda::cmdAction_Click(int index) {
 }
 
 void AlegeMoneda::TakeRate() {
-    if (!caller_) throw data::Error(data::error_number::ObjectNotSet, "Object variable not set");
+    if (!caller_) throw data::ObjectNotSet();
     const forms::Locale& locale = OwnerDesktop().UserLocale();
     const std::string& currency = cmbMoneda.Text();
     const double amountInLei = data::CheckedResult(caller_->CurrencyAmount() * caller_->CursCurent());

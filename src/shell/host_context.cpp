@@ -5,8 +5,7 @@
 namespace tavrin::shell {
 
 data::Connection& HostContext::Database() const {
-    if (!connection)
-        throw data::Error(data::error_number::ObjectNotSet, "Object variable or With block variable not set");
+    if (!connection) throw data::ObjectNotSet();
     return *connection;
 }
 

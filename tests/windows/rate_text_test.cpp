@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "data/error.h"
 
 namespace tavrin::tests {
@@ -25,6 +27,12 @@ TEST(RateTextTest, RatesBelowOneKeepTheirZero) {
     EXPECT_EQ(RateCaption(0.5, "HUF", Romanian), "Cursul este de  0,50 Lei pentru 1 HUF");
     EXPECT_EQ(RateCaption(0, "HUF", Romanian), "Cursul este de  0,00 Lei pentru 1 HUF");
     EXPECT_EQ(RateCaption(-0.5, "HUF", Romanian), "Cursul este de  -0,50 Lei pentru 1 HUF");
+}
+
+TEST(RateTextTest, ARateThatIsNoNumberLeavesItsPlaceEmpty) {
+    const double infinite = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(RateCaption(infinite, "EUR", Romanian), "Cursul este de   Lei pentru 1 EUR");
+    EXPECT_EQ(RateCaption(-infinite, "EUR", Romanian), "Cursul este de   Lei pentru 1 EUR");
 }
 
 TEST(RateTextTest, ThePointOfTheGridIsTheUsersSeparator) {

@@ -73,8 +73,7 @@ DISPID DispatchObject::Resolve(std::wstring_view member) const {
 }
 
 HRESULT DispatchObject::TryResolve(std::wstring_view member, DISPID& id) const {
-    if (!object_)
-        throw data::Error(data::error_number::ObjectNotSet, "Object variable or With block variable not set");
+    if (!object_) throw data::ObjectNotSet();
     if (const auto known = resolved_.find(member); known != resolved_.end()) {
         id = known->second;
         return S_OK;
@@ -87,8 +86,7 @@ HRESULT DispatchObject::TryResolve(std::wstring_view member, DISPID& id) const {
 }
 
 Variant DispatchObject::Invoke(DISPID id, WORD kind, DISPPARAMS& parameters) const {
-    if (!object_)
-        throw data::Error(data::error_number::ObjectNotSet, "Object variable or With block variable not set");
+    if (!object_) throw data::ObjectNotSet();
     // The object may let go of its owner during the call.
     const ComPtr<IDispatch> object = object_;
     Variant result;
