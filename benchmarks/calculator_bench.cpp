@@ -14,36 +14,16 @@
 #include <vector>
 
 #include "calculator/frm_calculator.h"
+#include "calculator_keys.h"
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"
 #include "support/recording_messages.h"
-#include "unit/calculator/two_displays.h"
 
 namespace {
 
+using namespace tavrin::bench;
 using tavrin::calculator::Command;
 namespace tests = tavrin::tests;
-
-constexpr double Rate = 4.9762;
-constexpr std::string_view Number = "1234567890.12C";
-// All is cleared at the end: the sums of a user do not grow to billions.
-constexpr std::string_view RunningSum = "1+22+333+4.44+55.5+6+A";
-constexpr std::string_view Percent = "1234.56+19%";
-constexpr std::string_view Conversion = "1234.56X4.9762+19%";
-
-/// Both displays as texts, after every key.
-class TextDisplays : public tests::TwoDisplays {
-  public:
-    void ShowValues() override {
-        TwoDisplays::ShowValues();
-        tavrin::forms::WriteGroupedNumber(leiText, lei, 2, locale);
-        tavrin::forms::WriteGroupedNumber(currencyText, currency, 2, locale);
-    }
-
-    tavrin::forms::Locale locale;
-    std::string leiText;
-    std::string currencyText;
-};
 
 template <class Displays>
 void PressKeys(benchmark::State& state, std::string_view keys) {

@@ -12,7 +12,7 @@
 #include "addressbook/addressbook_statements.h"
 #include "addressbook/agenda.h"
 #include "alternating.h"
-#include "calculator/frm_calculator.h"
+#include "calculator_keys.h"
 #include "host/embedded/embedded_connection.h"
 #include "host/embedded/embedded_database.h"
 #include "rates/curs_valutar.h"
@@ -20,7 +20,6 @@
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"
 #include "support/recording_messages.h"
-#include "unit/calculator/two_displays.h"
 
 namespace {
 
@@ -212,25 +211,11 @@ void CompareAddressBook(int persons) {
 
 // The calculator.
 
-/// Both displays as texts, after every key.
-class TextDisplays : public tests::TwoDisplays {
-  public:
-    void ShowValues() override {
-        TwoDisplays::ShowValues();
-        forms::WriteGroupedNumber(leiText, lei, 2, locale);
-        forms::WriteGroupedNumber(currencyText, currency, 2, locale);
-    }
-
-    forms::Locale locale;
-    std::string leiText;
-    std::string currencyText;
-};
-
 /// Nanoseconds a key.
 template <class Displays>
 double CostOfKey(std::string_view keys) {
     Displays shown;
-    shown.rate = 4.9762;
+    shown.rate = bench::Rate;
     std::vector<calculator::Command> commands;
     for (const char key : keys)
         commands.push_back(tests::TwoDisplays::CommandOf(key));
@@ -251,7 +236,7 @@ double CostOfKey(std::string_view keys) {
 void TimeKeys(const char* what, std::string_view keys) {
     const double cost = CostOfKey<tests::TwoDisplays>(keys);
     std::printf("  %-22s %6.1f ns a key, %6.1f with the texts of both displays%s\n", what, cost,
-                CostOfKey<TextDisplays>(keys), Judged(cost, GoalForKey));
+                CostOfKey<bench::TextDisplays>(keys), Judged(cost, GoalForKey));
 }
 
 /// What two displays would cost with the C library alone, without groups.
@@ -266,7 +251,7 @@ void TimePrinting() {
             for (int i = 0; i < times; ++i) {
                 number += 0.01;
                 length += std::snprintf(text, sizeof text, "%.2f", number);
-                length += std::snprintf(text, sizeof text, "%.2f", number / 4.9762);
+                length += std::snprintf(text, sizeof text, "%.2f", number / bench::Rate);
             }
         });
         costs.push_back(taken * 1e9 / times);
@@ -292,11 +277,10 @@ int main(int argc, char** argv) {
         CompareAddressBook(persons);
     if (large) CompareAddressBook(1000000);
     std::printf("Calculator: a key to the values of both displays (goal %.0f ns)\n", GoalForKey);
-    TimeKeys("a number", "1234567890.12C");
-    // All is cleared at the end: the sums of a user do not grow to billions.
-    TimeKeys("a running sum", "1+22+333+4.44+55.5+6+A");
-    TimeKeys("a percent", "1234.56+19%");
-    TimeKeys("a conversion", "1234.56X4.9762+19%");
+    TimeKeys("a number", bench::Number);
+    TimeKeys("a running sum", bench::RunningSum);
+    TimeKeys("a percent", bench::Percent);
+    TimeKeys("a conversion", bench::Conversion);
     TimePrinting();
     return 0;
 }

@@ -154,13 +154,15 @@ TEST_F(DriverTest, CallsPassFailuresOn) {
 TEST_F(DriverTest, CountsEveryKindOfResource) {
     // A thread's first window brings one of the input method's along, and its last takes it away.
     const HWND first = CreateHiddenWindow();
+    // The system keeps its own icon from here on.
+    const HICON shared = LoadIconW(nullptr, IDI_ERROR);
     const ResourceCount before = ResourceCount::Take();
     EXPECT_EQ(ResourceCount::Take(), before) << "counting leaves something behind";
 
     const HPEN pen = CreatePen(PS_SOLID, 1, RGB(1, 2, 3));
     const HWND hidden = CreateHiddenWindow();
     const HMENU menu = CreatePopupMenu();
-    const HICON icon = CopyIcon(LoadIconW(nullptr, IDI_ERROR));
+    const HICON icon = CopyIcon(shared);
     const ATOM atom = GlobalAddAtomW(L"Tavrin.DriverTest");
     const ResourceCount with = ResourceCount::Take();
     EXPECT_NE(with.gdiObjects, before.gdiObjects);

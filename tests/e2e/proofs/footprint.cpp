@@ -25,27 +25,27 @@ using Names = std::multiset<std::string>;
 
 // What the system makes when it is first needed, and keeps: nobody is to give it back.
 
-/// Cursors and icons of its libraries, one of each.
-bool IsKeptIcon(const std::string& icon, const Names& icons) {
+/// Cursors and icons of its libraries.
+bool IsKeptIcon(const std::string& icon) {
     std::array<wchar_t, MAX_PATH> folder{};
     GetSystemDirectoryW(folder.data(), static_cast<UINT>(folder.size()));
-    return icons.count(icon) == 1 && icon.find(win32::ToUtf8(folder.data())) != std::string::npos;
+    return icon.find(win32::ToUtf8(folder.data())) != std::string::npos;
 }
 
 /// Classes of controls, whose names begin with the version of their library (6.0.2600.2982!Edit), the
 /// messages of the common dialogs and the shell's clipboard format.
-bool IsKeptAtom(const std::string& atom, const Names& /*atoms*/) {
+bool IsKeptAtom(const std::string& atom) {
     const std::size_t version = atom.find_first_not_of("0123456789.");
     const bool isClass = version != 0 && version != std::string::npos && atom[version] == '!';
     return isClass || atom.starts_with("commdlg_") || atom == "Shell IDList Array";
 }
 
-/// All but what has come and is kept.
-Names WithoutKept(const Names& before, const Names& after,
-                  bool (*isKept)(const std::string& name, const Names& names)) {
+/// All but what has come and is kept: one of each name, as more of it would be a loss.
+Names WithoutKept(const Names& before, const Names& after, bool (*isKept)(const std::string& name)) {
     Names names = after;
-    std::erase_if(names,
-                  [&](const std::string& name) { return !before.contains(name) && isKept(name, after); });
+    std::erase_if(names, [&](const std::string& name) {
+        return !before.contains(name) && after.count(name) == 1 && isKept(name);
+    });
     return names;
 }
 
