@@ -7,7 +7,7 @@
 namespace tavrin::e2e {
 namespace {
 
-constexpr const char* SystemCursor = "cursor 107 of C:\\windows\\system32\\riched20.dll";
+constexpr const char* SystemCursor = R"(cursor 107 of C:\windows\system32\riched20.dll)";
 
 std::string DifferencesTo(const Footprint& after) {
     return Differences({}, after, {});
