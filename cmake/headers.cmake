@@ -17,13 +17,21 @@ function(tavrin_collect_targets out folder)
 endfunction()
 
 # Target "headers": compiles every header of the given folders, and of those below, alone, with the settings of
-# everything else.
+# everything else. Where nothing is precompiled, a source that begins with its own header has done that already.
 function(tavrin_add_header_check)
   set(sources)
   set(targets)
   foreach(folder ${ARGN})
     file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/${folder}/*.h)
     foreach(header ${headers})
+      string(REGEX REPLACE "h$" "cpp" own_source ${header})
+      if(NOT TAVRIN_PRECOMPILE AND EXISTS ${PROJECT_SOURCE_DIR}/${own_source})
+        file(STRINGS ${PROJECT_SOURCE_DIR}/${own_source} first_include REGEX "^#include" LIMIT_COUNT 1)
+        get_filename_component(name ${header} NAME)
+        if(first_include MATCHES "[\"/]${name}\"")
+          continue()
+        endif()
+      endif()
       set(source ${CMAKE_BINARY_DIR}/headers/${header}.cpp)
       file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${PROJECT_SOURCE_DIR}/${header}\"\n")
       list(APPEND sources ${source})
@@ -37,7 +45,12 @@ function(tavrin_add_header_check)
   add_library(headers OBJECT EXCLUDE_FROM_ALL ${sources})
   target_include_directories(headers PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/src
                                              ${PROJECT_SOURCE_DIR}/tests)
-  target_link_libraries(headers PRIVATE SQLite::SQLite3 GTest::gtest GTest::gmock)
+  if(NOT TAVRIN_COMPONENT_ONLY)
+    target_link_libraries(headers PRIVATE SQLite::SQLite3 GTest::gtest GTest::gmock)
+  endif()
+  if(TARGET tavrin_interfaces)
+    target_link_libraries(headers PRIVATE tavrin_interfaces)
+  endif()
   foreach(target ${targets})
     # A header may include what its target generates, or what its target alone knows. Folders of generated code stay
     # system folders: the warnings of other tools are not ours.

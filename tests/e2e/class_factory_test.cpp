@@ -12,7 +12,7 @@ namespace {
 using win32::ComPtr;
 
 // Nobody's class, and nobody's interface.
-constexpr GUID Unknown = {0x0b5d6a0e, 0x1111, 0x4222, {0x93, 0x33, 0x44, 0x44, 0x55, 0x55, 0x66, 0x66}};
+constexpr GUID Nobodys = {0x0b5d6a0e, 0x1111, 0x4222, {0x93, 0x33, 0x44, 0x44, 0x55, 0x55, 0x66, 0x66}};
 
 class ClassFactoryTest : public ComTest {
   protected:
@@ -23,13 +23,13 @@ class ClassFactoryTest : public ComTest {
 
 TEST_F(ClassFactoryTest, RefusesAClassThatItDoesNotHave) {
     void* object = &object;
-    EXPECT_EQ(component.GetClassObject(Unknown, __uuidof(IClassFactory), &object), CLASS_E_CLASSNOTAVAILABLE);
+    EXPECT_EQ(component.GetClassObject(Nobodys, __uuidof(IClassFactory), &object), CLASS_E_CLASSNOTAVAILABLE);
     EXPECT_EQ(object, nullptr);
 }
 
 TEST_F(ClassFactoryTest, RefusesAnInterfaceThatItDoesNotHave) {
     void* object = &object;
-    EXPECT_EQ(component.GetClassObject(__uuidof(::Utile), Unknown, &object), E_NOINTERFACE);
+    EXPECT_EQ(component.GetClassObject(__uuidof(::Utile), Nobodys, &object), E_NOINTERFACE);
     EXPECT_EQ(object, nullptr);
 }
 

@@ -9,8 +9,6 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr HostValues FrozenMarch{2003, 3, 20, 1};
-
 class MessageServiceTest : public HostTest {
   protected:
     void SetUp() override {

@@ -26,7 +26,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-enum Button { NewOrOpen, Save, ChooseFont, ChooseColor, Bold, Italic, Underline, Leave };
+enum BarButton { NewOrOpen, Save, ChooseFont, ChooseColor, Bold, Italic, Underline, Leave };
 
 constexpr char OpenTitle[] = "Alegeti fisierul dorit !";
 constexpr char SaveTitle[] = "Alegeti calea si numele fisierului in care se va salva !";

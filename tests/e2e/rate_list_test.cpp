@@ -17,17 +17,10 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr HostValues June{2003, 6, 16, 2};
-// Company 1 has frozen its rates to 31 March 2003.
-constexpr HostValues FrozenMarch{2003, 3, 20, 1};
 constexpr HostValues PartlyFrozen{2003, 4, 4, 1};
 
 constexpr const char* Question = "Sunteti sigur ca doriti sa stergeti cursul valutar pentru data de ";
 constexpr const char* Refusal = "Acest curs a fost validat !\r\nNu puteti modifica un curs deja validat !";
-
-std::string WithPlainLineBreaks(std::string text) {
-    std::erase(text, '\r');
-    return text;
-}
 
 class RateListTest : public HostTest {
   protected:

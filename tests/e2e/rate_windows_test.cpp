@@ -18,11 +18,6 @@ using testing::HasSubstr;
 constexpr HostValues Saturday{2003, 6, 14, 2};
 constexpr HostValues FrozenSaturday{2003, 3, 29, 1};
 
-std::string WithPlainLineBreaks(std::string text) {
-    std::erase(text, '\r');
-    return text;
-}
-
 class RateWindowsTest : public HostTest {
   protected:
     RateWindowsTest() : HostTest(LoopKind::Plain) {}

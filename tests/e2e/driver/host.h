@@ -24,6 +24,9 @@ struct HostValues {
     int company = 2;  ///< of the demo data: 1 has rates frozen to 31 March 2003, 2 has never frozen any
 };
 
+/// A day in the month that company 1 has frozen.
+inline constexpr HostValues FrozenMarch{.year = 2003, .month = 3, .day = 20, .company = 1};
+
 /// An accounting program: a window, a database, and the component's object with a listener to its event, all
 /// on one user-interface thread. Its members may be used from the test's thread; what they give back that
 /// belongs to the host's thread is to be used inside Ui().Call alone.

@@ -11,7 +11,7 @@ namespace tavrin::e2e {
 
 namespace {
 
-constexpr std::array<WORD, 26> Keys = {
+constexpr std::array<WORD, 26> SentKeys = {
     VK_RETURN, VK_RETURN, VK_ESCAPE, VK_TAB,  VK_TAB,    VK_UP,   VK_DOWN, VK_LEFT, VK_RIGHT,
     VK_HOME,   VK_END,    VK_PRIOR,  VK_NEXT, VK_DELETE, VK_F4,   VK_BACK, VK_F1,   VK_SPACE,
     VK_INSERT, '1',       'S',       'B',     VK_DOWN,   VK_MENU, 0,       255};
@@ -29,8 +29,8 @@ constexpr std::array<UINT, 11> SystemChanges = {WM_THEMECHANGED,    WM_SYSCOLORC
                                                 WM_CANCELMODE,      WM_CAPTURECHANGED, WM_MOUSELEAVE,
                                                 WM_QUERYENDSESSION, WM_INPUTLANGCHANGE};
 
-constexpr std::array<const wchar_t*, 8> Texts = {L"",        L" ",   L"-5",  L"12345678901234567890",
-                                                 L"1,234.5", L"EUR", L"a]b", L"O'Neil \xd83d\xde00"};
+constexpr std::array<const wchar_t*, 8> SentTexts = {L"",        L" ",   L"-5",  L"12345678901234567890",
+                                                     L"1,234.5", L"EUR", L"a]b", L"O'Neil \xd83d\xde00"};
 
 BOOL CALLBACK Collect(HWND handle, LPARAM handles) {
     reinterpret_cast<std::vector<HWND>*>(handles)->push_back(handle);
@@ -163,7 +163,7 @@ void SentEvents::Do() {
 void SentEvents::Key() {
     const Target* target = PickForInput();
     if (target == nullptr) return;
-    const WORD key = random_.Pick(Keys);
+    const WORD key = random_.Pick(SentKeys);
     const bool withAlt = random_.OnceIn(20) && key != VK_MENU;
     const auto scanCode = static_cast<LPARAM>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC)) << 16;
     constexpr LPARAM altHeld = LPARAM{1} << 29;
@@ -318,7 +318,7 @@ void SentEvents::Content() {
     const Window window = target->window;
     switch (random_.Below(8)) {
         case 0:
-            return host_.Ui().Post([window, text = random_.Pick(Texts)] {
+            return host_.Ui().Post([window, text = random_.Pick(SentTexts)] {
                 SendMessageW(window.Handle(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text));
             });
         case 1:

@@ -8,13 +8,13 @@ namespace tavrin::e2e {
 
 namespace {
 
-constexpr std::array<WORD, 28> Keys = {
+constexpr std::array<WORD, 28> TypedKeys = {
     VK_RETURN, VK_RETURN, VK_ESCAPE, VK_TAB,   VK_TAB,  VK_TAB,    VK_UP,        VK_DOWN, VK_DOWN,  VK_LEFT,
     VK_RIGHT,  VK_HOME,   VK_END,    VK_PRIOR, VK_NEXT, VK_DELETE, VK_F4,        VK_BACK, VK_SPACE, VK_F1,
     VK_INSERT, '5',       '0',       'N',      'S',     'B',       VK_OEM_COMMA, VK_ADD};
 
-constexpr std::array<const wchar_t*, 8> Texts = {L"12",  L"37500",  L"1,5", L"abc",
-                                                 L"EUR", L"\x219i", L"+7=", L"O'N]%_"};
+constexpr std::array<const wchar_t*, 8> TypedTexts = {L"12",  L"37500",  L"1,5", L"abc",
+                                                      L"EUR", L"\x219i", L"+7=", L"O'N]%_"};
 
 bool IsOurs(HWND window) {
     DWORD process = 0;
@@ -76,7 +76,7 @@ void TypedEvents::Do() {
 }
 
 void TypedEvents::Key() {
-    const WORD key = random_.Pick(Keys);
+    const WORD key = random_.Pick(TypedKeys);
     switch (random_.Below(16)) {
         case 0:
         case 1:
@@ -94,7 +94,7 @@ void TypedEvents::Key() {
 }
 
 void TypedEvents::Text() {
-    TypeUnicode(random_.Pick(Texts));
+    TypeUnicode(random_.Pick(TypedTexts));
 }
 
 void TypedEvents::ClickOnControl() {
