@@ -56,6 +56,7 @@ TEST_F(AlegeMonedaTest, OpensInFrontOfItsDisabledCaller) {
     EXPECT_EQ(chooser.cmbMoneda.Text(), "$");
     EXPECT_EQ(FocusedControl(), "Grid");
     EXPECT_EQ(messages.created, 1);
+    EXPECT_EQ(chooser.Label2.Caption(), "Moneda");
     EXPECT_EQ(chooser.cmdAction[0].Caption(), "Accepta");
     EXPECT_EQ(chooser.cmdAction[1].Caption(), "Renunta");
     EXPECT_EQ(chooser.cmdAction[0].Picture(), forms::Icon::Accept);

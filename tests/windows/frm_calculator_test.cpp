@@ -32,6 +32,10 @@ class FrmCalculatorTest : public CalculatorTest {
 
 // Opening and closing.
 
+TEST_F(FrmCalculatorTest, ItsRateLineIsNamedByItsDesignUntilItLoads) {
+    EXPECT_EQ(module.Default<FrmCalculator>().lblCurs.Caption(), "Curs Valutar:");
+}
+
 TEST_F(FrmCalculatorTest, OpensWithZeroInLeiAndTwoDecimals) {
     const FrmCalculator& window = Open();
     EXPECT_EQ(window.Name(), "frmCalculator");
