@@ -93,16 +93,6 @@ class AgendaTest : public HostTest {
         host->Ui().Settle();
     }
 
-    static void ExpectMessage(const std::string& prompt, MessageIcon icon, const std::string& title,
-                              int answer) {
-        const ShownMessage message = ShownMessage::Await();
-        EXPECT_EQ(message.Prompt(), prompt);
-        EXPECT_EQ(message.Title(), title);
-        EXPECT_EQ(message.Icon(), icon);
-        EXPECT_TRUE(message.ComesToFront());
-        message.Press(answer);
-    }
-
     std::vector<std::string> ButtonsInSight() {
         std::vector<std::string> captions;
         for (const int action : {Add, Modify, Delete, Accept, Cancel}) {
@@ -230,11 +220,11 @@ TEST_F(AgendaTest, NamesAreRequired) {
     Click(Button(Add));
     ASSERT_TRUE(AwaitFocus("TextBoxes(2)"));
     Click(Button(Accept));
-    ExpectMessage("Numele este obligatoriu !", MessageIcon::Error, "Agenda", IDOK);
+    ExpectMessage("Numele este obligatoriu !", MessageIcon::Error, "Agenda", {IDOK}, IDOK);
     ASSERT_TRUE(AwaitFocus("TextBoxes(2)"));
     TypeText("Marinica");
     PressKey('C', {VK_MENU});
-    ExpectMessage("Prenumele este obligatoriu !", MessageIcon::Error, "Agenda", IDOK);
+    ExpectMessage("Prenumele este obligatoriu !", MessageIcon::Error, "Agenda", {IDOK}, IDOK);
     EXPECT_TRUE(AwaitFocus("TextBoxes(3)"));
     PressKey(VK_ESCAPE);
     ASSERT_TRUE(AwaitFocus("Grid"));
@@ -271,11 +261,11 @@ TEST_F(AgendaTest, APersonIsDeletedAfterYes) {
     ClickRow(2);
     const std::string question = "Doriti sa stergeti din agenda persoana " + ShownName() + " ?";
     Click(Button(Delete));
-    ExpectMessage(question, MessageIcon::Question, "Agenda", IDNO);
+    ExpectMessage(question, MessageIcon::Question, "Agenda", {IDYES, IDNO}, IDNO);
     ASSERT_TRUE(AwaitFocus("Grid"));
     EXPECT_EQ(Shown(), before);
     PressKey('S', {VK_MENU});
-    ExpectMessage(question, MessageIcon::Question, "Agenda", IDYES);
+    ExpectMessage(question, MessageIcon::Question, "Agenda", {IDYES, IDNO}, IDYES);
     host->Ui().Settle();
     TableTexts expected = before;
     expected.erase(expected.begin() + 2);
@@ -290,7 +280,7 @@ TEST_F(AgendaTest, DeletingTheLastPersonLeavesAnEmptyBookThatClosesWithoutAQuest
     const int width = window.Width();
     Click(Button(Delete));
     ExpectMessage("Doriti sa stergeti din agenda persoana Popa Ion ?", MessageIcon::Question, "Agenda",
-                  IDYES);
+                  {IDYES, IDNO}, IDYES);
     ASSERT_TRUE(AwaitFocus("TextBoxes(2)"));
     EXPECT_LT(window.Width(), width);
     EXPECT_EQ(Text(2), "");
@@ -401,15 +391,15 @@ TEST_F(AgendaTest, RomanianLettersAreTyped) {
 TEST_F(AgendaTest, TheLastButtonAsksBeforeItCloses) {
     Open();
     Click(Button(Cancel));
-    ExpectMessage("Doriti sa parasiti forma?", MessageIcon::Question, "Iesire", IDNO);
+    ExpectMessage("Doriti sa parasiti forma?", MessageIcon::Question, "Iesire", {IDYES, IDNO}, IDNO);
     host->Ui().Settle();
     ASSERT_TRUE(window.Exists());
     ClickRow(1);
     PressKey('I', {VK_MENU});
-    ExpectMessage("Doriti sa parasiti forma?", MessageIcon::Question, "Iesire", IDNO);
+    ExpectMessage("Doriti sa parasiti forma?", MessageIcon::Question, "Iesire", {IDYES, IDNO}, IDNO);
     host->Ui().Settle();
     PressKey(VK_ESCAPE);
-    ExpectMessage("Doriti sa parasiti forma?", MessageIcon::Question, "Iesire", IDYES);
+    ExpectMessage("Doriti sa parasiti forma?", MessageIcon::Question, "Iesire", {IDYES, IDNO}, IDYES);
     EXPECT_TRUE(AwaitClosed("Agenda"));
     EXPECT_EQ(host->Iesire(), 0);
 }
@@ -455,7 +445,7 @@ TEST_F(AgendaInDialogLoopTest, AcceleratorsArrowsEnterAndEscapeWork) {
     ASSERT_TRUE(AwaitFocus("Grid"));
     EXPECT_EQ(ShownName(), "Marinica Eva");
     PressKey(VK_ESCAPE);
-    ExpectMessage("Doriti sa parasiti forma?", MessageIcon::Question, "Iesire", IDYES);
+    ExpectMessage("Doriti sa parasiti forma?", MessageIcon::Question, "Iesire", {IDYES, IDNO}, IDYES);
     EXPECT_TRUE(AwaitClosed("Agenda"));
 }
 

@@ -212,13 +212,7 @@ TEST_P(CalculatorTest, Percent) {
 
 TEST_P(CalculatorTest, DividingByZeroShowsAMessageInFront) {
     TypeKeys("5/0=");
-    const ShownMessage message = ShownMessage::Await();
-    EXPECT_EQ(message.Prompt(), "Impartire la 0 !!");
-    EXPECT_EQ(message.Title(), "Eroare");
-    EXPECT_EQ(message.Icon(), MessageIcon::Exclamation);
-    EXPECT_EQ(message.Buttons(), std::vector<int>{IDOK});
-    EXPECT_TRUE(message.ComesToFront());
-    message.Press(IDOK);
+    ExpectMessage("Impartire la 0 !!", MessageIcon::Exclamation, "Eroare", {IDOK}, IDOK);
     ExpectShown("5,00", "5,00");
     EXPECT_TRUE(AwaitFocus("Operator(4)"));
 }

@@ -66,6 +66,17 @@ Window HostTest::OpenRateList(const HostValues& values) {
     return list;
 }
 
+void HostTest::ExpectMessage(const std::string& prompt, MessageIcon icon, const std::string& title,
+                             const std::vector<int>& buttons, int answer) {
+    const ShownMessage message = ShownMessage::Await();
+    EXPECT_EQ(message.Prompt(), prompt);
+    EXPECT_EQ(message.Title(), title);
+    EXPECT_EQ(message.Icon(), icon);
+    EXPECT_EQ(message.Buttons(), buttons);
+    EXPECT_TRUE(message.ComesToFront());
+    message.Press(answer);
+}
+
 void HostTest::ActivateHostWindow() {
     Click(host->MainWindow());
     Require("the host's window in front",

@@ -3,9 +3,12 @@
 #include <gmock/gmock.h>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "e2e/driver/host.h"
 #include "e2e/driver/input.h"
+#include "e2e/driver/shown_message.h"
 #include "e2e/driver/wait.h"
 #include "e2e/driver/window.h"
 
@@ -25,6 +28,10 @@ class HostTest : public testing::Test {
 
     /// Closes windows and messages, from the front to the back.
     static void CloseEverything();
+
+    /// Waits for a message, checks all that it shows, and answers it.
+    static void ExpectMessage(const std::string& prompt, MessageIcon icon, const std::string& title,
+                              const std::vector<int>& buttons, int answer);
 
     /// Gives the host's window the keyboard, by a click.
     void ActivateHostWindow();

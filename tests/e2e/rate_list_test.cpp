@@ -85,18 +85,6 @@ class RateListTest : public HostTest {
         host->Ui().Settle();
     }
 
-    /// Waits for a message, checks all that it shows, and answers it.
-    static void ExpectMessage(const std::string& prompt, MessageIcon icon, const std::vector<int>& buttons,
-                              int answer) {
-        const ShownMessage message = ShownMessage::Await();
-        EXPECT_EQ(WithPlainLineBreaks(message.Prompt()), WithPlainLineBreaks(prompt));
-        EXPECT_EQ(message.Title(), "Curs Valutar");
-        EXPECT_EQ(message.Icon(), icon);
-        EXPECT_EQ(message.Buttons(), buttons);
-        EXPECT_TRUE(message.ComesToFront());
-        message.Press(answer);
-    }
-
     Window list;
 };
 
@@ -250,7 +238,7 @@ TEST_F(RateListTest, DeletesTheSelectedDayAfterYes) {
     const TableTexts before = Shown();
     ClickRow(2);
     Click(Action(2));
-    ExpectMessage(Question + before[2][0], MessageIcon::Question, {IDYES, IDNO}, IDYES);
+    ExpectMessage(Question + before[2][0], MessageIcon::Question, "Curs Valutar", {IDYES, IDNO}, IDYES);
     host->Ui().Settle();
     TableTexts expected = before;
     expected.erase(expected.begin() + 2);
@@ -263,7 +251,7 @@ TEST_F(RateListTest, KeepsTheSelectedDayAfterNo) {
     const TableTexts before = Shown();
     ClickRow(2);
     Click(Action(2));
-    ExpectMessage(Question + before[2][0], MessageIcon::Question, {IDYES, IDNO}, IDNO);
+    ExpectMessage(Question + before[2][0], MessageIcon::Question, "Curs Valutar", {IDYES, IDNO}, IDNO);
     EXPECT_TRUE(AwaitFocus("Grid"));
     EXPECT_EQ(Shown(), before);
     EXPECT_EQ(Stored("2003-06-01", "2003-06-16"), before);
@@ -280,7 +268,7 @@ TEST_F(RateListTest, DeletesTheDayChosenByKeyboard) {
     PressKey(VK_DOWN);
     ASSERT_TRUE(AwaitFocus("cmdAction(2)"));
     PressKey(VK_RETURN);
-    ExpectMessage(Question + before[3][0], MessageIcon::Question, {IDYES, IDNO}, IDYES);
+    ExpectMessage(Question + before[3][0], MessageIcon::Question, "Curs Valutar", {IDYES, IDNO}, IDYES);
     host->Ui().Settle();
     EXPECT_EQ(Shown().size(), before.size() - 1);
     EXPECT_NE(Shown()[3][0], before[3][0]);
@@ -291,7 +279,8 @@ TEST_F(RateListTest, DeletingTheOnlyDayHidesTheGrid) {
     Filter("020603", "020603");
     ASSERT_EQ(Shown().size(), 2U);
     Click(Action(2));
-    ExpectMessage(std::string(Question) + "02/06/2003", MessageIcon::Question, {IDYES, IDNO}, IDYES);
+    ExpectMessage(std::string(Question) + "02/06/2003", MessageIcon::Question, "Curs Valutar", {IDYES, IDNO},
+                  IDYES);
     host->Ui().Settle();
     EXPECT_FALSE(Grid().IsVisible());
     EXPECT_FALSE(IsStored("2003-06-02"));
@@ -304,7 +293,7 @@ TEST_F(RateListTest, AFrozenDayCannotBeDeleted) {
     const TableTexts before = Shown();
     ClickRow(1);
     Click(Action(2));
-    ExpectMessage(Refusal, MessageIcon::Error, {IDOK}, IDOK);
+    ExpectMessage(Refusal, MessageIcon::Error, "Curs Valutar", {IDOK}, IDOK);
     EXPECT_TRUE(AwaitFocus("Grid"));
     EXPECT_EQ(Shown(), before);
 }
@@ -313,7 +302,7 @@ TEST_F(RateListTest, AFrozenDayCannotBeModifiedAndItsRowIsSelected) {
     Open(FrozenMarch);
     ClickRow(2);
     Click(Action(1));
-    ExpectMessage(Refusal, MessageIcon::Error, {IDOK}, IDOK);
+    ExpectMessage(Refusal, MessageIcon::Error, "Curs Valutar", {IDOK}, IDOK);
     ASSERT_TRUE(AwaitFocus("Grid"));
     EXPECT_EQ(OpenForms().size(), 2U);
     host->Ui().Settle();
@@ -332,11 +321,12 @@ TEST_F(RateListTest, TheDayAfterTheFrozenOneIsFree) {
     ASSERT_EQ(Shown()[2][0], "01/04/2003");
     ClickRow(1);
     Click(Action(2));
-    ExpectMessage(Refusal, MessageIcon::Error, {IDOK}, IDOK);
+    ExpectMessage(Refusal, MessageIcon::Error, "Curs Valutar", {IDOK}, IDOK);
     ASSERT_TRUE(AwaitFocus("Grid"));
     ClickRow(2);
     Click(Action(2));
-    ExpectMessage(std::string(Question) + "01/04/2003", MessageIcon::Question, {IDYES, IDNO}, IDNO);
+    ExpectMessage(std::string(Question) + "01/04/2003", MessageIcon::Question, "Curs Valutar", {IDYES, IDNO},
+                  IDNO);
 }
 
 // Leaving.

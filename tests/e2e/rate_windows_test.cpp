@@ -4,7 +4,6 @@
 #include <oleacc.h>
 
 #include "e2e/driver/accessible_reader.h"
-#include "e2e/driver/shown_message.h"
 #include "e2e/host_test.h"
 #include "win32/number_format.h"
 
@@ -36,15 +35,6 @@ class RateWindowsTest : public HostTest {
 
     std::vector<std::vector<std::string>> RatesOf(const std::string& day) {
         return host->Rows("SELECT [EUR],[USD] FROM [Curs Valutar] WHERE [Data] = '" + day + "'");
-    }
-
-    static void ExpectMessage(const std::string& prompt, MessageIcon icon, const std::string& title) {
-        const ShownMessage message = ShownMessage::Await();
-        EXPECT_EQ(WithPlainLineBreaks(message.Prompt()), WithPlainLineBreaks(prompt));
-        EXPECT_EQ(message.Title(), title);
-        EXPECT_EQ(message.Icon(), icon);
-        EXPECT_TRUE(message.ComesToFront());
-        message.Press(IDOK);
     }
 
     /// Types a value into the cell that is being edited and goes on to the next.
@@ -99,7 +89,7 @@ TEST_F(RateWindowsTest, AnEmptyCellIsRefused) {
     ASSERT_TRUE(AwaitFocus("txtCursValutar"));
     PressKey(VK_BACK);
     PressKey(VK_RETURN);
-    ExpectMessage("Valoare obligatorie !", MessageIcon::Information, "Curs Valutar - Adaugare");
+    ExpectMessage("Valoare obligatorie !", MessageIcon::Information, "Curs Valutar - Adaugare", {IDOK}, IDOK);
     EXPECT_TRUE(AwaitFocus("txtCursValutar"));
 }
 
@@ -136,9 +126,9 @@ TEST_F(RateWindowsTest, AFrozenDayIsRefused) {
     const Window entry = OpenEntry(FrozenSaturday);
     Click(Action(entry, 0));
     ExpectMessage(
-        "Data documentului introdus nu poate fi mai mica decit data ultimei validari \n"
-        "Data ultimei validari : 31/03/2003\nData document introdus : 29/03/2003\nAlegeti alta data !",
-        MessageIcon::Information, "DATA GRESITA");
+        "Data documentului introdus nu poate fi mai mica decit data ultimei validari \r\n"
+        "Data ultimei validari : 31/03/2003\r\nData document introdus : 29/03/2003\r\nAlegeti alta data !",
+        MessageIcon::Information, "DATA GRESITA", {IDOK}, IDOK);
     EXPECT_TRUE(AwaitFocus("DataCurs"));
     EXPECT_TRUE(RatesOf("2003-03-29").empty());
 }
@@ -146,8 +136,8 @@ TEST_F(RateWindowsTest, AFrozenDayIsRefused) {
 TEST_F(RateWindowsTest, ADayThatExistsIsRefused) {
     const Window entry = OpenEntry({2003, 6, 16, 2});
     Click(Action(entry, 0));
-    ExpectMessage("Exista curs valutar la aceasta data!", MessageIcon::Information,
-                  "Curs Valutar - Adaugare");
+    ExpectMessage("Exista curs valutar la aceasta data!", MessageIcon::Information, "Curs Valutar - Adaugare",
+                  {IDOK}, IDOK);
     EXPECT_TRUE(AwaitFocus("DataCurs"));
 }
 
@@ -186,7 +176,8 @@ TEST_F(RateWindowsTest, ACurrencyThatExistsIsRefused) {
     ASSERT_TRUE(AwaitFocus("txtMoneda"));
     TypeText("EUR");
     Click(Action(window, 0));
-    ExpectMessage("Moneda deja existenta ! Alegeti alta moneda !", MessageIcon::Information, window.Text());
+    ExpectMessage("Moneda deja existenta ! Alegeti alta moneda !", MessageIcon::Information, window.Text(),
+                  {IDOK}, IDOK);
     EXPECT_TRUE(AwaitFocus("txtMoneda"));
     PressKey(VK_ESCAPE);
     ASSERT_TRUE(AwaitClosed("CereMoneda"));

@@ -24,11 +24,6 @@ HICON ShownIcon(HWND message) {
 
 }  // namespace
 
-std::string WithPlainLineBreaks(std::string text) {
-    std::erase(text, '\r');
-    return text;
-}
-
 std::optional<ShownMessage> ShownMessage::Find() {
     for (const Window& window : TopLevelWindows()) {
         const bool isMessage =

@@ -10,9 +10,6 @@
 
 namespace tavrin::e2e {
 
-/// The text without carriage returns: the platform shows the same with and without them.
-std::string WithPlainLineBreaks(std::string text);
-
 enum class MessageIcon { None, Error, Question, Exclamation, Information };
 
 /// A message that the program under test shows and waits for.
