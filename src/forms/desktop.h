@@ -43,6 +43,8 @@ class Desktop {
     virtual std::string FormatNumber(std::string_view number, const NumberFormat& format) const {
         return forms::FormatNumber(number, format);
     }
+    /// The sound of input that nothing takes.
+    virtual void Beep() = 0;
     virtual Dialogs& PlatformDialogs() = 0;
     virtual Files& PlatformFiles() = 0;
     /// The platform's report of an error that a handler did not expect.

@@ -80,6 +80,10 @@ std::string Desktop::FormatNumber(std::string_view number, const forms::NumberFo
     return FormatPlatformNumber(number, format);
 }
 
+void Desktop::Beep() {
+    MessageBeep(MB_OK);
+}
+
 void Desktop::ReportError(std::int32_t number, const std::string& description) noexcept {
     try {
         if (reports_.size() < MaximumReports) reports_.push_back({number, description});

@@ -31,6 +31,7 @@ class Desktop final : public forms::Desktop {
     void SetCursorPosition(forms::PixelPoint position) override;
     const forms::Locale& UserLocale() const override { return locale_; }
     std::string FormatNumber(std::string_view number, const forms::NumberFormat& format) const override;
+    void Beep() override;
     forms::Dialogs& PlatformDialogs() override { return dialogs_; }
     forms::Files& PlatformFiles() override { return files_; }
     void ReportError(std::int32_t number, const std::string& description) noexcept override;

@@ -34,6 +34,7 @@ class HeadlessDesktop : public forms::Desktop {
     forms::PixelPoint CursorPosition() const override { return cursor; }
     void SetCursorPosition(forms::PixelPoint position) override { cursor = position; }
     const forms::Locale& UserLocale() const override { return locale; }
+    void Beep() override { ++beeps; }
     forms::Dialogs& PlatformDialogs() override { return dialogs; }
     forms::Files& PlatformFiles() override { return files; }
     void ReportError(std::int32_t number, const std::string& description) noexcept override;
@@ -49,6 +50,7 @@ class HeadlessDesktop : public forms::Desktop {
     RecordingDialogs dialogs;
     MemoryFiles files;
     std::vector<Report> reports;
+    int beeps = 0;
     /// Before the window of a form is made. May throw, as a platform does that has no more windows to give.
     std::function<void(forms::Form& form)> whenCreating;
     /// What happens while a report is up, as a user or a timer may do things then.
