@@ -26,6 +26,7 @@ void Control::SetBounds(const Rect& bounds) {
 void Control::SetVisible(bool visible) {
     if (visible_ == visible) return;
     visible_ = visible;
+    HandleCaptureLost();
     Notify(Aspect::Visible);
     OwnerForm().LeaveUnfocusable();
 }
@@ -33,6 +34,7 @@ void Control::SetVisible(bool visible) {
 void Control::SetEnabled(bool enabled) {
     if (enabled_ == enabled) return;
     enabled_ = enabled;
+    HandleCaptureLost();
     Notify(Aspect::Enabled);
     OwnerForm().LeaveUnfocusable();
 }
@@ -68,21 +70,39 @@ void Control::SetFocus() {
     if (CanTakeFocus()) OwnerForm().Focus(*this);
 }
 
-void Control::HandleMouseDown(const MouseInput& input) {
+bool Control::AcceptsInput() const {
+    return IsEffectivelyEnabled() && OwnerForm().AcceptsInput();
+}
+
+bool Control::SetFocusByUser() {
+    if (!CanTakeFocus()) return true;
+    const std::size_t messages = OwnerForm().OwnerDesktop().MessageCount();
+    SetFocus();
+    return OwnerForm().ActiveControl() == this && GoesOnSince(messages);
+}
+
+bool Control::GoesOnSince(std::size_t messages) const {
+    return AcceptsInput() && OwnerForm().IsLoaded() && OwnerForm().OwnerDesktop().MessageCount() == messages;
+}
+
+bool Control::HandleMouseDown(const MouseInput& input) {
     const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
-    if (!IsEffectivelyEnabled()) return;
-    if (TakesFocusOnPress()) SetFocus();
+    if (!AcceptsInput()) return false;
+    if (TakesFocusOnPress() && !SetFocusByUser()) return false;
+    const std::size_t messages = OwnerForm().OwnerDesktop().MessageCount();
     if (input.button == MouseButton::Left) {
         pressed_ = true;
         Repaint();
     }
     Raise(onMouseDown, input);
-    if (OwnerForm().IsLoaded()) DefaultMouseDown(input);
+    if (!GoesOnSince(messages)) return false;
+    DefaultMouseDown(input);
+    return GoesOnSince(messages);
 }
 
 void Control::HandleMouseMove(const MouseInput& input) {
     const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
-    if (!IsEffectivelyEnabled()) return;
+    if (!AcceptsInput()) return;
     TrackHot(Rect{0, 0, bounds_.width, bounds_.height}.Contains(input.at));
     Raise(onMouseMove, input);
     if (OwnerForm().IsLoaded()) DefaultMouseMove(input);
@@ -90,7 +110,7 @@ void Control::HandleMouseMove(const MouseInput& input) {
 
 void Control::HandleMouseUp(const MouseInput& input) {
     const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
-    if (!IsEffectivelyEnabled()) return;
+    if (!AcceptsInput()) return;
     Raise(onMouseUp, input);
     if (OwnerForm().IsLoaded()) DefaultMouseUp(input);
 }
@@ -117,12 +137,12 @@ void Control::HandleCaptureLost() {
 
 void Control::HandleDblClick(const MouseInput& input) {
     const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
-    if (IsEffectivelyEnabled() && input.button == MouseButton::Left) Raise(onDblClick);
+    if (AcceptsInput() && input.button == MouseButton::Left) Raise(onDblClick);
 }
 
 void Control::Click() {
     const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
-    if (IsEffectivelyEnabled() && OwnerForm().IsLoaded()) Raise(onClick);
+    if (AcceptsInput() && OwnerForm().IsLoaded()) Raise(onClick);
 }
 
 void Control::TrackHot(bool hot) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
@@ -68,6 +69,7 @@ class Control {
 
     bool IsEffectivelyVisible() const { return visible_ && parent_.IsEffectivelyVisible(); }
     bool IsEffectivelyEnabled() const { return enabled_ && parent_.IsEffectivelyEnabled(); }
+    bool AcceptsInput() const;
 
     // Focus.
     virtual bool IsFocusable() const { return false; }
@@ -80,6 +82,9 @@ class Control {
     /// Makes this the form's active control and its window the active one; nothing happens while the control
     /// cannot take the focus.
     void SetFocus();
+    /// The same for a key or a press of the mouse that goes on to do something with the control. False where
+    /// it must not: the control that was to be left has kept the focus, or a message came in between.
+    bool SetFocusByUser();
 
     // Events.
     std::function<void()> onClick;
@@ -94,8 +99,10 @@ class Control {
     std::function<void(const MouseInput&)> onMouseUp;
     std::function<void()> onMouseLeave;
 
-    // Entry points for input. Keys enter through the form (Form::HandleKeyDown).
-    void HandleMouseDown(const MouseInput& input);
+    // Entry points for input. Keys enter through the form (Form::HandleKeyDown). A control that is disabled,
+    // or whose form takes no input, acts on none.
+    /// False where the press has come to its end already: nothing more happens to it, and no click follows.
+    bool HandleMouseDown(const MouseInput& input);
     void HandleMouseMove(const MouseInput& input);
     void HandleMouseUp(const MouseInput& input);
     void HandleMouseLeave();
@@ -149,6 +156,8 @@ class Control {
     void RaiseGotFocus();
     void RaiseLostFocus();
     void TrackHot(bool hot);
+    /// Whether an action that was under way at that count of messages still is.
+    bool GoesOnSince(std::size_t messages) const;
 
     Container& parent_;
     std::string name_;

@@ -31,6 +31,29 @@ void Desktop::UnloadAll() {
         forms_.back()->Unload();
 }
 
+void Desktop::BeginMessage() {
+    if (messageDepth_ == 0) {
+        // The button that is down will come up over the message.
+        for (Form* form : forms_)
+            form->EndPress();
+        HoldWindows();
+    }
+    ++messageDepth_;
+    ++messageCount_;
+}
+
+void Desktop::EndMessage() noexcept {
+    if (--messageDepth_ > 0) return;
+    ReleaseWindows();
+    ReconcileForms();
+}
+
+void Desktop::ReconcileForms() noexcept {
+    // By number: what the platform tells meanwhile may close a form.
+    for (std::size_t i = 0; i < forms_.size(); ++i)
+        forms_[i]->Reconcile();
+}
+
 void Desktop::ReportCurrentException() noexcept {
     try {
         throw;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -82,11 +83,13 @@ class Desktop {
     };
     bool IsDispatching() const { return dispatchDepth_ > 0; }
 
-    /// While a message of our own is up, the windows beneath it count as neither left nor entered again.
+    /// While a message, a report or a dialog is up, every window of the thread waits for it: ours take no
+    /// input, whatever shows it, and count as neither left nor entered again. Afterwards the platform's
+    /// windows are what the model says, whatever the platform has made of them meanwhile.
     class MessageScope {
       public:
-        explicit MessageScope(Desktop& desktop) : desktop_(desktop) { ++desktop_.messageDepth_; }
-        ~MessageScope() { --desktop_.messageDepth_; }
+        explicit MessageScope(Desktop& desktop) : desktop_(desktop) { desktop_.BeginMessage(); }
+        ~MessageScope() { desktop_.EndMessage(); }
         MessageScope(const MessageScope&) = delete;
         MessageScope& operator=(const MessageScope&) = delete;
 
@@ -94,10 +97,36 @@ class Desktop {
         Desktop& desktop_;
     };
     bool IsShowingMessage() const { return messageDepth_ > 0; }
+    /// How many messages have come up so far. What was under way when one came is over.
+    std::size_t MessageCount() const { return messageCount_; }
+
+    /// While a pop-up of our own is up, the windows beneath it count as neither left nor entered again, but
+    /// take input.
+    class PopupScope {
+      public:
+        explicit PopupScope(Desktop& desktop) : desktop_(desktop) { ++desktop_.popupDepth_; }
+        ~PopupScope() {
+            --desktop_.popupDepth_;
+            desktop_.ReconcileForms();
+        }
+        PopupScope(const PopupScope&) = delete;
+        PopupScope& operator=(const PopupScope&) = delete;
+
+      private:
+        Desktop& desktop_;
+    };
+    /// Whether windows are left and entered only for something of our own that is above them.
+    bool IsCovered() const { return messageDepth_ > 0 || popupDepth_ > 0; }
 
     /// Unloads every form, the last loaded first, and lets go of those whose code is not running. A desktop
     /// calls it at the start of its destructor, while the peers can still reach it.
     void UnloadAll();
+
+  protected:
+    /// Keeps input from all windows of the thread but the one that a message is about to be shown before.
+    virtual void HoldWindows() {}
+    /// Lets input in again where HoldWindows has kept it out.
+    virtual void ReleaseWindows() noexcept {}
 
   private:
     friend class Form;
@@ -105,12 +134,17 @@ class Desktop {
     void Remove(Form& form);
     void ReportCurrentException() noexcept;
     void ReleaseUnloaded() noexcept;
+    void BeginMessage();
+    void EndMessage() noexcept;
+    void ReconcileForms() noexcept;
 
     std::vector<Form*> forms_;
     std::vector<std::shared_ptr<Form>> unloaded_;
     Form* activeForm_ = nullptr;
     int dispatchDepth_ = 0;
     int messageDepth_ = 0;
+    int popupDepth_ = 0;
+    std::size_t messageCount_ = 0;
 };
 
 }  // namespace tavrin::forms

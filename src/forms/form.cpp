@@ -73,13 +73,14 @@ void Form::SetBackColor(Color color) {
 void Form::SetEnabled(bool enabled) {
     if (enabled_ == enabled) return;
     enabled_ = enabled;
+    if (!enabled) EndPress();
     if (peer_) peer_->Changed(FormAspect::Enabled);
 }
 
 // Life.
 
 void Form::Load() {
-    if (loaded_) return;
+    if (loaded_ || isOver_) return;
     loaded_ = true;
     desktop_.Add(*this);
     desktop_.Guard([this] { OnLoad(); });
@@ -92,7 +93,7 @@ void Form::Show() {
     if (!peer_) MakeWindow();
     visible_ = true;
     peer_->Changed(FormAspect::Visible);
-    if (enabled_) peer_->Activate();
+    if (AcceptsInput()) peer_->Activate();
 }
 
 void Form::MakeWindow() {
@@ -110,6 +111,7 @@ void Form::Unload() {
     unloading_ = true;
     desktop_.Guard([this] { OnUnload(); });
     loaded_ = false;
+    isOver_ = true;
     visible_ = false;
     active_ = false;
     activeControl_ = nullptr;
@@ -124,7 +126,19 @@ void Form::KeepOnTop() {
 }
 
 void Form::DragByCaption() {
-    if (peer_) peer_->DragByCaption();
+    if (!peer_) return;
+    EndPress();
+    peer_->DragByCaption();
+    Reconcile();
+}
+
+void Form::Reconcile() noexcept {
+    if (peer_) peer_->Reconcile();
+}
+
+void Form::EndPress() {
+    for (Control* control : AllControls())
+        control->HandleCaptureLost();
 }
 
 void Form::Refresh() {
@@ -134,7 +148,7 @@ void Form::Refresh() {
 // Focus.
 
 void Form::Focus(Control& control) {
-    const bool usable = visible_ && enabled_ && !unloading_;
+    const bool usable = visible_ && AcceptsInput() && !unloading_;
     // Activating first: what the window does then must not take back the focus that is given now.
     if (usable && !active_ && peer_) peer_->Activate();
     MoveFocus(control);
@@ -196,6 +210,7 @@ void Form::LeaveUnfocusable() {
 
 KeyOutcome Form::HandleKeyDown(int keyCode, Modifiers modifiers) {
     const Desktop::DispatchScope scope(desktop_);
+    if (!AcceptsInput()) return KeyOutcome::Done;
     Control* const target = activeControl_;
     if (target != nullptr) target->CompleteInput(keyCode);
     desktop_.Guard([&] { OnKeyDown(keyCode, modifiers); });
@@ -213,6 +228,7 @@ KeyOutcome Form::HandleKeyDown(int keyCode, Modifiers modifiers) {
 
 KeyOutcome Form::HandleKeyPress(char32_t character) {
     const Desktop::DispatchScope scope(desktop_);
+    if (!AcceptsInput()) return KeyOutcome::Done;
     Control* const target = activeControl_;
     if (target == nullptr) return KeyOutcome::Default;
     if (target->onKeyPress) desktop_.Guard([&] { target->onKeyPress(character); });
@@ -222,12 +238,12 @@ KeyOutcome Form::HandleKeyPress(char32_t character) {
 
 bool Form::HandleAccelerator(char32_t letter) {
     const Desktop::DispatchScope scope(desktop_);
+    if (!AcceptsInput()) return false;
     for (Control* control : AllControls()) {
         auto* button = dynamic_cast<CommandButton*>(control);
         if (button == nullptr || button->Accelerator() == 0 || !button->CanTakeFocus()) continue;
         if (!SameLetter(button->Accelerator(), letter)) continue;
-        button->SetFocus();
-        button->Click();
+        if (button->SetFocusByUser()) button->Click();
         return true;
     }
     return false;
@@ -238,7 +254,7 @@ void Form::HandleActivate() {
     if (!loaded_ || unloading_ || active_) return;
     active_ = true;
     desktop_.activeForm_ = this;
-    if (!desktop_.IsShowingMessage()) desktop_.Guard([this] { OnActivate(); });
+    if (!desktop_.IsCovered()) desktop_.Guard([this] { OnActivate(); });
     if (!loaded_ || !active_) return;
     if (activeControl_ == nullptr) {
         FocusFirst();
@@ -253,20 +269,20 @@ void Form::HandleDeactivate() {
     active_ = false;
     if (desktop_.activeForm_ == this) desktop_.activeForm_ = nullptr;
     if (activeControl_ != nullptr) activeControl_->Repaint();
-    if (!unloading_ && !desktop_.IsShowingMessage()) desktop_.Guard([this] { OnDeactivate(); });
+    if (!unloading_ && !desktop_.IsCovered()) desktop_.Guard([this] { OnDeactivate(); });
 }
 
 void Form::HandleFocus(Control& control) {
     const Desktop::DispatchScope scope(desktop_);
-    if (loaded_ && control.CanTakeFocus()) MoveFocus(control);
+    if (loaded_ && AcceptsInput() && control.CanTakeFocus()) MoveFocus(control);
 }
 
 void Form::HandleMouseDown(const MouseInput& input) {
-    desktop_.Guard([&] { OnMouseDown(input); });
+    if (AcceptsInput()) desktop_.Guard([&] { OnMouseDown(input); });
 }
 
 void Form::HandleMouseMove(const MouseInput& input) {
-    desktop_.Guard([&] { OnMouseMove(input); });
+    if (AcceptsInput()) desktop_.Guard([&] { OnMouseMove(input); });
 }
 
 void Form::HandleMoved(Point topLeft) {

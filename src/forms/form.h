@@ -46,10 +46,13 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     /// A disabled window takes no input; its controls keep their own state.
     bool Enabled() const { return enabled_; }
     void SetEnabled(bool enabled);
+    /// Enabled, still there, and not waiting for the answer to a message.
+    bool AcceptsInput() const { return enabled_ && !isOver_ && !desktop_.IsShowingMessage(); }
 
-    // Life.
+    // Life: a form is loaded once. After it has unloaded nothing of it runs any more.
     bool IsLoaded() const { return loaded_; }
     bool IsUnloading() const { return unloading_; }
+    bool IsOver() const { return isOver_; }
     bool IsActive() const { return active_; }
     void Load();
     /// Loads if need be, then shows and activates the window. Modeless, without an owner. A form whose window
@@ -65,6 +68,10 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     void KeepOnTop();
     void DragByCaption();
     void Refresh();
+    /// The platform has had its own way for a while: the window becomes what the form says.
+    void Reconcile() noexcept;
+    /// A button of the mouse that is down over a control clicks nothing when it comes up.
+    void EndPress();
 
     // Focus.
     Control* ActiveControl() const { return activeControl_; }
@@ -136,6 +143,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     bool enabled_ = true;
     bool loaded_ = false;
     bool unloading_ = false;
+    bool isOver_ = false;
     bool active_ = false;
     int nextTabIndex_ = 0;
     Control* activeControl_ = nullptr;
@@ -144,7 +152,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
 
 template <class Handler, class... Arguments>
 void Control::Raise(const Handler& handler, Arguments&&... arguments) {
-    if (!handler) return;
+    if (!handler || OwnerForm().IsOver()) return;
     OwnerForm().OwnerDesktop().Guard([&] { handler(std::forward<Arguments>(arguments)...); });
 }
 

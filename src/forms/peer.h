@@ -35,6 +35,10 @@ class FormPeer {
     virtual ~FormPeer() = default;
     virtual void Changed(FormAspect aspect) = 0;
 
+    /// Takes everything anew from the model that the platform may have changed by itself: what of the form
+    /// and its controls is enabled, in sight and focused.
+    virtual void Reconcile() noexcept = 0;
+
     /// Makes the form's window the active one. The platform answers through Form::HandleActivate.
     virtual void Activate() = 0;
 

@@ -54,7 +54,7 @@ class CalendarPopup final : public Window {
     void Select(data::OleDate date);
     void Choose();
 
-    forms::Desktop::MessageScope scope_;
+    forms::Desktop::PopupScope scope_;
     Calendar calendar_;
     data::OleDate minimum_;
     data::OleDate maximum_;

@@ -288,7 +288,7 @@ void ComboPeer::Choose(int index) {
 LRESULT ComboPeer::OnMouse(const Message& message) {
     const forms::MouseInput input = ToMouseInput(message, PixelScale());
     if (message.id == WM_MOUSEMOVE) control_.HandleMouseMove(input);
-    if (message.id == WM_LBUTTONDOWN) control_.SetFocus();
+    if (message.id == WM_LBUTTONDOWN && !control_.SetFocusByUser()) return 0;
     if (!OwnerForm().IsLoaded()) return 0;
     const LRESULT answer = CallDefault(message);
     InvalidateRect(Handle(), nullptr, FALSE);

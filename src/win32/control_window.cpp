@@ -80,6 +80,13 @@ void ControlWindow::TakeFocus() {
     if (Handle() != nullptr && !HoldsFocus()) SetFocus(Handle());
 }
 
+void ControlWindow::Reconcile() {
+    if (Handle() == nullptr) return;
+    if ((IsWindowEnabled(Handle()) != FALSE) != control_.IsEffectivelyEnabled()) EnableOrDisable();
+    const bool isShown = (GetWindowLongPtrW(Handle(), GWL_STYLE) & WS_VISIBLE) != 0;
+    if (isShown != control_.Visible()) ShowOrHide();
+}
+
 void ControlWindow::Rescale() {
     Place();
 }
@@ -161,7 +168,7 @@ LRESULT ControlWindow::OnMouseWheel(const Message& message) {
     wheelRest_ += GET_WHEEL_DELTA_WPARAM(message.wParam);
     const int notches = wheelRest_ / WHEEL_DELTA;
     wheelRest_ -= notches * WHEEL_DELTA;
-    if (notches != 0 && control_.IsEffectivelyEnabled()) control_.HandleWheel(notches);
+    if (notches != 0 && control_.AcceptsInput()) control_.HandleWheel(notches);
     return 0;
 }
 

@@ -22,6 +22,10 @@ class ControlWindow : public forms::ControlPeer, public Window {
     void Changed(forms::Aspect aspect) override;
     void TakeFocus() override;
 
+    /// The platform has had its own way: what of the control is enabled and in sight becomes what the model
+    /// says.
+    void Reconcile();
+
     /// The form has moved to a screen of another resolution.
     virtual void Rescale();
 

@@ -108,8 +108,16 @@ void Desktop::ShowReports() {
 void Desktop::Show(const Report& report) {
     const MessageScope scope(*this);
     const std::wstring text = TextOf(report.number, report.description);
-    MessageBoxW(GetActiveWindow(), text.c_str(), L"Eroare",
+    MessageBoxW(OwnerOfMessage(*this, GetActiveWindow()), text.c_str(), L"Eroare",
                 MB_OK | MB_ICONERROR | MB_TOPMOST | MB_SETFOREGROUND);
+}
+
+void Desktop::HoldWindows() {
+    heldWindows_.Hold();
+}
+
+void Desktop::ReleaseWindows() noexcept {
+    heldWindows_.Release();
 }
 
 }  // namespace tavrin::win32

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "forms/desktop.h"
+#include "win32/modality.h"
 #include "win32/platform_dialogs.h"
 #include "win32/scale.h"
 #include "win32/whole_files.h"
@@ -43,6 +44,10 @@ class Desktop final : public forms::Desktop {
     /// Between screen pixels and the twips of forms' places.
     Scale ScreenScale() const;
 
+  protected:
+    void HoldWindows() override;
+    void ReleaseWindows() noexcept override;
+
   private:
     struct Report {
         std::int32_t number;
@@ -59,6 +64,7 @@ class Desktop final : public forms::Desktop {
     WholeFiles files_;
     std::shared_ptr<const void> inUse_;
     std::weak_ptr<Toolkit> toolkit_;
+    HeldWindows heldWindows_;
     std::deque<Report> reports_;
     bool isReporting_ = false;
 };

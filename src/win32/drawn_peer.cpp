@@ -100,7 +100,8 @@ LRESULT DrawnPeer::OnMouseButton(const Message& message) {
 
 void DrawnPeer::Press(const forms::MouseInput& input) {
     SetCapture(Handle());
-    control_.HandleMouseDown(input);
+    const bool goesOn = control_.HandleMouseDown(input);
+    if (!goesOn && GetCapture() == Handle()) ReleaseCapture();
 }
 
 void DrawnPeer::Release(const Message& message) {

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "win32/edit_frame.h"
 #include "win32/edit_text.h"
@@ -162,21 +163,30 @@ void EditPeer::ReportSelection() {
 // The mouse: the model hears of it, the field acts on it.
 
 LRESULT EditPeer::OnMouse(const Message& message) {
-    const bool isUp = IsButtonUp(message.id);
-    if (!isUp) TellModelOfMouse(message);
-    if (!OwnerForm().IsLoaded()) return 0;
+    if (IsButtonUp(message.id)) return OnRelease(message);
+    const bool goesOn = TellModelOfMouse(message);
+    if (message.id != WM_MOUSEMOVE) holdsPress_ = goesOn;
+    if (!goesOn) return 0;
     const LRESULT answer = CallDefault(message);
     ReportSelection();
-    if (isUp) TellModelOfMouse(message);
     return answer;
 }
 
-void EditPeer::TellModelOfMouse(const Message& message) {
+LRESULT EditPeer::OnRelease(const Message& message) {
+    // A press that came to nothing, as the field was not to have the focus, opens no menu either.
+    const LRESULT answer = std::exchange(holdsPress_, false) ? CallDefault(message) : 0;
+    ReportSelection();
+    TellModelOfMouse(message);
+    return answer;
+}
+
+bool EditPeer::TellModelOfMouse(const Message& message) {
     const forms::MouseInput input = ToMouseInput(message, PixelScale());
-    if (message.id == WM_MOUSEMOVE) return control_.HandleMouseMove(input);
-    if (IsButtonUp(message.id)) return control_.HandleMouseUp(input);
-    if (IsDoubleClick(message.id)) return control_.HandleDblClick(input);
-    control_.HandleMouseDown(input);
+    if (IsButtonDown(message.id)) return control_.HandleMouseDown(input);
+    if (message.id == WM_MOUSEMOVE) control_.HandleMouseMove(input);
+    if (IsButtonUp(message.id)) control_.HandleMouseUp(input);
+    if (IsDoubleClick(message.id)) control_.HandleDblClick(input);
+    return OwnerForm().AcceptsInput() && OwnerForm().IsLoaded();
 }
 
 // The frame.

@@ -29,6 +29,7 @@ class EditPeer final : public ControlWindow {
     LRESULT OnColors(const Message& message);
     LRESULT OnCommand(const Message& message);
     LRESULT OnMouse(const Message& message);
+    LRESULT OnRelease(const Message& message);
 
     LRESULT PassCharacter(const Message& message);
     void ShowText();
@@ -36,11 +37,13 @@ class EditPeer final : public ControlWindow {
     void ShowFont();
     void ReportSelection();
     EditFrame Frame() const;
-    void TellModelOfMouse(const Message& message);
+    /// False where the platform's field is not to act on it any more.
+    bool TellModelOfMouse(const Message& message);
 
     forms::TextBox& control_;
     /// Set while the model's state is written into the field, whose notifications are no news then.
     bool isShowing_ = false;
+    bool holdsPress_ = false;  ///< a button of the mouse went down here and is the field's to act on
 };
 
 }  // namespace tavrin::win32

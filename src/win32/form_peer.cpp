@@ -41,7 +41,7 @@ FormPeer::FormPeer(Desktop& desktop, forms::Form& form, std::shared_ptr<Toolkit>
     scale_ = Scale(DpiOf(Handle()));
     tips_.emplace(*toolkit_, Handle());
     DarkenTitleBar();
-    EnableWindow(Handle(), form_.Enabled());
+    EnableOrDisable();
     Place();
 }
 
@@ -71,7 +71,7 @@ void FormPeer::Changed(forms::FormAspect aspect) {
         case forms::FormAspect::Visible:
             return ShowOrHide();
         case forms::FormAspect::Enabled:
-            return void(EnableWindow(Handle(), form_.Enabled()));
+            return EnableOrDisable();
         case forms::FormAspect::Caption:
             return void(SetWindowTextW(Handle(), ToWide(form_.Caption()).c_str()));
         case forms::FormAspect::Look:
@@ -82,6 +82,22 @@ void FormPeer::Changed(forms::FormAspect aspect) {
 
 void FormPeer::ShowOrHide() {
     ShowWindow(Handle(), form_.Visible() && !isClosed_ ? SW_SHOWNA : SW_HIDE);
+}
+
+void FormPeer::EnableOrDisable() {
+    EnableWindow(Handle(), form_.AcceptsInput());
+}
+
+void FormPeer::Reconcile() noexcept {
+    desktop_.Guard([this] {
+        if (Handle() == nullptr || isClosed_) return;
+        EnableOrDisable();
+        ShowOrHide();
+        for (forms::Control* control : form_.AllControls()) {
+            if (auto* peer = dynamic_cast<ControlWindow*>(control->Peer())) peer->Reconcile();
+        }
+        if (GetActiveWindow() == Handle()) RestoreFocus();
+    });
 }
 
 void FormPeer::Place() {
@@ -144,6 +160,11 @@ void FormPeer::DarkenTitleBar() const {
     const BOOL dark = TRUE;
     reinterpret_cast<SetAttribute*>(reinterpret_cast<void (*)()>(address))(Handle(), UseImmersiveDarkMode,
                                                                            &dark, sizeof dark);
+}
+
+HWND WindowOf(const forms::Form& form) {
+    const auto* peer = dynamic_cast<const FormPeer*>(form.Peer());
+    return peer != nullptr ? peer->Handle() : nullptr;
 }
 
 // What the platform tells.

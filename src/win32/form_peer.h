@@ -25,6 +25,7 @@ class FormPeer final : public forms::FormPeer, public Window {
     void CreateControls();
 
     void Changed(forms::FormAspect aspect) override;
+    void Reconcile() noexcept override;
     void Activate() override;
     void KeepOnTop() override;
     void DragByCaption() override;
@@ -57,6 +58,7 @@ class FormPeer final : public forms::FormPeer, public Window {
 
     void Place();
     void ShowOrHide();
+    void EnableOrDisable();
     void DarkenTitleBar() const;
 
     Desktop& desktop_;
@@ -67,5 +69,8 @@ class FormPeer final : public forms::FormPeer, public Window {
     bool isPlacing_ = false;
     bool isClosed_ = false;
 };
+
+/// A form's window, null while it has none.
+HWND WindowOf(const forms::Form& form);
 
 }  // namespace tavrin::win32

@@ -8,6 +8,12 @@ bool IsHeld(int key) {
     return GetKeyState(key) < 0;
 }
 
+/// A held Escape is one Escape: what it closes must not take the next window along.
+bool IsRepeatedEscape(const Message& message) {
+    constexpr LPARAM WasDownBefore = LPARAM{1} << 30;
+    return message.wParam == VK_ESCAPE && (message.lParam & WasDownBefore) != 0;
+}
+
 /// These keys alone would open a menu bar, which no form has.
 bool OpensMenu(WPARAM key) {
     return key == VK_MENU || key == VK_F10;
@@ -45,6 +51,7 @@ KeyRoute KeyInput::OnKeyDown(forms::Form& form, const Message& message) {
     if (message.wParam == VK_PROCESSKEY) return KeyRoute::Native;  // an input method's own
     // A handler may show a message, whose loop would bring the character here before the handler has ended.
     dropCharacter_ = true;
+    if (IsRepeatedEscape(message)) return KeyRoute::Dealt;
     const auto outcome = form.HandleKeyDown(static_cast<int>(message.wParam), HeldModifiers());
     dropCharacter_ = outcome == forms::KeyOutcome::Done;
     return dropCharacter_ || OpensMenu(message.wParam) ? KeyRoute::Dealt : KeyRoute::Native;

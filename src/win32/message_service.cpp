@@ -3,6 +3,7 @@
 #include <combaseapi.h>
 #include <oaidl.h>
 
+#include "win32/modality.h"
 #include "win32/text.h"
 
 namespace tavrin::win32 {
@@ -67,7 +68,6 @@ DISPID FirstOperation(IDispatch& object) {
 MessageService::MessageService(forms::Desktop& desktop) : desktop_(desktop), service_(CreateService()) {}
 
 int MessageService::ShowMessage(const std::string& prompt, int icon, int buttons, const std::string& title) {
-    const forms::Desktop::MessageScope scope(desktop_);
     return service_ ? ShowByService(prompt, icon, buttons, title)
                     : ShowByPlatform(prompt, icon, buttons, title);
 }
@@ -86,7 +86,7 @@ int MessageService::ShowByService(const std::string& prompt, int icon, int butto
 
 int MessageService::ShowByPlatform(const std::string& prompt, int icon, int buttons,
                                    const std::string& title) const {
-    const HWND owner = desktop_.ActiveForm() != nullptr ? GetActiveWindow() : nullptr;
+    const HWND owner = OwnerOfMessage(desktop_, GetActiveWindow());
     const UINT style = static_cast<UINT>(icon) | static_cast<UINT>(buttons) | MB_TOPMOST | MB_SETFOREGROUND;
     return MessageBoxW(owner, ToWide(prompt).c_str(), ToWide(title).c_str(), style);
 }

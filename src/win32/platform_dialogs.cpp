@@ -15,6 +15,7 @@
 #include "win32/form_peer.h"
 #include "win32/handles.h"
 #include "win32/library.h"
+#include "win32/modality.h"
 #include "win32/text.h"
 
 namespace tavrin::win32 {
@@ -41,9 +42,8 @@ class CommonDialogs {
     Library library_{L"comdlg32.dll"};
 };
 
-HWND WindowOf(const forms::Form& form) {
-    const auto* peer = dynamic_cast<const FormPeer*>(form.Peer());
-    return peer != nullptr ? peer->Handle() : nullptr;
+HWND OwnerOfDialog(const forms::Form& form) {
+    return OwnerOfMessage(form.OwnerDesktop(), WindowOf(form));
 }
 
 /// "Note|*.rtf" as the platform wants it: each piece ends with a null, and a further one ends them all.
@@ -68,7 +68,7 @@ bool ShowFileDialog(const forms::Form& owner, forms::FileDialogSettings& setting
     file.resize(LongestPath);
     OPENFILENAMEW dialog{};
     dialog.lStructSize = sizeof dialog;
-    dialog.hwndOwner = WindowOf(owner);
+    dialog.hwndOwner = OwnerOfDialog(owner);
     dialog.lpstrFilter = filter.c_str();
     dialog.lpstrFile = file.data();
     dialog.nMaxFile = static_cast<DWORD>(file.size());
@@ -159,7 +159,7 @@ bool PlatformDialogs::ShowFont(const forms::Form& owner, forms::FontDialogSettin
     LOGFONTW log = LogFontOf(settings.font, DpiOf(WindowOf(owner)));
     CHOOSEFONTW dialog{};
     dialog.lStructSize = sizeof dialog;
-    dialog.hwndOwner = WindowOf(owner);
+    dialog.hwndOwner = OwnerOfDialog(owner);
     dialog.lpLogFont = &log;
     dialog.hDC = printer.Get();
     dialog.Flags = FlagsOf(settings);
@@ -175,7 +175,7 @@ bool PlatformDialogs::ShowColor(const forms::Form& owner, forms::Color& color) {
     ownColors.fill(RGB(255, 255, 255));
     CHOOSECOLORW dialog{};
     dialog.lStructSize = sizeof dialog;
-    dialog.hwndOwner = WindowOf(owner);
+    dialog.hwndOwner = OwnerOfDialog(owner);
     dialog.rgbResult = color;
     dialog.lpCustColors = ownColors.data();
     dialog.Flags = CC_RGBINIT;

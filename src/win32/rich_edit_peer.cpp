@@ -1,5 +1,7 @@
 #include "win32/rich_edit_peer.h"
 
+#include <utility>
+
 #include "data/error.h"
 #include "forms/rtf_escape.h"
 #include "win32/edit_frame.h"
@@ -174,21 +176,30 @@ void RichEditPeer::ReportSelection() {
 }
 
 LRESULT RichEditPeer::OnMouse(const Message& message) {
-    const bool isUp = IsButtonUp(message.id);
-    if (!isUp) TellModelOfMouse(message);
-    if (!OwnerForm().IsLoaded()) return 0;
+    if (IsButtonUp(message.id)) return OnRelease(message);
+    const bool goesOn = TellModelOfMouse(message);
+    if (message.id != WM_MOUSEMOVE) holdsPress_ = goesOn;
+    if (!goesOn) return 0;
     const LRESULT answer = CallDefault(message);
-    if (isUp) TellModelOfMouse(message);
     if (message.id != WM_MOUSEMOVE) ReportSelection();
     return answer;
 }
 
-void RichEditPeer::TellModelOfMouse(const Message& message) {
+LRESULT RichEditPeer::OnRelease(const Message& message) {
+    // A press that came to nothing, as the editor was not to have the focus, opens no menu either.
+    const LRESULT answer = std::exchange(holdsPress_, false) ? CallDefault(message) : 0;
+    TellModelOfMouse(message);
+    ReportSelection();
+    return answer;
+}
+
+bool RichEditPeer::TellModelOfMouse(const Message& message) {
     const forms::MouseInput input = ToMouseInput(message, PixelScale());
-    if (message.id == WM_MOUSEMOVE) return control_.HandleMouseMove(input);
-    if (IsButtonUp(message.id)) return control_.HandleMouseUp(input);
-    if (IsDoubleClick(message.id)) return control_.HandleDblClick(input);
-    control_.HandleMouseDown(input);
+    if (IsButtonDown(message.id)) return control_.HandleMouseDown(input);
+    if (message.id == WM_MOUSEMOVE) control_.HandleMouseMove(input);
+    if (IsButtonUp(message.id)) control_.HandleMouseUp(input);
+    if (IsDoubleClick(message.id)) control_.HandleDblClick(input);
+    return OwnerForm().AcceptsInput() && OwnerForm().IsLoaded();
 }
 
 LRESULT RichEditPeer::OnMouseWheel(const Message& message) {

@@ -33,16 +33,19 @@ class RichEditPeer final : public ControlWindow, public forms::RichTextEditor {
     LRESULT OnCalculateClientArea(const Message& message);
     LRESULT OnPaintFrame(const Message& message);
     LRESULT OnMouse(const Message& message);
+    LRESULT OnRelease(const Message& message);
     LRESULT OnMouseWheel(const Message& message);
 
     LRESULT PassCharacter(const Message& message);
-    void TellModelOfMouse(const Message& message);
+    /// False where the platform's field is not to act on it any more.
+    bool TellModelOfMouse(const Message& message);
     void ReportSelection();
     void UseStandardFormat();
     bool WritesEveryLetter() const;
 
     forms::RichTextBox& control_;
     mutable std::optional<bool> writesEveryLetter_;
+    bool holdsPress_ = false;  ///< a button of the mouse went down here and is the editor's to act on
 };
 
 }  // namespace tavrin::win32

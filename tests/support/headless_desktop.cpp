@@ -6,12 +6,24 @@ namespace tavrin::tests {
 
 class HeadlessDesktop::Window : public forms::FormPeer {
   public:
-    Window(HeadlessDesktop& desktop, forms::Form& shown) : form(shown), desktop_(desktop) {
+    Window(HeadlessDesktop& desktop, forms::Form& shown)
+        : form(shown), enabled(shown.AcceptsInput()), desktop_(desktop) {
         desktop_.windows_.push_back(this);
     }
-    ~Window() override { std::erase(desktop_.windows_, this); }
+    ~Window() override {
+        std::erase(desktop_.windows_, this);
+        std::erase(desktop_.held_, this);
+        if (desktop_.owner_ == this) desktop_.owner_ = nullptr;
+    }
 
-    void Changed(forms::FormAspect /*aspect*/) override {}
+    void Changed(forms::FormAspect aspect) override {
+        if (aspect == forms::FormAspect::Enabled) enabled = form.AcceptsInput();
+        if (aspect == forms::FormAspect::Visible) visible = form.Visible();
+    }
+    void Reconcile() noexcept override {
+        enabled = form.AcceptsInput();
+        visible = form.Visible();
+    }
     void Activate() override {
         ++calls.activated;
         desktop_.ActivateByUser(&form);
@@ -22,6 +34,8 @@ class HeadlessDesktop::Window : public forms::FormPeer {
 
     forms::Form& form;
     WindowCalls calls;
+    bool enabled;
+    bool visible = false;
 
   private:
     HeadlessDesktop& desktop_;
@@ -30,6 +44,8 @@ class HeadlessDesktop::Window : public forms::FormPeer {
 HeadlessDesktop::HeadlessDesktop() = default;
 
 HeadlessDesktop::~HeadlessDesktop() {
+    // The windows look for this desktop when they go.
+    const DispatchScope scope(*this);
     UnloadAll();
 }
 
@@ -43,18 +59,53 @@ forms::Size HeadlessDesktop::FrameSize(forms::BorderStyle border) const {
 }
 
 void HeadlessDesktop::ReportError(std::int32_t number, const std::string& description) noexcept {
+    const MessageScope scope(*this);
     reports.push_back({number, description});
     if (whileReporting) whileReporting();
 }
 
-WindowCalls HeadlessDesktop::CallsOf(const forms::Form& form) const {
+void HeadlessDesktop::HoldWindows() {
+    held_.clear();
+    owner_ = nullptr;
+    for (Window* window : windows_) {
+        if (&window->form == ActiveForm()) owner_ = window;
+        if (!messagesAreModal || !window->enabled) continue;
+        window->enabled = false;
+        if (window != owner_) held_.push_back(window);
+    }
+}
+
+void HeadlessDesktop::ReleaseWindows() noexcept {
+    for (Window* window : held_)
+        window->enabled = true;
+    held_.clear();
+    if (owner_ != nullptr) owner_->enabled = true;
+    owner_ = nullptr;
+}
+
+const HeadlessDesktop::Window* HeadlessDesktop::Find(const forms::Form& form) const {
     const auto window =
         std::ranges::find_if(windows_, [&](const Window* each) { return &each->form == &form; });
-    return window != windows_.end() ? (*window)->calls : WindowCalls{};
+    return window != windows_.end() ? *window : nullptr;
+}
+
+WindowCalls HeadlessDesktop::CallsOf(const forms::Form& form) const {
+    const Window* window = Find(form);
+    return window != nullptr ? window->calls : WindowCalls{};
+}
+
+bool HeadlessDesktop::IsWindowEnabled(const forms::Form& form) const {
+    const Window* window = Find(form);
+    return window != nullptr && window->enabled;
+}
+
+bool HeadlessDesktop::IsWindowVisible(const forms::Form& form) const {
+    const Window* window = Find(form);
+    return window != nullptr && window->visible;
 }
 
 void HeadlessDesktop::ActivateByUser(forms::Form* form) {
-    if (form == ActiveForm() || (form != nullptr && !form->Enabled())) return;
+    if (form == ActiveForm() || (form != nullptr && !IsWindowEnabled(*form))) return;
     const auto window =
         std::ranges::find_if(windows_, [&](const Window* each) { return &each->form == form; });
     if (window != windows_.end()) std::rotate(window, window + 1, windows_.end());
@@ -67,7 +118,7 @@ void HeadlessDesktop::Close(Window& window) {
     std::erase(windows_, &window);
     if (!wasTop || ActiveForm() != nullptr) return;
     const auto next = std::ranges::find_if(windows_.rbegin(), windows_.rend(),
-                                           [](const Window* each) { return each->form.Enabled(); });
+                                           [](const Window* each) { return each->enabled; });
     if (next != windows_.rend()) (*next)->form.HandleActivate();
 }
 

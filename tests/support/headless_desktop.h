@@ -20,7 +20,9 @@ struct WindowCalls {
 
 /// A screen of 1280 by 1024 pixels at 96 DPI on which windows are only remembered: which are up, which is
 /// active, what errors were reported. It activates windows as a window manager does: showing one activates
-/// it, closing the active one activates the topmost of the others that is enabled.
+/// it, closing the active one activates the topmost of the others that is enabled. Messages disable the
+/// windows beneath them as the platform's do, and enable the one that they stood before whatever it was
+/// before.
 class HeadlessDesktop : public forms::Desktop {
   public:
     HeadlessDesktop();
@@ -39,6 +41,10 @@ class HeadlessDesktop : public forms::Desktop {
     forms::Files& PlatformFiles() override { return files; }
     void ReportError(std::int32_t number, const std::string& description) noexcept override;
 
+    /// Whether the platform's window of a form takes input and is in sight, as the user finds it.
+    bool IsWindowEnabled(const forms::Form& form) const;
+    bool IsWindowVisible(const forms::Form& form) const;
+
     struct Report {
         std::int32_t number;
         std::string description;
@@ -55,6 +61,8 @@ class HeadlessDesktop : public forms::Desktop {
     std::function<void(forms::Form& form)> whenCreating;
     /// What happens while a report is up, as a user or a timer may do things then.
     std::function<void()> whileReporting;
+    /// Whether what shows messages keeps the user from the other windows by itself.
+    bool messagesAreModal = true;
 
     /// What the window of a form was asked so far; all zero for a form without a window.
     WindowCalls CallsOf(const forms::Form& form) const;
@@ -62,11 +70,18 @@ class HeadlessDesktop : public forms::Desktop {
     /// A user's click on another window, or on the host when `form` is null.
     void ActivateByUser(forms::Form* form);
 
+  protected:
+    void HoldWindows() override;
+    void ReleaseWindows() noexcept override;
+
   private:
     class Window;
     void Close(Window& window);
+    const Window* Find(const forms::Form& form) const;
 
     std::vector<Window*> windows_;  ///< topmost last
+    std::vector<Window*> held_;
+    Window* owner_ = nullptr;  ///< before which the message stands
 };
 
 }  // namespace tavrin::tests

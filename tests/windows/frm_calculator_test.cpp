@@ -336,9 +336,7 @@ TEST_F(FrmCalculatorTest, MayBeUnloadedWhileTheMessageIsUp) {
 
 TEST_F(FrmCalculatorTest, AHostThatClosesEverythingMeanwhileIsHarmless) {
     Open();
-    OpenChooser();
     messages.whileShowing = [this] { desktop.UnloadAll(); };
-    desktop.ActivateByUser(Calculator());
     Calculator()->Number[5].Click();
     Calculator()->Operator[0].Click();
     Calculator()->Number[0].Click();

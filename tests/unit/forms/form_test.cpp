@@ -128,8 +128,31 @@ TEST_F(FormTest, AFormWhoseWindowCannotBeMadeIsUnloaded) {
     EXPECT_THAT(events, ElementsAre("load", "unload"));
     EXPECT_THAT(desktop.Forms(), IsEmpty());
     desktop.whenCreating = nullptr;
+    const auto next = Make();
+    next->Show();
+    EXPECT_TRUE(next->Visible());
+}
+
+TEST_F(FormTest, AFormThatHasUnloadedStaysAway) {
+    const auto form = Make();
     form->Show();
-    EXPECT_TRUE(form->Visible());
+    form->Unload();
+    events.clear();
+    form->Load();
+    form->Show();
+    EXPECT_THAT(events, IsEmpty());
+    EXPECT_FALSE(form->IsLoaded());
+    EXPECT_THAT(desktop.Forms(), IsEmpty());
+}
+
+TEST_F(FormTest, NothingOfAFormThatHasUnloadedRuns) {
+    const auto form = Make();
+    form->Show();
+    form->Unload();
+    int ran = 0;
+    form->first.onChange = [&] { ++ran; };
+    form->first.SetText("x");
+    EXPECT_EQ(ran, 0);
 }
 
 TEST_F(FormTest, AnUnloadedFormLivesUntilItsHandlerHasEnded) {
@@ -261,12 +284,95 @@ TEST_F(FormTest, WindowsUnderAMessageAreNeitherLeftNorEntered) {
     form->Show();
     events.clear();
     {
+        desktop.messagesAreModal = false;
         const forms::Desktop::MessageScope message(desktop);
         desktop.ActivateByUser(nullptr);
         desktop.ActivateByUser(form.get());
     }
     EXPECT_THAT(events, IsEmpty());
     EXPECT_TRUE(form->IsActive());
+}
+
+TEST_F(FormTest, EveryWindowWaitsForAMessage) {
+    const auto other = Make();
+    other->Show();
+    const auto form = Make();
+    form->Show();
+    {
+        const forms::Desktop::MessageScope message(desktop);
+        for (const auto& each : {form, other}) {
+            EXPECT_FALSE(desktop.IsWindowEnabled(*each));
+            EXPECT_TRUE(each->Enabled()) << "the model's own state does not change";
+        }
+        const auto newcomer = Make();
+        newcomer->Show();
+        EXPECT_FALSE(desktop.IsWindowEnabled(*newcomer));
+        EXPECT_FALSE(newcomer->IsActive());
+        newcomer->Unload();
+    }
+    EXPECT_TRUE(desktop.IsWindowEnabled(*form));
+    EXPECT_TRUE(desktop.IsWindowEnabled(*other));
+}
+
+TEST_F(FormTest, NoInputArrivesUnderAMessageThatIsNotModalByItself) {
+    const auto form = Make();
+    form->Show();
+    int clicks = 0;
+    form->button.onClick = [&] { ++clicks; };
+    desktop.messagesAreModal = false;
+    const forms::Desktop::MessageScope message(desktop);
+    EXPECT_TRUE(desktop.IsWindowEnabled(*form));
+    ClickWithMouse(form->button);
+    form->button.Click();
+    keyboard.Press(key::Tab);
+    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(form->ActiveControl(), &form->first);
+}
+
+TEST_F(FormTest, AWindowThatTheModelDisabledIsStillSoAfterAMessage) {
+    const auto form = Make();
+    form->Show();
+    form->SetEnabled(false);
+    desktop.ReportError(13, "Type mismatch");
+    EXPECT_FALSE(desktop.IsWindowEnabled(*form)) << "the platform enables what the message stood before";
+}
+
+TEST_F(FormTest, AMessageEndsAPress) {
+    const auto form = Make();
+    form->Show();
+    int clicks = 0;
+    form->button.onClick = [&] { ++clicks; };
+    form->button.onMouseDown = [&](const forms::MouseInput&) { desktop.ReportError(13, "Type mismatch"); };
+    const forms::MouseInput inside{forms::MouseButton::Left, {15, 15}, {}};
+    EXPECT_FALSE(form->button.HandleMouseDown(inside));
+    EXPECT_FALSE(form->button.Accessible().pressed);
+    form->button.HandleMouseUp(inside);
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(FormTest, AFocusThatIsRefusedEndsThePressAndTheAccelerator) {
+    const auto form = Make();
+    form->Show();
+    int clicks = 0;
+    form->button.SetAccelerator(U'B');
+    form->button.onClick = [&] { ++clicks; };
+    form->first.onLostFocus = [&] { form->first.SetFocus(); };
+    ClickWithMouse(form->button);
+    EXPECT_FALSE(form->button.Accessible().pressed);
+    keyboard.Accelerator(U'b');
+    EXPECT_EQ(clicks, 0);
+    EXPECT_EQ(form->ActiveControl(), &form->first);
+}
+
+TEST_F(FormTest, AMessageInTheControlThatWasLeftEndsThePress) {
+    const auto form = Make();
+    form->Show();
+    int clicks = 0;
+    form->button.onClick = [&] { ++clicks; };
+    form->first.onLostFocus = [&] { desktop.ReportError(13, "Type mismatch"); };
+    ClickWithMouse(form->button);
+    EXPECT_EQ(form->ActiveControl(), &form->button);
+    EXPECT_EQ(clicks, 0) << "its button came up over the message";
 }
 
 TEST_F(FormTest, TabWalksTheControlsInOrderAndAround) {
