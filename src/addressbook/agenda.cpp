@@ -14,6 +14,7 @@ namespace {
 namespace key = forms::key;
 namespace message = shell::message;
 using forms::Icon;
+using Answer = shell::Module::Answer;
 
 constexpr std::uint8_t DarkMode = 1;
 constexpr int FirstRow = 1;
@@ -299,9 +300,7 @@ void Agenda::CancelEdit() {
 }
 
 void Agenda::AskToLeave() {
-    const int answer =
-        module_.ShowMessage(text::LeaveQuestion, message::Question, message::YesNo, text::LeaveTitle);
-    if (answer == message::AnswerYes) Unload();
+    if (module_.Ask(*this, text::LeaveQuestion, text::LeaveTitle) == Answer::Yes) Unload();
 }
 
 void Agenda::AddPerson() {
@@ -326,12 +325,13 @@ void Agenda::DeletePerson() {
     const std::string nume(Trimmed(TextBoxes[NumeBox].Text()));
     const std::string prenume(Trimmed(TextBoxes[PrenumeBox].Text()));
     module_.lastQuestion = text::DeleteQuestion + nume + " " + prenume + text::DeleteQuestionEnd;
-    const int answer =
-        module_.ShowMessage(module_.lastQuestion, message::Question, message::YesNo, Caption());
-    if (answer != message::AnswerYes) {
-        Grid.SetFocus();
-        return;
-    }
+    const int row = Grid.Row();
+    const auto connection = module_.context.connection;
+    const Answer answer = module_.Ask(*this, module_.lastQuestion, Caption());
+    if (answer == Answer::No) Grid.SetFocus();
+    // The person that the question named, in the data that it was about: a host may call while it is up.
+    if (answer != Answer::Yes || Mode != "V" || Grid.Row() != row) return;
+    if (module_.context.connection != connection) return;
     module_.context.Database().Execute(DeleteStatement(nume, prenume));
     if (!RequeryList()) return;
     Grid.SetRow(FirstRow);

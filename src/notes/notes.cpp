@@ -12,9 +12,9 @@ namespace tavrin::notes {
 namespace {
 
 namespace key = forms::key;
-namespace message = shell::message;
 using forms::CharacterFormat;
 using forms::ToolLook;
+using Answer = shell::Module::Answer;
 
 constexpr int NoButton = -1;
 
@@ -192,13 +192,13 @@ void Notes::Perform(int index) {
 }
 
 void Notes::NewOrOpenNote() {
-    const int answer =
-        module_.ShowMessage(text::NewNoteQuestion, message::Question, message::YesNo, Caption());
-    if (!IsLoaded()) return;
-    if (answer == message::AnswerYes) {
-        txtNota.SetText({});
-    } else {
-        Quietly([this] { OpenNote(); });
+    switch (module_.Ask(*this, text::NewNoteQuestion, Caption())) {
+        case Answer::Yes:
+            return txtNota.SetText({});
+        case Answer::No:
+            return Quietly([this] { OpenNote(); });
+        case Answer::Withdrawn:
+            break;
     }
 }
 

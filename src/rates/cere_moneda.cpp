@@ -99,7 +99,7 @@ void CereMoneda::FillCurrencies() {
 }
 
 void CereMoneda::OnUnload() {
-    if (auto* list = module_.Loaded<CursValutar>()) list->SetEnabled(true);
+    if (auto* list = module_.Loaded<CursValutar>()) list->LetIn();
 }
 
 // The actions.

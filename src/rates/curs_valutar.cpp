@@ -18,6 +18,7 @@ namespace {
 namespace key = forms::key;
 namespace layout = shell::layout;
 namespace message = shell::message;
+using Answer = shell::Module::Answer;
 
 constexpr std::string_view PickerFormat = "dd/MMM/yy";
 constexpr int DayColumn = 0;
@@ -118,6 +119,8 @@ void CursValutar::ConnectEvents() {
 void CursValutar::ShowForm() {
     Load();
     Show();
+    // One that was left open when an earlier list went away holds this one.
+    BringHolderForward();
 }
 
 void CursValutar::OnLoad() {
@@ -261,13 +264,32 @@ void CursValutar::SelectDay(const std::string& dayMonthYear) {
 
 // The windows that the list opens. It is disabled while one is up; each enables it again when it closes.
 
+bool CursValutar::IsHeld() const {
+    return module_.Loaded<CursValutarDetaliu>() != nullptr || module_.Loaded<CereMoneda>() != nullptr;
+}
+
+void CursValutar::LetIn() {
+    SetEnabled(!IsHeld());
+}
+
+/// A window that is open already comes forward as it is: what is typed in it stays what it was meant for.
+bool CursValutar::BringHolderForward() {
+    if (!IsHeld()) return false;
+    SetEnabled(false);
+    if (auto* entry = module_.Loaded<CursValutarDetaliu>()) entry->Show();
+    if (auto* currency = module_.Loaded<CereMoneda>()) currency->Show();
+    return true;
+}
+
 void CursValutar::OpenEntry(const std::string& mode) {
+    if (BringHolderForward()) return;
     auto& window = module_.Default<CursValutarDetaliu>();
     SetEnabled(false);
     window.ShowForm(currencyNames_, mode);
 }
 
 void CursValutar::OpenCurrencyWindow(const std::string& mode) {
+    if (BringHolderForward()) return;
     auto& window = module_.Default<CereMoneda>();
     SetEnabled(false);
     window.Mode = mode;
@@ -286,12 +308,11 @@ void CursValutar::DeleteSelectedDay() {
     Grid.SetCol(DayColumn);
     const std::string day = SelectedDayText();
     module_.lastQuestion = "Sunteti sigur ca doriti sa stergeti cursul valutar pentru data de " + day;
-    const int answer =
-        module_.ShowMessage(module_.lastQuestion, message::Question, message::YesNo, Caption());
-    if (answer != message::AnswerYes) {
-        Grid.SetFocus();
-        return;
-    }
+    const auto connection = module_.context.connection;
+    const Answer answer = module_.Ask(*this, module_.lastQuestion, Caption());
+    if (answer == Answer::No) Grid.SetFocus();
+    // The day that the question named, in the data that it was about: a host may call while it is up.
+    if (answer != Answer::Yes || SelectedDayText() != day || module_.context.connection != connection) return;
     store_.DeleteDay(day);
     Filtreaza(true);
 }

@@ -34,6 +34,9 @@ class CursValutar : public forms::Form {
 
     void cmdAction_Click(int index);
 
+    /// Enables the window again, unless another one that was opened from it still holds it.
+    void LetIn();
+
     const CurrencyNames& Currencies() const { return currencyNames_; }
     /// The day of the grid's current row, "dd/mm/yyyy".
     std::string SelectedDayText() const;
@@ -64,6 +67,8 @@ class CursValutar : public forms::Form {
     void SetActionsEnabled(bool enabled);
     void BindGrid(data::TablePtr table);
     bool RefusesFrozenDay();
+    bool IsHeld() const;
+    bool BringHolderForward();
     void OpenEntry(const std::string& mode);
     void OpenCurrencyWindow(const std::string& mode);
     void OpenEvolution();

@@ -141,7 +141,7 @@ void CursValutarDetaliu::FillGrid() {
 void CursValutarDetaliu::OnUnload() {
     auto* list = module_.Loaded<CursValutar>();
     if (list == nullptr) return;
-    list->SetEnabled(true);
+    list->LetIn();
     list->SelectWholeRow();
     list->Grid.SetFocus();
 }

@@ -162,7 +162,7 @@ void EvolutieCurs::SetHeader() {
 
 void EvolutieCurs::OnUnload() {
     // The list went away when this window opened; what is enabled here is the one that opens next.
-    module_.Default<CursValutar>().SetEnabled(true);
+    module_.Default<CursValutar>().LetIn();
 }
 
 // The lists.

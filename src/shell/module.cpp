@@ -27,6 +27,13 @@ int Module::ShowMessage(const std::string& prompt, int icon, int buttons, const 
     return current->ShowMessage(prompt, icon, buttons, title);
 }
 
+Module::Answer Module::Ask(const forms::Form& asking, const std::string& question, const std::string& title) {
+    const bool tookInput = asking.Enabled();
+    const bool yes = ShowMessage(question, message::Question, message::YesNo, title) == message::AnswerYes;
+    if (!asking.IsLoaded() || asking.Enabled() != tookInput) return Answer::Withdrawn;
+    return yes ? Answer::Yes : Answer::No;
+}
+
 void Module::UnloadWindow(std::string_view name) {
     const auto& open = desktop_.Forms();
     const auto found = std::ranges::find(open, name, &forms::Form::Name);

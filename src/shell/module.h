@@ -40,6 +40,11 @@ class Module {
     /// Shows a message through the current service; creates one where no window has done so yet.
     int ShowMessage(const std::string& prompt, int icon, int buttons, const std::string& title);
 
+    /// Asks with the buttons Yes and No. An answer is worth acting upon only where the question still stands:
+    /// the window that asked is there and in the state, enabled or not, in which it asked.
+    enum class Answer { Yes, No, Withdrawn };
+    Answer Ask(const forms::Form& asking, const std::string& question, const std::string& title);
+
     /// The default instance of a window class, created (not yet loaded) on first use. After the window has
     /// unloaded, the next use creates a new one.
     template <class Window>
