@@ -50,7 +50,7 @@ void ComboBox::SetListIndex(int index) {
 }
 
 void ComboBox::HandleChosen(int index) {
-    if (index < 0 || index >= ListCount()) return;
+    if (index < 0 || index >= ListCount() || !AcceptsInput()) return;
     TakeEntry(index);
     Raise(onClick);
 }
@@ -82,6 +82,10 @@ void ComboBox::SetText(std::string text) {
 
 void ComboBox::HandleTyped(std::string text) {
     if (style_ == ComboStyle::DropDownList || text_ == text) return;
+    if (!AcceptsInput()) {
+        Notify(Aspect::Text);
+        return;
+    }
     TakeText(std::move(text));
     selStart_ = CountCharacters(text_);
     Raise(onChange);

@@ -70,6 +70,8 @@ class Control {
     bool IsEffectivelyVisible() const { return visible_ && parent_.IsEffectivelyVisible(); }
     bool IsEffectivelyEnabled() const { return enabled_ && parent_.IsEffectivelyEnabled(); }
     bool AcceptsInput() const;
+    /// The left button went down over the control and has not come up.
+    bool IsPressed() const { return pressed_; }
 
     // Focus.
     virtual bool IsFocusable() const { return false; }
@@ -142,7 +144,6 @@ class Control {
     virtual bool ClicksOnMouseUp() const { return true; }
 
     bool IsHot() const { return hot_; }
-    bool IsPressed() const { return pressed_; }
 
     void Notify(Aspect aspect);
     void Repaint() { Notify(Aspect::Look); }

@@ -35,7 +35,9 @@ class DatePicker : public Control {
     DatePart ActivePart() const;
 
     /// Entry point of the calendar: the user chose a day.
-    void HandleChosen(data::OleDate date) { SetDate(date); }
+    void HandleChosen(data::OleDate date) {
+        if (AcceptsInput()) SetDate(date);
+    }
 
     bool IsFocusable() const override { return true; }
     void HandleWheel(int notches) override;

@@ -57,7 +57,7 @@ void TextBox::HandleSelection(int selStart, int selLength) {
 }
 
 void TextBox::HandleEdited(std::string text, int selStart, int selLength) {
-    if (locked_) {
+    if (locked_ || !AcceptsInput()) {
         Notify(Aspect::Text);
         return;
     }
@@ -68,7 +68,7 @@ void TextBox::HandleEdited(std::string text, int selStart, int selLength) {
 }
 
 void TextBox::ReplaceSelection(const std::string& text) {
-    if (locked_) return;
+    if (locked_ || !OwnerForm().AcceptsInput()) return;
     const std::size_t from = OffsetOfCharacter(text_, selStart_);
     const std::size_t to = OffsetOfCharacter(text_, selStart_ + selLength_);
     std::string edited = text_;

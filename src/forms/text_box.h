@@ -28,7 +28,7 @@ class TextBox : public Control {
     void Select(int start, int length);
     void SelectAll() { Select(0, TextLength()); }
 
-    /// Entry points of the platform's field.
+    /// Entry points of the platform's field. What it brings while no input is taken is taken back in it.
     void HandleEdited(std::string text, int selStart, int selLength);
     void HandleSelection(int selStart, int selLength);
     /// Puts a text in place of the selection, as typing or pasting does; nothing while locked.

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "forms/look.h"
+#include "win32/disagreement.h"
 #include "win32/edit_frame.h"
 #include "win32/edit_text.h"
 #include "win32/mouse_message.h"
@@ -131,6 +132,16 @@ void ComboPeer::ShowText() {
 void ComboPeer::ShowSelection() {
     if (edit_.Handle() != nullptr)
         WriteSelection(edit_.Handle(), {control_.SelStart(), control_.SelLength()});
+}
+
+LRESULT ComboPeer::Disagreement() const {
+    LRESULT differs = ControlWindow::Disagreement();
+    // While the list is open the platform's choice is the user's on the way to one.
+    if (IsOpen()) return differs;
+    if (SelectedIndex() != control_.ListIndex()) differs |= disagreement::Selection;
+    if (edit_.Handle() != nullptr && ReadText(edit_.Handle()) != control_.Text())
+        differs |= disagreement::Text;
+    return differs;
 }
 
 void ComboPeer::ShowFont() {

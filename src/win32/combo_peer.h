@@ -26,6 +26,7 @@ class ComboPeer final : public ControlWindow {
     LRESULT HandleMessage(const Message& message) override;
     LRESULT OnKey(const Message& message) override;
     LRESULT OnSetFocus(const Message& message) override;
+    LRESULT Disagreement() const override;
     void Place() override;
 
   private:

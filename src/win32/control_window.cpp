@@ -2,6 +2,7 @@
 
 #include <oleacc.h>
 
+#include "win32/disagreement.h"
 #include "win32/text.h"
 
 namespace tavrin::win32 {
@@ -82,9 +83,23 @@ void ControlWindow::TakeFocus() {
 
 void ControlWindow::Reconcile() {
     if (Handle() == nullptr) return;
-    if ((IsWindowEnabled(Handle()) != FALSE) != control_.IsEffectivelyEnabled()) EnableOrDisable();
+    const LRESULT differs = Disagreement();
+    if (differs & disagreement::Enabled) EnableOrDisable();
+    if (differs & disagreement::Visible) ShowOrHide();
+}
+
+LRESULT ControlWindow::Disagreement() const {
     const bool isShown = (GetWindowLongPtrW(Handle(), GWL_STYLE) & WS_VISIBLE) != 0;
-    if (isShown != control_.Visible()) ShowOrHide();
+    const bool isEnabled = IsWindowEnabled(Handle()) != FALSE;
+    const bool isActive = GetActiveWindow() == form_.Handle() && OwnerForm().AcceptsInput();
+    LRESULT differs = disagreement::None;
+    if (isEnabled != control_.IsEffectivelyEnabled()) differs |= disagreement::Enabled;
+    if (isShown != control_.Visible()) differs |= disagreement::Visible;
+    if (isActive && HoldsFocus() != control_.HasFocus() &&
+        dynamic_cast<const forms::Container*>(&control_) == nullptr)
+        differs |= disagreement::Focus;
+    if (control_.IsPressed() && GetCapture() != Handle()) differs |= disagreement::Pressed;
+    return differs;
 }
 
 void ControlWindow::Rescale() {
@@ -124,9 +139,12 @@ void ControlWindow::NotifyAssistiveTools() {
 
 LRESULT ControlWindow::HandleMessage(const Message& message) {
     static constexpr Route<ControlWindow> routes[] = {
-        {WM_SETFOCUS, &ControlWindow::OnSetFocus},        {WM_KILLFOCUS, &ControlWindow::OnKillFocus},
-        {WM_GETDLGCODE, &ControlWindow::OnGetDialogCode}, {WM_GETOBJECT, &ControlWindow::OnGetObject},
+        {WM_SETFOCUS, &ControlWindow::OnSetFocus},
+        {WM_KILLFOCUS, &ControlWindow::OnKillFocus},
+        {WM_GETDLGCODE, &ControlWindow::OnGetDialogCode},
+        {WM_GETOBJECT, &ControlWindow::OnGetObject},
         {WM_MOUSEWHEEL, &ControlWindow::OnMouseWheel},
+        {DisagreementQuestion, &ControlWindow::OnDisagreementQuestion},
     };
     if (KeyInput::IsKeyMessage(message.id)) return OnKey(message);
     if (const auto answer = Follow<ControlWindow>(routes, *this, message)) return *answer;

@@ -40,6 +40,8 @@ class ControlWindow : public forms::ControlPeer, public Window {
     virtual LRESULT OnKey(const Message& message);
     virtual LRESULT OnSetFocus(const Message& message);
     virtual LRESULT OnKillFocus(const Message& message);
+    /// The answer to the question of that name.
+    virtual LRESULT Disagreement() const;
 
     /// Puts the window where the control is.
     virtual void Place();
@@ -62,6 +64,7 @@ class ControlWindow : public forms::ControlPeer, public Window {
     LRESULT OnGetDialogCode(const Message& message);
     LRESULT OnGetObject(const Message& message);
     LRESULT OnMouseWheel(const Message& message);
+    LRESULT OnDisagreementQuestion(const Message&) { return Disagreement(); }
 
     void ShowOrHide();
     void EnableOrDisable();

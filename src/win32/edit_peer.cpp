@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "win32/disagreement.h"
 #include "win32/edit_frame.h"
 #include "win32/edit_text.h"
 #include "win32/mouse_message.h"
@@ -81,6 +82,14 @@ void EditPeer::ShowText() {
 void EditPeer::ShowSelection() {
     const TextRange wanted{control_.SelStart(), control_.SelLength()};
     if (ReadSelection(Handle()) != wanted) WriteSelection(Handle(), wanted);
+}
+
+LRESULT EditPeer::Disagreement() const {
+    LRESULT differs = ControlWindow::Disagreement();
+    if (ReadText(Handle()) != control_.Text()) differs |= disagreement::Text;
+    if (ReadSelection(Handle()) != TextRange{control_.SelStart(), control_.SelLength()})
+        differs |= disagreement::Selection;
+    return differs;
 }
 
 void EditPeer::ShowFont() {

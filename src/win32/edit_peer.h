@@ -21,6 +21,7 @@ class EditPeer final : public ControlWindow {
     LRESULT OnKey(const Message& message) override;
     LRESULT OnSetFocus(const Message& message) override;
     LRESULT OnKillFocus(const Message& message) override;
+    LRESULT Disagreement() const override;
 
   private:
     LRESULT OnCalculateClientArea(const Message& message);

@@ -4,6 +4,7 @@
 
 #include "forms/decoration.h"
 #include "win32/control_window.h"
+#include "win32/disagreement.h"
 #include "win32/dpi.h"
 #include "win32/form_style.h"
 #include "win32/monitors.h"
@@ -185,6 +186,7 @@ LRESULT FormPeer::HandleMessage(const Message& message) {
         {WM_RBUTTONDOWN, &FormPeer::OnMouseButton},
         {WM_MBUTTONDOWN, &FormPeer::OnMouseButton},
         {WM_MOUSEMOVE, &FormPeer::OnMouseMove},
+        {DisagreementQuestion, &FormPeer::OnDisagreementQuestion},
     };
     if (isClosed_) return CallDefault(message);
     if (KeyInput::IsKeyMessage(message.id)) return OnKey(message);
@@ -273,6 +275,13 @@ LRESULT FormPeer::OnMouseButton(const Message& message) {
 LRESULT FormPeer::OnMouseMove(const Message& message) {
     form_.HandleMouseMove(ToMouseInput(message, scale_));
     return 0;
+}
+
+LRESULT FormPeer::OnDisagreementQuestion(const Message&) {
+    LRESULT differs = disagreement::None;
+    if ((IsWindowEnabled(Handle()) != FALSE) != form_.AcceptsInput()) differs |= disagreement::Enabled;
+    if ((IsWindowVisible(Handle()) != FALSE) != form_.Visible()) differs |= disagreement::Visible;
+    return differs;
 }
 
 LRESULT FormPeer::OnKey(const Message& message) {

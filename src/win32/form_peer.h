@@ -55,6 +55,7 @@ class FormPeer final : public forms::FormPeer, public Window {
     LRESULT OnMouseButton(const Message& message);
     LRESULT OnMouseMove(const Message& message);
     LRESULT OnKey(const Message& message);
+    LRESULT OnDisagreementQuestion(const Message& message);
 
     void Place();
     void ShowOrHide();

@@ -182,7 +182,8 @@ class NotesTest : public HostTest {
     PlatformDialog Dialog() {
         const PlatformDialog dialog = PlatformDialog::AwaitOf(window);
         EXPECT_TRUE(dialog.IsInFront());
-        EXPECT_FALSE(window.IsEnabled());
+        // The platform shows some dialogs a moment before it disables what they stand before.
+        EXPECT_TRUE(WaitUntil([this] { return !window.IsEnabled(); }));
         return dialog;
     }
 

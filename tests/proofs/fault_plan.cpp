@@ -107,6 +107,7 @@ std::optional<FaultKind> FaultPlan::Meet(Touch touch) {
 std::optional<FaultKind> FaultPlan::MeetStatement(Touch touch, std::string statement) {
     const bool asks = statement.starts_with("SELECT") || statement.starts_with("Select");
     hasWritten = hasWritten || !asks;
+    if (whenStatement) whenStatement(statement);
     statements_.push_back(std::move(statement));
     return Meet(touch);
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -94,6 +95,9 @@ class FaultPlan {
     /// How often a fault has struck since the start.
     std::size_t Struck() const { return struck_; }
     bool IsActive() const { return fault_.has_value(); }
+
+    /// Before a statement goes out. May look, not throw.
+    std::function<void(const std::string&)> whenStatement;
 
     int recordsets = 0;       ///< alive now
     bool hasWritten = false;  ///< a statement that is no query has passed; whoever cares takes it back

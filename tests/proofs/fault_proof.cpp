@@ -1,6 +1,6 @@
 // Runs every user flow with every fault at every place, and prints the figures. Options: --jobs N processes,
-// --no-pairs, --flow NUMBER alone, --from NUMBER --to NUMBER flows from one to before another. The exit code
-// is 0 when nothing failed.
+// --no-interruptions, --flow NUMBER alone, --from NUMBER --to NUMBER flows from one to before another. The
+// exit code is 0 when nothing failed.
 
 #include <algorithm>
 #include <cstdio>
@@ -19,7 +19,7 @@ using tavrin::tests::FaultRunner;
 
 struct Options {
     int jobs = 2;
-    bool pairs = true;
+    bool interruptions = true;
     std::size_t from = 0;
     std::size_t to = AllFlows().size();
 };
@@ -41,7 +41,10 @@ int RunShare(const Options& options, int job, FaultFigures& figures) {
     for (std::size_t flow = options.from + static_cast<std::size_t>(job); flow < options.to;
          flow += static_cast<std::size_t>(options.jobs)) {
         runner.RunEveryFault(flow);
-        if (options.pairs) runner.RunEveryPair(flow);
+        if (options.interruptions) {
+            runner.RunEveryInterruption(flow);
+            runner.RunEveryClosing(flow);
+        }
         figures = runner.Figures();
     }
     running = nullptr;
@@ -58,8 +61,8 @@ int main(int argc, char** argv) {
     Options options;
     for (int i = 1; i < argc; ++i) {
         const std::string_view option = argv[i];
-        if (option == "--no-pairs") {
-            options.pairs = false;
+        if (option == "--no-interruptions") {
+            options.interruptions = false;
         } else if (option == "--jobs" && i + 1 < argc) {
             options.jobs = std::max(1, std::atoi(argv[++i]));
         } else if (option == "--from" && i + 1 < argc) {
@@ -85,8 +88,9 @@ int main(int argc, char** argv) {
     for (const FaultFigures& share : shares.each)
         sum += share;
     const std::size_t flows = options.to - std::min(options.from, options.to);
-    std::printf("faults: %zu flows, %zu touches, %zu runs, %zu injected faults, %zu pairs, %zu failures%s\n",
-                flows, sum.touches, sum.runs, sum.faults, sum.pairs, sum.failures,
-                fine ? "" : " (or a crash)");
+    std::printf(
+        "faults: %zu flows, %zu touches, %zu runs, %zu injected faults, %zu interruptions, %zu failures%s\n",
+        flows, sum.touches, sum.runs, sum.faults, sum.interruptions, sum.failures,
+        fine ? "" : " (or a crash)");
     return fine && sum.failures == 0 ? 0 : 1;
 }

@@ -1,5 +1,6 @@
 #include "proofs/fault_runner.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tavrin::tests {
@@ -19,7 +20,7 @@ FaultFigures& FaultFigures::operator+=(const FaultFigures& other) {
     touches += other.touches;
     runs += other.runs;
     faults += other.faults;
-    pairs += other.pairs;
+    interruptions += other.interruptions;
     failures += other.failures;
     return *this;
 }
@@ -89,14 +90,25 @@ void FaultRunner::RunSomeFaults(std::size_t flow) {
     }
 }
 
-void FaultRunner::RunEveryPair(std::size_t flow) {
+void FaultRunner::RunEveryInterruption(std::size_t flow) {
     const std::vector<Touch> touches = Clean(flow).touches;
     for (std::size_t i = 0; i < touches.size(); ++i) {
         if (!IsStatement(touches[i])) continue;
-        for (const FaultKind first : AllFaultKinds) {
-            for (const FaultKind second : AllFaultKinds)
-                RunPair(flow, {i + 1, first, Repeat::Once}, second);
+        for (const FaultKind kind : AllFaultKinds) {
+            for (const Outside outside : {Outside::LeavesWindows, Outside::ClosesWindows})
+                RunInterruption(flow, {i + 1, kind, Repeat::Once}, outside);
         }
+    }
+}
+
+void FaultRunner::RunEveryClosing(std::size_t flow) {
+    const auto& touches = Clean(flow).touches;
+    const auto moments = static_cast<std::size_t>(std::ranges::count_if(
+        touches, [](Touch touch) { return touch == Touch::Message || touch == Touch::Dialog; }));
+    for (std::size_t moment = 1; moment <= moments; ++moment) {
+        for (const char* window : {"Utilitati", "Notes", "Agenda", "frmCalculator", "AlegeMoneda",
+                                   "CursValutar", "CursValutarDetaliu", "CereMoneda", "EvolutieCurs", ""})
+            RunClosing(flow, moment, window);
     }
 }
 
@@ -117,44 +129,72 @@ void FaultRunner::RunFault(std::size_t flow, const PlannedFault& fault) {
     CheckAfter(flow);
 }
 
-void FaultRunner::RunPair(std::size_t flow, const PlannedFault& first, FaultKind second) {
+void FaultRunner::RunInterruption(std::size_t flow, const PlannedFault& fault, Outside outside) {
     const Flow& run = AllFlows()[flow];
-    current_ = Describe(run, first) + ", then " + NameOf(second) + " while it is reported";
+    current_ = Describe(run, fault) + ", then others while it is reported";
+    if (outside == Outside::ClosesWindows) current_ += ", who close windows";
     Prepare(run);
-    std::size_t struckFirst = 0;
     bool interrupted = false;
     session_.desktop.whileReporting = [&] {
         if (std::exchange(interrupted, true)) return;
-        struckFirst = session_.plan->Struck();
-        session_.plan->Start(PlannedFault{1, second, Repeat::Always});
-        Interrupt();
-        figures_.faults += struckFirst + session_.plan->Struck();
-        if (struckFirst > 0 && session_.plan->Struck() > 0) ++figures_.pairs;
+        figures_.faults += session_.plan->Struck();
         session_.plan->Start();
+        Interrupt(outside);
+        if (!session_.plan->Statements().empty()) Fail("a statement ran under the report");
     };
-    session_.plan->Start(first);
+    session_.plan->Start(fault);
     run.act(session_);
     session_.desktop.whileReporting = nullptr;
     session_.plan->Start();
-    if (struckFirst == 0) return;
+    if (!interrupted) return;
     ++figures_.runs;
+    ++figures_.interruptions;
     CheckAfter(flow);
 }
 
-/// What users and hosts do while a report stands before one window: they use the others.
-void FaultRunner::Interrupt() {
-    const forms::Form* reporting = session_.desktop.ActiveForm();
-    const std::string name = reporting != nullptr ? reporting->Name() : std::string();
-    const auto click = [&](const char* window, const char* control) {
-        if (name != window) session_.Click(window, control);
-    };
+/// What users and hosts do while a report is up. Users can do nothing, however they try; hosts call, and may
+/// close what is open.
+void FaultRunner::Interrupt(Outside outside) {
     session_.Apel();
-    click("Utilitati", "cmdAction(1)");
-    click("Utilitati", "cmdAction(3)");
-    click("CursValutar", "cmdRefresh");
-    click("CursValutar", "cmdAction(0)");
-    click("Agenda", "Grid");
-    session_.Activate(name);
+    for (const bool modal : {true, false}) {
+        session_.desktop.messagesAreModal = modal;
+        session_.Click("Utilitati", "cmdAction(1)");
+        session_.Click("Utilitati", "cmdAction(3)");
+        session_.Click("CursValutar", "cmdRefresh");
+        session_.Click("CursValutar", "cmdAction(0)");
+        session_.Click("Agenda", "Grid");
+    }
+    session_.desktop.messagesAreModal = true;
+    if (outside == Outside::LeavesWindows) return;
+    for (const char* window : {"AlegeMoneda", "CursValutarDetaliu", "CursValutar", "Agenda"}) {
+        if (forms::Form* form = session_.Window(window)) form->HandleClose();
+    }
+}
+
+/// \param window which is closed; empty for a call of the host's
+void FaultRunner::RunClosing(std::size_t flow, std::size_t moment, const std::string& window) {
+    const Flow& run = AllFlows()[flow];
+    current_ = std::string(run.name) + ", at its message or dialog " + std::to_string(moment) +
+               (window.empty() ? ", the host calls" : ", " + window + " is closed");
+    Prepare(run);
+    std::size_t shown = 0;
+    bool happened = false;
+    session_.whileShowing = [&] {
+        if (++shown != moment) return;
+        forms::Form* form = session_.Window(window);
+        happened = window.empty() || form != nullptr;
+        session_.host.connected = !window.empty();
+        if (window.empty()) session_.Apel();
+        if (form != nullptr) form->HandleClose();
+    };
+    session_.plan->Start();
+    run.act(session_);
+    session_.whileShowing = nullptr;
+    session_.plan->Start();
+    if (!happened) return;
+    ++figures_.runs;
+    ++figures_.interruptions;
+    CheckAfter(flow);
 }
 
 void FaultRunner::CheckAfter(std::size_t flow) {

@@ -17,7 +17,8 @@ struct FaultFigures {
         0;  ///< statements and recordset operations of all flows, each run once without a fault
     std::size_t runs = 0;
     std::size_t faults = 0;  ///< that struck; a persistent one strikes many times
-    std::size_t pairs = 0;   ///< runs whose second fault struck while the first was being reported
+    std::size_t interruptions =
+        0;  ///< runs in which something came to pass under a report, message or dialog
     std::size_t failures = 0;
 
     FaultFigures& operator+=(const FaultFigures& other);
@@ -34,9 +35,11 @@ class FaultRunner {
     void RunEveryFault(std::size_t flow);
     /// As above with a few kinds, at statements alone and once.
     void RunSomeFaults(std::size_t flow);
-    /// Every kind at every statement, and while that is being reported every kind in what the user does
-    /// meanwhile.
-    void RunEveryPair(std::size_t flow);
+    /// Every kind at every statement, and while that is being reported what users and hosts may try.
+    void RunEveryInterruption(std::size_t flow);
+    /// At every message and dialog of a flow each window that is open is closed from outside, and the host
+    /// calls with another connection.
+    void RunEveryClosing(std::size_t flow);
 
     const FaultFigures& Figures() const { return figures_; }
     /// What is being run, for whoever has to report a crash.
@@ -55,8 +58,10 @@ class FaultRunner {
     std::vector<std::string> Told() const;
     const Outcome& Clean(std::size_t flow);
     void RunFault(std::size_t flow, const PlannedFault& fault);
-    void RunPair(std::size_t flow, const PlannedFault& first, FaultKind second);
-    void Interrupt();
+    enum class Outside { LeavesWindows, ClosesWindows };
+    void RunInterruption(std::size_t flow, const PlannedFault& fault, Outside outside);
+    void Interrupt(Outside outside);
+    void RunClosing(std::size_t flow, std::size_t moment, const std::string& window);
     void CheckAfter(std::size_t flow);
     void CheckNextFlow(std::size_t flow);
     void Fail(const std::string& what);

@@ -112,7 +112,6 @@ std::string RandomUser::Run(std::span<const RandomEvent> events) {
     next_ = 0;
     nested_ = 0;
     depth_ = 0;
-    blocked_ = nullptr;
     session_.Restart();
     session_.whileShowing = [this] { Nested(); };
     session_.desktop.whileReporting = [this] { Nested(); };
@@ -141,7 +140,7 @@ std::string RandomUser::Step() {
     return session_.Complaint();
 }
 
-/// A message is up: the window beneath it takes no input, the others go on. Then the user comes back.
+/// A message is up, which keeps the user from the windows by itself or does not. Then the user comes back.
 void RandomUser::Nested() {
     constexpr int deepest = 2;
     const unsigned count = std::exchange(nested_, 0);
@@ -149,10 +148,8 @@ void RandomUser::Nested() {
     ++depth_;
     forms::Form* const beneath = session_.desktop.ActiveForm();
     const std::string name = beneath != nullptr ? beneath->Name() : std::string();
-    const forms::Form* const blockedBefore = std::exchange(blocked_, beneath);
     for (unsigned i = 0; i < count && next_ < events_.size(); ++i)
         Do(events_[next_++]);
-    blocked_ = blockedBefore;
     --depth_;
     // Another window of that name may have come in its place.
     if (forms::Form* form = session_.Window(name); form != nullptr && form == beneath)
@@ -162,14 +159,13 @@ void RandomUser::Nested() {
 forms::Form* RandomUser::PickWindow(unsigned number) const {
     const auto& open = session_.desktop.Forms();
     if (open.empty()) return nullptr;
-    forms::Form* form = open[number % open.size()];
-    return form != blocked_ ? form : nullptr;
+    return open[number % open.size()];
 }
 
 forms::Control* RandomUser::PickControl(const RandomEvent& event,
                                         bool (*wanted)(const forms::Control&)) const {
     const forms::Form* form = PickWindow(event.choice);
-    if (form == nullptr || !form->Enabled()) return nullptr;
+    if (form == nullptr || !session_.desktop.IsWindowEnabled(*form)) return nullptr;
     std::vector<forms::Control*> controls = form->AllControls();
     std::erase_if(controls, [](const forms::Control* control) { return !control->IsEffectivelyVisible(); });
     constexpr unsigned anyInEight = 1;
@@ -185,7 +181,7 @@ void RandomUser::Do(const RandomEvent& event) {
     ++figures.events;
     if (verbose) std::fprintf(stderr, "  %s\n", Describe(event).c_str());
     forms::Form* const active = session_.desktop.ActiveForm();
-    const bool typing = active != nullptr && active != blocked_ && active->Enabled();
+    const bool typing = active != nullptr && session_.desktop.IsWindowEnabled(*active);
     switch (event.kind) {
         case EventKind::Key:
             if (typing) DoKey(event);
@@ -213,9 +209,7 @@ void RandomUser::Do(const RandomEvent& event) {
             session_.desktop.ActivateByUser(event.choice % 8 == 0 ? nullptr : PickWindow(event.choice / 8));
             break;
         case EventKind::Close:
-            // A disabled window's close box does nothing.
-            if (forms::Form* form = PickWindow(event.choice); form != nullptr && form->Enabled())
-                form->HandleClose();
+            DoClose(event);
             break;
         case EventKind::Apel:
             DoApel(event);
@@ -234,6 +228,7 @@ void RandomUser::Do(const RandomEvent& event) {
             break;
         case EventKind::Nest:
             nested_ = event.choice % 8;
+            session_.desktop.messagesAreModal = event.detail % 2 == 0;
             break;
         case EventKind::Paint:
             Paint(event);
@@ -243,13 +238,21 @@ void RandomUser::Do(const RandomEvent& event) {
             break;
         case EventKind::Operation:
             if (auto* list = session_.module.Loaded<rates::CursValutar>();
-                list != nullptr && list->Enabled() && list != blocked_) {
+                list != nullptr && list->AcceptsInput()) {
                 session_.desktop.Guard([&] { list->cmdAction_Click(event.choice % 7); });
             }
             break;
         case EventKind::Count:
             break;
     }
+}
+
+/// A disabled window's close box does nothing; other programs may close it all the same.
+void RandomUser::DoClose(const RandomEvent& event) {
+    constexpr unsigned outsideInSixteen = 1;
+    forms::Form* form = PickWindow(event.choice);
+    if (form == nullptr) return;
+    if (session_.desktop.IsWindowEnabled(*form) || event.detail % 16 < outsideInSixteen) form->HandleClose();
 }
 
 void RandomUser::DoKey(const RandomEvent& event) {
@@ -264,9 +267,9 @@ void RandomUser::DoClick(const RandomEvent& event) {
     const forms::Point at = PointIn(*control, event.detail ^ event.choice);
     forms::Form& form = control->OwnerForm();
     session_.desktop.ActivateByUser(&form);
-    if (!form.IsLoaded() || !form.Enabled()) return;
+    if (!form.IsLoaded() || !session_.desktop.IsWindowEnabled(form)) return;
     ClickWithMouse(*control, at);
-    if (event.kind == EventKind::DoubleClick && form.IsLoaded() && form.Enabled())
+    if (event.kind == EventKind::DoubleClick && form.IsLoaded() && session_.desktop.IsWindowEnabled(form))
         control->HandleDblClick({forms::MouseButton::Left, at, {}});
 }
 

@@ -35,6 +35,7 @@ class RandomUser {
   private:
     std::string Step();
     void Do(const RandomEvent& event);
+    void DoClose(const RandomEvent& event);
     void DoKey(const RandomEvent& event);
     void DoMousePart(const RandomEvent& event);
     void DoClick(const RandomEvent& event);
@@ -56,8 +57,6 @@ class RandomUser {
     std::size_t next_ = 0;
     unsigned nested_ = 0;  ///< events that pass while the next message is up
     int depth_ = 0;        ///< messages that are up
-    const forms::Form* blocked_ =
-        nullptr;  ///< the window beneath the message, which takes no input meanwhile
 };
 
 }  // namespace tavrin::tests

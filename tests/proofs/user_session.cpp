@@ -9,8 +9,10 @@
 #include "forms/combo_box.h"
 #include "forms/date_picker.h"
 #include "host/embedded/embedded_connection.h"
+#include "proofs/agreement.h"
 #include "proofs/faulty_connection.h"
 #include "support/fake_rich_text.h"
+#include "support/shadow_peer.h"
 #include "support/window_holders.h"
 
 namespace tavrin::tests {
@@ -47,6 +49,7 @@ UserSession::UserSession()
     connection_ =
         std::make_shared<FaultyConnection>(std::make_shared<host::EmbeddedConnection>(database_), plan);
     caller_ = std::make_shared<Caller>(raised);
+    plan->whenStatement = [this](const std::string& statement) { CheckStatement(statement); };
     transaction_ = std::make_unique<host::EmbeddedDatabase::Transaction>(*database_);
 }
 
@@ -90,7 +93,7 @@ void UserSession::FillDatabase() {
 void UserSession::ConnectPlatform() {
     desktop.whenCreating = [this](const forms::Form& form) {
         plan->Meet(Touch::Window);
-        GiveEditors(form);
+        GivePeers(form);
     };
     desktop.dialogs.whileShowing = [this](const forms::Form&) {
         plan->Meet(Touch::Dialog);
@@ -99,11 +102,20 @@ void UserSession::ConnectPlatform() {
     desktop.files.whenUsed = [this] { plan->Meet(Touch::File); };
 }
 
-void UserSession::GiveEditors(const forms::Form& form) {
+void UserSession::GivePeers(const forms::Form& form) {
     for (forms::Control* control : form.AllControls()) {
-        if (auto* box = dynamic_cast<forms::RichTextBox*>(control))
+        if (auto* box = dynamic_cast<forms::RichTextBox*>(control)) {
             FakeRichText::Give(*box).whenStreaming = [this] { plan->Meet(Touch::Document); };
+        } else {
+            ShadowPeer::Give(*control, focus_);
+        }
     }
+}
+
+void UserSession::CheckStatement(const std::string& statement) {
+    if (!strayStatement_.empty()) return;
+    if (desktop.IsShowingMessage()) strayStatement_ = "under a message ran: " + statement;
+    if (!IsSenderLoaded(desktop, statement)) strayStatement_ = "no window was there that sends: " + statement;
 }
 
 void UserSession::EmptyAgenda() {
@@ -157,7 +169,8 @@ void UserSession::Activate(std::string_view window) {
 void UserSession::Click(std::string_view window, std::string_view control) {
     Activate(window);
     forms::Control* found = Find(window, control);
-    if (found == nullptr || !found->OwnerForm().Enabled() || !found->IsEffectivelyVisible()) return;
+    if (found == nullptr || !desktop.IsWindowEnabled(found->OwnerForm()) || !found->IsEffectivelyVisible())
+        return;
     ClickWithMouse(*found);
 }
 
@@ -214,6 +227,8 @@ void UserSession::Restart() {
     answers.clear();
     hostErrors.clear();
     raised = 0;
+    strayStatement_.clear();
+    desktop.messagesAreModal = true;
     host = {};
 }
 
@@ -233,6 +248,8 @@ std::string UserSession::Complaint() const {
     }
     const forms::Form* active = desktop.ActiveForm();
     if (active != nullptr && std::ranges::find(open, active) == open.end()) return "a ghost is active";
+    if (!strayStatement_.empty()) return strayStatement_;
+    if (std::string difference = Disagreement(desktop, focus_); !difference.empty()) return difference;
     const int needed = Window("Agenda") != nullptr ? 1 : 0;
     if (plan->recordsets > needed) return std::to_string(plan->recordsets) + " recordsets are alive";
     return {};

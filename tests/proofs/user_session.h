@@ -99,13 +99,16 @@ class UserSession {
 
     void FillDatabase();
     void ConnectPlatform();
-    void GiveEditors(const forms::Form& form);
+    void GivePeers(const forms::Form& form);
     int Answer(const std::string& prompt, int buttons);
+    void CheckStatement(const std::string& statement);
 
     std::shared_ptr<host::EmbeddedDatabase> database_;
     std::unique_ptr<host::EmbeddedDatabase::Transaction> transaction_;
     std::shared_ptr<data::Connection> connection_;
     std::shared_ptr<shell::CallingObject> caller_;
+    const forms::Control* focus_ = nullptr;  ///< that has the platform's focus
+    std::string strayStatement_;             ///< the first that nobody may have sent
 };
 
 }  // namespace tavrin::tests

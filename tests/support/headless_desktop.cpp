@@ -23,6 +23,8 @@ class HeadlessDesktop::Window : public forms::FormPeer {
     void Reconcile() noexcept override {
         enabled = form.AcceptsInput();
         visible = form.Visible();
+        const forms::Control* focused = form.ActiveControl();
+        if (form.IsActive() && focused != nullptr && focused->Peer() != nullptr) focused->Peer()->TakeFocus();
     }
     void Activate() override {
         ++calls.activated;

@@ -5,6 +5,7 @@
 #include "forms/combo_box.h"
 #include "forms/text_box.h"
 #include "support/fake_rich_text.h"
+#include "support/shadow_peer.h"
 
 namespace tavrin::tests {
 
@@ -153,7 +154,9 @@ void HeadlessKeyboard::Character(char32_t character) {
     }
     if (auto* combo = dynamic_cast<forms::ComboBox*>(form->ActiveControl())) {
         if (combo->Style() == forms::ComboStyle::DropDown && character >= U' ') {
-            combo->HandleTyped(combo->Text() + Encode(character));
+            const std::string text = combo->Text() + Encode(character);
+            if (auto* shadow = dynamic_cast<ShadowPeer*>(combo->Peer())) shadow->ShowTyped(text);
+            combo->HandleTyped(text);
         }
     }
 }

@@ -22,4 +22,10 @@ constexpr bool MayHold(std::string_view holder, std::string_view held) {
     });
 }
 
+/// Whether the window can never be enabled while such a holder is open. A rate list that was opened under an
+/// evolution is another than the one that opened it, and a calculator under a chooser may be another as well.
+constexpr bool MustHold(std::string_view holder, std::string_view held) {
+    return held == "CursValutar" && MayHold(holder, held) && holder != "EvolutieCurs";
+}
+
 }  // namespace tavrin::tests

@@ -1,9 +1,11 @@
 #include "e2e/proofs/window_watch.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "support/window_holders.h"
+#include "win32/disagreement.h"
 
 namespace tavrin::e2e {
 
@@ -36,6 +38,46 @@ bool IsHeld(const Seen& window, const std::vector<Seen>& all) {
                                [&](const Seen& other) { return tests::MayHold(other.name, window.name); });
 }
 
+std::string WronglyEnabled(const std::vector<Seen>& all) {
+    for (const Seen& held : all) {
+        for (const Seen& holder : all) {
+            if (held.isEnabled && holder.isVisible && tests::MustHold(holder.name, held.name))
+                return held.name + " is enabled under " + holder.name;
+        }
+    }
+    return {};
+}
+
+std::string Describe(LRESULT differs) {
+    constexpr std::pair<LRESULT, const char*> aspects[] = {
+        {win32::disagreement::Enabled, "enabled"}, {win32::disagreement::Visible, "visible"},
+        {win32::disagreement::Focus, "focus"},     {win32::disagreement::Pressed, "pressed"},
+        {win32::disagreement::Text, "text"},       {win32::disagreement::Selection, "selection"}};
+    std::string text;
+    for (const auto& [bit, name] : aspects)
+        if (differs & bit) text += std::string(" ") + name;
+    return text;
+}
+
+/// What a form and its controls show otherwise than they say. On the thread of the windows.
+std::string Disagreement(const Window& form) {
+    std::vector<Window> windows = form.Controls();
+    windows.push_back(form);
+    for (const Window& window : windows) {
+        const LRESULT differs = SendMessageW(window.Handle(), win32::DisagreementQuestion, 0, 0);
+        if (differs != 0) return form.Name() + "." + window.Name() + " differs in" + Describe(differs);
+    }
+    return {};
+}
+
+/// A menu, a drag or an open list: something is on its way.
+bool IsBusy() {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    GetGUIThreadInfo(GetCurrentThreadId(), &info);
+    return info.flags != 0 || info.hwndCapture != nullptr;
+}
+
 }  // namespace
 
 std::string WindowWatch::Complaint() {
@@ -55,7 +97,15 @@ std::string WindowWatch::Complaint() {
         if (!window.isVisible) return window.name + " is open and out of sight";
         if (!window.isEnabled) return window.name + " is disabled and nobody will enable it";
     }
-    return {};
+    if (std::string complaint = WronglyEnabled(seen); !complaint.empty()) return complaint;
+    return host_.Call([] {
+        std::string difference;
+        if (IsBusy()) return difference;
+        for (const Window& form : OpenForms()) {
+            if (difference.empty()) difference = Disagreement(form);
+        }
+        return difference;
+    });
 }
 
 }  // namespace tavrin::e2e
