@@ -6,16 +6,15 @@
 
 namespace {
 
-// NOLINTBEGIN(cppcoreguidelines-avoid-non-const-global-variables): operator new is one for all
 thread_local bool isShort = false;
 thread_local int left = 0;
 thread_local bool wasFelt = false;
-// NOLINTEND(cppcoreguidelines-avoid-non-const-global-variables)
 
 bool IsRefused() {
-    if (!isShort || left-- > 0) return false;
-    left = 0;
-    return wasFelt = true;
+    if (!isShort) return false;
+    if (left > 0) return --left, false;
+    wasFelt = true;
+    return true;
 }
 
 }  // namespace
