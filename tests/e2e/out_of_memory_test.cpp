@@ -6,7 +6,6 @@
 #include <ocidl.h>
 #include <oleacc.h>
 
-#include <array>
 #include <memory>
 
 #include "com/class_factory.h"
@@ -207,10 +206,9 @@ TEST_P(AccessibleOutOfMemoryTest, AControlTellsWhatItIsOrNot) {
             CallInShortage(name, [&] { return control->get_accFocus(&answer); });
             CallInShortage(name, [&] { return control->get_accSelection(&answer); });
             CallInShortage(name, [&] { return control->get_accChildCount(&count); });
-            std::array<LONG, 4> place{};
-            CallInShortage(
-                name, [&] { return control->accLocation(&place[0], &place[1], &place[2], &place[3], self); });
-            CallInShortage(name, [&] { return control->accHitTest(place[0] + 1, place[1] + 1, &answer); });
+            LONG left = 0, top = 0, width = 0, height = 0;
+            CallInShortage(name, [&] { return control->accLocation(&left, &top, &width, &height, self); });
+            CallInShortage(name, [&] { return control->accHitTest(left + 1, top + 1, &answer); });
             CallInShortage(name, [&] { return control->accNavigate(NAVDIR_FIRSTCHILD, self, &answer); });
         }
     });
