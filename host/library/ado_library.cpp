@@ -15,6 +15,7 @@
 #include "host/ado/recordset_object.h"
 #include "host/embedded/demo_data.h"
 #include "host/library/ado_registration.h"
+#include "win32/module_path.h"
 
 namespace tavrin::host {
 namespace {
@@ -33,12 +34,6 @@ std::shared_ptr<EmbeddedDatabase> OpenNamedDatabase(const std::string& connectio
 
 win32::ComPtr<ConnectionObject> MakeConnection() {
     return win32::MakeObject<ConnectionObject>(ConnectionObject::Opener(OpenNamedDatabase));
-}
-
-std::wstring LibraryPath() {
-    std::wstring path(32768, L'\0');
-    path.resize(GetModuleFileNameW(instance, path.data(), static_cast<DWORD>(path.size())));
-    return path;
 }
 
 bool IsUnused() {
@@ -76,7 +71,9 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object) try {
     return E_OUTOFMEMORY;
 }
 
-STDAPI DllRegisterServer() noexcept try { return RegisterAdo(LibraryPath()); } catch (...) {
+STDAPI DllRegisterServer() noexcept try {
+    return RegisterAdo(tavrin::win32::ModulePath(instance));
+} catch (...) {
     return E_OUTOFMEMORY;
 }
 

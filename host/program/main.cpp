@@ -21,6 +21,7 @@
 #include "host/program/tour.h"
 #include "host/program/utilities.h"
 #include "win32/ado/dispatch_object.h"
+#include "win32/module_path.h"
 #include "win32/text.h"
 #include "win32/variant.h"
 
@@ -49,8 +50,7 @@ std::vector<std::string> Arguments() {
 }
 
 std::wstring BesideThisProgram(const wchar_t* name) {
-    std::wstring path(32768, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    const std::wstring path = win32::ModulePath(nullptr);
     return path.substr(0, path.find_last_of(L'\\') + 1) + name;
 }
 

@@ -51,7 +51,7 @@ Person PersonList::Current() {
     Person person;
     for (std::size_t column = 0; column < Columns.size(); ++column) {
         const data::Value value = Rows().Field(Columns[column]);
-        if (value.IsNull()) throw data::Error(data::error_number::InvalidUseOfNull, "Invalid use of Null");
+        if (value.IsNull()) throw data::RuntimeError(data::error_number::InvalidUseOfNull);
         person[column] = value.ToText();
     }
     return person;

@@ -1,7 +1,7 @@
 #include "com/class_factory.h"
 
-#include "com/failure.h"
 #include "com/utile.h"
+#include "win32/translation.h"
 
 namespace tavrin::com {
 
@@ -9,11 +9,7 @@ HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID id, void** object) 
     if (object == nullptr) return E_POINTER;
     *object = nullptr;
     if (outer != nullptr) return CLASS_E_NOAGGREGATION;
-    try {
-        return win32::MakeObject<Utile>(server_)->QueryInterface(id, object);
-    } catch (...) {
-        return CurrentFailure().result;
-    }
+    return win32::Translated([&] { return win32::MakeObject<Utile>(server_)->QueryInterface(id, object); });
 }
 
 HRESULT ClassFactory::LockServer(BOOL lock) noexcept {

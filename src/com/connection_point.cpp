@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "com/enumerator.h"
-#include "com/failure.h"
+#include "win32/translation.h"
 
 namespace tavrin::com {
 namespace {
@@ -42,29 +42,25 @@ HRESULT ConnectionPoint::GetConnectionPointContainer(IConnectionPointContainer**
 HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) noexcept {
     if (cookie != nullptr) *cookie = 0;
     if (cookie == nullptr || sink == nullptr) return E_POINTER;
-    try {
+    return win32::Translated([&] {
         win32::ComPtr<IDispatch> events = EventInterfaceOf(*sink);
         if (!events) return CONNECT_E_CANNOTCONNECT;
         *cookie = events_->Advise(std::move(events));
         return S_OK;
-    } catch (...) {
-        return CurrentFailure().result;
-    }
+    });
 }
 
 HRESULT ConnectionPoint::Unadvise(DWORD cookie) noexcept {
-    return events_->Unadvise(cookie) ? S_OK : CONNECT_E_NOCONNECTION;
+    return win32::Translated([&] { return events_->Unadvise(cookie) ? S_OK : CONNECT_E_NOCONNECTION; });
 }
 
 HRESULT ConnectionPoint::EnumConnections(IEnumConnections** enumerator) noexcept {
     if (enumerator == nullptr) return E_POINTER;
     *enumerator = nullptr;
-    try {
+    return win32::Translated([&] {
         *enumerator = win32::MakeObject<ConnectionEnumerator>(server_, events_->Connections()).Detach();
         return S_OK;
-    } catch (...) {
-        return CurrentFailure().result;
-    }
+    });
 }
 
 }  // namespace tavrin::com

@@ -10,10 +10,10 @@
 #include <new>
 
 #include "com/class_factory.h"
-#include "com/failure.h"
 #include "com/registration.h"
 #include "com/runtime_memory.h"
 #include "com/server.h"
+#include "win32/translation.h"
 
 namespace tavrin::com {
 namespace {
@@ -39,31 +39,30 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void* processEnds
 }
 
 // The platform declares the first two exports, and without noexcept.
-STDAPI DllCanUnloadNow() try { return TheServer().Retire() ? S_OK : S_FALSE; } catch (...) {
-    return S_FALSE;
+STDAPI DllCanUnloadNow() {
+    return tavrin::win32::Translated([] { return TheServer().Retire() ? S_OK : S_FALSE; });
 }
 
-STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object) try {
+STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object) {
     if (object == nullptr) return E_POINTER;
     *object = nullptr;
     if (!IsEqualCLSID(classId, __uuidof(::Utile))) return CLASS_E_CLASSNOTAVAILABLE;
-    return tavrin::win32::MakeObject<ClassFactory>(TheServer())->QueryInterface(id, object);
-} catch (...) {
-    return CurrentFailure().result;
+    return tavrin::win32::Translated(
+        [&] { return tavrin::win32::MakeObject<ClassFactory>(TheServer())->QueryInterface(id, object); });
 }
 
-STDAPI DllRegisterServer() noexcept try { return Register(TheServer(), Scope::Machine); } catch (...) {
-    return CurrentFailure().result;
+STDAPI DllRegisterServer() noexcept {
+    return tavrin::win32::Translated([] { return Register(TheServer(), Scope::Machine); });
 }
 
-STDAPI DllUnregisterServer() noexcept try { return Unregister(TheServer(), Scope::Machine); } catch (...) {
-    return CurrentFailure().result;
+STDAPI DllUnregisterServer() noexcept {
+    return tavrin::win32::Translated([] { return Unregister(TheServer(), Scope::Machine); });
 }
 
-STDAPI DllInstall(BOOL install, LPCWSTR forWhom) noexcept try {
-    Scope scope{};
-    if (const HRESULT named = ScopeOf(forWhom, scope); FAILED(named)) return named;
-    return install != FALSE ? Register(TheServer(), scope) : Unregister(TheServer(), scope);
-} catch (...) {
-    return CurrentFailure().result;
+STDAPI DllInstall(BOOL install, LPCWSTR forWhom) noexcept {
+    return tavrin::win32::Translated([&] {
+        Scope scope{};
+        if (const HRESULT named = ScopeOf(forWhom, scope); FAILED(named)) return named;
+        return install != FALSE ? Register(TheServer(), scope) : Unregister(TheServer(), scope);
+    });
 }

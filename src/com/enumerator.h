@@ -12,6 +12,7 @@
 #include "com/event_source.h"
 #include "com/server.h"
 #include "win32/com_ptr.h"
+#include "win32/translation.h"
 #include "win32/unknown_object.h"
 
 namespace tavrin::com {
@@ -57,12 +58,10 @@ class Enumerator : public win32::UnknownObject<Interface> {
     HRESULT STDMETHODCALLTYPE Clone(Interface** copy) noexcept override {
         if (copy == nullptr) return E_POINTER;
         *copy = nullptr;
-        try {
+        return win32::Translated([&] {
             *copy = win32::MakeObject<Enumerator>(server_, items_, position_).Detach();
             return S_OK;
-        } catch (...) {
-            return E_OUTOFMEMORY;
-        }
+        });
     }
 
   private:

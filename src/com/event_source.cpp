@@ -3,7 +3,6 @@
 #include <oleauto.h>
 
 #include <algorithm>
-#include <exception>
 #include <utility>
 
 namespace tavrin::com {
@@ -38,7 +37,7 @@ void EventSource::RaiseIesire() noexcept try {
     const std::vector<Connection> listeners = connections_;
     for (const Connection& listener : listeners)
         if (IsConnected(listener.cookie)) CallIesire(*listener.sink);
-} catch (const std::exception&) {
+} catch (...) {
     // Without memory for the list nobody can be told.
 }
 

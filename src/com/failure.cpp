@@ -2,9 +2,8 @@
 
 #include <oleauto.h>
 
-#include <new>
+#include <string>
 
-#include "data/error.h"
 #include "win32/com_ptr.h"
 #include "win32/text.h"
 #include "win32/variant.h"
@@ -14,34 +13,9 @@ namespace {
 
 constexpr wchar_t Source[] = L"Tavrin.Utile";
 
-HRESULT ResultOf(std::int32_t number) {
-    if (number < 0) return number;
-    return MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number);
-}
-
-Failure SystemFailure(HRESULT result) {
-    return {result, win32::SystemMessage(result)};
-}
-
 }  // namespace
 
-Failure CurrentFailure() noexcept try {
-    try {
-        throw;
-    } catch (const data::Error& error) {
-        return {ResultOf(error.Number()), error.Description()};
-    } catch (const std::bad_alloc&) {
-        return SystemFailure(E_OUTOFMEMORY);
-    } catch (const std::exception& error) {
-        return {E_FAIL, error.what()};
-    } catch (...) {
-        return SystemFailure(E_UNEXPECTED);
-    }
-} catch (...) {
-    return {E_OUTOFMEMORY, {}};
-}
-
-void SetErrorInfo(const Failure& failure, REFIID interfaceId) noexcept try {
+void SetErrorInfo(const win32::Failure& failure, REFIID interfaceId) noexcept try {
     win32::ComPtr<ICreateErrorInfo> creator;
     if (FAILED(CreateErrorInfo(creator.Receive()))) return;
     std::wstring source = Source;
@@ -50,18 +24,18 @@ void SetErrorInfo(const Failure& failure, REFIID interfaceId) noexcept try {
     creator->SetSource(source.data());
     creator->SetDescription(description.data());
     ::SetErrorInfo(0, creator.As<IErrorInfo>().Get());
-} catch (const std::bad_alloc&) {
+} catch (...) {
     // The result alone must do.
 }
 
-void FillExceptionInfo(const Failure& failure, EXCEPINFO* info) noexcept {
+void FillExceptionInfo(const win32::Failure& failure, EXCEPINFO* info) noexcept {
     if (info == nullptr) return;
     *info = {};
     info->scode = failure.result;
     try {
         info->bstrSource = win32::Bstr(std::wstring_view(Source)).Detach();
         info->bstrDescription = win32::Bstr(std::string_view(failure.description)).Detach();
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
         // The result alone must do.
     }
 }

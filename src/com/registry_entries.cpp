@@ -6,6 +6,7 @@
 #include <array>
 #include <string>
 
+#include "win32/module_path.h"
 #include "win32/text.h"
 
 namespace tavrin::com {
@@ -56,7 +57,7 @@ std::vector<RegistryEntry> ClassEntries(Server& server) {
         {ProgramId, L"", ProgramId},
         {std::wstring(ProgramId) + L"\\CLSID", L"", classId},
         {classKey, L"", ProgramId},
-        {classKey + L"\\InprocServer32", L"", ModulePath(server.Instance())},
+        {classKey + L"\\InprocServer32", L"", win32::ModulePath(server.Instance())},
         {classKey + L"\\InprocServer32", L"ThreadingModel", L"Apartment"},
         {classKey + L"\\ProgID", L"", ProgramId},
         {classKey + L"\\VersionIndependentProgID", L"", ProgramId},
@@ -76,7 +77,7 @@ std::vector<RegistryEntry> InterfaceEntries(Server& server) {
 std::vector<RegistryEntry> TypeLibraryEntries(Server& server) {
     const TLIBATTR types = server.Types().Attributes();
     const std::wstring version = LibraryKey(types) + L"\\" + VersionOf(types);
-    const std::wstring path = ModulePath(server.Instance());
+    const std::wstring path = win32::ModulePath(server.Instance());
     return {
         {LibraryKey(types), L"", L""},     {version, L"", LibraryName},
         {version + L"\\0", L"", L""},      {TypeLibraryFileKey(server), L"", path},

@@ -4,14 +4,9 @@
 
 #include <oaidl.h>
 
-#include <string>
-
 #include "win32/com_ptr.h"
 
 namespace tavrin::com {
-
-/// The file of a module.
-std::wstring ModulePath(HINSTANCE module);
 
 /// The type library inside the component's own file. It is read when it is first needed, registered or not.
 class TypeLibrary {

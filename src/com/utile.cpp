@@ -2,6 +2,7 @@
 
 #include <olectl.h>
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -9,6 +10,7 @@
 #include "com/connection_point.h"
 #include "com/enumerator.h"
 #include "win32/ado/ado_connection.h"
+#include "win32/translation.h"
 
 namespace tavrin::com {
 namespace {
@@ -27,13 +29,16 @@ Utile::Utile(Server& server)
 
 HRESULT Utile::Apel(IDispatch** cnn, DATE argDataProgram, short bExercitiuInCurs, LONG IdsoCN) noexcept {
     if (cnn == nullptr) return E_POINTER;
-    const Failure failure = OpenUtilities({win32::ComPtr<IDispatch>(*cnn), data::OleDate{argDataProgram},
-                                           bExercitiuInCurs, static_cast<std::int32_t>(IdsoCN)});
-    if (FAILED(failure.result)) SetErrorInfo(failure, __uuidof(_Utile));
-    return failure.result;
+    return win32::Translated([&] {
+        const win32::Failure failure =
+            OpenUtilities({win32::ComPtr<IDispatch>(*cnn), data::OleDate{argDataProgram}, bExercitiuInCurs,
+                           static_cast<std::int32_t>(IdsoCN)});
+        if (FAILED(failure.result)) SetErrorInfo(failure, __uuidof(_Utile));
+        return failure.result;
+    });
 }
 
-Failure Utile::OpenUtilities(ApelArguments arguments) noexcept try {
+win32::Failure Utile::OpenUtilities(ApelArguments arguments) noexcept try {
     shell::Module& module = server_.Module();
     const forms::Desktop::DispatchScope scope(module.Desktop());
     shell::HostContext& context = module.context;
@@ -45,7 +50,7 @@ Failure Utile::OpenUtilities(ApelArguments arguments) noexcept try {
     OpenPalette(module);
     return {};
 } catch (...) {
-    return CurrentFailure();
+    return win32::CurrentFailure();
 }
 
 HRESULT Utile::GetTypeInfoCount(UINT* count) noexcept {
@@ -58,15 +63,18 @@ HRESULT Utile::GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept {
     if (info == nullptr) return E_POINTER;
     *info = nullptr;
     if (index != 0) return DISP_E_BADINDEX;
-    return server_.Types().Find(__uuidof(_Utile), info);
+    return win32::Translated([&] { return server_.Types().Find(__uuidof(_Utile), info); });
 }
 
 HRESULT Utile::GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept {
     if (!IsEqualIID(id, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
     if (names == nullptr || ids == nullptr) return E_POINTER;
-    win32::ComPtr<ITypeInfo> info;
-    const HRESULT found = server_.Types().Find(__uuidof(_Utile), info.Receive());
-    return FAILED(found) ? found : DispGetIDsOfNames(info.Get(), names, count, ids);
+    std::fill_n(ids, count, DISPID_UNKNOWN);
+    return win32::Translated([&] {
+        win32::ComPtr<ITypeInfo> info;
+        const HRESULT found = server_.Types().Find(__uuidof(_Utile), info.Receive());
+        return FAILED(found) ? found : DispGetIDsOfNames(info.Get(), names, count, ids);
+    });
 }
 
 HRESULT Utile::Invoke(DISPID member, REFIID id, LCID locale, WORD kind, DISPPARAMS* call, VARIANT* result,
@@ -75,11 +83,7 @@ HRESULT Utile::Invoke(DISPID member, REFIID id, LCID locale, WORD kind, DISPPARA
     if (!IsEqualIID(id, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
     if (member != ApelId || (kind & DISPATCH_METHOD) == 0) return DISP_E_MEMBERNOTFOUND;
     if (call == nullptr) return E_POINTER;
-    try {
-        return InvokeApel(*call, locale, exception, badArgument);
-    } catch (...) {
-        return CurrentFailure().result;
-    }
+    return win32::Translated([&] { return InvokeApel(*call, locale, exception, badArgument); });
 }
 
 HRESULT Utile::InvokeApel(const DISPPARAMS& call, LCID locale, EXCEPINFO* exception, UINT* badArgument) {
@@ -90,7 +94,7 @@ HRESULT Utile::InvokeApel(const DISPPARAMS& call, LCID locale, EXCEPINFO* except
         if (badArgument != nullptr) *badArgument = place;
         return read;
     }
-    const Failure failure = OpenUtilities(std::move(arguments));
+    const win32::Failure failure = OpenUtilities(std::move(arguments));
     if (SUCCEEDED(failure.result)) return S_OK;
     FillExceptionInfo(failure, exception);
     return DISP_E_EXCEPTION;
@@ -99,25 +103,21 @@ HRESULT Utile::InvokeApel(const DISPPARAMS& call, LCID locale, EXCEPINFO* except
 HRESULT Utile::EnumConnectionPoints(IEnumConnectionPoints** enumerator) noexcept {
     if (enumerator == nullptr) return E_POINTER;
     *enumerator = nullptr;
-    try {
+    return win32::Translated([&] {
         std::vector<win32::ComPtr<IConnectionPoint>> points{MakeConnectionPoint()};
         *enumerator = win32::MakeObject<ConnectionPointEnumerator>(server_, std::move(points)).Detach();
         return S_OK;
-    } catch (...) {
-        return CurrentFailure().result;
-    }
+    });
 }
 
 HRESULT Utile::FindConnectionPoint(REFIID id, IConnectionPoint** point) noexcept {
     if (point == nullptr) return E_POINTER;
     *point = nullptr;
     if (!IsEqualIID(id, __uuidof(__Utile))) return CONNECT_E_NOCONNECTION;
-    try {
+    return win32::Translated([&] {
         *point = MakeConnectionPoint().Detach();
         return S_OK;
-    } catch (...) {
-        return CurrentFailure().result;
-    }
+    });
 }
 
 win32::ComPtr<IConnectionPoint> Utile::MakeConnectionPoint() {
@@ -128,7 +128,7 @@ win32::ComPtr<IConnectionPoint> Utile::MakeConnectionPoint() {
 HRESULT Utile::GetClassInfo(ITypeInfo** info) noexcept {
     if (info == nullptr) return E_POINTER;
     *info = nullptr;
-    return server_.Types().Find(__uuidof(::Utile), info);
+    return win32::Translated([&] { return server_.Types().Find(__uuidof(::Utile), info); });
 }
 
 HRESULT Utile::GetGUID(DWORD kind, GUID* id) noexcept {

@@ -46,7 +46,7 @@ class Utile
     HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID id) noexcept override;
 
   private:
-    Failure OpenUtilities(ApelArguments arguments) noexcept;
+    win32::Failure OpenUtilities(ApelArguments arguments) noexcept;
     HRESULT InvokeApel(const DISPPARAMS& call, LCID locale, EXCEPINFO* exception, UINT* badArgument);
     win32::ComPtr<IConnectionPoint> MakeConnectionPoint();
 

@@ -7,13 +7,13 @@
 namespace tavrin::data {
 
 double CheckedResult(double result) {
-    if (!std::isfinite(result)) throw Error(error_number::Overflow, "Overflow");
+    if (!std::isfinite(result)) throw RuntimeError(error_number::Overflow);
     return result;
 }
 
 double CheckedQuotient(double dividend, double divisor) {
-    if (divisor == 0 && dividend != 0) throw Error(error_number::DivisionByZero, "Division by zero");
-    if (divisor == 0) throw Error(error_number::Overflow, "Overflow");
+    if (divisor == 0 && dividend != 0) throw RuntimeError(error_number::DivisionByZero);
+    if (divisor == 0) throw RuntimeError(error_number::Overflow);
     return CheckedResult(dividend / divisor);
 }
 

@@ -7,7 +7,7 @@ namespace tavrin::data {
 Value ExecuteScalar(Connection& connection, std::string_view statement) {
     const std::unique_ptr<Recordset> rows = connection.Execute(statement);
     if (rows == nullptr || !rows->IsOpen() || rows->AtEnd()) {
-        throw Error(error_number::NoCurrentRecord, "The statement answered no row.");
+        throw RuntimeError(error_number::NoCurrentRecord);
     }
     return rows->Field(std::size_t{0});
 }

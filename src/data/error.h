@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace tavrin::data {
 
@@ -20,13 +21,17 @@ class Error : public std::runtime_error {
     std::int32_t number_;
 };
 
-/// Numbers that the windows act upon or raise themselves.
+/// Numbers that the windows act upon or raise themselves; error.cpp has the words for the latter.
 namespace error_number {
 inline constexpr std::int32_t Overflow = 6;
+inline constexpr std::int32_t OutOfMemory = 7;
 inline constexpr std::int32_t DivisionByZero = 11;
 inline constexpr std::int32_t TypeMismatch = 13;
+inline constexpr std::int32_t InternalError = 51;
 inline constexpr std::int32_t ObjectNotSet = 91;
 inline constexpr std::int32_t InvalidUseOfNull = 94;
+inline constexpr std::int32_t InvalidFile = 321;
+inline constexpr std::int32_t MemberNotSupported = 438;
 inline constexpr std::int32_t NoCurrentRecord = 3021;         ///< ADO: BOF or EOF where a row was due
 inline constexpr std::int32_t ItemNotFound = 3265;            ///< ADO: no field of that name or ordinal
 inline constexpr std::int32_t ObjectClosed = 3704;            ///< ADO: the operation needs an open object
@@ -35,9 +40,18 @@ inline constexpr std::int32_t ErrorsInCommand = -2147217900;  ///< 80040E14: the
 inline constexpr std::int32_t IntegrityViolation = -2147217873;  ///< 80040E2F: a constraint refuses the row
 }  // namespace error_number
 
+/// An error of the component's own, in its users' language. The description ends with the detail, a name in
+/// most cases, where there is one.
+Error RuntimeError(std::int32_t number, std::string_view detail = {});
+
 /// What the use of an object raises that there is none of.
 inline Error ObjectNotSet() {
-    return {error_number::ObjectNotSet, "Object variable or With block variable not set"};
+    return RuntimeError(error_number::ObjectNotSet);
 }
+
+/// What users are told of the exception that is being handled: an Error as it is, everything else as an error
+/// of the component's own, for what other exceptions say is meant for programmers. Call it in a catch block
+/// only.
+Error CurrentError();
 
 }  // namespace tavrin::data

@@ -14,13 +14,13 @@ namespace tavrin::data {
 namespace {
 
 [[noreturn]] void ThrowTypeMismatch() {
-    throw Error(error_number::TypeMismatch, "Type mismatch");
+    throw RuntimeError(error_number::TypeMismatch);
 }
 [[noreturn]] void ThrowOverflow() {
-    throw Error(error_number::Overflow, "Overflow");
+    throw RuntimeError(error_number::Overflow);
 }
 [[noreturn]] void ThrowInvalidUseOfNull() {
-    throw Error(error_number::InvalidUseOfNull, "Invalid use of Null");
+    throw RuntimeError(error_number::InvalidUseOfNull);
 }
 
 std::string_view Trimmed(std::string_view text) {

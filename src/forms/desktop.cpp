@@ -1,17 +1,11 @@
 #include "forms/desktop.h"
 
 #include <algorithm>
-#include <new>
 
 #include "data/error.h"
 #include "forms/form.h"
 
 namespace tavrin::forms {
-
-namespace {
-constexpr std::int32_t OutOfMemory = 7;
-constexpr std::int32_t InternalError = 51;
-}  // namespace
 
 Desktop::~Desktop() = default;
 
@@ -54,18 +48,11 @@ void Desktop::ReconcileForms() noexcept {
         forms_[i]->Reconcile();
 }
 
-void Desktop::ReportCurrentException() noexcept {
-    try {
-        throw;
-    } catch (const data::Error& error) {
-        ReportError(error.Number(), error.Description());
-    } catch (const std::bad_alloc&) {
-        ReportError(OutOfMemory, "Out of memory");
-    } catch (const std::exception& error) {
-        ReportError(InternalError, error.what());
-    } catch (...) {
-        ReportError(InternalError, "Internal error");
-    }
+void Desktop::ReportCurrentException() noexcept try {
+    const data::Error error = data::CurrentError();
+    ReportError(error.Number(), error.Description());
+} catch (...) {
+    ReportError(data::error_number::OutOfMemory, {});  // no memory for the words either
 }
 
 void Desktop::ReleaseUnloaded() noexcept {

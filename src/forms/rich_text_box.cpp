@@ -16,7 +16,7 @@ RichTextEditor* RichTextBox::FindEditor() const {
 
 RichTextEditor& RichTextBox::Editor() const {
     RichTextEditor* const editor = FindEditor();
-    if (editor == nullptr) throw data::Error(data::error_number::ObjectNotSet, Name() + " is not shown");
+    if (editor == nullptr) throw data::ObjectNotSet();
     return *editor;
 }
 

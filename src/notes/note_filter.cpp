@@ -13,8 +13,6 @@ namespace tavrin::notes {
 
 namespace {
 
-constexpr std::int32_t InvalidFile = 321;
-
 // Longer ones occur in no document; readers keep words and numbers in fields of fixed length.
 constexpr std::size_t LongestWord = 32;
 constexpr std::size_t LongestNumber = 10;
@@ -25,7 +23,7 @@ constexpr std::string_view HexDigits = "0123456789abcdef";
 constexpr std::string_view Special("{}\\\0", 4);
 
 [[noreturn]] void Refuse() {
-    throw data::Error(InvalidFile, "Invalid file format");
+    throw data::RuntimeError(data::error_number::InvalidFile);
 }
 
 /// A backslash, letters, perhaps a number, and the one blank that ends them.

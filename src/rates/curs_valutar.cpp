@@ -236,7 +236,7 @@ std::string CursValutar::SelectedDayText() const {
 
 bool CursValutar::RefusesFrozenDay() {
     const auto day = data::ParseDayMonthYear(SelectedDayText());
-    if (!day) throw data::Error(data::error_number::TypeMismatch, "Type mismatch");
+    if (!day) throw data::RuntimeError(data::error_number::TypeMismatch);
     if (!IsRateValidated(*day)) return false;
     // A frozen day can be neither changed nor deleted; one text serves for both.
     module_.ShowMessage("Acest curs a fost validat !\r\nNu puteti modifica un curs deja validat !",

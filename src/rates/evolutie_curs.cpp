@@ -224,7 +224,7 @@ int EvolutieCurs::CountChartRows() {
     if (!choice.month) return MonthsInYear;
     const std::int64_t days =
         data::ExecuteScalar(module_.context.Database(), CountDaysStatement(choice)).ToInteger();
-    if (days > MostChartRows) throw data::Error(data::error_number::Overflow, "Overflow");
+    if (days > MostChartRows) throw data::RuntimeError(data::error_number::Overflow);
     return static_cast<int>(std::max<std::int64_t>(0, days));
 }
 

@@ -34,10 +34,7 @@ data::TablePtr RateStore::Read(std::string_view query, std::size_t fields) const
     rows->Close();
     // A provider may count rows that it then does not give.
     if (table == nullptr || table->RowCount() == 0) return nullptr;
-    if (table->FieldCount() < fields) {
-        throw data::Error(data::error_number::ItemNotFound,
-                          "The answer has fewer fields than were asked for.");
-    }
+    if (table->FieldCount() < fields) throw data::RuntimeError(data::error_number::ItemNotFound);
     return table;
 }
 

@@ -2,12 +2,15 @@
 
 #include <objbase.h>
 
+#include <utility>
+
 #include "forms/command_button.h"
 #include "forms/form.h"
 #include "forms/text_box.h"
 #include "win32/accessible_state.h"
 #include "win32/form_peer.h"
 #include "win32/text.h"
+#include "win32/translation.h"
 #include "win32/variant.h"
 
 namespace tavrin::win32 {
@@ -69,13 +72,7 @@ template <class Body>
 HRESULT AccessibleControl::Answer(Body&& body) const noexcept {
     if (control_ == nullptr) return CO_E_OBJNOTCONNECTED;
     const forms::Desktop::DispatchScope scope(control_->OwnerForm().OwnerDesktop());
-    try {
-        return body();
-    } catch (const std::bad_alloc&) {
-        return E_OUTOFMEMORY;
-    } catch (...) {
-        return E_FAIL;
-    }
+    return Translated(std::forward<Body>(body));
 }
 
 HRESULT AccessibleControl::AnswerText(VARIANT child, BSTR* text,
@@ -104,7 +101,7 @@ LONG AccessibleControl::SelectedChild() const {
 
 ComPtr<IAccessible> AccessibleControl::Standard() const {
     ComPtr<IAccessible> standard;
-    CreateStdAccessibleObject(window_, OBJID_CLIENT, IID_IAccessible, standard.ReceiveVoid());
+    CreateStdAccessibleObject(window_, OBJID_CLIENT, __uuidof(IAccessible), standard.ReceiveVoid());
     return standard;
 }
 

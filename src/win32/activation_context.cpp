@@ -1,5 +1,9 @@
 #include "win32/activation_context.h"
 
+#include <string>
+
+#include "win32/module_path.h"
+
 namespace tavrin::win32 {
 
 namespace {
@@ -8,13 +12,11 @@ namespace {
 constexpr int ManifestResource = 2;
 
 HANDLE Create(HINSTANCE module) {
-    wchar_t path[MAX_PATH];
-    const DWORD length = GetModuleFileNameW(module, path, MAX_PATH);
-    if (length == 0 || length == MAX_PATH) return INVALID_HANDLE_VALUE;
+    const std::wstring path = ModulePath(module);
     ACTCTXW settings{};
     settings.cbSize = sizeof settings;
     settings.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
-    settings.lpSource = path;
+    settings.lpSource = path.c_str();
     settings.lpResourceName = MAKEINTRESOURCEW(ManifestResource);
     settings.hModule = module;
     return CreateActCtxW(&settings);

@@ -7,7 +7,7 @@
 
 #include "data/date.h"
 #include "forms/color.h"
-#include "win32/handles.h"
+#include "win32/library.h"
 
 namespace tavrin::win32 {
 
@@ -59,10 +59,8 @@ data::CalendarDay Walk(data::CalendarDay day, WPARAM key) {
 /// The system's theme would paint over the dark colours.
 void RemoveTheme(HWND window) {
     using SetTheme = HRESULT WINAPI(HWND, const wchar_t*, const wchar_t*);
-    const HMODULE library = GetModuleHandleW(L"uxtheme.dll");
-    if (library == nullptr) return;
-    if (const FARPROC address = GetProcAddress(library, "SetWindowTheme"))
-        reinterpret_cast<SetTheme*>(reinterpret_cast<void (*)()>(address))(window, L" ", L" ");
+    const Library library(L"uxtheme.dll");
+    if (auto* set = library.FindOptional<SetTheme>("SetWindowTheme")) set(window, L" ", L" ");
 }
 
 void Darken(HWND calendar) {

@@ -179,7 +179,7 @@ LRESULT ControlWindow::OnGetDialogCode(const Message&) {
 LRESULT ControlWindow::OnGetObject(const Message& message) {
     if (static_cast<LONG>(message.lParam) != OBJID_CLIENT) return CallDefault(message);
     if (!accessible_) accessible_ = MakeObject<AccessibleControl>(control_, Handle(), form_);
-    return LresultFromObject(IID_IAccessible, message.wParam, accessible_.Get());
+    return LresultFromObject(__uuidof(IAccessible), message.wParam, accessible_.Get());
 }
 
 LRESULT ControlWindow::OnMouseWheel(const Message& message) {

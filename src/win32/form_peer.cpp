@@ -7,6 +7,7 @@
 #include "win32/disagreement.h"
 #include "win32/dpi.h"
 #include "win32/form_style.h"
+#include "win32/library.h"
 #include "win32/monitors.h"
 #include "win32/mouse_message.h"
 #include "win32/peer_factory.h"
@@ -154,13 +155,10 @@ void FormPeer::RestoreFocus() {
 void FormPeer::DarkenTitleBar() const {
     using SetAttribute = HRESULT WINAPI(HWND, DWORD, const void*, DWORD);
     constexpr DWORD UseImmersiveDarkMode = 20;
-    const OwnedModule library(LoadLibraryW(L"dwmapi.dll"));
-    if (library == nullptr) return;
-    const FARPROC address = GetProcAddress(library.get(), "DwmSetWindowAttribute");
-    if (address == nullptr) return;
+    const Library library(L"dwmapi.dll");
     const BOOL dark = TRUE;
-    reinterpret_cast<SetAttribute*>(reinterpret_cast<void (*)()>(address))(Handle(), UseImmersiveDarkMode,
-                                                                           &dark, sizeof dark);
+    if (auto* set = library.FindOptional<SetAttribute>("DwmSetWindowAttribute"))
+        set(Handle(), UseImmersiveDarkMode, &dark, sizeof dark);
 }
 
 HWND WindowOf(const forms::Form& form) {

@@ -35,7 +35,7 @@ class CommonDialogs {
         if (library_.Find<Function>(name)(&settings)) return true;
         const DWORD failure = library_.Find<decltype(CommDlgExtendedError)>("CommDlgExtendedError")();
         if (failure == 0) return false;  // cancelled
-        throw data::Error(static_cast<std::int32_t>(failure), std::string(name) + " failed");
+        throw data::RuntimeError(data::error_number::InternalError, name + (" 0x" + HexText(failure)));
     }
 
   private:

@@ -5,6 +5,7 @@
 #include "data/error.h"
 #include "forms/rtf_escape.h"
 #include "win32/edit_frame.h"
+#include "win32/library.h"
 #include "win32/mouse_message.h"
 #include "win32/rich_edit_format.h"
 #include "win32/rich_edit_stream.h"
@@ -15,7 +16,6 @@ namespace tavrin::win32 {
 
 namespace {
 
-constexpr wchar_t LibraryName[] = L"msftedit.dll";
 constexpr wchar_t ClassName[] = L"RICHEDIT50W";
 
 constexpr WPARAM UndoLimit = 10000;
@@ -25,9 +25,7 @@ constexpr LPARAM TextLimit = 0x7FFFFFFE;
 constexpr DWORD Style = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | ES_NOHIDESEL | WS_VSCROLL;
 
 const wchar_t* LoadedClass() {
-    HMODULE library = nullptr;
-    if (LoadLibraryW(LibraryName) == nullptr) ThrowLastError();
-    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN, LibraryName, &library);
+    Library(L"msftedit.dll").Keep();
     return ClassName;
 }
 
@@ -109,7 +107,7 @@ void RichEditPeer::Load(std::string_view rtf) {
     const std::string before = Save();
     if (StreamRtfIn(Handle(), rtf)) return;
     StreamRtfIn(Handle(), before);
-    throw data::Error(E_FAIL, "The note could not be read");
+    throw data::RuntimeError(data::error_number::InvalidFile);
 }
 
 std::string RichEditPeer::Save() const {

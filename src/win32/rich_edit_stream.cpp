@@ -4,9 +4,9 @@
 
 #include <algorithm>
 #include <cstring>
-#include <new>
 
-#include "data/error.h"
+#include "win32/system_error.h"
+#include "win32/translation.h"
 
 namespace tavrin::win32 {
 
@@ -24,14 +24,15 @@ DWORD CALLBACK Give(DWORD_PTR cookie, LPBYTE buffer, LONG size, LONG* given) noe
     return 0;
 }
 
-DWORD CALLBACK Take(DWORD_PTR cookie, LPBYTE buffer, LONG size, LONG* taken) noexcept try {
-    auto& document = *reinterpret_cast<std::string*>(cookie);
-    document.append(reinterpret_cast<const char*>(buffer), static_cast<std::size_t>(size));
-    *taken = size;
-    return 0;
-} catch (const std::bad_alloc&) {
+DWORD CALLBACK Take(DWORD_PTR cookie, LPBYTE buffer, LONG size, LONG* taken) noexcept {
     *taken = 0;
-    return static_cast<DWORD>(E_OUTOFMEMORY);
+    const HRESULT result = Translated([&] {
+        auto& document = *reinterpret_cast<std::string*>(cookie);
+        document.append(reinterpret_cast<const char*>(buffer), static_cast<std::size_t>(size));
+        *taken = size;
+        return S_OK;
+    });
+    return static_cast<DWORD>(result);
 }
 
 bool StreamIn(HWND edit, UINT format, std::string_view bytes) {
@@ -56,8 +57,7 @@ std::string StreamRtfOut(HWND edit, RtfEncoding encoding) {
     EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&document), 0, Take};
     const UINT format = encoding == RtfEncoding::Utf8 ? SF_RTF | WriteUtf8 : UINT{SF_RTF};
     SendMessageW(edit, EM_STREAMOUT, format, reinterpret_cast<LPARAM>(&stream));
-    if (stream.dwError != 0)
-        throw data::Error(static_cast<std::int32_t>(stream.dwError), "The note could not be written");
+    if (stream.dwError != 0) ThrowSystemError(static_cast<HRESULT>(stream.dwError));
     // Some versions end the document as they end a text in memory.
     while (document.ends_with('\0'))
         document.pop_back();

@@ -39,7 +39,7 @@ std::string SystemMessage(HRESULT result) {
     while (length > 0 && buffer[length - 1] <= L' ')
         --length;
     if (length > 0) return ToUtf8({buffer.data(), length});
-    return "Error 0x" + HexText(static_cast<std::uint32_t>(result));
+    return "Eroarea 0x" + HexText(static_cast<std::uint32_t>(result));
 }
 
 }  // namespace tavrin::win32

@@ -16,7 +16,7 @@ std::string ToUtf8(std::wstring_view text);
 /// A result or error code the way the platform writes it: eight hexadecimal digits, capital letters.
 std::string HexText(std::uint32_t number);
 
-/// The system's own description of an error, without its line break; "Error 0x..." where it has none.
+/// The system's own description of an error, without its line break; "Eroarea 0x..." where it has none.
 std::string SystemMessage(HRESULT result);
 
 }  // namespace tavrin::win32

@@ -11,8 +11,8 @@ namespace {
 
 [[noreturn]] void ThrowConversion(HRESULT result) {
     if (result == E_OUTOFMEMORY) throw std::bad_alloc();
-    if (result == DISP_E_OVERFLOW) throw data::Error(data::error_number::Overflow, SystemMessage(result));
-    throw data::Error(data::error_number::TypeMismatch, SystemMessage(result));
+    if (result == DISP_E_OVERFLOW) throw data::RuntimeError(data::error_number::Overflow);
+    throw data::RuntimeError(data::error_number::TypeMismatch);
 }
 
 /// MinGW declares sources that are only read without const.

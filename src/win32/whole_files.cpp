@@ -7,7 +7,6 @@
 #include <string>
 #include <utility>
 
-#include "data/error.h"
 #include "win32/system_error.h"
 #include "win32/text.h"
 
@@ -60,7 +59,7 @@ class FileBeside {
             DWORD written = 0;
             if (!WriteFile(file_.get(), content.data(), piece, &written, nullptr)) ThrowLastError();
             // A full disk may take less without calling it an error.
-            if (written == 0) throw data::Error(HRESULT_FROM_WIN32(ERROR_DISK_FULL), "Disk full");
+            if (written == 0) ThrowSystemError(HRESULT_FROM_WIN32(ERROR_DISK_FULL));
             content.remove_prefix(written);
         }
         if (!FlushFileBuffers(file_.get())) ThrowLastError();
@@ -88,7 +87,7 @@ std::string WholeFiles::Read(const std::string& name, std::size_t maximumSize) {
     LARGE_INTEGER size{};
     if (!GetFileSizeEx(file.get(), &size)) ThrowLastError();
     if (static_cast<ULONGLONG>(size.QuadPart) > maximumSize)
-        throw data::Error(HRESULT_FROM_WIN32(ERROR_FILE_TOO_LARGE), "File too large");
+        ThrowSystemError(HRESULT_FROM_WIN32(ERROR_FILE_TOO_LARGE));
     std::string content(static_cast<std::size_t>(size.QuadPart), '\0');
     DWORD read = 0;
     if (!ReadFile(file.get(), content.data(), static_cast<DWORD>(content.size()), &read, nullptr))
@@ -99,8 +98,7 @@ std::string WholeFiles::Read(const std::string& name, std::size_t maximumSize) {
 
 void WholeFiles::Replace(const std::string& name, std::string_view content) {
     const std::wstring target = ToWide(name);
-    if (IsReadOnly(target))
-        throw data::Error(HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED), "The file is read-only");
+    if (IsReadOnly(target)) ThrowSystemError(HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED));
     FileBeside file(target);
     file.Write(content);
     file.TakePlace();

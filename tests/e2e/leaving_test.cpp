@@ -4,27 +4,19 @@
 
 #include <gmock/gmock.h>
 
-#include <array>
-
 #include "e2e/driver/component.h"
 #include "e2e/driver/process.h"
+#include "win32/module_path.h"
 #include "win32/text.h"
 
 namespace tavrin::e2e {
 namespace {
 
-class LeavingTest : public testing::TestWithParam<const char*> {
-  protected:
-    static std::wstring ThisProgram() {
-        std::array<wchar_t, 1024> path{};
-        GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-        return path.data();
-    }
-};
+class LeavingTest : public testing::TestWithParam<const char*> {};
 
 TEST_P(LeavingTest, TheProcessEndsWithoutACrash) {
-    const ProcessResult result = RunProcess(L"\"" + ThisProgram() + L"\" --dll \"" + Component::Path() +
-                                            L"\" --leave " + win32::ToWide(GetParam()));
+    const ProcessResult result = RunProcess(L"\"" + win32::ModulePath(nullptr) + L"\" --dll \"" +
+                                            Component::Path() + L"\" --leave " + win32::ToWide(GetParam()));
     EXPECT_EQ(result.exitCode, 0U) << result.output;
     EXPECT_THAT(result.output, testing::IsEmpty());
 }

@@ -28,7 +28,7 @@ ErrorText TextOf(FaultKind kind) {
         case FaultKind::Disconnected:
             return {-2147417848, "The object invoked has disconnected from its clients."};
         default:
-            return {data::error_number::TypeMismatch, "The provider gave no rows of the expected shape"};
+            return {data::error_number::TypeMismatch, "Tip de data nepotrivit"};
     }
 }
 

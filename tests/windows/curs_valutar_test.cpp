@@ -543,7 +543,7 @@ TEST_F(CursValutarTest, WithoutAConnectionTheWindowOpensAndSaysSo) {
     const CursValutar& list = OpenList();
     ASSERT_EQ(desktop.reports.size(), 1U);
     EXPECT_EQ(desktop.reports[0].number, 91);
-    EXPECT_EQ(desktop.reports[0].description, "Object variable or With block variable not set");
+    EXPECT_EQ(desktop.reports[0].description, "Lipseste conexiunea la baza de date sau obiectul necesar");
     EXPECT_TRUE(list.Visible());
     EXPECT_FALSE(list.fraGrid.Visible());
 }

@@ -39,9 +39,7 @@ bool SameName(std::string_view one, std::string_view other) {
 }
 
 [[noreturn]] void ThrowNoSuchField() {
-    throw data::Error(
-        data::error_number::ItemNotFound,
-        "Item cannot be found in the collection corresponding to the requested name or ordinal.");
+    throw data::RuntimeError(data::error_number::ItemNotFound);
 }
 
 }  // namespace
@@ -171,10 +169,7 @@ const AdoRecordset::FieldEntry& AdoRecordset::FieldAt(std::size_t field) const {
 
 /// \throws data::Error 3704 where a statement gave no recordset at all.
 const DispatchObject& AdoRecordset::OpenRecordset() const {
-    if (!recordset_) {
-        throw data::Error(data::error_number::ObjectClosed,
-                          "Operation is not allowed when the object is closed.");
-    }
+    if (!recordset_) throw data::RuntimeError(data::error_number::ObjectClosed);
     return recordset_;
 }
 

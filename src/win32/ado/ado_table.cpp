@@ -26,14 +26,12 @@ std::size_t Extent(SAFEARRAY* array, UINT dimension) {
 RowBlock::RowBlock(Variant array, std::size_t fieldCount)
     : array_(std::move(array)), fieldCount_(fieldCount) {
     SAFEARRAY* const content = array_.Type() == (VT_ARRAY | VT_VARIANT) ? array_.Get().parray : nullptr;
-    if (content == nullptr || SafeArrayGetDim(content) != 2 || Extent(content, 1) != fieldCount) {
-        throw data::Error(data::error_number::TypeMismatch,
-                          "The provider gave no rows of the expected shape");
-    }
+    if (content == nullptr || SafeArrayGetDim(content) != 2 || Extent(content, 1) != fieldCount)
+        throw data::RuntimeError(data::error_number::TypeMismatch);
     rowCount_ = Extent(content, 2);
     void* cells = nullptr;
     if (FAILED(SafeArrayAccessData(content, &cells)))
-        throw data::Error(data::error_number::TypeMismatch, "The provider's rows are not accessible");
+        throw data::RuntimeError(data::error_number::TypeMismatch);
     cells_ = static_cast<const VARIANT*>(cells);
 }
 

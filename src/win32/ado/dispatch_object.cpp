@@ -5,8 +5,6 @@
 namespace tavrin::win32 {
 namespace {
 
-constexpr std::int32_t MemberNotSupported = 438;
-
 /// What an object says about its failure. Owns the texts inside.
 class ExceptionInfo {
   public:
@@ -45,8 +43,7 @@ class ExceptionInfo {
 };
 
 [[noreturn]] void ThrowUnsupported(std::wstring_view member) {
-    throw data::Error(MemberNotSupported,
-                      "Object doesn't support this property or method: '" + ToUtf8(member) + "'");
+    throw data::RuntimeError(data::error_number::MemberNotSupported, ToUtf8(member));
 }
 
 }  // namespace

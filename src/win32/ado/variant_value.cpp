@@ -26,8 +26,7 @@ data::Value FromUnsigned(std::uint64_t number) {
 
 data::Value FromDecimal(DECIMAL decimal) {
     double number = 0;
-    if (FAILED(VarR8FromDec(&decimal, &number)))
-        throw data::Error(data::error_number::Overflow, SystemMessage(DISP_E_OVERFLOW));
+    if (FAILED(VarR8FromDec(&decimal, &number))) throw data::RuntimeError(data::error_number::Overflow);
     return data::Value(number);
 }
 
@@ -78,7 +77,7 @@ data::Value ToValue(const VARIANT& variant) {
             break;
     }
     if ((variant.vt & VT_BYREF) != 0) return ToValue(Variant::Copy(variant).Get());
-    throw data::Error(data::error_number::TypeMismatch, SystemMessage(DISP_E_TYPEMISMATCH));
+    throw data::RuntimeError(data::error_number::TypeMismatch);
 }
 
 }  // namespace tavrin::win32

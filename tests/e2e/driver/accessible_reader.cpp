@@ -56,7 +56,7 @@ AccessibleFacts ReadFacts(IAccessible& object, int part) {
 ComPtr<IAccessible> OpenAccessible(const Window& control) {
     ComPtr<IAccessible> object;
     const HRESULT result = AccessibleObjectFromWindow(control.Handle(), static_cast<DWORD>(OBJID_CLIENT),
-                                                      IID_IAccessible, object.ReceiveVoid());
+                                                      __uuidof(IAccessible), object.ReceiveVoid());
     if (FAILED(result) || !object) throw DriverError(control.Name() + " is not accessible");
     return object;
 }

@@ -4,6 +4,8 @@
 
 #include <array>
 
+#include "win32/module_path.h"
+
 namespace tavrin::e2e {
 
 std::wstring FullPath(const std::wstring& path) {
@@ -14,9 +16,7 @@ std::wstring FullPath(const std::wstring& path) {
 }
 
 std::wstring BesideThisProgram(const wchar_t* relative) {
-    std::array<wchar_t, 1024> program{};
-    GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()));
-    return FullPath(std::wstring(program.data()) + L"\\..\\" + relative);
+    return FullPath(win32::ModulePath(nullptr) + L"\\..\\" + relative);
 }
 
 }  // namespace tavrin::e2e

@@ -35,19 +35,19 @@ constexpr auto KnownPrompts = std::to_array<std::string_view>({
     "Data documentului introdus nu poate fi mai mica",
     "Nu puteti sterge toate monedele !",
     "Impartire la 0 !!",
-    "String or binary data would be truncated.",       // a currency's name is too long
-    "Incorrect syntax near ",                          // a currency's name ends its quotation
-    "Unclosed quotation mark ",                        // the same
-    "The embedded database does not understand ",      // the same, in words that a server might take
-    "Eroare 6\n",                                      // a result is too large for a number
-    "Eroare 11\n",                                     // a rate is 0, which may be entered
-    "Eroare 91\n",                                     // a host without a connection
-    "Object variable or With block variable not set",  // the same while a currency is added
-    "Eroare 13\n",                                     // a day is to be changed where the list has none
-    "Eroare 94\n",                                     // a person that another user has entered lacks a text
-    "Eroare -2147217833 (80040E57)\n",                 // a person's text is too long
-    "Eroare -2147217873 (80040E2F)\n",                 // a person is entered who is there already
-    "Eroare -2147217900 (80040E14)\n",                 // the database refuses a name that was typed
+    "String or binary data would be truncated.",   // a currency's name is too long
+    "Incorrect syntax near ",                      // a currency's name ends its quotation
+    "Unclosed quotation mark ",                    // the same
+    "The embedded database does not understand ",  // the same, in words that a server might take
+    "Eroare 6\n",                                  // a result is too large for a number
+    "Eroare 11\n",                                 // a rate is 0, which may be entered
+    "Eroare 91\n",                                 // a host without a connection
+    "Lipseste conexiunea la baza de date ",        // the same while a currency is added
+    "Eroare 13\n",                                 // a day is to be changed where the list has none
+    "Eroare 94\n",                                 // a person that another user has entered lacks a text
+    "Eroare -2147217833 (80040E57)\n",             // a person's text is too long
+    "Eroare -2147217873 (80040E2F)\n",             // a person is entered who is there already
+    "Eroare -2147217900 (80040E14)\n",             // the database refuses a name that was typed
 });
 
 std::vector<Window> Modals() {

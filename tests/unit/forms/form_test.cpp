@@ -544,7 +544,7 @@ TEST_F(FormTest, AnErrorEndsItsHandlerAndIsReportedOnce) {
 TEST_F(FormTest, AnErrorInANestedHandlerLeavesTheOuterOneRunning) {
     const auto form = Make();
     form->Show();
-    form->second.onGotFocus = [] { throw data::Error(13, "Type mismatch"); };
+    form->second.onGotFocus = [] { throw data::RuntimeError(data::error_number::TypeMismatch); };
     bool finished = false;
     form->button.onClick = [&] {
         form->second.SetFocus();
@@ -557,7 +557,7 @@ TEST_F(FormTest, AnErrorInANestedHandlerLeavesTheOuterOneRunning) {
 
 TEST_F(FormTest, AnErrorWhileLoadingStillShowsTheWindow) {
     const auto form = Make();
-    form->whenLoading = [] { throw data::Error(91, "Object variable or With block variable not set"); };
+    form->whenLoading = [] { throw data::ObjectNotSet(); };
     form->Show();
     EXPECT_TRUE(form->Visible());
     EXPECT_EQ(desktop.reports.size(), 1U);
@@ -572,9 +572,9 @@ TEST_F(FormTest, ForeignExceptionsAreReportedToo) {
     form->button.Click();
     form->button.onClick = [] { throw 5; };
     form->button.Click();
-    EXPECT_THAT(desktop.reports,
-                ElementsAre(HeadlessDesktop::Report{51, "odd"}, HeadlessDesktop::Report{7, "Out of memory"},
-                            HeadlessDesktop::Report{51, "Internal error"}));
+    EXPECT_THAT(desktop.reports, ElementsAre(HeadlessDesktop::Report{51, "Eroare interna"},
+                                             HeadlessDesktop::Report{7, "Memorie insuficienta"},
+                                             HeadlessDesktop::Report{51, "Eroare interna"}));
 }
 
 TEST_F(FormTest, AWindowMayBeClosedWhileItsErrorIsReported) {
