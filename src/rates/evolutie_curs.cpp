@@ -139,6 +139,7 @@ void EvolutieCurs::ConnectEvents() {
 // Life.
 
 void EvolutieCurs::OnLoad() {
+    module_.CreateMessageService();
     cmdAction[Close].SetPicture(lstImages_.Picture(1));
     cmdAction[Redraw].SetPicture(lstImages_.Picture(2));
     CenterOnScreen();
