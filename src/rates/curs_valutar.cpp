@@ -151,6 +151,7 @@ bool CursValutar::Filtreaza(bool /*refresh*/) {
     CurrencyNames currencies = store_.DiscoverCurrencies();
     std::string query = ListBaseQuery(currencies);
     data::TablePtr table = store_.Read(query + " " + dateFilter_ + " " + orderClause_);
+    mark_.Set(module_.context);
     currencyNames_ = std::move(currencies);
     baseQuery_ = std::move(query);
 
@@ -198,13 +199,14 @@ void CursValutar::cmdRefresh_Click() {
 void CursValutar::cmdAction_Click(int index) {
     switch (index) {
         case AddDay:
+            ShowsCurrentRates();  // a new day takes nothing from the list but its currencies
             OpenEntry("A");
             break;
         case ModifyDay:
-            if (Grid.IsEffectivelyVisible() && !RefusesFrozenDay()) OpenEntry("M");
+            if (MayChangeSelectedDay()) OpenEntry("M");
             break;
         case DeleteDay:
-            if (Grid.IsEffectivelyVisible() && !RefusesFrozenDay()) DeleteSelectedDay();
+            if (MayChangeSelectedDay()) DeleteSelectedDay();
             break;
         case AddCurrency:
             OpenCurrencyWindow("A");
@@ -225,6 +227,16 @@ void CursValutar::cmdAction_Click(int index) {
         default:
             break;
     }
+}
+
+bool CursValutar::ShowsCurrentRates() {
+    if (mark_.IsCurrent(module_.context)) return true;
+    ApplyDateFilter();
+    return false;
+}
+
+bool CursValutar::MayChangeSelectedDay() {
+    return Grid.IsEffectivelyVisible() && ShowsCurrentRates() && !RefusesFrozenDay();
 }
 
 std::string CursValutar::SelectedDayText() const {
@@ -292,6 +304,8 @@ void CursValutar::DeleteSelectedDay() {
         Grid.SetFocus();
         return;
     }
+    // The host may have called while the question was up.
+    if (!ShowsCurrentRates()) return;
     store_.DeleteDay(day);
     Filtreaza(true);
 }
