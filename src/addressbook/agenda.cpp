@@ -30,6 +30,7 @@ constexpr int ButtonsComeShort = 20;
 Agenda::Agenda(shell::Module& module)
     : AgendaDesign(module.Desktop()),
       module_(module),
+      list_(module.context),
       lstImages_{{3, Icon::Modify},  {17, Icon::Add},    {22, Icon::Accept},
                  {23, Icon::Cancel}, {27, Icon::Remove}, {30, Icon::AddressBook}} {
     ConnectEvents();
@@ -61,10 +62,10 @@ void Agenda::ShowForm() {
 
 void Agenda::OnLoad() {
     shell::ApplyDarkScheme(*this, DarkMode);
-    list_.Create(module_.context.Database());
     SetPictures();
     Mode = "V";
-    LoadList();
+    // A list that cannot be read is reported, and the rest of the window is made all the same.
+    OwnerDesktop().Guard([this] { LoadList(); });
     module_.CreateMessageService();
 }
 
@@ -85,18 +86,40 @@ void Agenda::OnUnload() {
 // The list.
 
 void Agenda::LoadList() {
+    // Whoever was shown goes with the old list: should the new one not come, the buttons are left with
+    // nobody.
+    ClearFields();
+    if (!ReadList()) return;
+    SelectRow();
+    ShowRow(Grid.Row());
+}
+
+bool Agenda::ReadList() {
     Grid.SetDataSource(nullptr);
-    list_.Load(ListStatement(SearchPattern(TextBoxes[SearchNumeBox].Text()),
-                             SearchPattern(TextBoxes[SearchPrenumeBox].Text())));
+    list_.Load(Search());
     FormatGrid();
+    return BindRows();
+}
+
+bool Agenda::RequeryList() {
+    list_.Refresh(Search());
+    Grid.SetDataSource(nullptr);
+    return BindRows();
+}
+
+bool Agenda::BindRows() {
     if (!list_.HasRows()) {
         ShowCompactLayout();
-        return;
+        return false;
     }
-    BindGrid();
-    list_.MoveTo(Grid.Row());
-    ShowRecord();
-    SelectRow();
+    Grid.SetDataSource(list_.ReadAll());
+    FormatGrid();
+    return true;
+}
+
+std::string Agenda::Search() const {
+    return ListStatement(SearchPattern(TextBoxes[SearchNumeBox].Text()),
+                         SearchPattern(TextBoxes[SearchPrenumeBox].Text()));
 }
 
 void Agenda::FormatGrid() {
@@ -105,40 +128,35 @@ void Agenda::FormatGrid() {
         Grid.SetColumnWidth(column, column < VisibleColumns ? NameColumnWidth : 0);
 }
 
-void Agenda::BindGrid() {
-    Grid.SetDataSource(list_.ReadAll());
-    FormatGrid();
-}
-
-bool Agenda::RequeryList() {
-    list_.Requery();
-    Grid.SetDataSource(nullptr);
-    if (!list_.HasRows()) {
-        ShowCompactLayout();
-        return false;
-    }
-    BindGrid();
-    return true;
-}
-
 void Agenda::SelectRow() {
     Grid.SetCol(0);
     Grid.SetFocus();
     Grid.SetColSel(LastColumn);
 }
 
-void Agenda::PositionRecordByName() {
+int Agenda::RowOfShownPerson() const {
     const int row = FindPerson(*Grid.DataSource(), TextBoxes[NumeBox].Text(), TextBoxes[PrenumeBox].Text());
     // Somebody whom the search leaves out is not in the list; it then starts at its first row.
-    Grid.SetRow(std::max(row, FirstRow));
-    list_.MoveTo(Grid.Row());
+    return std::max(row, FirstRow);
 }
 
-void Agenda::ShowRecord() {
-    // All columns are read before any is shown: never does one person's name stand over another's details.
-    const Person person = list_.Current();
-    for (int column = 0; column <= LastColumn; ++column)
-        TextBoxes[FirstColumnBox + column].SetText(person[static_cast<std::size_t>(column)]);
+void Agenda::ShowRow(int row) {
+    Person person;
+    try {
+        list_.MoveTo(row);
+        list_.Read(person);
+    } catch (...) {
+        // The names come first and are the row's; nothing of the person before stays behind them.
+        ShowPerson(person);
+        throw;
+    }
+    ShowPerson(person);
+}
+
+bool Agenda::ShowsCurrentList() {
+    if (list_.IsCurrent() && Grid.DataSource() != nullptr) return true;
+    LoadList();
+    return false;
 }
 
 // The layouts and modes.
@@ -203,9 +221,13 @@ Person Agenda::ShownPerson() const {
     return person;
 }
 
+void Agenda::ShowPerson(const Person& person) {
+    for (int column = 0; column <= LastColumn; ++column)
+        TextBoxes[FirstColumnBox + column].SetText(person[static_cast<std::size_t>(column)]);
+}
+
 void Agenda::ClearFields() {
-    for (int box = FirstColumnBox; box <= LastBox; ++box)
-        TextBoxes[box].SetText({});
+    ShowPerson({});
 }
 
 bool Agenda::CheckNume() {
@@ -248,32 +270,32 @@ void Agenda::cmdAction_Click(int index) {
 }
 
 void Agenda::AcceptPerson() {
+    const bool modifies = Mode == "M";
+    // A new person belongs into whatever book the host is at; changes belong to the one they were made in.
+    if (modifies) list_.DemandConnection();
     const Person person = ShownPerson();
-    module_.context.Database().Execute(Mode == "M" ? UpdateStatement(person) : InsertStatement(person));
+    module_.context.Database().Execute(modifies ? UpdateStatement(person) : InsertStatement(person));
     LockSearch(true);
     fraGrid.SetEnabled(true);
-    if (Mode == "A" && list_.AtEnd()) {
+    if (IsCompact()) {
         ShowWideLayout();
-        LoadList();
         // Where the search in the boxes leaves the new person out, the window is ready for another one.
-        if (list_.HasRows() && RequeryList()) ShowAccepted();
+        if (ReadList() && RequeryList()) ShowAccepted(FirstRow);
     } else if (RequeryList()) {
-        ShowAccepted();
+        ShowAccepted(modifies ? SavedRow : RowOfShownPerson());
     }
     LockSearch(false);
 }
 
-void Agenda::ShowAccepted() {
-    if (Mode == "A") {
-        PositionRecordByName();
-    } else {
-        list_.MoveTo(SavedRow);
-        Grid.SetRow(SavedRow);
-    }
-    ShowRecord();
+// What follows a statement is in order before the row is shown: one that cannot be shown whole holds nobody
+// in the edit.
+void Agenda::ShowAccepted(int row) {
+    Grid.SetRow(row);
     SetEditMode(false);
     SelectRow();
     Mode = "V";
+    LockSearch(false);
+    ShowRow(Grid.Row());
 }
 
 void Agenda::CancelOrLeave() {
@@ -294,9 +316,7 @@ void Agenda::CancelEdit() {
     Mode = "V";
     LockSearch(false);
     SelectRow();
-    // Last, so that a row that cannot be shown does not hold the user in the edit.
-    list_.MoveTo(SavedRow);
-    ShowRecord();
+    ShowRow(SavedRow);
 }
 
 void Agenda::AskToLeave() {
@@ -314,6 +334,8 @@ void Agenda::AddPerson() {
 }
 
 void Agenda::ModifyPerson() {
+    if (!ShowsCurrentList()) return;
+    list_.DemandNames();
     SavedRow = Grid.Row();
     Mode = "M";
     SetEditMode(true);
@@ -322,23 +344,23 @@ void Agenda::ModifyPerson() {
 }
 
 void Agenda::DeletePerson() {
+    if (!ShowsCurrentList()) return;
+    list_.DemandNames();
     const std::string nume(Trimmed(TextBoxes[NumeBox].Text()));
     const std::string prenume(Trimmed(TextBoxes[PrenumeBox].Text()));
     module_.lastQuestion = text::DeleteQuestion + nume + " " + prenume + text::DeleteQuestionEnd;
     const int row = Grid.Row();
-    const auto connection = module_.context.connection;
     const Answer answer = module_.Ask(*this, module_.lastQuestion, Caption());
     if (answer == Answer::No) Grid.SetFocus();
-    // The person that the question named, in the data that it was about: a host may call while it is up.
+    // The person that the question named, and in the data that it was about: a host may call while it is up.
     if (answer != Answer::Yes || Mode != "V" || Grid.Row() != row) return;
-    if (module_.context.connection != connection) return;
+    if (!ShowsCurrentList()) return;
     module_.context.Database().Execute(DeleteStatement(nume, prenume));
     if (!RequeryList()) return;
     Grid.SetRow(FirstRow);
-    list_.MoveTo(FirstRow);
-    ShowRecord();
     Grid.SetCol(0);
     Grid.SetColSel(LastColumn);
+    ShowRow(FirstRow);
 }
 
 // Focus and keys.
@@ -393,10 +415,9 @@ void Agenda::Grid_KeyDown(int keyCode) {
         default:
             return;
     }
-    // The details follow the row that was current before the key: the grid moves its cursor afterwards.
-    list_.MoveTo(Grid.Row());
-    ShowRecord();
     SetEditMode(false);
+    // The details follow the row that was current before the key: the grid moves its cursor afterwards.
+    ShowRow(Grid.Row());
 }
 
 }  // namespace tavrin::addressbook

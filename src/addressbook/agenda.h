@@ -39,15 +39,22 @@ class Agenda : public AgendaDesign {
 
     // The list.
     void LoadList();
-    void FormatGrid();
-    void BindGrid();
-    /// False where nobody is left: the window is in the compact layout then.
+    // False where nobody is in the list: the window is in the compact layout then.
+    bool ReadList();
     bool RequeryList();
+    bool BindRows();
+    std::string Search() const;
+    void FormatGrid();
     void SelectRow();
-    void PositionRecordByName();
-    void ShowRecord();
+    int RowOfShownPerson() const;
+    /// Moves the list to a row and shows its person. What of it cannot be read is left empty.
+    void ShowRow(int row);
+    /// Whether the list in sight is that of the host's database of this moment. Where it is not, it is read
+    /// there, and whoever was to be changed is to be looked at again first.
+    bool ShowsCurrentList();
 
     // The layouts and modes.
+    bool IsCompact() const { return fraPersoana.Bounds().left == 0; }
     void ShowCompactLayout();
     void ShowWideLayout();
     void MoveEditButtons(int distance);
@@ -57,6 +64,7 @@ class Agenda : public AgendaDesign {
 
     // The details.
     Person ShownPerson() const;
+    void ShowPerson(const Person& person);
     void ClearFields();
     bool CheckNume();
     bool CheckPrenume();
@@ -66,7 +74,7 @@ class Agenda : public AgendaDesign {
     void cmdAction_Click(int index);
     void cmdAction_KeyDown(int keyCode);
     void AcceptPerson();
-    void ShowAccepted();
+    void ShowAccepted(int row);
     void CancelOrLeave();
     void CancelEdit();
     void AskToLeave();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 #include "addressbook/text_rules.h"
 #include "data/error.h"
@@ -18,8 +19,22 @@ bool IsNamed(const data::Value& value, std::string_view name) {
 
 }  // namespace
 
-void PersonList::Create(data::Connection& connection) {
-    recordset_ = connection.CreateRecordset();
+void PersonList::Load(std::string_view statement) {
+    if (IsOpen()) recordset_->Close();
+    data::Connection& connection = context_.Database();
+    if (recordset_ == nullptr || !mark_.IsCurrent(context_)) {
+        recordset_ = connection.Adopt(std::move(recordset_));
+        mark_.Set(context_);
+    }
+    recordset_->Open(statement);
+}
+
+void PersonList::Refresh(std::string_view statement) {
+    if (IsCurrent()) {
+        recordset_->Requery();
+    } else {
+        Load(statement);
+    }
 }
 
 void PersonList::Release() {
@@ -31,15 +46,6 @@ data::Recordset& PersonList::Rows() const {
     return *recordset_;
 }
 
-void PersonList::Close() {
-    if (Rows().IsOpen()) recordset_->Close();
-}
-
-void PersonList::Load(std::string_view statement) {
-    Close();
-    Rows().Open(statement);
-}
-
 void PersonList::MoveTo(int row) {
     Rows().MoveFirst();
     const std::int64_t last = recordset_->RecordCount();
@@ -47,14 +53,17 @@ void PersonList::MoveTo(int row) {
     recordset_->Move(std::max<std::int64_t>(reached, 1) - 1);
 }
 
-Person PersonList::Current() {
-    Person person;
-    for (std::size_t column = 0; column < Columns.size(); ++column) {
+void PersonList::ReadColumns(Person& person, std::size_t count) const {
+    for (std::size_t column = 0; column < count; ++column) {
         const data::Value value = Rows().Field(Columns[column]);
         if (value.IsNull()) throw data::RuntimeError(data::error_number::InvalidUseOfNull);
         person[column] = value.ToText();
     }
-    return person;
+}
+
+void PersonList::DemandNames() const {
+    Person person;
+    ReadColumns(person, FirstDetailColumn);
 }
 
 int FindPerson(const data::Table& persons, std::string_view nume, std::string_view prenume) {

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "calculator/arithmetic.h"
 #include "calculator/command.h"
@@ -22,6 +23,9 @@ class Engine {
 
     /// \throws data::Error 6 when a result is no finite number, and what the listener throws.
     void Press(Command command);
+
+    /// Begins with an empty entry in another locale.
+    void SetDecimalSeparator(std::string separator) { entry_ = Entry(std::move(separator)); }
 
     /// How many decimals may be typed and are kept of a result: 0, 2, 4 or 6. What was typed stays.
     void SetDecimals(int decimals) { decimals_ = decimals; }

@@ -23,6 +23,7 @@ constexpr std::array<const char*, 4> Precisions = {"0 zecimale", "2 zecimale", "
 constexpr int TwoDecimals = 1;
 constexpr std::string_view LeiUnit = "Lei";
 constexpr int LeiItem = 0;
+constexpr const char* CurrencyUnit = "Valuta";  // until one has been chosen
 
 constexpr int KeyColumns = 6;
 constexpr int KeyRows = 4;
@@ -61,7 +62,7 @@ FrmCalculator::FrmCalculator(shell::Module& module)
       Shape2(z, "Shape2"),
       ValValuta(z, "ValValuta"),
       Number(z, "Number"),
-      Decimal(z, "Decimal", module.Desktop().UserLocale().decimalSeparator),
+      Decimal(z, "Decimal"),
       Operator(z, "Operator"),
       Cancel(z, "Cancel", "AC"),
       CancelEntry(z, "CancelEntry", "C"),
@@ -74,7 +75,7 @@ FrmCalculator::FrmCalculator(shell::Module& module)
       cmdVal(z, "cmdVal", "Alege Moneda"),
       cmdUnload(z, "cmdUnload"),
       module_(module),
-      engine_(*this, module.Desktop().UserLocale().decimalSeparator) {
+      engine_(*this, UserLocale().decimalSeparator) {
     PlaceDisplays();
     PlaceLists();
     PlaceKeys();
@@ -108,7 +109,6 @@ void FrmCalculator::PlaceDisplays() {
     ValLei.SetAccessibleName("Lei");
     ValValuta.SetAccessibleName("Valuta");
     ValLei.SetUnitText("Lei");
-    ValValuta.SetUnitText("Valuta");
     for (forms::NumericDisplay* display : {&ValLei, &ValValuta})
         display->SetFont({.face = "Arial", .points = DisplayPoints, .bold = true});
 }
@@ -203,6 +203,10 @@ std::vector<KeyButton*> FrmCalculator::AllKeys() {
 
 void FrmCalculator::OnLoad() {
     lblCurs.SetCaption("Nu este setat nici un curs valutar!!");
+    // What a chooser may have left in an instance that nobody has opened yet goes as well.
+    ValValuta.SetUnitText(CurrencyUnit);
+    Decimal.SetCaption(UserLocale().decimalSeparator);
+    engine_.SetDecimalSeparator(UserLocale().decimalSeparator);
     engine_.Press(Command::Clear);
     rate_ = 1;
     lblM.SetVisible(false);
@@ -219,7 +223,7 @@ void FrmCalculator::FillLists() {
     cmbPrecizie.SetListIndex(TwoDecimals);
     cmbUM.Clear();
     cmbUM.AddItem(std::string(LeiUnit));
-    cmbUM.AddItem("Valuta");
+    cmbUM.AddItem(CurrencyUnit);
     cmbUM.SetListIndex(LeiItem);
 }
 

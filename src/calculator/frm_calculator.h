@@ -26,6 +26,7 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
 
     // For the currency chooser.
     Form& CallingWindow() override { return *this; }
+    CurrencyTarget& DefaultInstance() override { return module_.Default<FrmCalculator>(); }
     double CursCurent() const override { return rate_; }
     void SetCursCurent(double rate) override { rate_ = rate; }
     double CurrencyAmount() const override { return ValValuta.Value(); }

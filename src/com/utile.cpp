@@ -17,9 +17,13 @@ namespace {
 
 constexpr DISPID ApelId = 1;
 
-std::shared_ptr<data::Connection> MakeConnection(win32::ComPtr<IDispatch> connection) {
-    if (!connection) return nullptr;  // the first query tells
-    return std::make_shared<win32::AdoConnection>(std::move(connection));
+/// The same object stays the same connection: windows compare it with the one that they have read from.
+std::shared_ptr<data::Connection> ConnectionOf(win32::ComPtr<IDispatch> object,
+                                               std::shared_ptr<data::Connection> present) {
+    if (!object) return nullptr;  // the first query tells
+    const auto* known = dynamic_cast<const win32::AdoConnection*>(present.get());
+    if (known != nullptr && known->IsOf(object)) return present;
+    return std::make_shared<win32::AdoConnection>(std::move(object));
 }
 
 }  // namespace
@@ -44,7 +48,7 @@ win32::Failure Utile::OpenUtilities(ApelArguments arguments) noexcept try {
     shell::HostContext& context = module.context;
     context.companyId = arguments.companyId;
     context.workDate = arguments.workDate;
-    context.connection = MakeConnection(std::move(arguments.connection));
+    context.connection = ConnectionOf(std::move(arguments.connection), context.connection);
     context.workYear = arguments.workYear;
     context.caller = events_;
     OpenPalette(module);

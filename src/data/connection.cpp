@@ -4,6 +4,10 @@
 
 namespace tavrin::data {
 
+std::unique_ptr<Recordset> Connection::Adopt(std::unique_ptr<Recordset> /*recordset*/) {
+    return CreateRecordset();
+}
+
 Value ExecuteScalar(Connection& connection, std::string_view statement) {
     const std::unique_ptr<Recordset> rows = connection.Execute(statement);
     if (rows == nullptr || !rows->IsOpen() || rows->AtEnd()) {

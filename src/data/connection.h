@@ -53,6 +53,10 @@ class Connection {
 
     /// A new, closed recordset bound to this connection.
     virtual std::unique_ptr<Recordset> CreateRecordset() = 0;
+
+    /// The closed recordset of another connection, bound to this one from now on. Where there is none, or it
+    /// is of another kind, a new one takes its place.
+    virtual std::unique_ptr<Recordset> Adopt(std::unique_ptr<Recordset> recordset);
 };
 
 /// The first field of the first row of a statement. \throws Error 3021 when there is no row.

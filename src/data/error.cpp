@@ -27,6 +27,8 @@ constexpr Description Descriptions[] = {
     {error_number::NoCurrentRecord, "Raspunsul bazei de date nu are inregistrarea ceruta"},
     {error_number::ItemNotFound, "Raspunsul bazei de date nu are campul cerut"},
     {error_number::ObjectClosed, "Baza de date nu a dat niciun raspuns"},
+    {error_number::InvalidConnection,
+     "Intre timp programul a trecut la alta baza de date. Nu s-a salvat nimic !"},
 };
 
 std::string_view TextOf(std::int32_t number) {

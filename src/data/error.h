@@ -36,6 +36,7 @@ inline constexpr std::int32_t NoCurrentRecord = 3021;         ///< ADO: BOF or E
 inline constexpr std::int32_t ItemNotFound = 3265;            ///< ADO: no field of that name or ordinal
 inline constexpr std::int32_t ObjectClosed = 3704;            ///< ADO: the operation needs an open object
 inline constexpr std::int32_t ObjectOpen = 3705;              ///< ADO: the operation needs a closed object
+inline constexpr std::int32_t InvalidConnection = 3709;       ///< ADO: not on this connection
 inline constexpr std::int32_t ErrorsInCommand = -2147217900;  ///< 80040E14: the provider refuses the command
 inline constexpr std::int32_t IntegrityViolation = -2147217873;  ///< 80040E2F: a constraint refuses the row
 }  // namespace error_number

@@ -80,7 +80,7 @@ std::string DatePicker::Text() const {
     const data::CalendarDay day = data::ToCalendarDay(value_);
     std::string text;
     for (const DatePiece& piece : pieces_)
-        text += piece.Text(day, OwnerForm().OwnerDesktop().UserLocale());
+        text += piece.Text(day, OwnerForm().UserLocale());
     return text;
 }
 
@@ -236,7 +236,7 @@ void DatePicker::DefaultMouseDown(const MouseInput& input) {
 
 std::string DatePicker::ShownText(std::size_t piece) const {
     if (piece == active_ && !typed_.empty() && HasFocus()) return typed_;
-    return pieces_[piece].Text(data::ToCalendarDay(value_), OwnerForm().OwnerDesktop().UserLocale());
+    return pieces_[piece].Text(data::ToCalendarDay(value_), OwnerForm().UserLocale());
 }
 
 void DatePicker::Draw(Surface& surface) const {

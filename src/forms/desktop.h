@@ -39,7 +39,8 @@ class Desktop {
     virtual Size FrameSize(BorderStyle border) const = 0;
     virtual PixelPoint CursorPosition() const = 0;
     virtual void SetCursorPosition(PixelPoint position) = 0;
-    virtual const Locale& UserLocale() const = 0;
+    /// As the user has set it at this moment. A form keeps the one that it is loaded with (Form::UserLocale).
+    virtual Locale UserLocale() const = 0;
     /// Sets a number's text for reading. The platform's own service where there is one.
     virtual std::string FormatNumber(std::string_view number, const NumberFormat& format) const {
         return forms::FormatNumber(number, format);

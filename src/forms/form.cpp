@@ -81,6 +81,7 @@ void Form::SetEnabled(bool enabled) {
 
 void Form::Load() {
     if (loaded_ || isOver_) return;
+    locale_ = desktop_.UserLocale();
     loaded_ = true;
     desktop_.Add(*this);
     desktop_.Guard([this] { OnLoad(); });

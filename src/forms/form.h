@@ -9,6 +9,7 @@
 #include "forms/desktop.h"
 #include "forms/geometry.h"
 #include "forms/keys.h"
+#include "forms/locale.h"
 #include "forms/peer.h"
 
 namespace tavrin::forms {
@@ -59,6 +60,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     /// cannot be made is unloaded again. \throws what the platform reports then
     void Show();
     void Unload();
+    /// The user's settings as they were when the window was loaded: one that is open goes on in them.
+    const Locale& UserLocale() const { return locale_; }
     /// Called once the window has unloaded, before it is let go.
     std::function<void(Form&)> whenUnloaded;
 
@@ -139,6 +142,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     BorderStyle border_;
     Rect bounds_;
     Color backColor_ = scheme::Window;
+    Locale locale_;
     bool visible_ = false;
     bool enabled_ = true;
     bool loaded_ = false;

@@ -66,7 +66,7 @@ void AlegeMoneda::PlaceControls() {
 
 void AlegeMoneda::ConnectEvents() {
     // A currency is typed, or chosen from the list.
-    cmbMoneda.onChange = [this] { IncarcaCursuri(); };
+    cmbMoneda.onChange = [this] { cmbMoneda_Change(); };
     cmbMoneda.onClick = [this] { IncarcaCursuri(); };
     cmbMoneda.onGotFocus = [this] { cmbMoneda_GotFocus(); };
     cmbMoneda.onLostFocus = [this] { cmbMoneda_LostFocus(); };
@@ -80,9 +80,12 @@ void AlegeMoneda::ConnectEvents() {
 void AlegeMoneda::ShowForm(CurrencyTarget& caller, const std::string& currency) {
     caller_ = std::shared_ptr<CurrencyTarget>(caller.CallingWindow().shared_from_this(), &caller);
     caller.CallingWindow().SetEnabled(false);
+    refusal_.reset();
+    isOpening_ = true;
     Load();
     cmbMoneda.SetText(currency);
     Show();
+    isOpening_ = false;
 }
 
 void AlegeMoneda::OnLoad() {
@@ -94,8 +97,14 @@ void AlegeMoneda::OnLoad() {
 
 void AlegeMoneda::OnActivate() {
     KeepOnTop();
-    IncarcaMonede();
-    IncarcaCursuri();
+    try {
+        Reincarca();
+    } catch (const data::Error& error) {
+        // Opening asks for the rates twice. What was refused the first time has been told.
+        const bool isKnown = isOpening_ && refusal_ && refusal_->Number() == error.Number() &&
+                             refusal_->Description() == error.Description();
+        if (!isKnown) throw;
+    }
 }
 
 void AlegeMoneda::OnUnload() {
@@ -103,6 +112,20 @@ void AlegeMoneda::OnUnload() {
 }
 
 // The lists.
+
+void AlegeMoneda::cmbMoneda_Change() {
+    try {
+        IncarcaCursuri();
+    } catch (const data::Error& error) {
+        refusal_ = error;
+        throw;
+    }
+}
+
+void AlegeMoneda::Reincarca() {
+    IncarcaMonede();
+    IncarcaCursuri();
+}
 
 void AlegeMoneda::IncarcaMonede() {
     // The list is not emptied first: it grows by all the names whenever the window is activated.
@@ -142,14 +165,15 @@ void AlegeMoneda::cmdAction_Click(int index) {
 
 void AlegeMoneda::TakeRate() {
     if (!caller_) throw data::ObjectNotSet();
-    const forms::Locale& locale = OwnerDesktop().UserLocale();
+    CurrencyTarget& target = caller_->DefaultInstance();
+    const forms::Locale& locale = UserLocale();
     const std::string& currency = cmbMoneda.Text();
-    const double amountInLei = data::CheckedResult(caller_->CurrencyAmount() * caller_->CursCurent());
+    const double amountInLei = data::CheckedResult(target.CurrencyAmount() * target.CursCurent());
     const double rate = NumberOfRateText(Grid.TextMatrix(Grid.Row(), RateColumn), locale);
-    caller_->SetCursCurent(rate);
-    caller_->SetRateCaption(RateCaption(rate, currency, locale));
-    caller_->SetCurrencyUnit(currency);
-    caller_->SetCurrencyAmount(data::CheckedQuotient(amountInLei, rate));
+    target.SetCursCurent(rate);
+    target.SetRateCaption(RateCaption(rate, currency, locale));
+    target.SetCurrencyUnit(currency);
+    target.SetCurrencyAmount(data::CheckedQuotient(amountInLei, rate));
 }
 
 // Focus and keys.

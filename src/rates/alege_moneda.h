@@ -1,8 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
+#include "data/error.h"
 #include "forms/combo_box.h"
 #include "forms/command_button.h"
 #include "forms/control_array.h"
@@ -17,7 +19,8 @@
 namespace tavrin::rates {
 
 /// Lets the user pick a currency and one of its daily rates, newest first, for a window that converts
-/// amounts. That window is disabled while this one is open; it takes part only through CurrencyTarget.
+/// amounts. That window is disabled while this one is open; it takes part only through CurrencyTarget, and
+/// what is chosen goes to its default instance.
 class AlegeMoneda : public forms::Form {
   public:
     enum Action { Accept, Cancel };
@@ -42,6 +45,8 @@ class AlegeMoneda : public forms::Form {
   private:
     void PlaceControls();
     void ConnectEvents();
+    void cmbMoneda_Change();
+    void Reincarca();
     void IncarcaMonede();
     void IncarcaCursuri();
     void ShowRates(data::TablePtr rates);
@@ -56,6 +61,9 @@ class AlegeMoneda : public forms::Form {
     forms::ImageList lstImages_;
     /// Keeps the caller's form alive, should it unload before this one.
     std::shared_ptr<CurrencyTarget> caller_;
+    bool isOpening_ = false;
+    /// What was reported while the window was opening.
+    std::optional<data::Error> refusal_;
 };
 
 }  // namespace tavrin::rates

@@ -13,6 +13,8 @@ class CurrencyTarget {
     virtual ~CurrencyTarget() = default;
 
     virtual forms::Form& CallingWindow() = 0;
+    /// The target of this moment that takes what is chosen: another one, once the calling window has closed.
+    virtual CurrencyTarget& DefaultInstance() = 0;
 
     /// Lei for one unit of the currency. Setting it converts nothing by itself.
     virtual double CursCurent() const = 0;

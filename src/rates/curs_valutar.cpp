@@ -154,6 +154,7 @@ bool CursValutar::Filtreaza(bool /*refresh*/) {
     CurrencyNames currencies = store_.DiscoverCurrencies();
     std::string query = ListBaseQuery(currencies);
     data::TablePtr table = store_.Read(query + " " + dateFilter_ + " " + orderClause_);
+    mark_.Set(module_.context);
     currencyNames_ = std::move(currencies);
     baseQuery_ = std::move(query);
 
@@ -201,13 +202,14 @@ void CursValutar::cmdRefresh_Click() {
 void CursValutar::cmdAction_Click(int index) {
     switch (index) {
         case AddDay:
+            ShowsCurrentRates();  // a new day takes nothing from the list but its currencies
             OpenEntry("A");
             break;
         case ModifyDay:
-            if (Grid.IsEffectivelyVisible() && !RefusesFrozenDay()) OpenEntry("M");
+            if (MayChangeSelectedDay()) OpenEntry("M");
             break;
         case DeleteDay:
-            if (Grid.IsEffectivelyVisible() && !RefusesFrozenDay()) DeleteSelectedDay();
+            if (MayChangeSelectedDay()) DeleteSelectedDay();
             break;
         case AddCurrency:
             OpenCurrencyWindow("A");
@@ -228,6 +230,16 @@ void CursValutar::cmdAction_Click(int index) {
         default:
             break;
     }
+}
+
+bool CursValutar::ShowsCurrentRates() {
+    if (mark_.IsCurrent(module_.context)) return true;
+    ApplyDateFilter();
+    return false;
+}
+
+bool CursValutar::MayChangeSelectedDay() {
+    return Grid.IsEffectivelyVisible() && ShowsCurrentRates() && !RefusesFrozenDay();
 }
 
 std::string CursValutar::SelectedDayText() const {
@@ -308,11 +320,10 @@ void CursValutar::DeleteSelectedDay() {
     Grid.SetCol(DayColumn);
     const std::string day = SelectedDayText();
     module_.lastQuestion = "Sunteti sigur ca doriti sa stergeti cursul valutar pentru data de " + day;
-    const auto connection = module_.context.connection;
     const Answer answer = module_.Ask(*this, module_.lastQuestion, Caption());
     if (answer == Answer::No) Grid.SetFocus();
     // The day that the question named, in the data that it was about: a host may call while it is up.
-    if (answer != Answer::Yes || SelectedDayText() != day || module_.context.connection != connection) return;
+    if (answer != Answer::Yes || SelectedDayText() != day || !ShowsCurrentRates()) return;
     store_.DeleteDay(day);
     Filtreaza(true);
 }

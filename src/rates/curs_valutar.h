@@ -65,8 +65,12 @@ class CursValutar : public forms::Form {
 
     bool IsRateValidated(data::OleDate day) const { return store_.IsFrozen(day); }
     void SetActionsEnabled(bool enabled);
+    /// Whether the days in sight are those of the host's database of this moment. Where they are not, they
+    /// are read there, and the day that was to be changed is to be looked at again first.
+    bool ShowsCurrentRates();
     void BindGrid(data::TablePtr table);
     bool RefusesFrozenDay();
+    bool MayChangeSelectedDay();
     bool IsHeld() const;
     bool BringHolderForward();
     void OpenEntry(const std::string& mode);
@@ -84,6 +88,7 @@ class CursValutar : public forms::Form {
 
     shell::Module& module_;
     RateStore store_;
+    shell::ConnectionMark mark_;  ///< of the connection that the list was read on
     CurrencyNames currencyNames_;
     std::string baseQuery_;
     std::string dateFilter_;

@@ -112,6 +112,7 @@ void CursValutarDetaliu::ShowForm(const CurrencyNames& names, const std::string&
 
 void CursValutarDetaliu::OnLoad() {
     module_.CreateMessageService();
+    mark_.Set(module_.context);
     CenterOnScreen();
     FillGrid();
     DataCurs.SetDate(module_.context.workDate);
@@ -291,6 +292,7 @@ std::vector<RateEntry> CursValutarDetaliu::Entries() const {
 }
 
 bool CursValutarDetaliu::SaveRates() {
+    mark_.Demand(module_.context);
     if (mode_ == "M") return UpdateDay();
     if (mode_ == "A") return InsertDay();
     return false;

@@ -73,6 +73,7 @@ class CursValutarDetaliu : public forms::Form {
 
     shell::Module& module_;
     RateStore store_;
+    shell::ConnectionMark mark_;  ///< of the connection that the entry was begun on
     CurrencyNames currencyNames_;
     std::string mode_;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <initializer_list>
+#include <utility>
 
 #include "data/connection.h"
 #include "data/error.h"
@@ -41,6 +42,16 @@ std::optional<double> RateOf(const data::Value& value) {
     std::string text = value.ToText();
     std::erase(text, ',');
     return data::Value(std::move(text)).ToDouble();
+}
+
+/// The first entry is chosen, or the one that was before, where the new list has it too.
+void Refill(forms::ComboBox& list, std::vector<std::string> entries) {
+    const std::string chosen = list.Text();
+    list.Clear();
+    for (std::string& entry : entries)
+        list.AddItem(std::move(entry));
+    if (list.ListCount() > 0) list.SetListIndex(0);
+    list.SetText(chosen);
 }
 
 }  // namespace
@@ -139,6 +150,7 @@ void EvolutieCurs::ConnectEvents() {
 // Life.
 
 void EvolutieCurs::OnLoad() {
+    module_.CreateMessageService();
     cmdAction[Close].SetPicture(lstImages_.Picture(1));
     cmdAction[Redraw].SetPicture(lstImages_.Picture(2));
     CenterOnScreen();
@@ -171,20 +183,22 @@ void EvolutieCurs::IncarcaListe() {
     for (const char* period : Periods)
         cmbLuna.AddItem(period);
     cmbLuna.SetListIndex(0);
-    for (std::string& currency : store_.ColumnsAfterSecond())
-        cmbMoneda.AddItem(std::move(currency));
-    if (cmbMoneda.ListCount() > 0) cmbMoneda.SetListIndex(0);
-    LoadYears();
+    ReadLists();
 }
 
-void EvolutieCurs::LoadYears() {
-    if (const data::TablePtr years = store_.Read(RateYearsStatement)) {
-        for (std::size_t row = 0; row < years->RowCount(); ++row)
-            cmbAn.AddItem(years->At(row, 0).ToText());
-    } else {
-        cmbAn.AddItem(data::ExecuteScalar(module_.context.Database(), FinancialYearsStatement).ToText());
-    }
-    cmbAn.SetListIndex(0);
+void EvolutieCurs::ReadLists() {
+    Refill(cmbMoneda, store_.ColumnsAfterSecond());
+    Refill(cmbAn, ReadYears());
+    mark_.Set(module_.context);
+}
+
+std::vector<std::string> EvolutieCurs::ReadYears() const {
+    const data::TablePtr table = store_.Read(RateYearsStatement);
+    if (!table) return {data::ExecuteScalar(module_.context.Database(), FinancialYearsStatement).ToText()};
+    std::vector<std::string> years;
+    for (std::size_t row = 0; row < table->RowCount(); ++row)
+        years.push_back(table->At(row, 0).ToText());
+    return years;
 }
 
 EvolutionChoice EvolutieCurs::Choice() const {
@@ -266,7 +280,15 @@ void EvolutieCurs::ShowNoData() {
 void EvolutieCurs::cmdAction_Click(int index) {
     if (index == Close) {
         Unload();
-    } else if (DeseneazaGrafic()) {
+    } else {
+        RedrawChart();
+    }
+}
+
+void EvolutieCurs::RedrawChart() {
+    // Lists that could not be read, or that are another database's, are read first.
+    if (!mark_.IsCurrent(module_.context)) ReadLists();
+    if (DeseneazaGrafic()) {
         ShowChart();
     } else {
         ShowNoData();

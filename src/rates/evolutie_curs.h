@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "forms/chart.h"
 #include "forms/combo_box.h"
 #include "forms/command_button.h"
@@ -52,7 +55,9 @@ class EvolutieCurs : public forms::Form {
     void ConnectEvents();
     void SetHeader();
     void IncarcaListe();
-    void LoadYears();
+    /// The currencies and the years, from the host's database of this moment.
+    void ReadLists();
+    std::vector<std::string> ReadYears() const;
     EvolutionChoice Choice() const;
 
     void CalculeazaLimite();
@@ -64,6 +69,7 @@ class EvolutieCurs : public forms::Form {
     void ShowNoData();
 
     void cmdAction_Click(int index);
+    void RedrawChart();
     void cmdAction_KeyDown(int& keyCode);
     void Combo_KeyDown(forms::ComboBox& combo, int& keyCode);
     void CloseOnEscape(int keyCode);
@@ -71,6 +77,7 @@ class EvolutieCurs : public forms::Form {
     shell::Module& module_;
     RateStore store_;
     forms::ImageList lstImages_;
+    shell::ConnectionMark mark_;  ///< of the connection that the lists were read on
     double minimum_ = 0;
     double maximum_ = 0;
 };

@@ -9,6 +9,16 @@ data::Connection& HostContext::Database() const {
     return *connection;
 }
 
+bool ConnectionMark::IsCurrent(const HostContext& context) const {
+    return context.connection != nullptr && connection_.lock() == context.connection;
+}
+
+void ConnectionMark::Demand(const HostContext& context) const {
+    context.Database();
+    if (IsCurrent(context)) return;
+    throw data::RuntimeError(data::error_number::InvalidConnection);
+}
+
 void HostContext::RaiseIesire() const noexcept {
     // Listeners may call Apel again and so replace the caller while it raises the event.
     const std::shared_ptr<CallingObject> current = caller;

@@ -32,4 +32,22 @@ struct HostContext {
     void RaiseIesire() const noexcept;
 };
 
+/// Which connection a window has read its rows from. It is compared with the host's one of a later moment and
+/// leads to neither: nothing of the host is kept alive by it, and no statement runs through it.
+class ConnectionMark {
+  public:
+    void Set(const HostContext& context) { connection_ = context.connection; }
+
+    /// Whether a statement would run now where the rows were read. Never before Set, nor without a
+    /// connection.
+    bool IsCurrent(const HostContext& context) const;
+
+    /// Keeps what was read in one database from being written into another.
+    /// \throws Error 91 without a connection, 3709 on another one
+    void Demand(const HostContext& context) const;
+
+  private:
+    std::weak_ptr<data::Connection> connection_;
+};
+
 }  // namespace tavrin::shell

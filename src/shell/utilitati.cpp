@@ -24,11 +24,13 @@ constexpr int RolledUpPixels = 6;
 constexpr int PointerStepPixels = 100;
 
 constexpr int StripHeight = 300;
+/// More than what stays in sight of a palette that is rolled up: at every resolution its buttons are below.
+constexpr int FirstButtonTop = StripHeight + layout::Gap;
 constexpr int ButtonSide = 540;
 constexpr int RowPitch = ButtonSide + layout::Unit;
 constexpr int PaletteWidth = 2640;
 constexpr int ButtonCount = 4;
-constexpr int PaletteHeight = StripHeight + layout::Unit + ButtonCount * RowPitch;
+constexpr int PaletteHeight = FirstButtonTop + ButtonCount * RowPitch;
 
 // What each button opens, by the name of the window.
 constexpr std::array<std::string_view, ButtonCount> Targets = {"Notes", "Agenda", "frmCalculator",
@@ -82,7 +84,7 @@ void Utilitati::PlaceControls() {
         image->SetBackColor(DarkGreen);
 
     for (int i = 0; i < ButtonCount; ++i) {
-        const int top = StripHeight + layout::Unit + i * RowPitch;
+        const int top = FirstButtonTop + i * RowPitch;
         cmdAction[i].SetBounds({layout::Unit, top, ButtonSide, ButtonSide});
         cmdAction[i].SetFont({.face = "Verdana"});
         cmdAction[i].SetAccessibleName(CaptionOf(i).Caption());

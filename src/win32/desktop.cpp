@@ -8,7 +8,6 @@
 #include "win32/number_format.h"
 #include "win32/text.h"
 #include "win32/toolkit.h"
-#include "win32/user_locale.h"
 
 namespace tavrin::win32 {
 
@@ -25,8 +24,7 @@ std::wstring TextOf(std::int32_t number, const std::string& description) {
 
 }  // namespace
 
-Desktop::Desktop(HINSTANCE module)
-    : module_(module), locale_(ReadUserLocale()), inUse_(std::make_shared<int>()) {}
+Desktop::Desktop(HINSTANCE module) : module_(module), inUse_(std::make_shared<int>()) {}
 
 Desktop::~Desktop() = default;
 

@@ -10,6 +10,7 @@
 #include "win32/modality.h"
 #include "win32/platform_dialogs.h"
 #include "win32/scale.h"
+#include "win32/user_locale.h"
 #include "win32/whole_files.h"
 
 namespace tavrin::win32 {
@@ -30,7 +31,7 @@ class Desktop final : public forms::Desktop {
     forms::Size FrameSize(forms::BorderStyle border) const override;
     forms::PixelPoint CursorPosition() const override;
     void SetCursorPosition(forms::PixelPoint position) override;
-    const forms::Locale& UserLocale() const override { return locale_; }
+    forms::Locale UserLocale() const override { return ReadUserLocale(); }
     std::string FormatNumber(std::string_view number, const forms::NumberFormat& format) const override;
     void Beep() override;
     forms::Dialogs& PlatformDialogs() override { return dialogs_; }
@@ -59,7 +60,6 @@ class Desktop final : public forms::Desktop {
     void Show(const Report& report);
 
     HINSTANCE module_;
-    forms::Locale locale_;
     win32::PlatformDialogs dialogs_;
     WholeFiles files_;
     std::shared_ptr<const void> inUse_;

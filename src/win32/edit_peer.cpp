@@ -3,12 +3,14 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <string>
 #include <utility>
 
 #include "win32/disagreement.h"
 #include "win32/edit_frame.h"
 #include "win32/edit_text.h"
 #include "win32/mouse_message.h"
+#include "win32/text.h"
 
 namespace tavrin::win32 {
 
@@ -20,6 +22,17 @@ DWORD StyleOf(const forms::TextBox& control) {
     if (control.Alignment() == forms::Align::Center) style |= ES_CENTER;
     if (control.Locked()) style |= ES_READONLY;
     return style;
+}
+
+UINT PlatformAlign(forms::Align align) {
+    if (align == forms::Align::Right) return TA_RIGHT;
+    return align == forms::Align::Center ? TA_CENTER : TA_LEFT;
+}
+
+/// Where a line of that alignment is drawn from.
+LONG StartOf(forms::Align align, const RECT& line) {
+    if (align == forms::Align::Right) return line.right;
+    return align == forms::Align::Center ? (line.left + line.right) / 2 : line.left;
 }
 
 /// Characters that edit nothing in a single line and would only make the field beep.
@@ -111,6 +124,8 @@ LRESULT EditPeer::HandleMessage(const Message& message) {
         {WM_CTLCOLOREDIT + Reflected, &EditPeer::OnColors},
         {WM_CTLCOLORSTATIC + Reflected, &EditPeer::OnColors},
         {WM_COMMAND + Reflected, &EditPeer::OnCommand},
+        {WM_PAINT, &EditPeer::OnPaint},
+        {WM_PRINTCLIENT, &EditPeer::OnPaint},
         {WM_MOUSEMOVE, &EditPeer::OnMouse},
         {WM_LBUTTONDOWN, &EditPeer::OnMouse},
         {WM_LBUTTONUP, &EditPeer::OnMouse},
@@ -154,6 +169,37 @@ LRESULT EditPeer::OnKillFocus(const Message& message) {
 
 LRESULT EditPeer::OnColors(const Message& message) {
     return ApplyColors(reinterpret_cast<HDC>(message.wParam));
+}
+
+// The platform greys the text of every field that takes no input. One that only rests, because the frame
+// around it does, is there to be read: it is painted here in its own colours.
+LRESULT EditPeer::OnPaint(const Message& message) {
+    const bool onlyRests = control_.Enabled() && !control_.IsEffectivelyEnabled();
+    if (!onlyRests) return CallDefault(message);
+    if (const auto given = reinterpret_cast<HDC>(message.wParam)) {
+        PaintBrowsed(given);
+        return 0;
+    }
+    PAINTSTRUCT paint{};
+    PaintBrowsed(BeginPaint(Handle(), &paint));
+    EndPaint(Handle(), &paint);
+    return 0;
+}
+
+void EditPeer::PaintBrowsed(HDC dc) const {
+    const SelectScope font(dc, PlatformFont());
+    RECT area{};
+    GetClientRect(Handle(), &area);
+    RECT line = area;
+    SendMessageW(Handle(), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&line));
+    SetTextColor(dc, control_.ForeColor());
+    SetBkColor(dc, control_.BackColor());
+    const LONG x = StartOf(control_.Alignment(), line);
+    SetTextAlign(dc, PlatformAlign(control_.Alignment()));
+    const std::wstring text = ToWide(control_.Text());
+    // Ground and text at once: nothing flickers.
+    ExtTextOutW(dc, x, line.top, ETO_OPAQUE | ETO_CLIPPED, &area, text.c_str(),
+                static_cast<UINT>(text.size()), nullptr);
 }
 
 LRESULT EditPeer::OnCommand(const Message& message) {

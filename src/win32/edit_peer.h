@@ -28,6 +28,8 @@ class EditPeer final : public ControlWindow {
     LRESULT OnPaintFrame(const Message& message);
     LRESULT OnHitTest(const Message& message);
     LRESULT OnColors(const Message& message);
+    LRESULT OnPaint(const Message& message);
+    void PaintBrowsed(HDC dc) const;
     LRESULT OnCommand(const Message& message);
     LRESULT OnMouse(const Message& message);
     LRESULT OnRelease(const Message& message);

@@ -1,9 +1,9 @@
 #include "win32/modality.h"
 
 #include <algorithm>
-#include <new>
 
 #include "win32/form_peer.h"
+#include "win32/translation.h"
 
 namespace tavrin::win32 {
 
@@ -27,11 +27,12 @@ HWND FormOfPopup(const forms::Desktop& desktop, HWND window) {
     return IsForm(desktop, owner) && GetClassLongW(window, GCW_ATOM) != DialogClass ? owner : window;
 }
 
-BOOL CALLBACK CollectTakingInput(HWND window, LPARAM windows) noexcept try {
-    if (TakesInput(window)) reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
-    return TRUE;
-} catch (const std::bad_alloc&) {
-    return FALSE;  // fewer windows wait
+BOOL CALLBACK CollectTakingInput(HWND window, LPARAM windows) noexcept {
+    const HRESULT kept = Translated([&] {
+        if (TakesInput(window)) reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
+        return S_OK;
+    });
+    return kept == S_OK;  // without memory fewer windows wait
 }
 
 }  // namespace

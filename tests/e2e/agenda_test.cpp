@@ -8,6 +8,7 @@
 #include "e2e/driver/screen.h"
 #include "e2e/driver/shown_message.h"
 #include "e2e/host_test.h"
+#include "host/embedded/demo_data.h"
 
 namespace tavrin::e2e {
 namespace {
@@ -421,6 +422,101 @@ TEST_F(AgendaTest, StaysOnTopWithoutTakingTheFocusBack) {
 }
 
 // The same keys in a loop that knows dialogs.
+
+// Looks.
+
+TEST_F(AgendaTest, DetailsAreGreenOnBlackWhetherTheyAreBrowsedOrEdited) {
+    constexpr COLORREF Green = RGB(0, 255, 0);
+    constexpr COLORREF Grey = RGB(0x9A, 0x9A, 0x9A);
+    KeepOnly({{"Albu", "Dan"}});
+    Open();
+    // Clicks end the edit and begin it: both ways of coming to a state.
+    for (const int action : {Modify, Cancel, Modify}) {
+        const bool browsed = action == Modify;
+        for (const int box : {2, 3, 4}) {
+            EXPECT_EQ(Box(box).IsEnabled(), !browsed);
+            EXPECT_TRUE(WaitUntil([&] { return ShowsColor(Box(box), Green); })) << box << browsed;
+            EXPECT_FALSE(ShowsColor(Box(box), Grey)) << box << browsed;
+            EXPECT_FALSE(ShowsColor(Box(box), GetSysColor(COLOR_GRAYTEXT))) << box << browsed;
+        }
+        SaveScreenshot(std::string("agenda-") + (browsed ? "browsed" : "edited"));
+        Click(Button(action));
+        host->Ui().Settle();
+    }
+}
+
+// The host's connections.
+
+class AgendaConnectionTest : public AgendaTest {
+  protected:
+    ~AgendaConnectionTest() override {
+        if (second) host->Call([this] { second.Reset(); });
+    }
+
+    /// A database in which nobody but Vlad Dan is kept.
+    void HostTurnsToAnother() {
+        host->Call([this] {
+            const auto database = host::OpenDemoDatabase(":memory:");
+            database->Run("DELETE FROM Agenda");
+            database->Run(
+                "INSERT INTO Agenda VALUES ('Vlad', 'Dan', 'Str. Noua 2', '', '', '', '', '', '', '', "
+                "'', '', '', '', '', '')");
+            second = win32::MakeObject<host::ConnectionObject>(database);
+        });
+        ASSERT_EQ(host->ApelWith(second.Get()), S_OK);
+        host->Ui().Settle();
+    }
+
+    win32::ComPtr<host::ConnectionObject> second;
+};
+
+TEST_F(AgendaConnectionTest, TheListIsOpenedAnewOnTheConnectionOfTheMoment) {
+    Open();
+    const long alive = host->Call([] { return host::LiveObjects::Get().recordsets.Alive(); });
+    HostTurnsToAnother();
+    Search("/");
+    const TableTexts expected = {{"Nume", "Prenume"}, {"Vlad", "Dan"}};
+    EXPECT_EQ(Shown(), expected);
+    EXPECT_EQ(ShownName(), "Vlad Dan");
+    EXPECT_EQ(host->Call([] { return host::LiveObjects::Get().recordsets.Alive(); }), alive)
+        << "one recordset for a window";
+    EXPECT_TRUE(WaitUntil([&] { return host->ReferencesToConnection() == 0; })) << "the first is let go";
+}
+
+TEST_F(AgendaConnectionTest, NobodyIsDeletedWhoWasShownFromAnotherConnection) {
+    Open();
+    const std::size_t before = host->Rows("SELECT Nume FROM Agenda").size();
+    HostTurnsToAnother();
+    Click(Button(Delete));
+    host->Ui().Settle();
+    EXPECT_FALSE(ShownMessage::Find());
+    EXPECT_EQ(ShownName(), "Vlad Dan");
+    EXPECT_EQ(host->Rows("SELECT Nume FROM Agenda").size(), before);
+}
+
+TEST_F(AgendaConnectionTest, TheSameConnectionAgainIsNoOther) {
+    KeepOnly({{"Albu", "Dan"}, {"Popa", "Ion"}});
+    Open();
+    ASSERT_EQ(host->Apel(), S_OK);
+    host->Ui().Settle();
+    Click(Button(Delete));
+    ExpectMessage("Doriti sa stergeti din agenda persoana Albu Dan ?", MessageIcon::Question, "Agenda",
+                  {IDYES, IDNO}, IDYES);
+    host->Ui().Settle();
+    EXPECT_EQ(ShownName(), "Popa Ion");
+}
+
+TEST_F(AgendaConnectionTest, OpenedWithoutAConnectionItIsWholeAfterAGoodCall) {
+    ASSERT_EQ(host->ApelWith(nullptr), S_OK);
+    Click(AwaitForm("Utilitati").Control("cmdAction(1)"));
+    const ShownMessage report = ShownMessage::Await();
+    EXPECT_THAT(report.Prompt(), testing::StartsWith("Eroare 91"));
+    report.Press(IDOK);
+    window = AwaitForm("Agenda");
+    HostTurnsToAnother();
+    Search("/");
+    EXPECT_EQ(ShownName(), "Vlad Dan");
+}
 
 class AgendaInDialogLoopTest : public AgendaTest {
   protected:

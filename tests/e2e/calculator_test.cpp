@@ -6,6 +6,7 @@
 #include <oleacc.h>
 
 #include <array>
+#include <string>
 
 #include "e2e/driver/accessible_reader.h"
 #include "e2e/driver/screen.h"
@@ -34,6 +35,13 @@ class UserSeparators {
     ~UserSeparators() { Write(decimal_.data(), thousands_.data()); }
     UserSeparators(const UserSeparators&) = delete;
     UserSeparators& operator=(const UserSeparators&) = delete;
+
+    /// As the user has it now.
+    static std::wstring Decimal() {
+        Text text{};
+        Read(LOCALE_SDECIMAL, text);
+        return text.data();
+    }
 
   private:
     using Text = std::array<wchar_t, 16>;
@@ -135,6 +143,13 @@ class CalculatorTest : public HostTest, public testing::WithParamInterface<Separ
         EXPECT_TRUE(AwaitFocus("Grid"));
         host->Ui().Settle();
         return chooser;
+    }
+
+    /// Closes the calculator and opens another.
+    void Reopen() {
+        Click(calculator.Control("cmdUnload"));
+        ASSERT_TRUE(AwaitClosed("frmCalculator"));
+        SetUp();
     }
 
     Window calculator;
@@ -305,6 +320,18 @@ TEST_P(CalculatorTest, ThePaletteClosesItUnlessItIsLeftByEscape) {
     EXPECT_TRUE(FindForm("frmCalculator"));
     Click(OpenPalette().Control("imgClose"));
     EXPECT_TRUE(AwaitClosed("frmCalculator"));
+}
+
+TEST_P(CalculatorTest, SettingsThatChangeReachTheNextCalculatorAndNotTheOpenOne) {
+    const UserSeparators changed(GetParam().decimal[0] == L',' ? English : Romanian);
+    TypeKeys("1234.5+0=");
+    ExpectShown("1.234,50", "1.234,50");
+    Reopen();
+    TypeKeys("1234.5+0=");
+    const std::string expected = changed.Decimal() == L"." ? "1,234.50" : "1.234,50";
+    EXPECT_TRUE(WaitUntil([&] { return ShownIn("ValLei") == expected; })) << ShownIn("ValLei");
+    EXPECT_EQ(ReadAccessible(host->Ui(), calculator.Control("Decimal")).name,
+              changed.Decimal() == L"." ? "." : ",");
 }
 
 INSTANTIATE_TEST_SUITE_P(Locales, CalculatorTest, testing::Values(Romanian, English),

@@ -150,6 +150,8 @@ TEST_P(PaletteTest, RollsUpToItsCaptionAndComesBackALittleLower) {
     EXPECT_TRUE(WaitUntil([&] { return palette.Height() == strip + 6; })) << palette.Height();
     EXPECT_EQ(palette.Width(), width);
     EXPECT_TRUE(WaitUntil([&] { return !palette.Control("imgRollup(0)").IsVisible(); }));
+    for (const char* below : {"cmdAction(0)", "Label1"})
+        EXPECT_GE(palette.Control(below).ScreenBounds().top, palette.ScreenBounds().bottom) << below;
 
     Click(palette.Control("imgRollup(1)"));
     EXPECT_TRUE(WaitUntil([&] { return palette.Control("imgRollup(0)").IsVisible(); }));

@@ -30,12 +30,12 @@ class HeadlessDesktop : public forms::Desktop {
 
     std::unique_ptr<forms::FormPeer> CreatePeer(forms::Form& form) override;
     forms::Size ScreenSize() const override { return {1280 * 15, 1024 * 15}; }
-    int TwipsPerPixelX() const override { return 15; }
-    int TwipsPerPixelY() const override { return 15; }
+    int TwipsPerPixelX() const override { return twipsPerPixel; }
+    int TwipsPerPixelY() const override { return twipsPerPixel; }
     forms::Size FrameSize(forms::BorderStyle border) const override;
     forms::PixelPoint CursorPosition() const override { return cursor; }
     void SetCursorPosition(forms::PixelPoint position) override { cursor = position; }
-    const forms::Locale& UserLocale() const override { return locale; }
+    forms::Locale UserLocale() const override { return locale; }
     void Beep() override { ++beeps; }
     forms::Dialogs& PlatformDialogs() override { return dialogs; }
     forms::Files& PlatformFiles() override { return files; }
@@ -53,6 +53,7 @@ class HeadlessDesktop : public forms::Desktop {
 
     forms::PixelPoint cursor{500, 400};
     forms::Locale locale;
+    int twipsPerPixel = 15;
     RecordingDialogs dialogs;
     MemoryFiles files;
     std::vector<Report> reports;

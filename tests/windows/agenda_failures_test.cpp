@@ -236,25 +236,6 @@ TEST_F(AgendaFailuresTest, APersonWhomAnotherUserDeletedIsStillShownFromTheList)
 
 // NULL.
 
-TEST_F(AgendaFailuresTest, ANullInAnyDetailIsReportedAndMixesNoDetails) {
-    for (std::size_t i = addressbook::FirstDetailColumn; i < addressbook::Columns.size(); ++i) {
-        const std::string column(addressbook::Columns[i]);
-        others.Execute("DELETE FROM Agenda");
-        KeepThree();
-        others.Execute("UPDATE Agenda SET " + column + " = NULL WHERE Nume = 'Enescu'");
-        desktop.reports.clear();
-        Agenda& window = Open();
-        window.Grid.SetRow(2);
-        keyboard.Press(key::Enter);
-        EXPECT_THAT(desktop.reports, ReportOf(number::InvalidUseOfNull)) << column;
-        EXPECT_THAT(DataBoxTexts(window), testing::ElementsAreArray(MakePerson("Albu", "Dan"))) << column;
-        window.Grid.SetRow(3);
-        keyboard.Press(key::Enter);
-        EXPECT_EQ(ShownName(window), "Popa Ion") << column;
-        window.Unload();
-    }
-}
-
 TEST_F(AgendaFailuresTest, APersonWithoutANameIsNotListed) {
     KeepThree();
     others.Execute("UPDATE Agenda SET Nume = NULL WHERE Nume = 'Albu'");

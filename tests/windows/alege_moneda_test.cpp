@@ -162,14 +162,62 @@ TEST_F(AlegeMonedaTest, ATableWithoutTheFirstCodeIsReportedAndAnotherCurrencyCan
     connection->FailStatement(
         "[$]", data::Error(data::error_number::ErrorsInCommand, "Invalid column name '$'."), Repeat::Always);
     AlegeMoneda& chooser = OpenFromCalculator();
-    EXPECT_THAT(ReportedErrors(),
-                ElementsAre(data::error_number::ErrorsInCommand, data::error_number::ErrorsInCommand));
+    EXPECT_THAT(connection->Statements(), ElementsAre(DollarQuery, ColumnsQuery, DollarQuery));
+    EXPECT_THAT(ReportedErrors(), ElementsAre(data::error_number::ErrorsInCommand)) << "told once";
     EXPECT_EQ(ActiveWindow(), "AlegeMoneda");
     EXPECT_THAT(Currencies(chooser), SizeIs(3));
     chooser.cmbMoneda.HandleChosen(0);
     EXPECT_EQ(chooser.Grid.TextMatrix(1, 1), "37500");
     keyboard.Press(key::Enter);
     EXPECT_EQ(Calculator()->CursCurent(), 37500);
+}
+
+TEST_F(AlegeMonedaTest, WhatIsRefusedTheSecondTimeAloneIsReported) {
+    connection->FailOperation(6, data::Error(data::error_number::ErrorsInCommand, "The table is locked."));
+    OpenFromCalculator();
+    EXPECT_THAT(ReportedErrors(), ElementsAre(data::error_number::ErrorsInCommand));
+}
+
+TEST_F(AlegeMonedaTest, AnotherRefusalTheSecondTimeIsReportedToo) {
+    connection->FailOperation(1, data::Error(data::error_number::ErrorsInCommand, "Invalid column name."));
+    connection->FailOperation(2, data::Error(-2147467259, "Connection lost"));
+    OpenFromCalculator();
+    EXPECT_THAT(ReportedErrors(), ElementsAre(data::error_number::ErrorsInCommand, -2147467259));
+}
+
+TEST_F(AlegeMonedaTest, ComingBackToACodeThatIsRefusedIsReportedAgain) {
+    AlegeMoneda& chooser = OpenFromCalculator();
+    chooser.cmbMoneda.SetText("EURO");
+    desktop.ActivateByUser(nullptr);
+    desktop.ActivateByUser(&chooser);
+    EXPECT_THAT(ReportedErrors(), SizeIs(2));
+}
+
+// Another connection.
+
+TEST_F(AlegeMonedaTest, RatesComeFromTheConnectionOfTheMoment) {
+    AlegeMoneda& chooser = OpenFromCalculator();
+    const auto second = std::make_shared<RecordingConnection>();
+    second->Script().AnswerRows(ColumnsQuery, {"Data", "Validat", "$"}, {});
+    second->Script().AnswerRows(DollarQuery, {"D", "$"}, {{std::string("02/01/2004"), 3.25}});
+    module.context.connection = second;
+    desktop.ActivateByUser(nullptr);
+    desktop.ActivateByUser(&chooser);
+    EXPECT_EQ(chooser.Grid.TextMatrix(1, 1), "3.25");
+    EXPECT_THAT(desktop.reports, IsEmpty());
+}
+
+TEST_F(AlegeMonedaTest, OpenedWithoutAConnectionItIsWholeAfterAGoodOne) {
+    module.context.connection = nullptr;
+    Open();
+    AlegeMoneda& chooser = OpenChooser();
+    EXPECT_EQ(chooser.cmdAction[0].Picture(), forms::Icon::Accept);
+    module.context.connection = connection;
+    desktop.ActivateByUser(nullptr);
+    desktop.ActivateByUser(&chooser);
+    EXPECT_THAT(Currencies(chooser), SizeIs(3));
+    keyboard.Press(key::Enter);
+    EXPECT_EQ(Calculator()->CursCurent(), 4.5);
 }
 
 // Without rates.
@@ -392,8 +440,7 @@ TEST_F(AlegeMonedaTest, WithoutAConnectionItReportsAndCloses) {
     module.context.connection = nullptr;
     Open();
     OpenChooser();
-    EXPECT_THAT(ReportedErrors(),
-                ElementsAre(data::error_number::ObjectNotSet, data::error_number::ObjectNotSet));
+    EXPECT_THAT(ReportedErrors(), ElementsAre(data::error_number::ObjectNotSet));
     keyboard.Press(key::Escape);
     EXPECT_EQ(Chooser(), nullptr);
     EXPECT_TRUE(Calculator()->Enabled());
@@ -409,6 +456,30 @@ TEST_F(AlegeMonedaTest, OutlivesACalculatorThatIsUnloadedMeanwhile) {
     EXPECT_EQ(Chooser(), nullptr);
     EXPECT_THAT(desktop.reports, IsEmpty());
     EXPECT_EQ(Open().CursCurent(), 1) << "a new calculator begins without a rate";
+}
+
+TEST_F(AlegeMonedaTest, WhatIsChosenGoesToTheCalculatorOfTheMoment) {
+    OpenFromCalculator();
+    const auto first = std::static_pointer_cast<calculator::FrmCalculator>(Calculator()->shared_from_this());
+    first->Unload();
+    Open();
+    keyboard.Type("9");
+    EXPECT_TRUE(Calculator()->Enabled());
+    desktop.ActivateByUser(Chooser());
+    keyboard.Press(key::Enter);
+    EXPECT_EQ(Calculator()->CursCurent(), 4.5);
+    EXPECT_EQ(Shown(), "9,00 Lei | 2,00 $");
+    EXPECT_EQ(first->CursCurent(), 1) << "the calculator that called is gone";
+}
+
+TEST_F(AlegeMonedaTest, ACalculatorThatOpensLaterKnowsNothingOfTheChoice) {
+    OpenFromCalculator();
+    Calculator()->Unload();
+    keyboard.Press(key::Enter);
+    EXPECT_EQ(Calculator(), nullptr) << "choosing opens none";
+    Open();
+    EXPECT_EQ(Shown(), "0,00 Lei | 0,00 Valuta");
+    EXPECT_EQ(Calculator()->lblCurs.Caption(), "Nu este setat nici un curs valutar!!");
 }
 
 TEST_F(AlegeMonedaTest, AcceptingWithoutACallerIsAnError) {

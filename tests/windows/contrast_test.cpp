@@ -92,8 +92,9 @@ class ContrastTest : public EveryWindowTest {
         LookAtTexts(surface, control.BackColor(), what);
         // The platform draws a field's text in these.
         if (control.Kind() == forms::ControlKind::TextBox || control.Kind() == forms::ControlKind::ComboBox) {
-            const Color text =
-                control.IsEffectivelyEnabled() ? control.ForeColor() : forms::scheme::TextDisabled;
+            const bool isField = control.Kind() == forms::ControlKind::TextBox;
+            const bool own = isField ? control.Enabled() : control.IsEffectivelyEnabled();
+            const Color text = own ? control.ForeColor() : forms::scheme::TextDisabled;
             Compare(text, control.BackColor(), what);
         }
     }

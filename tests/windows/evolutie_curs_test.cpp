@@ -41,6 +41,8 @@ class EvolutieCursTest : public RatesTest {
                       const std::vector<data::MemoryTable::Row>& limits = {{37100.0, 37100.0}}) {
         const rates::EvolutionChoice may{"2003", 5, "EUR"};
         const auto script = std::make_shared<ScriptedConnection>();
+        script->AnswerRows("SELECT * FROM [Curs Valutar]", {"Data", "Validat", "EUR"}, {});
+        script->AnswerRows(std::string(rates::RateYearsStatement), {"AN"}, {{std::int64_t{2003}}});
         script->AnswerRows(rates::EvolutionStatement(may), {"Data", "Curs valutar"},
                            {{std::int64_t{8}, 37100.0}});
         script->AnswerRows(rates::LimitsStatement(may), {"Minim", "Maxim"}, limits);
@@ -360,6 +362,50 @@ TEST_F(EvolutieCursTest, WithoutLimitsTheScaleIsZero) {
     EXPECT_EQ(window.MSChart1.Minimum(), 0);
     EXPECT_EQ(window.MSChart1.Maximum(), 0);
     EXPECT_THAT(desktop.reports, IsEmpty());
+}
+
+// Another connection.
+
+TEST_F(EvolutieCursTest, ListsOfAnotherDatabaseAreReadBeforeDrawingAndKeepTheChoice) {
+    EvolutieCurs& window = OpenAndDraw(5);
+    window.cmbMoneda.SetListIndex(1);
+    const auto second = std::make_shared<RecordingConnection>(connection);
+    Run("ALTER TABLE [Curs Valutar] ADD  [GBP] float");
+    module.context.connection = second;
+    window.cmdAction[1].Click();
+    EXPECT_THAT(second->Statements(), ElementsAre("SELECT * FROM [Curs Valutar]", rates::RateYearsStatement,
+                                                  rates::EvolutionStatement({"2003", 5, "USD"}),
+                                                  rates::LimitsStatement({"2003", 5, "USD"}),
+                                                  rates::CountDaysStatement({"2003", 5, "USD"})));
+    EXPECT_EQ(window.cmbMoneda.ListCount(), 3);
+    EXPECT_EQ(window.cmbAn.ListCount(), 1);
+    EXPECT_EQ(window.cmbLuna.ListCount(), 13);
+    second->ClearRecord();
+    window.cmdAction[1].Click();
+    EXPECT_EQ(second->Statements().size(), 3U) << "read once";
+}
+
+TEST_F(EvolutieCursTest, AChoiceThatTheOtherDatabaseLacksGivesWayToItsFirst) {
+    EvolutieCurs& window = OpenAndDraw(5);
+    window.cmbMoneda.SetListIndex(1);
+    AnswerForMay(1);
+    window.cmdAction[1].Click();
+    EXPECT_EQ(window.cmbMoneda.Text(), "EUR");
+    EXPECT_TRUE(window.MSChart1.Visible());
+    EXPECT_THAT(desktop.reports, IsEmpty());
+}
+
+TEST_F(EvolutieCursTest, OpenedWithoutAConnectionItIsWholeAfterAGoodOne) {
+    module.context.connection = nullptr;
+    EvolutieCurs& window = Open();
+    EXPECT_EQ(desktop.reports.size(), 1U);
+    module.context.connection = connection;
+    window.cmbLuna.SetListIndex(4);
+    window.cmdAction[1].Click();
+    EXPECT_EQ(window.cmbLuna.ListCount(), 13);
+    EXPECT_TRUE(window.MSChart1.Visible());
+    EXPECT_EQ(desktop.reports.size(), 1U);
+    EXPECT_EQ(messages.created, 1);
 }
 
 TEST_F(EvolutieCursTest, ATableWithoutCurrenciesOpensAllTheSame) {

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+
 #include "support/window_test.h"
 
 namespace tavrin::tests {
@@ -122,6 +124,21 @@ TEST_F(UtilitatiTest, RollsUpToTheStripAndSixPixels) {
     EXPECT_EQ(palette.Bounds().width, width);
     EXPECT_FALSE(palette.imgRollup[0].Visible());
     EXPECT_TRUE(palette.imgRollup[1].Visible());
+}
+
+TEST_F(UtilitatiTest, RolledUpOnlyTheStripIsInSightAtEveryResolution) {
+    for (const int dpi : {96, 120, 144, 192}) {
+        const auto pixels = [dpi](int twips) { return std::lround(twips * dpi / 1440.0); };
+        desktop.twipsPerPixel = static_cast<int>(std::lround(1440.0 / dpi));
+        Utilitati& palette = Open();
+        ClickWithMouse(palette.imgRollup[0]);
+        for (const forms::Control* control : palette.AllControls()) {
+            const bool inStrip = control->Bounds().top == 0;
+            EXPECT_EQ(pixels(control->Bounds().top) < pixels(palette.Bounds().height), inStrip)
+                << control->QualifiedName() << " at " << dpi;
+        }
+        palette.Unload();
+    }
 }
 
 TEST_F(UtilitatiTest, RestoringIsTwentyTwipsLowerThanLoading) {

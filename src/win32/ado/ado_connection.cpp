@@ -19,4 +19,15 @@ std::unique_ptr<data::Recordset> AdoConnection::CreateRecordset() {
     return std::make_unique<AdoRecordset>(connection_);
 }
 
+std::unique_ptr<data::Recordset> AdoConnection::Adopt(std::unique_ptr<data::Recordset> recordset) {
+    auto* known = dynamic_cast<AdoRecordset*>(recordset.get());
+    if (known == nullptr) return CreateRecordset();
+    known->BindTo(connection_);
+    return recordset;
+}
+
+bool AdoConnection::IsOf(const ComPtr<IDispatch>& connection) const {
+    return connection_.Object().As<IUnknown>().Get() == connection.As<IUnknown>().Get();
+}
+
 }  // namespace tavrin::win32

@@ -17,6 +17,10 @@ class AdoConnection : public data::Connection {
 
     std::unique_ptr<data::Recordset> Execute(std::string_view statement) override;
     std::unique_ptr<data::Recordset> CreateRecordset() override;
+    std::unique_ptr<data::Recordset> Adopt(std::unique_ptr<data::Recordset> recordset) override;
+
+    /// Whether that is the object behind it, through whichever of its interfaces.
+    bool IsOf(const ComPtr<IDispatch>& connection) const;
 
   private:
     DispatchObject connection_;

@@ -48,14 +48,13 @@ AdoRecordset::AdoRecordset(DispatchObject connection, DispatchObject recordset)
     : connection_(std::move(connection)), recordset_(std::move(recordset)) {}
 
 AdoRecordset::AdoRecordset(DispatchObject connection)
-    : AdoRecordset(std::move(connection), CreateRecordsetObject()) {
-    recordset_.Put(L"CursorLocation", Variant(UseClient));
-    recordset_.Put(L"CursorType", Variant(OpenStatic));
-    recordset_.Put(L"LockType", Variant(LockReadOnly));
-}
+    : AdoRecordset(std::move(connection), CreateRecordsetObject()) {}
 
 void AdoRecordset::Open(std::string_view source) {
     fields_.clear();
+    recordset_.Put(L"CursorLocation", Variant(UseClient));
+    recordset_.Put(L"CursorType", Variant(OpenStatic));
+    recordset_.Put(L"LockType", Variant(LockReadOnly));
     WithProviderErrors(connection_, [&] {
         return recordset_.Call(L"Open", Variant(source), Variant(connection_.Object()), Variant(Unspecified),
                                Variant(Unspecified), Variant(Unspecified));

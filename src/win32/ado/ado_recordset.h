@@ -14,9 +14,13 @@ class AdoRecordset : public data::Recordset {
   public:
     /// A recordset that a statement gave; null where the statement gave none.
     AdoRecordset(DispatchObject connection, DispatchObject recordset);
-    /// A new, closed one: client-side, static and read-only.
+    /// A new, closed one.
     explicit AdoRecordset(DispatchObject connection);
 
+    /// The connection that the next Open takes.
+    void BindTo(DispatchObject connection) { connection_ = std::move(connection); }
+
+    /// Client-side, static and read-only, whatever the recordset was before.
     void Open(std::string_view source) override;
     bool IsOpen() const override;
     void Close() override;

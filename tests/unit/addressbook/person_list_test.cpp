@@ -30,10 +30,11 @@ data::MemoryTable::Row Row(const std::string& nume, const std::string& prenume) 
 class PersonListTest : public testing::Test {
   protected:
     PersonListTest() {
+        context.connection = connection;
         const std::vector<std::string> fields(Columns.begin(), Columns.end());
-        connection.Script().AnswerRows(Everybody, fields,
-                                       {Row("Ene", "Dan"), Row("Pop", "Ana"), Row("Pop", "Ion")});
-        connection.Script().AnswerRows(Nobody, fields, {});
+        connection->Script().AnswerRows(Everybody, fields,
+                                        {Row("Ene", "Dan"), Row("Pop", "Ana"), Row("Pop", "Ion")});
+        connection->Script().AnswerRows(Nobody, fields, {});
     }
 
     template <class Call>
@@ -46,61 +47,156 @@ class PersonListTest : public testing::Test {
         return 0;
     }
 
-    RecordingConnection connection;
-    PersonList list;
+    Person Current() const {
+        Person person;
+        list.Read(person);
+        return person;
+    }
+
+    std::shared_ptr<RecordingConnection> connection = std::make_shared<RecordingConnection>();
+    shell::HostContext context;
+    PersonList list{context};
 };
 
 TEST_F(PersonListTest, WithoutARecordsetEveryUseIsARuntimeError) {
     EXPECT_FALSE(list.HasRows());
-    EXPECT_EQ(ErrorOf([&] { list.Load(Everybody); }), number::ObjectNotSet);
     EXPECT_EQ(ErrorOf([&] { list.MoveTo(1); }), number::ObjectNotSet);
-    list.Create(connection);
+    list.Load(Everybody);
     list.Release();
-    EXPECT_EQ(ErrorOf([&] { list.Requery(); }), number::ObjectNotSet);
+    EXPECT_EQ(ErrorOf([&] { list.ReadAll(); }), number::ObjectNotSet);
+}
+
+TEST_F(PersonListTest, WithoutAConnectionLoadingIsARuntimeErrorUntilThereIsOne) {
+    context.connection = nullptr;
+    EXPECT_EQ(ErrorOf([&] { list.Load(Everybody); }), number::ObjectNotSet);
+    EXPECT_EQ(ErrorOf([&] { list.Refresh(Everybody); }), number::ObjectNotSet);
+    context.connection = connection;
+    list.Refresh(Everybody);
+    EXPECT_TRUE(list.HasRows());
 }
 
 TEST_F(PersonListTest, LoadingAgainClosesWhatWasOpen) {
-    list.Create(connection);
     list.Load(Everybody);
     list.Load(Nobody);
-    EXPECT_THAT(connection.Log(),
+    EXPECT_THAT(connection->Log(),
                 testing::ElementsAre("Open: everybody", "Close: everybody", "Open: nobody"));
     EXPECT_FALSE(list.HasRows());
-    EXPECT_TRUE(list.AtEnd());
 }
 
+// The connection of the moment.
+
+/// Counts the recordsets that it hands out, and those of others that it takes over.
+class CountingConnection : public RecordingConnection {
+  public:
+    std::unique_ptr<data::Recordset> CreateRecordset() override {
+        ++created;
+        return RecordingConnection::CreateRecordset();
+    }
+    std::unique_ptr<data::Recordset> Adopt(std::unique_ptr<data::Recordset> recordset) override {
+        adopted += recordset != nullptr ? 1 : 0;
+        return RecordingConnection::Adopt(std::move(recordset));
+    }
+
+    int created = 0;
+    int adopted = 0;
+};
+
+class PersonListOnTwoConnectionsTest : public PersonListTest {
+  protected:
+    PersonListOnTwoConnectionsTest() {
+        for (const auto& each : {first, second})
+            each->Script().AnswerRows(Everybody, {Columns.begin(), Columns.end()}, {Row("Ene", "Dan")});
+        context.connection = first;
+        list.Load(Everybody);
+    }
+
+    std::shared_ptr<CountingConnection> first = std::make_shared<CountingConnection>();
+    std::shared_ptr<CountingConnection> second = std::make_shared<CountingConnection>();
+};
+
+TEST_F(PersonListOnTwoConnectionsTest, OneRecordsetServesAllLoadsOfAConnection) {
+    list.Load(Everybody);
+    list.Load(Everybody);
+    EXPECT_EQ(first->created, 1);
+    EXPECT_EQ(first->adopted, 0);
+    EXPECT_TRUE(list.IsCurrent());
+}
+
+TEST_F(PersonListOnTwoConnectionsTest, ALoadAfterTheHostChangedItsConnectionRunsOnTheNewOne) {
+    context.connection = second;
+    EXPECT_FALSE(list.IsCurrent());
+    EXPECT_TRUE(list.HasRows()) << "what is in sight can still be walked";
+    list.Load(Everybody);
+    EXPECT_THAT(first->Log(), testing::ElementsAre("Open: everybody", "Close: everybody"));
+    EXPECT_THAT(second->Log(), testing::ElementsAre("Open: everybody"));
+    EXPECT_EQ(second->adopted, 1) << "the window's one recordset moves with it";
+    EXPECT_TRUE(list.IsCurrent());
+}
+
+TEST_F(PersonListOnTwoConnectionsTest, ARefreshLoadsWhereTheHostIsNow) {
+    list.Refresh(Everybody);
+    EXPECT_EQ(first->Log().back(), "Requery: everybody");
+    context.connection = second;
+    list.Refresh(Everybody);
+    EXPECT_THAT(second->Log(), testing::ElementsAre("Open: everybody"));
+}
+
+TEST_F(PersonListOnTwoConnectionsTest, ARefreshAfterOneThatWasLostLoadsAnew) {
+    first->FailOperation(2, {number::ErrorsInCommand, "lost"});
+    EXPECT_EQ(ErrorOf([&] { list.Load(Everybody); }), number::ErrorsInCommand);
+    EXPECT_FALSE(list.IsCurrent());
+    list.Refresh(Everybody);
+    EXPECT_EQ(first->Log().back(), "Open: everybody");
+    EXPECT_TRUE(list.IsCurrent());
+}
+
+TEST_F(PersonListOnTwoConnectionsTest, NothingOfAConnectionIsKeptAlive) {
+    const std::weak_ptr<data::Connection> let = first;
+    context.connection = second;
+    first.reset();
+    EXPECT_TRUE(let.expired());
+    EXPECT_FALSE(list.IsCurrent());
+}
+
+TEST_F(PersonListOnTwoConnectionsTest, AWriteIsRefusedOnAnotherConnection) {
+    list.DemandConnection();
+    context.connection = second;
+    EXPECT_EQ(ErrorOf([&] { list.DemandConnection(); }), number::InvalidConnection);
+    context.connection = nullptr;
+    EXPECT_EQ(ErrorOf([&] { list.DemandConnection(); }), number::ObjectNotSet);
+}
+
+// Rows.
+
 TEST_F(PersonListTest, RowsAreCountedFromOneAndReadByColumnName) {
-    list.Create(connection);
     list.Load(Everybody);
     list.MoveTo(3);
-    Person person = list.Current();
+    Person person = Current();
     EXPECT_EQ(person[NumeColumn], "Pop");
     EXPECT_EQ(person[PrenumeColumn], "Ion");
     EXPECT_EQ(person[15], "Pop Functie");
     list.MoveTo(1);
-    person = list.Current();
+    person = Current();
     EXPECT_EQ(person[PrenumeColumn], "Dan");
 }
 
 TEST_F(PersonListTest, ARowBeyondTheLastIsTheLast) {
-    list.Create(connection);
     list.Load(Everybody);
     for (const int row : {4, 1000, std::numeric_limits<int>::max()}) {
         list.MoveTo(row);
-        EXPECT_EQ(list.Current()[PrenumeColumn], "Ion") << row;
+        EXPECT_EQ(Current()[PrenumeColumn], "Ion") << row;
     }
     list.MoveTo(0);
-    EXPECT_EQ(list.Current()[PrenumeColumn], "Dan");
+    EXPECT_EQ(Current()[PrenumeColumn], "Dan");
 }
 
 TEST_F(PersonListTest, ARowBeyondTheOnlyOneIsThatOne) {
     constexpr const char* Somebody = "somebody";
-    connection.Script().AnswerRows(Somebody, {Columns.begin(), Columns.end()}, {Row("Ene", "Dan")});
-    list.Create(connection);
+    connection->Script().AnswerRows(Somebody, {Columns.begin(), Columns.end()}, {Row("Ene", "Dan")});
     list.Load(Somebody);
     for (const int row : {0, 1, 2, 1000}) {
         list.MoveTo(row);
-        EXPECT_EQ(list.Current()[PrenumeColumn], "Dan") << row;
+        EXPECT_EQ(Current()[PrenumeColumn], "Dan") << row;
     }
 }
 
@@ -111,25 +207,23 @@ class UncountedRows : public tests::PassThroughRecordset {
 };
 
 TEST_F(PersonListTest, AProviderThatDoesNotCountIsWalkedAllTheSame) {
-    tests::PassThroughConnection uncounted(
-        connection, [](auto rows) { return std::make_unique<UncountedRows>(std::move(rows)); });
-    list.Create(uncounted);
+    const auto uncounted = std::make_shared<tests::PassThroughConnection>(
+        *connection, [](auto rows) { return std::make_unique<UncountedRows>(std::move(rows)); });
+    context.connection = uncounted;
     list.Load(Everybody);
     for (const auto& [row, prenume] : {std::pair{1, "Dan"}, {2, "Ana"}, {3, "Ion"}, {0, "Dan"}}) {
         list.MoveTo(row);
-        EXPECT_EQ(list.Current()[PrenumeColumn], prenume) << row;
+        EXPECT_EQ(Current()[PrenumeColumn], prenume) << row;
     }
 }
 
 TEST_F(PersonListTest, AnEmptyListHasNoRowToMoveTo) {
-    list.Create(connection);
     list.Load(Nobody);
     EXPECT_EQ(ErrorOf([&] { list.MoveTo(1); }), number::NoCurrentRecord);
-    EXPECT_EQ(ErrorOf([&] { list.Current(); }), number::NoCurrentRecord);
+    EXPECT_EQ(ErrorOf([&] { Current(); }), number::NoCurrentRecord);
 }
 
 TEST_F(PersonListTest, AFailedLoadLeavesAListWithoutRows) {
-    list.Create(connection);
     list.Load(Everybody);
     EXPECT_EQ(ErrorOf([&] { list.Load("garbage"); }), number::ErrorsInCommand);
     EXPECT_FALSE(list.HasRows());
@@ -137,14 +231,19 @@ TEST_F(PersonListTest, AFailedLoadLeavesAListWithoutRows) {
     EXPECT_TRUE(list.HasRows());
 }
 
-TEST_F(PersonListTest, ANullInAnyColumnIsARuntimeError) {
-    list.Create(connection);
+TEST_F(PersonListTest, ANullEndsTheReadingBehindTheColumnsBeforeIt) {
     for (std::size_t column = 0; column < Columns.size(); ++column) {
         auto row = Row("Pop", "Ana");
         row[column] = data::Null{};
-        connection.Script().AnswerRows(std::string(Columns[column]), {Columns.begin(), Columns.end()}, {row});
+        connection->Script().AnswerRows(std::string(Columns[column]), {Columns.begin(), Columns.end()},
+                                        {row});
         list.Load(Columns[column]);
-        EXPECT_EQ(ErrorOf([&] { list.Current(); }), number::InvalidUseOfNull) << Columns[column];
+        Person person;
+        EXPECT_EQ(ErrorOf([&] { list.Read(person); }), number::InvalidUseOfNull) << Columns[column];
+        for (std::size_t i = 0; i < Columns.size(); ++i)
+            EXPECT_EQ(person[i].empty(), i >= column) << Columns[column] << ", column " << i;
+        const bool isName = column < FirstDetailColumn;
+        EXPECT_EQ(ErrorOf([&] { list.DemandNames(); }), isName ? number::InvalidUseOfNull : 0);
     }
 }
 

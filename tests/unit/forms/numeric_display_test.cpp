@@ -135,6 +135,7 @@ TEST_F(NumericDisplayTest, ShowsItsValueRoundedAndKeepsIt) {
 TEST_F(NumericDisplayTest, FollowsTheUsersLocale) {
     desktop.locale.decimalSeparator = ".";
     desktop.locale.thousandsSeparator = ",";
+    form.Load();
     display.SetValue(1234.5);
     EXPECT_EQ(display.Text(), "1,234.50");
 }
