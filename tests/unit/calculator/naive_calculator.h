@@ -197,24 +197,50 @@ class NaiveCalculator {
         return std::strtod(text.c_str(), nullptr) + 0.0;
     }
 
+    /// What a number stands for: digits[0].digits[1]... times ten to the power of the exponent.
+    struct Standing {
+        std::string digits;
+        int exponent;
+    };
+
+    static Standing StandingFor(double number) {
+        char text[40];
+        std::snprintf(text, sizeof text, "%.14e", std::fabs(number));
+        std::string digits = text;
+        const int exponent = std::atoi(digits.substr(digits.find('e') + 1).c_str());
+        digits = digits.substr(0, digits.find('e'));
+        digits.erase(1, 1);
+        return {digits, exponent};
+    }
+
     double Rounded(double number) const {
-        char text[400];
-        std::snprintf(text, sizeof text, "%.*f", decimals, number);
-        return std::strtod(text, nullptr);
+        Standing standing = StandingFor(number);
+        std::string& digits = standing.digits;
+        const int kept = standing.exponent + 1 + decimals;
+        if (kept < 0) return 0;
+        if (kept < static_cast<int>(digits.size())) {
+            const std::string rest = digits.substr(static_cast<std::size_t>(kept));
+            const std::string tie = "5" + std::string(rest.size() - 1, '0');
+            digits = "0" + digits.substr(0, static_cast<std::size_t>(kept));
+            standing.exponent = standing.exponent + 1;
+            if (rest > tie || (rest == tie && (digits.back() - '0') % 2 == 1)) {
+                std::size_t place = digits.size() - 1;
+                while (digits[place] == '9') {
+                    digits[place] = '0';
+                    place = place - 1;
+                }
+                digits[place] = static_cast<char>(digits[place] + 1);
+            }
+        }
+        const std::string sign = number < 0 ? "-" : "";
+        digits.insert(1, ".");
+        return std::strtod((sign + digits + "e" + std::to_string(standing.exponent)).c_str(), nullptr) + 0.0;
     }
 
     std::string TextOf(double number) const {
         if (number == 0) return "0";
-        char scientific[40];
-        int digits = 1;
-        do {
-            std::snprintf(scientific, sizeof scientific, "%.*e", digits - 1, std::fabs(number));
-            digits = digits + 1;
-        } while (std::strtod(scientific, nullptr) != std::fabs(number));
-        std::string text = scientific;
-        const int exponent = std::atoi(text.substr(text.find('e') + 1).c_str());
-        text = text.substr(0, text.find('e'));
-        if (text.size() > 1) text.erase(1, 1);
+        const auto [digits, exponent] = StandingFor(number);
+        std::string text = digits.substr(0, digits.find_last_not_of('0') + 1);
         while (static_cast<int>(text.size()) < exponent + 1)
             text = text + "0";
         std::string whole = "0";
