@@ -20,8 +20,10 @@ class Engine {
     /// `decimalSeparator` is the locale's. The listener outlives the engine.
     Engine(EngineListener& listener, std::string decimalSeparator);
 
-    /// \throws data::Error 6 when a result is no finite number, and what the listener throws.
-    void Press(Command command);
+    /// False where the key does nothing: a digit or a separator that has no place, a sign that cannot turn, a
+    /// percentage of a first operand. \throws data::Error 6 when a result is no finite number, and what the
+    /// listener throws; a calculation that an error cuts short begins anew, with the memory as it was.
+    bool Press(Command command);
 
     /// How many decimals may be typed and are kept of a result: 0, 2, 4 or 6. What was typed stays.
     void SetDecimals(int decimals) { decimals_ = decimals; }
@@ -32,16 +34,17 @@ class Engine {
     void SetEntry(double number) { entry_.SetNumber(number); }
 
   private:
-    void TypeDigit(int digit);
-    void TakeOperator(Operator taken);
-    void TakeFirstOperand(Operator taken);
+    bool TypeDigit(int digit);
+    bool TakeOperator(Operator taken);
+    bool TakeFirstOperand(Operator taken);
     void TakeSecondOperand(Operator taken);
     void FinishPercent();
     void RestartAfterResult();
     void Continue(Operator taken);
     void ShowRounded(double number);
+    void StartOver();
     double EnteredValue() const;
-    void ChangeSign();
+    bool ChangeSign();
     void Backspace();
     void Clear();
     void ClearMemory();

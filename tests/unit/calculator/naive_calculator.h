@@ -18,17 +18,24 @@ class NaiveCalculator {
         if (key >= '0' && key <= '9') {
             Digit(key);
         } else if (key == '.') {
-            if (entry.find(separator) == std::string::npos) decimalPending = true;
+            if (entry.find(separator) == std::string::npos && !decimalPending) {
+                decimalPending = true;
+            } else {
+                ignored = ignored + 1;
+            }
         } else if (key == 'n') {
             if (entry.find('-') == std::string::npos && entry != "0") {
                 entry = "-" + entry;
                 accumulator = accumulator * -1;
                 ShowValues();
+            } else {
+                ignored = ignored + 1;
             }
         } else if (key == 'A') {
             pendingOperator = 0;
             entry = "0";
             accumulator = operand = memory = 0;
+            mark = false;
             decimalPending = false;
             newEntry = true;
             operandCount = 0;
@@ -50,7 +57,16 @@ class NaiveCalculator {
             entry = "0";
             ShowValues();
         } else {
-            Operator(key);
+            try {
+                Operator(key);
+            } catch (int) {
+                pendingOperator = 0;
+                accumulator = operand = 0;
+                operandCount = 0;
+                newEntry = true;
+                decimalPending = false;
+                throw;
+            }
         }
     }
 
@@ -81,16 +97,23 @@ class NaiveCalculator {
     double currency = 0;
     bool mark = false;
     int messages = 0;
+    int ignored = 0;
 
   private:
     void Digit(char digit) {
         if (newEntry) entry = "0";
         newEntry = false;
-        if (entry.size() >= 15) return;
+        if (entry.size() >= 15) {
+            ignored = ignored + 1;
+            return;
+        }
         const std::size_t at = entry.find(separator);
         if (at != std::string::npos && at >= 1) {
             const std::string tail = entry.substr(at);
-            if (static_cast<int>(tail.size()) > decimals) return;
+            if (static_cast<int>(tail.size()) > decimals) {
+                ignored = ignored + 1;
+                return;
+            }
         }
         if (!decimalPending) {
             if (entry == "0") {
@@ -115,6 +138,7 @@ class NaiveCalculator {
             accumulator = Entered();
             if (cap == '%') {
                 operandCount = 0;
+                ignored = ignored + 1;
                 return;
             }
             pendingOperator = cap;
@@ -127,13 +151,13 @@ class NaiveCalculator {
                 if (pendingOperator == 'X') accumulator = Checked(Checked(accumulator * operand) / 100);
                 if (pendingOperator == '/' && operand == 0) messages = messages + 1;
                 if (pendingOperator == '/' && operand != 0) accumulator = Divided(accumulator, operand / 100);
-                entry = TextOf(Rounded(accumulator));
+                entry = TextOf(Checked(Rounded(accumulator)));
                 ShowValues();
                 operand = 0;
                 operandCount = 0;
                 newEntry = true;
             } else if (pendingOperator == '=') {
-                entry = TextOf(Rounded(operand));
+                entry = TextOf(Checked(Rounded(operand)));
                 ShowValues();
                 accumulator = operand = 0;
                 operandCount = 0;
@@ -144,7 +168,7 @@ class NaiveCalculator {
                 if (pendingOperator == 'X') accumulator = Checked(accumulator * operand);
                 if (pendingOperator == '/' && operand == 0) messages = messages + 1;
                 if (pendingOperator == '/' && operand != 0) accumulator = Divided(accumulator, operand);
-                entry = TextOf(Rounded(accumulator));
+                entry = TextOf(Checked(Rounded(accumulator)));
                 ShowValues();
                 operandCount = 1;
                 newEntry = true;
@@ -168,11 +192,11 @@ class NaiveCalculator {
         if (entry == "-0") {
             lei = currency = 0;
         } else if (unitIsLei) {
-            lei = ValueOf(entry);
+            lei = Checked(ValueOf(entry));
             currency = Divided(ValueOf(entry), rate);
         } else {
+            currency = Checked(ValueOf(entry));
             lei = Checked(ValueOf(entry) * rate);
-            currency = ValueOf(entry);
         }
     }
 
