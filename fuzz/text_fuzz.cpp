@@ -13,6 +13,7 @@
 #include "calculator/number_text.h"
 #include "data/date.h"
 #include "data/error.h"
+#include "data/rounding.h"
 #include "data/value.h"
 #include "forms/date_format.h"
 #include "forms/grouped_number.h"
@@ -55,11 +56,25 @@ void ReadDates(const std::string& text) {
         static_cast<void>(piece.Text({2003, 5, 20}, forms::Locale()));
 }
 
+/// A text has at most 15 significant digits and stands for a number that has the same text.
+void DemandSameText(double number) {
+    const std::string text = data::ShortestDecimal(number);
+    Demand(text.find_first_of("eE") == std::string::npos, "exponent", text);
+    Demand(data::ShortestDecimal(data::Value(text).ToDouble()) == text, "read back", text);
+    Demand(data::ShortestDecimal(data::RoundHalfEven(number, 6)).size() <= text.size(), "rounded", text);
+}
+
+void DemandRewritten(const std::string& text, double read) {
+    std::string again;
+    calculator::WriteNumber(again, read, ",");
+    Demand(again == text, "written", text);
+}
+
 void ReadNumbers(const std::string& text) {
     const data::Value value(text);
     MayRefuse([&] {
         const double number = value.ToDouble();
-        Demand(data::Value(data::ShortestDecimal(number)).ToDouble() == number, "number", text);
+        DemandSameText(number);
     });
     MayRefuse([&] { static_cast<void>(value.ToInteger()); });
     for (const char* separator : {",", "."}) {
@@ -94,9 +109,10 @@ void ReadTexts(const std::string& text) {
 void WriteNumbers(double number) {
     std::string text;
     if (std::isfinite(number)) {
-        Demand(data::Value(data::ShortestDecimal(number)).ToDouble() == number, "shortest", "");
+        MayRefuse([&] { DemandSameText(number); });
         calculator::WriteNumber(text, number, ",");
-        Demand(calculator::ReadNumber(text, ",") == number, "written", text);
+        const double read = calculator::ReadNumber(text, ",");
+        if (std::isfinite(read)) DemandRewritten(text, read);
     }
     for (int decimals = 0; decimals <= 6; ++decimals)
         forms::WriteGroupedNumber(text, number, decimals, forms::Locale());

@@ -22,7 +22,7 @@ class Arithmetic {
     void SetOperand(double number) { operand_ = number; }
     void NegateAccumulator() { accumulator_ *= -1; }
 
-    /// Counts one more operand and answers how many there are.
+    /// Counts one more operand and answers how many there are: 1 or 2.
     std::int32_t CountOperand() { return ++operandCount_; }
     void SetOperandCount(std::int32_t count) { operandCount_ = count; }
 

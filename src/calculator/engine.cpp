@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "data/checked_arithmetic.h"
 #include "data/rounding.h"
 
 namespace tavrin::calculator {
@@ -9,7 +10,7 @@ namespace tavrin::calculator {
 Engine::Engine(EngineListener& listener, std::string decimalSeparator)
     : listener_(listener), entry_(std::move(decimalSeparator)) {}
 
-void Engine::Press(Command command) {
+bool Engine::Press(Command command) {
     switch (command) {
         case Command::DecimalPoint:
             return entry_.TypeSeparator();
@@ -28,35 +29,46 @@ void Engine::Press(Command command) {
         case Command::ChangeSign:
             return ChangeSign();
         case Command::Clear:
-            return Clear();
+            Clear();
+            break;
         case Command::ClearEntry:
-            return entry_.Clear();
+            entry_.Clear();
+            break;
         case Command::Backspace:
-            return Backspace();
+            Backspace();
+            break;
         case Command::MemoryClear:
-            return ClearMemory();
+            ClearMemory();
+            break;
         case Command::MemoryRecall:
-            return RecallMemory();
+            RecallMemory();
+            break;
         case Command::MemoryAdd:
-            return StoreEntry(&Memory::Add);
+            StoreEntry(&Memory::Add);
+            break;
         case Command::MemorySubtract:
-            return StoreEntry(&Memory::Subtract);
+            StoreEntry(&Memory::Subtract);
+            break;
         default:
             return TypeDigit(static_cast<int>(command) - static_cast<int>(Command::Digit0));
     }
+    return true;
 }
 
 // Typing.
 
-void Engine::TypeDigit(int digit) {
-    if (entry_.TypeDigit(digit, decimals_)) listener_.ShowValues();
+bool Engine::TypeDigit(int digit) {
+    if (!entry_.TypeDigit(digit, decimals_)) return false;
+    listener_.ShowValues();
+    return true;
 }
 
-void Engine::ChangeSign() {
-    if (!entry_.ChangeSign()) return;
+bool Engine::ChangeSign() {
+    if (!entry_.ChangeSign()) return false;
     // The running result turns with the entry, whether it is what the entry shows or not.
     arithmetic_.NegateAccumulator();
     listener_.ShowValues();
+    return true;
 }
 
 void Engine::Backspace() {
@@ -70,30 +82,30 @@ double Engine::EnteredValue() const {
     return entry_.Text() == "-0" ? 0 : listener_.ShownValue();
 }
 
-void Engine::TakeOperator(Operator taken) {
+bool Engine::TakeOperator(Operator taken) {
     if (entry_.StartsAnew()) {
         arithmetic_.SetPending(taken);
-        return;
+        return true;
     }
-    switch (arithmetic_.CountOperand()) {
-        case 1:
-            return TakeFirstOperand(taken);
-        case 2:
-            return TakeSecondOperand(taken);
-        default:
-            // An error has cut an operation short; nothing but clearing all begins a new one.
-            return;
+    if (arithmetic_.CountOperand() == 1) return TakeFirstOperand(taken);
+    try {
+        TakeSecondOperand(taken);
+    } catch (...) {
+        StartOver();
+        throw;
     }
+    return true;
 }
 
-void Engine::TakeFirstOperand(Operator taken) {
+bool Engine::TakeFirstOperand(Operator taken) {
     arithmetic_.SetAccumulator(EnteredValue());
     if (taken == Operator::Percent) {
         arithmetic_.SetOperandCount(0);
-        return;
+        return false;
     }
     arithmetic_.SetPending(taken);
     entry_.StartAnew();
+    return true;
 }
 
 void Engine::TakeSecondOperand(Operator taken) {
@@ -130,14 +142,20 @@ void Engine::Continue(Operator taken) {
 }
 
 void Engine::ShowRounded(double number) {
-    entry_.SetNumber(data::RoundHalfEven(number, decimals_));
+    entry_.SetNumber(data::CheckedResult(data::RoundHalfEven(number, decimals_)));
     listener_.ShowValues();
+}
+
+void Engine::StartOver() {
+    // The number in the entry stays, as it stays on the screen.
+    arithmetic_.Clear();
+    entry_.Restart();
 }
 
 void Engine::Clear() {
     arithmetic_.Clear();
-    memory_.Clear();
     entry_.Clear();
+    ClearMemory();
 }
 
 // Memory.

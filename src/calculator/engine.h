@@ -21,8 +21,10 @@ class Engine {
     /// `decimalSeparator` is the locale's. The listener outlives the engine.
     Engine(EngineListener& listener, std::string decimalSeparator);
 
-    /// \throws data::Error 6 when a result is no finite number, and what the listener throws.
-    void Press(Command command);
+    /// False where the key does nothing: a digit or a separator that has no place, a sign that cannot turn, a
+    /// percentage of a first operand. \throws data::Error 6 when a result is no finite number, and what the
+    /// listener throws; a calculation that an error cuts short begins anew, with the memory as it was.
+    bool Press(Command command);
 
     /// Begins with an empty entry in another locale.
     void SetDecimalSeparator(std::string separator) { entry_ = Entry(std::move(separator)); }
@@ -36,16 +38,17 @@ class Engine {
     void SetEntry(double number) { entry_.SetNumber(number); }
 
   private:
-    void TypeDigit(int digit);
-    void TakeOperator(Operator taken);
-    void TakeFirstOperand(Operator taken);
+    bool TypeDigit(int digit);
+    bool TakeOperator(Operator taken);
+    bool TakeFirstOperand(Operator taken);
     void TakeSecondOperand(Operator taken);
     void FinishPercent();
     void RestartAfterResult();
     void Continue(Operator taken);
     void ShowRounded(double number);
+    void StartOver();
     double EnteredValue() const;
-    void ChangeSign();
+    bool ChangeSign();
     void Backspace();
     void Clear();
     void ClearMemory();

@@ -2,8 +2,8 @@
 
 namespace tavrin::calculator {
 
-/// What the engine needs of whoever shows its numbers. An error thrown from here ends the command in the
-/// middle, with what it had done so far.
+/// What the engine needs of whoever shows its numbers. An error thrown from here ends the command; a
+/// calculation that it cuts short begins anew.
 class EngineListener {
   public:
     virtual ~EngineListener() = default;

@@ -39,8 +39,10 @@ bool Entry::TypeDigit(int digit, int decimals) {
     return true;
 }
 
-void Entry::TypeSeparator() {
-    if (!HasSeparator()) separatorPending_ = true;
+bool Entry::TypeSeparator() {
+    if (HasSeparator() || separatorPending_) return false;
+    separatorPending_ = true;
+    return true;
 }
 
 bool Entry::ChangeSign() {
@@ -68,8 +70,7 @@ void Entry::SetNumber(double number) {
 
 void Entry::Clear() {
     SetZero();
-    startsAnew_ = true;
-    separatorPending_ = false;
+    Restart();
 }
 
 int Entry::Length() const {

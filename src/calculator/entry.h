@@ -20,12 +20,17 @@ class Entry {
     /// Whether the next digit begins a new number.
     bool StartsAnew() const { return startsAnew_; }
     void StartAnew() { startsAnew_ = true; }
+    /// The same, and no separator is waited for any more.
+    void Restart() {
+        startsAnew_ = true;
+        separatorPending_ = false;
+    }
 
     /// False when the digit has no room: after fifteen characters, or after the last decimal. A separator
     /// that was asked for comes with its digit, so a full fourteen digits may become sixteen characters.
     bool TypeDigit(int digit, int decimals);
-    /// Nothing is seen of the separator before the next digit.
-    void TypeSeparator();
+    /// Nothing is seen of the separator before the next digit. False where there is one, or is waited for.
+    bool TypeSeparator();
     /// One way only: a number that has its minus keeps it, and zero takes none. False when nothing changed.
     bool ChangeSign();
     /// Takes the last character back, and with it a separator that would be left at the end.

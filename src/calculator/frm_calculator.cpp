@@ -169,13 +169,14 @@ void FrmCalculator::ConnectEvents() {
         list->onLostFocus = [list] { list->SetBackColor(forms::Black); };
     }
     ConnectKeys();
+    ConnectTyping();
 }
 
 void FrmCalculator::ConnectKeys() {
     const auto connect = [this](KeyButton& button, Command command) {
-        button.onClick = [this, command] { engine_.Press(command); };
+        button.onClick = [this, command] { Press(command); };
     };
-    Number.OnEach(&forms::Control::onClick, [this](int digit) { engine_.Press(DigitCommand(digit)); });
+    Number.OnEach(&forms::Control::onClick, [this](int digit) { Press(DigitCommand(digit)); });
     Operator.OnEach(&forms::Control::onClick, [this](int index) { Operator_Click(index); });
     connect(Decimal, Command::DecimalPoint);
     connect(Cancel, Command::Clear);
@@ -184,19 +185,22 @@ void FrmCalculator::ConnectKeys() {
     connect(cmdMR, Command::MemoryRecall);
     connect(cmdMPlus, Command::MemoryAdd);
     connect(cmdMMinus, Command::MemorySubtract);
-    for (KeyButton* button : AllKeys()) {
-        button->onKeyDown = [this](int& keyCode, forms::Modifiers) { Key_KeyDown(keyCode); };
-        button->onKeyPress = [this](char32_t& character) { Key_KeyPress(character); };
-    }
 }
 
-std::vector<KeyButton*> FrmCalculator::AllKeys() {
-    std::vector<KeyButton*> keys = {&Decimal, &Cancel, &CancelEntry, &cmdMC, &cmdMR, &cmdMPlus, &cmdMMinus};
+void FrmCalculator::ConnectTyping() {
+    // Wherever the focus stands but in the lists, which have a use for characters of their own.
+    for (forms::Control* control : AllControls()) {
+        if (control->Kind() != forms::ControlKind::ComboBox)
+            control->onKeyPress = [this](char32_t& character) { Key_KeyPress(character); };
+    }
+    // Enter presses the other buttons, those of the memory among them.
+    const auto enterIsEquals = [this](int& keyCode, forms::Modifiers) { Key_KeyDown(keyCode); };
     for (const auto& button : Number)
-        keys.push_back(button.get());
+        button->onKeyDown = enterIsEquals;
     for (const auto& button : Operator)
-        keys.push_back(button.get());
-    return keys;
+        button->onKeyDown = enterIsEquals;
+    for (KeyButton* button : {&Decimal, &Cancel, &CancelEntry})
+        button->onKeyDown = enterIsEquals;
 }
 
 // Life.
@@ -209,7 +213,6 @@ void FrmCalculator::OnLoad() {
     engine_.SetDecimalSeparator(UserLocale().decimalSeparator);
     engine_.Press(Command::Clear);
     rate_ = 1;
-    lblM.SetVisible(false);
     FillLists();
     ShowValues();
     CenterOnScreen();
@@ -243,13 +246,14 @@ void FrmCalculator::ShowValues() {
         ValValuta.SetValue(0);
         return;
     }
-    const double entered = engine_.EntryValue();
+    const double entered = data::CheckedResult(engine_.EntryValue());
+    // The display of the unit first: what was typed is shown there even where it cannot be converted.
     if (IsInLei()) {
         ValLei.SetValue(entered);
         ValValuta.SetValue(data::CheckedQuotient(entered, rate_));
     } else {
-        ValLei.SetValue(data::CheckedResult(entered * rate_));
         ValValuta.SetValue(entered);
+        ValLei.SetValue(data::CheckedResult(entered * rate_));
     }
 }
 
@@ -286,6 +290,12 @@ void FrmCalculator::cmbUM_Click() {
     ShowValues();
 }
 
+void FrmCalculator::SetCurrencyAmount(double amount) {
+    ValValuta.SetValue(amount);
+    // Typing goes on from the number that is shown.
+    if (!IsInLei()) engine_.SetEntry(amount);
+}
+
 void FrmCalculator::cmdVal_Click() {
     currency_ = "$";
     module_.Default<rates::AlegeMoneda>().ShowForm(*this, currency_);
@@ -294,8 +304,7 @@ void FrmCalculator::cmdVal_Click() {
 // The keys.
 
 void FrmCalculator::Operator_Click(int index) {
-    if (const std::optional<Command> command = CommandOfOperator(Operator[index].Caption()))
-        engine_.Press(*command);
+    if (const std::optional<Command> command = CommandOfOperator(Operator[index].Caption())) Press(*command);
 }
 
 void FrmCalculator::Key_KeyDown(int& keyCode) {
@@ -311,13 +320,17 @@ void FrmCalculator::Key_KeyPress(char32_t& character) {
         return;
     }
     const std::optional<Command> command = CommandOfCharacter(character);
-    if (!command) return;
     character = 0;
+    if (!command) return OwnerDesktop().Beep();
     PressAndFocus(*command);
 }
 
+void FrmCalculator::Press(Command command) {
+    if (!engine_.Press(command)) OwnerDesktop().Beep();
+}
+
 void FrmCalculator::PressAndFocus(Command command) {
-    engine_.Press(command);
+    Press(command);
     if (KeyButton* button = KeyOf(command)) button->SetFocus();
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "calculator/engine.h"
 #include "calculator/key_button.h"
@@ -30,7 +29,7 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     double CursCurent() const override { return rate_; }
     void SetCursCurent(double rate) override { rate_ = rate; }
     double CurrencyAmount() const override { return ValValuta.Value(); }
-    void SetCurrencyAmount(double amount) override { ValValuta.SetValue(amount); }
+    void SetCurrencyAmount(double amount) override;
     void SetCurrencyUnit(const std::string& currency) override { ValValuta.SetUnitText(currency); }
     void SetRateCaption(const std::string& caption) override { lblCurs.SetCaption(caption); }
 
@@ -68,7 +67,7 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     void PlaceKeys();
     void ConnectEvents();
     void ConnectKeys();
-    std::vector<KeyButton*> AllKeys();
+    void ConnectTyping();
     void FillLists();
 
     // EngineListener.
@@ -84,6 +83,7 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     void Operator_Click(int index);
     void Key_KeyDown(int& keyCode);
     void Key_KeyPress(char32_t& character);
+    void Press(Command command);
     void PressAndFocus(Command command);
     KeyButton* KeyOf(Command command);
 

@@ -8,7 +8,6 @@
 
 #include "data/decimal.h"
 #include "data/powers_of_ten.h"
-#include "data/rounding.h"
 
 namespace tavrin::calculator {
 
@@ -56,11 +55,10 @@ void WriteNumber(std::string& text, double number, std::string_view separator) {
     text.clear();
     if (number < 0) text += '-';
     const double magnitude = std::fabs(number);
-    if (const auto units = data::ShortestUnits(magnitude)) {
-        WriteUnits(text, *units, data::MaxRoundingDecimals, separator);
+    if (const auto millionths = data::Millionths(magnitude)) {
+        WriteUnits(text, *millionths, data::MillionthPlaces, separator);
     } else {
-        // Zeros stand for the last digits of a whole number that a double does not know.
-        data::ShortestDigits(magnitude).AppendTo(text, separator);
+        data::DecimalOf(magnitude).AppendTo(text, separator);
     }
 }
 

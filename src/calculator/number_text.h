@@ -5,7 +5,7 @@
 
 namespace tavrin::calculator {
 
-/// Writes the shortest decimal text that reads back as the same number: the given separator, "-" for
+/// Writes the decimal that a number stands for: at most 15 significant digits, the given separator, "-" for
 /// negatives, neither groups nor an exponent. `text` keeps its memory.
 void WriteNumber(std::string& text, double number, std::string_view separator);
 

@@ -9,7 +9,6 @@
 #include "data/big_natural.h"
 #include "data/binary_parts.h"
 #include "data/powers_of_ten.h"
-#include "data/rounding.h"
 
 namespace tavrin::data {
 
@@ -17,8 +16,6 @@ namespace {
 
 using Limits = std::numeric_limits<double>;
 
-// With so many digits no double is mistaken for another.
-constexpr int EnoughDigits = 17;
 // No digit beyond these says on which side of the middle between two doubles a number lies, only that
 // something follows.
 constexpr std::size_t DecisiveDigits = 800;
@@ -68,26 +65,27 @@ double Estimate(const Decimal& decimal) {
     return std::min(half * std::pow(10, tens - tens / 2), Limits::max());
 }
 
-Decimal DecimalOf(const DigitText& digits, int places) {
-    Decimal decimal{digits, 0};
-    decimal.point = static_cast<int>(decimal.digits.Size()) - places;
+Decimal WithPlaces(const DigitText& digits, int places) {
+    if (digits.IsEmpty()) return {};
+    Decimal decimal{digits, static_cast<int>(digits.Size()) - places};
     decimal.digits.DropLast('0');
     return decimal;
 }
 
-/// The number with so many digits, if it reads back as the same double.
-std::optional<Decimal> WithDigits(const Decimal& exact, int count, double magnitude) {
-    Decimal nearest = exact;
-    nearest.RoundToDigits(count);
-    if (nearest.ToDouble() == magnitude) return nearest;
-    // At a power of two doubles lie wider apart above than below, where the nearest decimal may be one too
-    // far.
-    if (!std::has_single_bit(Split(magnitude).significand)) return std::nullopt;
-    Decimal above = exact;
-    above.digits.Resize(static_cast<std::size_t>(count));
-    above.digits.Append("9");
-    above.RoundToDigits(count);
-    return above.ToDouble() == magnitude ? std::optional(above) : std::nullopt;
+/// All digits of a double: it has finitely many.
+Decimal ExactDecimal(double magnitude) {
+    BinaryParts parts = Split(magnitude);
+    if (parts.significand == 0) return {};
+    const int twos = std::countr_zero(parts.significand);
+    BigNatural whole(parts.significand >> twos);
+    const int exponent = parts.exponent + twos;
+    // A half is five tenths: what is behind the point are powers of five over powers of ten.
+    if (exponent < 0) {
+        whole.MultiplyByPower(5, -exponent);
+    } else {
+        whole.ShiftLeft(exponent);
+    }
+    return WithPlaces(whole.Digits(), std::max(-exponent, 0));
 }
 
 bool IsDigit(char character) {
@@ -212,40 +210,27 @@ double Decimal::ToDouble() const {
     return nearest;
 }
 
-Decimal ExactDecimal(double magnitude) {
-    BinaryParts parts = Split(magnitude);
-    if (parts.significand == 0) return {};
-    const int twos = std::countr_zero(parts.significand);
-    BigNatural whole(parts.significand >> twos);
-    const int exponent = parts.exponent + twos;
-    // A half is five tenths: what is behind the point are powers of five over powers of ten.
-    if (exponent < 0) {
-        whole.MultiplyByPower(5, -exponent);
-    } else {
-        whole.ShiftLeft(exponent);
-    }
-    return DecimalOf(whole.Digits(), std::max(-exponent, 0));
+Decimal DecimalOf(double magnitude) {
+    if (const auto millionths = Millionths(magnitude))
+        return WithPlaces(BigNatural(*millionths).Digits(), MillionthPlaces);
+    Decimal decimal = ExactDecimal(magnitude);
+    decimal.RoundToDigits(SafeDigits);
+    return decimal;
 }
 
-std::optional<std::uint64_t> ShortestUnits(double magnitude) {
-    const auto units = RoundedUnits(magnitude, MaxRoundingDecimals);
-    if (!units || *units >= static_cast<std::uint64_t>(PowersOfTen[SafeDigits])) return std::nullopt;
-    if (static_cast<double>(*units) / PowersOfTen[MaxRoundingDecimals] != magnitude) return std::nullopt;
-    return units;
-}
-
-Decimal ShortestDigits(double magnitude) {
-    if (const auto units = ShortestUnits(magnitude))
-        return DecimalOf(BigNatural(*units).Digits(), MaxRoundingDecimals);
-    const Decimal exact = ExactDecimal(magnitude);
-    // Where doubles have all their bits, fewer digits would be the same number with zeros at its end.
-    const int fewest = magnitude < Limits::min() ? 1 : SafeDigits;
-    for (int count = fewest; count < EnoughDigits; ++count) {
-        if (auto found = WithDigits(exact, count, magnitude)) return *found;
-    }
-    Decimal longest = exact;
-    longest.RoundToDigits(EnoughDigits);
-    return longest;
+std::optional<std::uint64_t> Millionths(double magnitude) {
+    // The nearest other decimal of so many digits lies 1e-15 of the number away or further: what is nearer
+    // than half of that stands for this one. The double of the decimal is itself a little off.
+    constexpr double SafelyNear = 3.5e-16;
+    constexpr double Million = PowersOfTen[MillionthPlaces];
+    const double scaled = magnitude * Million;
+    if (!(scaled < PowersOfTen[SafeDigits])) return std::nullopt;
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and a tie is none of the numbers looked
+    // for
+    const auto nearest = static_cast<std::int64_t>(scaled + 0.5);
+    const double off = std::fabs(magnitude - static_cast<double>(nearest) / Million);
+    if (off > magnitude * SafelyNear) return std::nullopt;
+    return static_cast<std::uint64_t>(nearest);
 }
 
 ReadNumber ReadDecimal(std::string_view text, Exponents exponents, std::string_view separator) {

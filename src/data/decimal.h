@@ -36,15 +36,16 @@ struct Decimal {
     void CountUp();
 };
 
-/// All digits of a double: it has finitely many. \pre finite, not negative
-Decimal ExactDecimal(double magnitude);
+/// The decimal that a number stands for, for its text and for rounding alike: its exact value to 15
+/// significant digits, a tie to the even one. What a double keeps behind them is nothing that anybody typed
+/// or could read. \pre finite, not negative
+Decimal DecimalOf(double magnitude);
 
-/// The fewest digits that read back as the same double, and of those the nearest. \pre finite, not negative
-Decimal ShortestDigits(double magnitude);
+inline constexpr int MillionthPlaces = 6;
 
-/// A number in units of 10^-MaxRoundingDecimals, where it needs no other digits and few enough to be told
-/// from every other double, as amounts and rates do: the quick way to its shortest digits. \pre not negative
-std::optional<std::uint64_t> ShortestUnits(double magnitude);
+/// The same decimal as a count of millionths, where it is one and small enough, as amounts and rates are: the
+/// quick way. \pre not negative
+std::optional<std::uint64_t> Millionths(double magnitude);
 
 enum class Exponents { Read, NotRead };
 

@@ -3,42 +3,46 @@
 #include <array>
 #include <cmath>
 
-#include "data/binary_parts.h"
+#include "data/decimal.h"
 #include "data/powers_of_ten.h"
 
 namespace tavrin::data {
 
 namespace {
 
-constexpr std::array<std::uint64_t, MaxRoundingDecimals + 1> PowersOfFive = {1, 5, 25, 125, 625, 3125, 15625};
-// 9e15 units, a little less than 2^53.
-constexpr std::array<double, MaxRoundingDecimals + 1> Limits = {9e15, 9e14, 9e13, 9e12, 9e11, 9e10, 9e9};
-constexpr double SafeProduct = 17'592'186'044'416.0;  // 2^44, below which doubles are 2^-9 apart or less
-constexpr double ClearOfTies = 0.49;
+static_assert(MaxRoundingDecimals == MillionthPlaces,
+              "millionths can be rounded to every number of decimals");
 
-enum class Below { Nothing, Something };  ///< whether smaller digits than those at hand are not all zero
+/// How far, as a part of itself, a number may lie from its decimal, and a product from what it should be.
+constexpr double MostShift = 1e-14;
+/// Above, no product is clear of ties.
+constexpr double LargestProduct = 1e14;
 
-/// value / 2^shift to the nearest integer, a tie to the even one. \pre 0 < shift < 64
-std::uint64_t ShiftRounded(std::uint64_t value, int shift, Below below) {
-    const std::uint64_t quotient = value >> shift;
-    const std::uint64_t rest = value & ((std::uint64_t{1} << shift) - 1);
-    const std::uint64_t half = std::uint64_t{1} << (shift - 1);
-    if (rest != half) return quotient + (rest > half ? 1 : 0);
-    const bool pastTheTie = below == Below::Something || quotient % 2 == 1;
-    return quotient + (pastTheTie ? 1 : 0);
+/// Nothing where it lies so near to a tie that only the decimal itself can tell.
+std::optional<std::uint64_t> UnitsClearOfTies(double magnitude, std::size_t places) {
+    const double product = magnitude * PowersOfTen[places];
+    if (!(product < LargestProduct)) return std::nullopt;
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and ties are not for here
+    const auto nearest = static_cast<std::int64_t>(product + 0.5);
+    if (std::fabs(product - static_cast<double>(nearest)) + product * MostShift >= 0.5) return std::nullopt;
+    return static_cast<std::uint64_t>(nearest);
 }
 
-/// significand * factor / 2^shift, rounded, where the product may be wider than 64 bits: it is formed without
-/// its last four bits, which can only break a tie.
-std::uint64_t ScaleRounded(std::uint64_t significand, std::uint64_t factor, int shift) {
-    constexpr int Spare = 4;
-    constexpr std::uint64_t SpareMask = (std::uint64_t{1} << Spare) - 1;
-    if (shift <= 0) return significand * factor << -shift;
-    if (shift <= Spare) return ShiftRounded(significand * factor, shift, Below::Nothing);
-    if (shift - Spare >= 64) return 0;
-    const std::uint64_t low = (significand & SpareMask) * factor;
-    const std::uint64_t high = (significand >> Spare) * factor + (low >> Spare);
-    return ShiftRounded(high, shift - Spare, (low & SpareMask) != 0 ? Below::Something : Below::Nothing);
+std::uint64_t MillionthsToUnits(std::uint64_t millionths, std::size_t places) {
+    const auto unit = static_cast<std::uint64_t>(PowersOfTen[MillionthPlaces - places]);
+    const std::uint64_t units = millionths / unit;
+    const std::uint64_t twiceTheRest = millionths % unit * 2;
+    const bool isUp = twiceTheRest == unit ? units % 2 == 1 : twiceTheRest > unit;
+    return units + (isUp ? 1 : 0);
+}
+
+std::uint64_t DecimalToUnits(Decimal decimal, int places) {
+    decimal.RoundToPlaces(places);
+    decimal.digits.Resize(decimal.digits.IsEmpty() ? 0 : static_cast<std::size_t>(decimal.point + places));
+    std::uint64_t units = 0;
+    for (const char digit : decimal.digits.View())
+        units = units * 10 + static_cast<std::uint64_t>(digit - '0');
+    return units;
 }
 
 }  // namespace
@@ -46,23 +50,16 @@ std::uint64_t ScaleRounded(std::uint64_t significand, std::uint64_t factor, int 
 std::optional<std::uint64_t> RoundedUnits(double number, int decimals) {
     const auto places = static_cast<std::size_t>(decimals);
     const double magnitude = std::fabs(number);
-    // Most numbers lie far from every tie: where even the product, which may be off by a 500th, is clear of
-    // them, it shows the nearest integer.
-    if (const double product = magnitude * PowersOfTen[places]; product < SafeProduct) {
-        // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and ties are not for here
-        const auto nearest = static_cast<std::int64_t>(product + 0.5);
-        if (std::fabs(product - static_cast<double>(nearest)) < ClearOfTies)
-            return static_cast<std::uint64_t>(nearest);
-    }
-    if (!(magnitude < Limits[places])) return std::nullopt;
-    // Ten is two times five: the twos go into the exponent, so only a small factor is left to multiply by.
-    const BinaryParts parts = Split(magnitude);
-    return ScaleRounded(parts.significand, PowersOfFive[places], -(parts.exponent + decimals));
+    if (const auto units = UnitsClearOfTies(magnitude, places)) return units;
+    if (const auto millionths = Millionths(magnitude)) return MillionthsToUnits(*millionths, places);
+    if (!(magnitude < PowersOfTen[SafeDigits - places])) return std::nullopt;
+    return DecimalToUnits(DecimalOf(magnitude), decimals);
 }
 
 double RoundHalfEven(double number, int decimals) {
+    if (!std::isfinite(number)) return number;
     const std::optional<std::uint64_t> units = RoundedUnits(number, decimals);
-    if (!units) return number;
+    if (!units) return std::copysign(DecimalOf(std::fabs(number)).ToDouble(), number);
     if (*units == 0) return 0;
     const double magnitude = static_cast<double>(*units) / PowersOfTen[static_cast<std::size_t>(decimals)];
     return std::copysign(magnitude, number);

@@ -82,22 +82,6 @@ std::string DateText(OleDate date) {
            TwoDigits(seconds % 60);
 }
 
-constexpr double LongestPlain = 1e15;
-
-/// "1.5e+20", or the number without an exponent where that is no longer.
-std::string LargeText(double magnitude) {
-    if (std::isinf(magnitude)) return "inf";
-    const Decimal shortest = ShortestDigits(magnitude);
-    std::string scientific(shortest.digits.View());
-    if (scientific.size() > 1) scientific.insert(1, ".");
-    scientific += "e+" + std::to_string(shortest.point - 1);
-    std::string plain;
-    // From 2^53 on every digit before the point is one that the number has.
-    constexpr double AllWhole = 9007199254740992.0;
-    (magnitude < AllWhole ? shortest : ExactDecimal(magnitude)).AppendTo(plain, ".");
-    return plain.size() <= scientific.size() ? plain : scientific;
-}
-
 struct ToDoubleVisitor {
     double operator()(Empty) const { return 0; }
     double operator()(Null) const { ThrowInvalidUseOfNull(); }
@@ -153,12 +137,11 @@ std::string Value::ToText() const {
 }
 
 std::string ShortestDecimal(double number) {
-    if (number == 0) return "0";  // also the negative zero, whose sign means nothing to a reader
     if (std::isnan(number)) return "nan";
     std::string text = number < 0 ? "-" : "";
     const double magnitude = std::fabs(number);
-    if (magnitude >= LongestPlain) return text + LargeText(magnitude);
-    ShortestDigits(magnitude).AppendTo(text, ".");
+    if (std::isinf(magnitude)) return text + "inf";
+    DecimalOf(magnitude).AppendTo(text, ".");
     return text;
 }
 

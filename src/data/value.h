@@ -49,8 +49,9 @@ class Value {
     /// \throws Error 94 for NULL, 13 for text that is no "yyyy-mm-dd" or "dd/mm/yyyy" date.
     OleDate ToDate() const;
 
-    /// The form in which grids show a value: numbers in their shortest decimal form with "." whatever the
-    /// locale, dates as "dd/mm/yyyy" (with " hh:mm:ss" where they carry a time), nothing for empty and NULL.
+    /// The form in which grids show a value: doubles as ShortestDecimal writes them whatever the locale,
+    /// integers with all their digits, dates as "dd/mm/yyyy" (with " hh:mm:ss" where they carry a time),
+    /// nothing for empty and NULL.
     std::string ToText() const;
 
     const std::variant<Empty, Null, std::int64_t, double, OleDate, std::string>& Content() const {
@@ -63,7 +64,8 @@ class Value {
     std::variant<Empty, Null, std::int64_t, double, OleDate, std::string> content_;
 };
 
-/// The shortest decimal text that reads back as the same double: "." as separator, no exponent below 1e15.
+/// The decimal that a number stands for (DecimalOf) as text: "." as separator, never an exponent, zero
+/// without a sign.
 std::string ShortestDecimal(double number);
 
 }  // namespace tavrin::data

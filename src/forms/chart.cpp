@@ -6,6 +6,7 @@
 #include <numbers>
 #include <utility>
 
+#include "data/rounding.h"
 #include "data/value.h"
 #include "forms/chart_layout.h"
 
@@ -16,6 +17,7 @@ namespace {
 constexpr int Gap = 60;
 constexpr int TickLength = 60;
 constexpr int MostTicks = 8;
+constexpr int TickDecimals = 4;
 constexpr double LineWidth = 24;
 constexpr double PointRadius = 36;
 constexpr int PointCorners = 12;
@@ -26,7 +28,7 @@ constexpr Color TickLineColor = 0x2C2C2C;
 constexpr Color LineColor = Green;
 
 std::string TickText(double value) {
-    return data::ShortestDecimal(std::round(value * 10000) / 10000);
+    return data::ShortestDecimal(data::RoundHalfEven(value, TickDecimals));
 }
 
 /// Draws one chart; lives for one call of Draw.

@@ -14,7 +14,6 @@ namespace tavrin::forms {
 namespace {
 
 constexpr double ExponentFrom = 1e21;
-constexpr int ExponentDigits = 14;
 constexpr int GroupSize = 3;
 constexpr std::uint64_t GroupLimit = 1000;
 
@@ -85,10 +84,9 @@ void WriteUnits(BackwardWriter& writer, std::uint64_t units, int decimals, const
     } while (units > 0);
 }
 
-/// For a number so large that a double tells no units apart.
+/// For a number so large that zeros follow the digits of its decimal.
 void WriteLarge(BackwardWriter& writer, double magnitude, int decimals, const Locale& locale) {
-    data::Decimal number = data::ExactDecimal(magnitude);
-    number.RoundToPlaces(decimals);
+    data::Decimal number = data::DecimalOf(magnitude);
     const int size = number.point + decimals;
     number.digits.Resize(static_cast<std::size_t>(size));
     const std::string_view digits = number.digits.View();
@@ -105,8 +103,7 @@ void WriteLarge(BackwardWriter& writer, double magnitude, int decimals, const Lo
 }
 
 void AppendWithExponent(std::string& text, double magnitude, const Locale& locale) {
-    data::Decimal number = data::ExactDecimal(magnitude);
-    number.RoundToDigits(1 + ExponentDigits);
+    const data::Decimal number = data::DecimalOf(magnitude);
     const std::string_view digits = number.digits.View();
     text += digits.front();
     if (digits.size() > 1) {

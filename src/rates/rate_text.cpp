@@ -1,10 +1,8 @@
 #include "rates/rate_text.h"
 
-#include <cmath>
 #include <string_view>
 #include <utility>
 
-#include "data/decimal.h"
 #include "data/value.h"
 #include "forms/number_format.h"
 
@@ -28,13 +26,6 @@ double NumberInLocale(const std::string& text, const forms::Locale& locale) {
     return data::Value(std::move(number)).ToDouble();
 }
 
-std::string PlainDecimal(double number) {
-    if (!std::isfinite(number)) return {};
-    std::string text = number < 0 ? "-" : "";
-    data::ShortestDigits(std::fabs(number)).AppendTo(text, ".");
-    return text;
-}
-
 }  // namespace
 
 double NumberOfRateText(std::string text, const forms::Locale& locale) {
@@ -44,11 +35,11 @@ double NumberOfRateText(std::string text, const forms::Locale& locale) {
 
 std::string RateCaption(double rate, const std::string& currency, const forms::Locale& locale) {
     const std::string amount =
-        forms::FormatNumber(PlainDecimal(rate), {.decimals = 2,
-                                                 .grouping = 3,
-                                                 .leadingZero = true,
-                                                 .decimalSeparator = locale.decimalSeparator,
-                                                 .thousandsSeparator = locale.thousandsSeparator});
+        forms::FormatNumber(data::ShortestDecimal(rate), {.decimals = 2,
+                                                          .grouping = 3,
+                                                          .leadingZero = true,
+                                                          .decimalSeparator = locale.decimalSeparator,
+                                                          .thousandsSeparator = locale.thousandsSeparator});
     return "Cursul este de  " + amount + " Lei pentru 1 " + currency;
 }
 

@@ -18,7 +18,7 @@ namespace tavrin::win32 {
 
 namespace {
 
-/// Sent to ourselves when the platform has finished with a choice; wParam is the index.
+/// Sent to ourselves when the platform has finished with a choice; wParam is the index, lParam the Choice.
 constexpr UINT ChosenMessage = WM_APP + 1;
 static_assert(ChosenMessage < WM_CTLCOLOREDIT + Reflected, "apart from the reflected messages");
 
@@ -269,11 +269,15 @@ LRESULT ComboPeer::OnCommand(const Message& message) {
             settled_ = -1;
             break;
         case CBN_SELCHANGE:
-            if (!IsOpen()) PostMessageW(Handle(), ChosenMessage, static_cast<WPARAM>(SelectedIndex()), 0);
+            if (settled_ >= 0) {
+                settled_ = SelectedIndex();
+            } else if (!IsOpen()) {
+                PostChoice(SelectedIndex(), Choice::Reported);
+            }
             break;
         case CBN_CLOSEUP:
             control_.HandleDropped(false);
-            PostMessageW(Handle(), ChosenMessage, static_cast<WPARAM>(std::exchange(settled_, -1)), 0);
+            PostChoice(std::exchange(settled_, -1), Choice::Settled);
             break;
         default:
             break;
@@ -282,14 +286,19 @@ LRESULT ComboPeer::OnCommand(const Message& message) {
     return 0;
 }
 
+void ComboPeer::PostChoice(int index, Choice choice) {
+    PostMessageW(Handle(), ChosenMessage, static_cast<WPARAM>(index), static_cast<LPARAM>(choice));
+}
+
 LRESULT ComboPeer::OnChosen(const Message& message) {
-    Choose(static_cast<int>(message.wParam));
+    Choose(static_cast<int>(message.wParam), static_cast<Choice>(message.lParam));
     return 0;
 }
 
-void ComboPeer::Choose(int index) {
-    if (index >= 0 && index < control_.ListCount() && index != control_.ListIndex())
-        control_.HandleChosen(index);
+void ComboPeer::Choose(int index, Choice choice) {
+    // Who settles on the entry that is chosen already chooses it once more; the platform's report of a change
+    // may be that of a choice that was dealt with.
+    if (choice == Choice::Settled || index != control_.ListIndex()) control_.HandleChosen(index);
     ShowList();
     InvalidateRect(Handle(), nullptr, FALSE);
 }
@@ -363,7 +372,7 @@ bool ComboPeer::HandleOpenListKey(const Message& message) {
 void ComboPeer::Accept() {
     const int index = SelectedIndex();
     CloseList();
-    Choose(index);
+    Choose(index, Choice::Settled);
 }
 
 void ComboPeer::CloseList() {

@@ -46,7 +46,9 @@ class ComboPeer final : public ControlWindow {
     void CloseList();
     KeyRoute RouteKey(const Message& message);
 
-    void Choose(int index);
+    enum class Choice { Settled, Reported };  ///< by the user, or by a change of the platform's selection
+    void PostChoice(int index, Choice choice);
+    void Choose(int index, Choice choice);
     void ShowList();
     void ShowText();
     void ShowSelection();

@@ -63,6 +63,29 @@ TEST_P(PeersDropDownTest, AClickOpensTheListAndChooses) {
     EXPECT_EQ(ListIndex(), 1);
 }
 
+TEST_P(PeersDropDownTest, ChoosingTheChosenEntryIsAChoiceToo) {
+    int clicks = 0;
+    Call([&] {
+        form->list.SetFocus();
+        form->list.onClick = [&] { ++clicks; };
+    });
+    Press(VK_F4);
+    Press(VK_RETURN);
+    EXPECT_EQ(clicks, 1) << "by Enter";
+    ClickOn("list");
+    ClickInList(form->list, 8);
+    EXPECT_EQ(clicks, 2) << "by mouse";
+    EXPECT_EQ(ListIndex(), 0);
+    ClickOn("list");
+    ClickInList(form->list, 24);
+    EXPECT_EQ(clicks, 3) << "another one, once";
+    EXPECT_EQ(ListIndex(), 1);
+    Press(VK_F4);
+    Press(VK_UP);
+    Press(VK_ESCAPE);
+    EXPECT_EQ(clicks, 3) << "given up";
+}
+
 TEST_P(PeersDropDownTest, AHandlerMayRefillTheListThatItWasChosenFrom) {
     Call([&] {
         form->list.onClick = [&] {

@@ -18,15 +18,31 @@ constexpr forms::Color Grey = 0x404040;
 
 class FrmCalculatorTest : public CalculatorTest {
   protected:
-    /// The names of all keys that take typed characters.
-    static std::vector<std::string> KeyNames() {
-        std::vector<std::string> names = {"Decimal", "Cancel",   "CancelEntry", "cmdMC",
-                                          "cmdMR",   "cmdMPlus", "cmdMMinus"};
+    /// The names of all keys but those of the memory.
+    static std::vector<std::string> EqualsKeyNames() {
+        std::vector<std::string> names = {"Decimal", "Cancel", "CancelEntry"};
         for (int i = 0; i < 10; ++i)
             names.push_back("Number(" + std::to_string(i) + ")");
         for (int i = 0; i < 7; ++i)
             names.push_back("Operator(" + std::to_string(i) + ")");
         return names;
+    }
+    static std::vector<std::string> KeyNames() {
+        std::vector<std::string> names = EqualsKeyNames();
+        names.insert(names.end(), {"cmdMC", "cmdMR", "cmdMPlus", "cmdMMinus"});
+        return names;
+    }
+    /// The names of all controls on which characters are typed into the calculator.
+    static std::vector<std::string> TypingNames() {
+        std::vector<std::string> names = KeyNames();
+        names.insert(names.end(), {"cmdVal", "cmdUnload"});
+        return names;
+    }
+
+    int BeepsOf(std::string_view typed) {
+        const int before = desktop.beeps;
+        keyboard.Type(typed);
+        return desktop.beeps - before;
     }
 };
 
@@ -220,7 +236,7 @@ TEST_F(FrmCalculatorTest, EveryTypedKeyWorksOnEveryKeyAndTakesTheFocusAlong) {
                                         {"50+10%", "Operator(5)", "55,00"}, {"7C", "CancelEntry", "7,00"},
                                         {"7c", "CancelEntry", "7,00"},      {"7.5", "Number(5)", "7,50"},
                                         {"75\b", "Number(5)", "7,00"},      {"7\b", "Number(7)", "0,00"}};
-    for (const std::string& name : KeyNames()) {
+    for (const std::string& name : TypingNames()) {
         for (const TypedKey& typed : keys) {
             FrmCalculator& window = Open();
             window.FindControl(name)->SetFocus();
@@ -242,21 +258,81 @@ TEST_F(FrmCalculatorTest, APointLeavesTheFocusWhereItIs) {
 
 TEST_F(FrmCalculatorTest, ACommaIsNoDecimalKey) {
     Open();
-    keyboard.Type("3,5");
+    EXPECT_EQ(BeepsOf("3,5"), 1) << "so that nobody takes 35 for 3,5";
     EXPECT_EQ(Shown(), "35,00 Lei | 35,00 Valuta");
 }
 
-TEST_F(FrmCalculatorTest, OtherCharactersAreIgnored) {
+TEST_F(FrmCalculatorTest, OtherCharactersOnlyBeep) {
     Open().Number[3].SetFocus();
-    keyboard.Type("3abxyzM=XR!");
+    EXPECT_EQ(BeepsOf("3abxyzM=XR!"), 10);
     EXPECT_EQ(Shown(), "3,00 Lei | 3,00 Valuta");
     EXPECT_EQ(FocusedControl(), "Number(3)");
     keyboard.Type("4");
     EXPECT_EQ(Shown(), "34,00 Lei | 34,00 Valuta");
 }
 
+TEST_F(FrmCalculatorTest, AKeyThatDoesNothingBeeps) {
+    FrmCalculator& window = Open();
+    EXPECT_EQ(BeepsOf("123456789012345"), 0);
+    EXPECT_EQ(BeepsOf("6"), 1) << "a sixteenth digit";
+    EXPECT_EQ(FocusedControl(), "Number(6)") << "the focus goes along all the same";
+    EXPECT_EQ(BeepsOf("c1.23"), 0);
+    EXPECT_EQ(BeepsOf("4"), 1) << "a decimal too many";
+    EXPECT_EQ(BeepsOf("."), 1) << "a second point";
+    EXPECT_EQ(BeepsOf("+2*3/4-5\rc"), 0);
+    ClickWithMouse(window.Operator[6]);
+    EXPECT_EQ(desktop.beeps, 4) << "zero has no sign";
+    keyboard.Type("5");
+    ClickWithMouse(window.Operator[6]);
+    EXPECT_EQ(desktop.beeps, 4);
+    ClickWithMouse(window.Operator[6]);
+    EXPECT_EQ(desktop.beeps, 5) << "a minus stays";
+}
+
+TEST_F(FrmCalculatorTest, KeysThatAreNoCharactersDoNotBeep) {
+    constexpr int ShiftKey = 16;
+    constexpr int ControlKey = 17;
+    constexpr int AltKey = 18;
+    Open().Number[3].SetFocus();
+    for (const int code : {ShiftKey, ControlKey, AltKey, key::Left, key::Down, key::Tab, key::Home,
+                           key::Delete, key::F4, key::Space, key::Enter, key::Backspace})
+        keyboard.Press(code);
+    EXPECT_EQ(desktop.beeps, 0);
+}
+
+TEST_F(FrmCalculatorTest, EnterPressesTheMemoryKeys) {
+    FrmCalculator& window = Open();
+    const auto enterOn = [&](forms::Control& button) {
+        button.SetFocus();
+        keyboard.Press(key::Enter);
+        EXPECT_EQ(FocusedControl(), button.QualifiedName());
+    };
+    keyboard.Type("7+5");
+    enterOn(window.cmdMPlus);
+    EXPECT_TRUE(window.lblM.Visible());
+    EXPECT_EQ(Shown(), "0,00 Lei | 0,00 Valuta");
+    keyboard.Type("2");
+    enterOn(window.cmdMMinus);
+    enterOn(window.cmdMR);
+    EXPECT_EQ(Shown(), "3,00 Lei | 3,00 Valuta");
+    enterOn(window.cmdMC);
+    EXPECT_FALSE(window.lblM.Visible());
+}
+
+TEST_F(FrmCalculatorTest, TheMemoryMarkIsLitWhileTheMemoryHoldsAValue) {
+    FrmCalculator& window = Open();
+    keyboard.Type("5");
+    ClickWithMouse(window.cmdMPlus);
+    keyboard.Type("7+5\rc");
+    EXPECT_TRUE(window.lblM.Visible());
+    ClickWithMouse(window.Cancel);
+    EXPECT_FALSE(window.lblM.Visible());
+    ClickWithMouse(window.cmdMR);
+    EXPECT_EQ(Shown(), "0,00 Lei | 0,00 Valuta");
+}
+
 TEST_F(FrmCalculatorTest, EnterIsEqualsExactlyOnce) {
-    for (const std::string& name : KeyNames()) {
+    for (const std::string& name : EqualsKeyNames()) {
         FrmCalculator& window = Open();
         keyboard.Type("7+5");
         window.FindControl(name)->SetFocus();
@@ -454,9 +530,21 @@ TEST_F(FrmCalculatorTest, AnOverflowIsReportedAndTheWindowLivesOn) {
         keyboard.Type("*999999999999999");
     ASSERT_EQ(desktop.reports.size(), 1U);
     EXPECT_EQ(desktop.reports.front().number, data::error_number::Overflow);
-    ClickWithMouse(Calculator()->Cancel);
-    keyboard.Type("7+5\r");
-    EXPECT_EQ(Shown(), "12,00 Lei | 12,00 Valuta");
+    keyboard.Type("c7+5\r");
+    EXPECT_EQ(Shown(), "12,00 Lei | 12,00 Valuta") << "a new calculation";
+}
+
+TEST_F(FrmCalculatorTest, ATypedNumberThatCannotBeConvertedIsStillTheOneThatCounts) {
+    FrmCalculator& window = Open();
+    window.cmbUM.SetListIndex(1);
+    window.SetCursCurent(1e308);
+    window.Number[0].SetFocus();
+    keyboard.Type("12");
+    ASSERT_EQ(desktop.reports.size(), 1U) << "12e308 lei";
+    EXPECT_EQ(window.ValValuta.Text(), "12,00");
+    window.SetCursCurent(2);
+    keyboard.Type("+1\r");
+    EXPECT_EQ(Shown(), "26,00 Lei | 13,00 Valuta");
 }
 
 TEST_F(FrmCalculatorTest, TenThousandKeysArrive) {
@@ -476,6 +564,68 @@ TEST_F(FrmCalculatorTest, OpensTheChooserForTheDollar) {
     ASSERT_NE(Chooser(), nullptr);
     EXPECT_EQ(Chooser()->cmbMoneda.Text(), "$");
     EXPECT_FALSE(Calculator()->Enabled());
+}
+
+TEST_F(FrmCalculatorTest, TypingGoesOnFromTheAmountThatTheChooserConverted) {
+    Run("UPDATE [Curs Valutar] SET [$] = 4 WHERE [Data] = '05-14-2003'");
+    FrmCalculator& window = Open();
+    window.cmbUM.SetListIndex(1);
+    window.Number[0].SetFocus();
+    keyboard.Type("100");
+    OpenChooser();
+    keyboard.Press(key::Enter);
+    EXPECT_EQ(Shown(), "100,00 Lei | 25,00 $");
+    keyboard.Type("0");
+    EXPECT_EQ(Shown(), "1.000,00 Lei | 250,00 $");
+    keyboard.Type("\b\b");
+    EXPECT_EQ(Shown(), "8,00 Lei | 2,00 $");
+}
+
+TEST_F(FrmCalculatorTest, AfterTheChooserCharactersReachTheCalculator) {
+    Open();
+    ClickWithMouse(Calculator()->cmdVal);
+    keyboard.Press(key::Escape);
+    ASSERT_EQ(FocusedControl(), "cmdVal");
+    keyboard.Type("7+5\r");
+    EXPECT_EQ(Shown(), "12,00 Lei | 12,00 Valuta");
+}
+
+TEST_F(FrmCalculatorTest, ChoosingTheChosenUnitTakesTheShownNumberAsEntry) {
+    FrmCalculator& window = Open();
+    keyboard.Type("12c");
+    EXPECT_EQ(Shown(), "12,00 Lei | 12,00 Valuta") << "a cleared entry is not shown";
+    window.cmbUM.HandleChosen(0);
+    ClickWithMouse(window.cmdMPlus);
+    ClickWithMouse(window.cmdMR);
+    EXPECT_EQ(Shown(), "12,00 Lei | 12,00 Valuta");
+}
+
+// Numbers of more digits than a number has.
+
+struct LongNumber {
+    double rate;
+    const char* lei;
+};
+
+TEST_F(FrmCalculatorTest, EveryDisplayKnowsFifteenDigits) {
+    FrmCalculator& window = Open();
+    window.cmbPrecizie.SetListIndex(3);
+    window.cmbUM.SetListIndex(1);
+    for (const LongNumber& number : {LongNumber{123456789012345, "123.456.789.012.345,000000"},
+                                     LongNumber{1234567890123456, "1.234.567.890.123.460,000000"},
+                                     LongNumber{12345678901234567.0, "12.345.678.901.234.600,000000"},
+                                     LongNumber{1234567890.12345, "1.234.567.890,123450"},
+                                     LongNumber{1234567890.123456, "1.234.567.890,123460"},
+                                     LongNumber{0.12345678901234567, "0,123457"}}) {
+        window.SetCursCurent(number.rate);
+        window.Number[0].SetFocus();
+        keyboard.Type("c1");
+        EXPECT_EQ(window.ValLei.Text(), number.lei);
+        window.cmbUM.SetListIndex(0);
+        EXPECT_EQ(window.ValLei.Text(), number.lei) << "the same when typing goes on from it";
+        EXPECT_EQ(window.ValValuta.Text(), "1,000000");
+        window.cmbUM.SetListIndex(1);
+    }
 }
 
 TEST_F(FrmCalculatorTest, ARateWithoutANewNumberConvertsNothingInLei) {

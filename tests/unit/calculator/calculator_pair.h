@@ -37,7 +37,8 @@ class CalculatorPair {
                Difference("lei", engine.lei, naive.lei) +
                Difference("currency", engine.currency, naive.currency) +
                Difference("memory mark", engine.memoryMark, naive.mark) +
-               Difference("messages", engine.divisionsByZero, naive.messages);
+               Difference("messages", engine.divisionsByZero, naive.messages) +
+               Difference("ignored keys", engine.ignored, naive.ignored);
     }
 
     TwoDisplays engine;

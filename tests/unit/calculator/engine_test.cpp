@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <limits>
 
 #include "data/error.h"
 #include "two_displays.h"
@@ -53,15 +54,15 @@ SEQUENCES(NoDecimals, Sequence{"12.3456", "12,3", "12", "3", 0}, Sequence{"12.3.
           Sequence{".5", "0,5", "0", "0", 0}, Sequence{"1.5", "1,5", "2", "0", 0});
 
 SEQUENCES(FifteenCharacters,
-          Sequence{"123456789012345", "123456789012345", "123.456.789.012.345,00", "27.434.842.002.743,33"},
-          Sequence{"1234567890123456", "123456789012345", "123.456.789.012.345,00", "27.434.842.002.743,33"},
+          Sequence{"123456789012345", "123456789012345", "123.456.789.012.345,00", "27.434.842.002.743,30"},
+          Sequence{"1234567890123456", "123456789012345", "123.456.789.012.345,00", "27.434.842.002.743,30"},
           Sequence{"1234567890123.456", "1234567890123,4", "1.234.567.890.123,40", "274.348.420.027,42"},
-          Sequence{"-123456789012345", "123456789012345", "123.456.789.012.345,00", "27.434.842.002.743,33"},
+          Sequence{"-123456789012345", "123456789012345", "123.456.789.012.345,00", "27.434.842.002.743,30"},
           // The separator comes along with a digit that is the fifteenth character.
           Sequence{"12345678901234.56", "12345678901234,5", "12.345.678.901.234,50", "2.743.484.200.274,33"},
           // The sign has room; a digit has none any more.
           Sequence{"123456789012345n6", "-123456789012345", "-123.456.789.012.345,00",
-                   "-27.434.842.002.743,33"},
+                   "-27.434.842.002.743,30"},
           Sequence{"12345678901234n5", "-12345678901234", "-12.345.678.901.234,00", "-2.743.484.200.274,22"});
 
 SEQUENCES(Sums, Sequence{"7+5=", "12", "12,00", "2,67"}, Sequence{"9-4=", "5", "5,00", "1,11"},
@@ -140,7 +141,7 @@ SEQUENCES(MemoryKeys, Sequence{"5M", "0", "0,00", "0,00"}, Sequence{"5MR", "5", 
           Sequence{"5M7+R=", "5", "5,00", "1,11"}, Sequence{"5M7+R+1=", "8", "8,00", "1,78"},
           // Digits are added to a recalled number where one is being typed.
           Sequence{"5M7R2", "52", "52,00", "11,56"}, Sequence{"1/3=MR", "0,33", "0,33", "0,07"},
-          Sequence{"0.1M0.2MR", "0,30000000000000004", "0,30", "0,07"},
+          Sequence{"0.1M0.2MR", "0,3", "0,30", "0,07"}, Sequence{"0.1M0.2MR<", "0", "0,00", "0,00"},
           // A separator asked for before recalling a number that has one makes a text with two; the number is
           // what stands before the second.
           Sequence{"1.5M2.R7", "1,5,7", "1,50", "0,33"});
@@ -149,9 +150,11 @@ SEQUENCES(DivisionByZero, Sequence{"5/0=", "5", "5,00", "1,11"}, Sequence{"5/0%"
           Sequence{"5/0=+2=", "7", "7,00", "1,56"}, Sequence{"5/0+2=", "7", "7,00", "1,56"},
           Sequence{"0/0=", "0", "0,00", "0,00"});
 
-SEQUENCES(Rounding, Sequence{"1/8=", "0,12", "0,12", "0,03"}, Sequence{"3/8=", "0,38", "0,38", "0,08"},
-          Sequence{"5/2=", "2", "2", "0", 0}, Sequence{"7/2=", "4", "4", "1", 0},
-          Sequence{"1/3=", "0,33", "0,33", "0,07"}, Sequence{"2/3=", "0,6667", "0,6667", "0,1482", 4},
+SEQUENCES(Rounding, Sequence{"14.5X19%", "2,76", "2,76", "0,61"}, Sequence{"5.35/2=", "2,68", "2,68", "0,60"},
+          Sequence{"100.5+19%", "119,6", "119,60", "26,58"}, Sequence{"1/8=", "0,12", "0,12", "0,03"},
+          Sequence{"3/8=", "0,38", "0,38", "0,08"}, Sequence{"5/2=", "2", "2", "0", 0},
+          Sequence{"7/2=", "4", "4", "1", 0}, Sequence{"1/3=", "0,33", "0,33", "0,07"},
+          Sequence{"2/3=", "0,6667", "0,6667", "0,1482", 4},
           Sequence{"2/3=", "0,666667", "0,666667", "0,148148", 6}, Sequence{"1/3=X3=", "1", "1,00", "0,22"},
           // The running result is not rounded.
           Sequence{"1n/8/1=", "-0,12", "-0,12", "-0,03"}, Sequence{"1n/2=", "0", "0", "0", 0},
@@ -188,8 +191,8 @@ TEST(Engine, MarksTheMemoryUntilItIsCleared) {
     EXPECT_TRUE(shown.Press("0M").memoryMark) << "even where it holds nothing";
     EXPECT_FALSE(shown.Press("Z").memoryMark);
     EXPECT_TRUE(shown.Press("5W").memoryMark);
-    EXPECT_TRUE(shown.Press("A").memoryMark) << "clearing all empties the memory and leaves the mark";
-    EXPECT_FALSE(shown.Press("Z").memoryMark);
+    EXPECT_TRUE(shown.Press("C<=7+").memoryMark);
+    EXPECT_FALSE(shown.Press("A").memoryMark) << "clearing all empties the memory";
 }
 
 TEST(Engine, ReportsEveryDivisionByZeroOnce) {
@@ -287,9 +290,91 @@ TEST(Engine, OverflowsWhenAResultIsTooLarge) {
     });
     EXPECT_EQ(error, data::error_number::Overflow);
     EXPECT_EQ(shown.engine.EntryText(), "999999999999999") << "the operand is still shown";
-    shown.Press("C7+5=");
-    EXPECT_EQ(shown.engine.EntryText(), "75") << "no operator is taken before all is cleared";
-    EXPECT_EQ(shown.Press("A7+5=").engine.EntryText(), "12");
+    EXPECT_EQ(shown.Press("7+5=").engine.EntryText(), "12");
+}
+
+/// The memory holds 42, and the next operator drives the running result out of range.
+void MakeNearlyOverflow(TwoDisplays& shown) {
+    shown.Press("42M");
+    for (int i = 0; i < 20; ++i)
+        shown.Press("999999999999999X");
+    shown.Press("999999999999999");
+}
+
+struct AfterAnError {
+    const char* last;  ///< the key that fails, and what is pressed after it
+    const char* next;
+    const char* entry;
+};
+
+TEST(Engine, BeginsAnewAfterAnErrorAndKeepsItsMemory) {
+    for (const AfterAnError& after :
+         {AfterAnError{"X", "7+5=", "12"}, AfterAnError{"=", "C7+5=", "12"}, AfterAnError{"%", "7+5=", "12"},
+          AfterAnError{"X", "+7+5=", "12"}, AfterAnError{".X", "7+5=", "12"},
+          AfterAnError{"X", "n", "-999999999999999"}, AfterAnError{"=", "<", "99999999999999"},
+          AfterAnError{"=", "R", "42"}, AfterAnError{"=", "M1WR", "1000000000000040"}}) {
+        TwoDisplays shown;
+        MakeNearlyOverflow(shown);
+        EXPECT_EQ(ErrorOf([&] { shown.Press(after.last); }), data::error_number::Overflow);
+        EXPECT_EQ(shown.Press(after.next).engine.EntryText(), after.entry) << after.last << after.next;
+        EXPECT_TRUE(shown.memoryMark);
+    }
+}
+
+TEST(Engine, BeginsAnewAfterAResultThatCannotBeConverted) {
+    TwoDisplays shown;
+    for (const char* keys : {"7+5=", "7+5%", "7+5=3+"}) {
+        shown.Press("A").rate = 1;
+        const std::string_view typed(keys);
+        shown.Press(typed.substr(0, typed.size() - 1)).rate = 0;
+        EXPECT_EQ(ErrorOf([&] { shown.Press(typed.substr(typed.size() - 1)); }),
+                  data::error_number::DivisionByZero);
+        shown.rate = 1;
+        EXPECT_EQ(shown.Press("7+5=").engine.EntryText(), "12") << keys;
+    }
+}
+
+TEST(Engine, TakesTypedKeysThatCannotBeConverted) {
+    TwoDisplays shown;
+    shown.rate = 0;
+    for (const char* key : {"1", "2", "n"})
+        EXPECT_EQ(ErrorOf([&] { shown.Press(key); }), data::error_number::DivisionByZero) << key;
+    EXPECT_EQ(shown.engine.EntryText(), "-12");
+    EXPECT_EQ(shown.Lei(), "-12,00");
+    shown.rate = 2;
+    EXPECT_EQ(shown.Press("+5=").engine.EntryText(), "-7");
+}
+
+TEST(Engine, ShowsTheTypedNumberEvenWhereItCannotBeConverted) {
+    TwoDisplays shown;
+    shown.unit = Unit::Currency;
+    shown.rate = 1e308;
+    shown.Press("1");
+    EXPECT_EQ(ErrorOf([&] { shown.Press("2"); }), data::error_number::Overflow);
+    EXPECT_EQ(shown.Currency(), "12,00") << "an operator takes what is shown";
+}
+
+TEST(Engine, RefusesANumberWhoseDecimalNoDoubleHolds) {
+    TwoDisplays shown;
+    shown.Press("5").engine.SetEntry(std::numeric_limits<double>::max());
+    EXPECT_EQ(ErrorOf([&] { shown.ShowValues(); }), data::error_number::Overflow);
+    EXPECT_EQ(shown.Lei(), "5,00") << "what was shown before";
+}
+
+TEST(Engine, SaysWhichKeysDoNothing) {
+    const auto ignored = [](std::string_view keys) { return TwoDisplays().Press(keys).ignored; };
+    EXPECT_EQ(ignored("123456789012345"), 0);
+    EXPECT_EQ(ignored("1234567890123456"), 1) << "a sixteenth digit";
+    EXPECT_EQ(ignored("1.23"), 0);
+    EXPECT_EQ(ignored("1.2345"), 2) << "more decimals than are kept";
+    EXPECT_EQ(ignored("1..5"), 1) << "a second point";
+    EXPECT_EQ(ignored("1.5.5"), 1);
+    EXPECT_EQ(ignored("n"), 1) << "zero has no sign";
+    EXPECT_EQ(ignored("5n"), 0);
+    EXPECT_EQ(ignored("5nn"), 1) << "a minus stays";
+    EXPECT_EQ(ignored("50%"), 1) << "a percentage of nothing";
+    EXPECT_EQ(ignored("200+10%"), 0);
+    EXPECT_EQ(ignored("1++-2==3+C<<A=MRZWRZ"), 0);
 }
 
 TEST(Engine, OverflowsInPercentMemoryAndDivision) {

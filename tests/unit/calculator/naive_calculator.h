@@ -18,17 +18,24 @@ class NaiveCalculator {
         if (key >= '0' && key <= '9') {
             Digit(key);
         } else if (key == '.') {
-            if (entry.find(separator) == std::string::npos) decimalPending = true;
+            if (entry.find(separator) == std::string::npos && !decimalPending) {
+                decimalPending = true;
+            } else {
+                ignored = ignored + 1;
+            }
         } else if (key == 'n') {
             if (entry.find('-') == std::string::npos && entry != "0") {
                 entry = "-" + entry;
                 accumulator = accumulator * -1;
                 ShowValues();
+            } else {
+                ignored = ignored + 1;
             }
         } else if (key == 'A') {
             pendingOperator = 0;
             entry = "0";
             accumulator = operand = memory = 0;
+            mark = false;
             decimalPending = false;
             newEntry = true;
             operandCount = 0;
@@ -50,7 +57,16 @@ class NaiveCalculator {
             entry = "0";
             ShowValues();
         } else {
-            Operator(key);
+            try {
+                Operator(key);
+            } catch (int) {
+                pendingOperator = 0;
+                accumulator = operand = 0;
+                operandCount = 0;
+                newEntry = true;
+                decimalPending = false;
+                throw;
+            }
         }
     }
 
@@ -81,16 +97,23 @@ class NaiveCalculator {
     double currency = 0;
     bool mark = false;
     int messages = 0;
+    int ignored = 0;
 
   private:
     void Digit(char digit) {
         if (newEntry) entry = "0";
         newEntry = false;
-        if (entry.size() >= 15) return;
+        if (entry.size() >= 15) {
+            ignored = ignored + 1;
+            return;
+        }
         const std::size_t at = entry.find(separator);
         if (at != std::string::npos && at >= 1) {
             const std::string tail = entry.substr(at);
-            if (static_cast<int>(tail.size()) > decimals) return;
+            if (static_cast<int>(tail.size()) > decimals) {
+                ignored = ignored + 1;
+                return;
+            }
         }
         if (!decimalPending) {
             if (entry == "0") {
@@ -115,6 +138,7 @@ class NaiveCalculator {
             accumulator = Entered();
             if (cap == '%') {
                 operandCount = 0;
+                ignored = ignored + 1;
                 return;
             }
             pendingOperator = cap;
@@ -127,13 +151,13 @@ class NaiveCalculator {
                 if (pendingOperator == 'X') accumulator = Checked(Checked(accumulator * operand) / 100);
                 if (pendingOperator == '/' && operand == 0) messages = messages + 1;
                 if (pendingOperator == '/' && operand != 0) accumulator = Divided(accumulator, operand / 100);
-                entry = TextOf(Rounded(accumulator));
+                entry = TextOf(Checked(Rounded(accumulator)));
                 ShowValues();
                 operand = 0;
                 operandCount = 0;
                 newEntry = true;
             } else if (pendingOperator == '=') {
-                entry = TextOf(Rounded(operand));
+                entry = TextOf(Checked(Rounded(operand)));
                 ShowValues();
                 accumulator = operand = 0;
                 operandCount = 0;
@@ -144,7 +168,7 @@ class NaiveCalculator {
                 if (pendingOperator == 'X') accumulator = Checked(accumulator * operand);
                 if (pendingOperator == '/' && operand == 0) messages = messages + 1;
                 if (pendingOperator == '/' && operand != 0) accumulator = Divided(accumulator, operand);
-                entry = TextOf(Rounded(accumulator));
+                entry = TextOf(Checked(Rounded(accumulator)));
                 ShowValues();
                 operandCount = 1;
                 newEntry = true;
@@ -168,11 +192,11 @@ class NaiveCalculator {
         if (entry == "-0") {
             lei = currency = 0;
         } else if (unitIsLei) {
-            lei = ValueOf(entry);
+            lei = Checked(ValueOf(entry));
             currency = Divided(ValueOf(entry), rate);
         } else {
+            currency = Checked(ValueOf(entry));
             lei = Checked(ValueOf(entry) * rate);
-            currency = ValueOf(entry);
         }
     }
 
@@ -197,24 +221,50 @@ class NaiveCalculator {
         return std::strtod(text.c_str(), nullptr) + 0.0;
     }
 
+    /// What a number stands for: digits[0].digits[1]... times ten to the power of the exponent.
+    struct Standing {
+        std::string digits;
+        int exponent;
+    };
+
+    static Standing StandingFor(double number) {
+        char text[40];
+        std::snprintf(text, sizeof text, "%.14e", std::fabs(number));
+        std::string digits = text;
+        const int exponent = std::atoi(digits.substr(digits.find('e') + 1).c_str());
+        digits = digits.substr(0, digits.find('e'));
+        digits.erase(1, 1);
+        return {digits, exponent};
+    }
+
     double Rounded(double number) const {
-        char text[400];
-        std::snprintf(text, sizeof text, "%.*f", decimals, number);
-        return std::strtod(text, nullptr);
+        Standing standing = StandingFor(number);
+        std::string& digits = standing.digits;
+        const int kept = standing.exponent + 1 + decimals;
+        if (kept < 0) return 0;
+        if (kept < static_cast<int>(digits.size())) {
+            const std::string rest = digits.substr(static_cast<std::size_t>(kept));
+            const std::string tie = "5" + std::string(rest.size() - 1, '0');
+            digits = "0" + digits.substr(0, static_cast<std::size_t>(kept));
+            standing.exponent = standing.exponent + 1;
+            if (rest > tie || (rest == tie && (digits.back() - '0') % 2 == 1)) {
+                std::size_t place = digits.size() - 1;
+                while (digits[place] == '9') {
+                    digits[place] = '0';
+                    place = place - 1;
+                }
+                digits[place] = static_cast<char>(digits[place] + 1);
+            }
+        }
+        const std::string sign = number < 0 ? "-" : "";
+        digits.insert(1, ".");
+        return std::strtod((sign + digits + "e" + std::to_string(standing.exponent)).c_str(), nullptr) + 0.0;
     }
 
     std::string TextOf(double number) const {
         if (number == 0) return "0";
-        char scientific[40];
-        int digits = 1;
-        do {
-            std::snprintf(scientific, sizeof scientific, "%.*e", digits - 1, std::fabs(number));
-            digits = digits + 1;
-        } while (std::strtod(scientific, nullptr) != std::fabs(number));
-        std::string text = scientific;
-        const int exponent = std::atoi(text.substr(text.find('e') + 1).c_str());
-        text = text.substr(0, text.find('e'));
-        if (text.size() > 1) text.erase(1, 1);
+        const auto [digits, exponent] = StandingFor(number);
+        std::string text = digits.substr(0, digits.find_last_not_of('0') + 1);
         while (static_cast<int>(text.size()) < exponent + 1)
             text = text + "0";
         std::string whole = "0";

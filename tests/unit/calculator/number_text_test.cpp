@@ -17,7 +17,7 @@ std::string Written(double number, std::string_view separator = ",") {
     return text;
 }
 
-TEST(WriteNumber, WritesTheShortestDecimal) {
+TEST(WriteNumber, WritesTheDecimalOfFifteenDigits) {
     EXPECT_EQ(Written(0), "0");
     EXPECT_EQ(Written(-0.0), "0");
     EXPECT_EQ(Written(12), "12");
@@ -26,8 +26,8 @@ TEST(WriteNumber, WritesTheShortestDecimal) {
     EXPECT_EQ(Written(0.000001), "0,000001");
     EXPECT_EQ(Written(100), "100");
     EXPECT_EQ(Written(123456789.123456), "123456789,123456");
-    EXPECT_EQ(Written(0.1 + 0.2), "0,30000000000000004");
-    EXPECT_EQ(Written(1.0 / 3), "0,3333333333333333");
+    EXPECT_EQ(Written(0.1 + 0.2), "0,3");
+    EXPECT_EQ(Written(1.0 / 3), "0,333333333333333");
     EXPECT_EQ(Written(1.5, "\xD9\xAB"),
               "1\xD9\xAB"
               "5");
@@ -39,9 +39,10 @@ TEST(WriteNumber, WritesNoExponent) {
     EXPECT_EQ(Written(1e16), "10000000000000000");
     EXPECT_EQ(Written(1e23), "100000000000000000000000");
     EXPECT_EQ(Written(-1.5e25), "-15000000000000000000000000");
+    EXPECT_EQ(Written(12345678901234567.0), "12345678901234600");
     EXPECT_EQ(Written(1e-9), "0,000000001");
     EXPECT_EQ(Written(std::numeric_limits<double>::max()).size(), 309U);
-    EXPECT_EQ(Written(-std::numeric_limits<double>::denorm_min()).size(), 327U);
+    EXPECT_EQ(Written(-std::numeric_limits<double>::denorm_min()).size(), 341U);
 }
 
 TEST(ReadNumber, ReadsWhatIsTyped) {
@@ -73,24 +74,25 @@ TEST(ReadNumber, WordsAreNoNumbers) {
         EXPECT_EQ(ReadNumber(word, ","), 0) << word;
 }
 
-TEST(NumberText, ReadsBackWhatItWrites) {
+TEST(NumberText, ReadsBackAsANumberWithTheSameText) {
     std::mt19937_64 random(4);
     for (int i = 0; i < 60'000; ++i) {
         const double number = std::bit_cast<double>(random());
-        if (!std::isfinite(number)) continue;
-        ASSERT_EQ(ReadNumber(Written(number), ","), number) << Written(number);
+        if (!(std::fabs(number) < 1.79769313486231e308)) continue;
+        const std::string text = Written(number);
+        ASSERT_EQ(Written(ReadNumber(text, ",")), text);
     }
 }
 
-TEST(NumberText, ReadsBackDecimalsOfEveryLength) {
+TEST(NumberText, ReadsBackDecimalsOfUpToFifteenDigits) {
     std::mt19937_64 random(5);
     for (int i = 0; i < 60'000; ++i) {
-        const std::uint64_t range = std::uint64_t{1} << (1 + random() % 53);
+        const std::uint64_t range = std::uint64_t{1} << (1 + random() % 49);
         const double number =
             static_cast<double>(random() % range) / std::pow(10.0, static_cast<double>(random() % 8));
         const std::string text = Written(number);
         ASSERT_EQ(ReadNumber(text, ","), number) << text;
-        ASSERT_LE(text.size(), 24U);
+        ASSERT_LE(text.size(), 17U);
     }
 }
 

@@ -23,13 +23,13 @@ class TwoDisplays : public calculator::EngineListener {
             lei = currency = 0;
             return;
         }
-        const double entered = engine.EntryValue();
+        const double entered = data::CheckedResult(engine.EntryValue());
         if (unit == Unit::Lei) {
             lei = entered;
             currency = data::CheckedQuotient(entered, rate);
         } else {
-            lei = data::CheckedResult(entered * rate);
             currency = entered;
+            lei = data::CheckedResult(entered * rate);
         }
     }
     double ShownValue() const override { return unit == Unit::Lei ? lei : currency; }
@@ -41,7 +41,7 @@ class TwoDisplays : public calculator::EngineListener {
     /// from it, "R" recalls and "Z" clears it.
     TwoDisplays& Press(std::string_view keys) {
         for (const char key : keys)
-            engine.Press(CommandOf(key));
+            ignored += engine.Press(CommandOf(key)) ? 0 : 1;
         return *this;
     }
 
@@ -74,6 +74,7 @@ class TwoDisplays : public calculator::EngineListener {
     double currency = 0;
     int refreshes = 0;
     int divisionsByZero = 0;
+    int ignored = 0;  ///< keys that did nothing
     bool memoryMark = false;
 
   private:

@@ -9,6 +9,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <limits>
 #include <random>
 
@@ -38,12 +39,13 @@ double StandardNumber(const std::string& text) {
     return error == std::errc::result_out_of_range ? Limits::infinity() : number;
 }
 
-/// The standard's digits: those of its scientific form.
-std::string StandardDigits(double number) {
-    std::string digits = Standard(number, std::chars_format::scientific);
-    digits.resize(digits.find('e'));
+/// The standard's decimal of 15 significant digits, from its scientific form.
+Decimal StandardDecimal(double number) {
+    const std::string text = Standard(number, std::chars_format::scientific, 14);
+    std::string digits = text.substr(0, text.find('e'));
     std::erase(digits, '.');
-    return digits;
+    digits.resize(digits.find_last_not_of('0') + 1);
+    return {std::string_view(digits), std::atoi(text.substr(text.find('e') + 1).c_str()) + 1};
 }
 
 std::vector<double> Samples() {
@@ -67,51 +69,73 @@ std::vector<double> Samples() {
     return samples;
 }
 
-TEST(ShortestDigitsTest, AreThoseOfTheStandardLibrary) {
+TEST(DecimalOfTest, IsTheStandardLibrarysOfFifteenDigits) {
     for (const double sample : Samples()) {
-        std::string expected = StandardDigits(sample);
-        expected.resize(expected.find_last_not_of('0') + 1);
-        EXPECT_EQ(ShortestDigits(sample).digits.View(), expected) << sample;
-        EXPECT_EQ(ShortestDigits(sample).ToDouble(), sample);
+        const Decimal expected = StandardDecimal(sample);
+        const Decimal decimal = DecimalOf(sample);
+        EXPECT_EQ(decimal.digits.View(), expected.digits.View()) << sample;
+        EXPECT_EQ(decimal.point, expected.point) << sample;
     }
+    EXPECT_EQ(Fixed(DecimalOf(0)), "0");
 }
 
-TEST(ExactDecimalTest, HasEveryDigit) {
-    for (const double sample : Samples()) {
-        std::string expected = Standard(sample, std::chars_format::fixed, 1074);
-        expected.resize(expected.find_last_not_of('0') + 1);
-        if (expected.back() == '.') expected.pop_back();
-        EXPECT_EQ(Fixed(ExactDecimal(sample)), expected) << sample;
-    }
-    EXPECT_EQ(Fixed(ExactDecimal(0)), "0");
-}
-
-TEST(DecimalTest, RoundsToPlacesAsTheStandardLibraryDoes) {
-    for (const double sample : Samples()) {
-        for (const int places : {0, 2, 6}) {
-            Decimal decimal = ExactDecimal(sample);
-            decimal.RoundToPlaces(places);
-            EXPECT_EQ(decimal.ToDouble(), StandardNumber(Standard(sample, std::chars_format::fixed, places)))
-                << sample;
+TEST(DecimalOfTest, SeesNoDifferenceBetweenTheDoublesAroundADecimal) {
+    std::mt19937_64 random(11);
+    for (int i = 0; i < 50'000; ++i) {
+        const std::uint64_t units = random() % (std::uint64_t{1} << (1 + random() % 49));
+        const double decimal = static_cast<double>(units) / 1e6;
+        for (const double number : {std::nextafter(decimal, 0), decimal, std::nextafter(decimal, 1e300)}) {
+            ASSERT_EQ(Fixed(DecimalOf(number)), Fixed(StandardDecimal(number))) << std::hexfloat << number;
+            ASSERT_EQ(Millionths(number).value_or(units), units) << std::hexfloat << number;
         }
     }
 }
 
+TEST(DecimalOfTest, FindsAmountsInMillionths) {
+    EXPECT_EQ(Millionths(0), 0U);
+    EXPECT_EQ(Millionths(2.755), 2755000U);
+    EXPECT_EQ(Millionths(14.5 * 19 / 100), 2755000U);
+    EXPECT_EQ(Millionths(0.1 + 0.2), 300000U);
+    EXPECT_EQ(Millionths(999999999.999999), 999999999999999U);
+    EXPECT_EQ(Millionths(1e9), std::nullopt);
+    EXPECT_EQ(Millionths(1.0 / 3), std::nullopt);
+    EXPECT_EQ(Millionths(1e-7), std::nullopt);
+    EXPECT_EQ(Millionths(5e-324), std::nullopt);
+    EXPECT_EQ(Millionths(Limits::infinity()), std::nullopt);
+}
+
+/// A decimal fraction as it is written.
+Decimal Written(std::string_view whole, std::string_view fraction) {
+    DigitText digits(whole);
+    digits.Append(fraction);
+    return {digits, static_cast<int>(whole.size())};
+}
+
 TEST(DecimalTest, RoundsTiesToTheEvenDigit) {
-    const auto rounded = [](double number, int places) {
-        Decimal decimal = ExactDecimal(number);
+    const auto rounded = [](Decimal decimal, int places) {
         decimal.RoundToPlaces(places);
         return Fixed(decimal);
     };
-    EXPECT_EQ(rounded(0.5, 0), "0");
-    EXPECT_EQ(rounded(1.5, 0), "2");
-    EXPECT_EQ(rounded(2.5, 0), "2");
-    EXPECT_EQ(rounded(0.125, 2), "0.12");
-    EXPECT_EQ(rounded(0.375, 2), "0.38");
-    EXPECT_EQ(rounded(99.996, 2), "100");
-    EXPECT_EQ(rounded(0.6, 0), "1");
-    EXPECT_EQ(rounded(0.06, 0), "0");
-    EXPECT_EQ(rounded(0.001, 1), "0");
+    EXPECT_EQ(rounded(Written("", "5"), 0), "0");
+    EXPECT_EQ(rounded(Written("1", "5"), 0), "2");
+    EXPECT_EQ(rounded(Written("2", "5"), 0), "2");
+    EXPECT_EQ(rounded(Written("", "125"), 2), "0.12");
+    EXPECT_EQ(rounded(Written("", "375"), 2), "0.38");
+    EXPECT_EQ(rounded(Written("", "3750000001"), 2), "0.38");
+    EXPECT_EQ(rounded(Written("", "1250000001"), 2), "0.13");
+    EXPECT_EQ(rounded(Written("99", "996"), 2), "100");
+    EXPECT_EQ(rounded(Written("", "6"), 0), "1");
+    EXPECT_EQ(rounded({"6", -1}, 0), "0");
+    EXPECT_EQ(rounded({"1", -2}, 1), "0");
+}
+
+TEST(DecimalTest, BecomesTheNearestDouble) {
+    for (const double sample : Samples()) {
+        EXPECT_EQ(DecimalOf(sample).ToDouble(),
+                  StandardNumber(Standard(sample, std::chars_format::scientific, 14)))
+            << sample;
+    }
+    EXPECT_EQ(DecimalOf(Limits::max()).ToDouble(), Limits::infinity()) << "its decimal lies above it";
 }
 
 TEST(DecimalTest, ReadsWhatTheStandardLibraryReads) {
@@ -179,12 +203,10 @@ TEST(DecimalTest, WritesZerosWhereThePointLiesOutside) {
     EXPECT_EQ(Fixed({}), "0");
 }
 
-TEST(ShortestDecimalTest, IsTheStandardLibrarysText) {
+TEST(ShortestDecimalTest, IsItsDecimalWithoutAnExponent) {
     for (const double sample : Samples()) {
-        const std::string expected =
-            sample < 1e15 ? Standard(sample, std::chars_format::fixed) : Standard(sample);
-        EXPECT_EQ(ShortestDecimal(sample), expected);
-        EXPECT_EQ(ShortestDecimal(-sample), "-" + expected);
+        EXPECT_EQ(ShortestDecimal(sample), Fixed(StandardDecimal(sample)));
+        EXPECT_EQ(ShortestDecimal(-sample), "-" + Fixed(StandardDecimal(sample)));
     }
 }
 

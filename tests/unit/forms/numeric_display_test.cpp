@@ -27,7 +27,7 @@ TEST(GroupedNumber, GroupsTheDigitsInTheLocale) {
           Shown{1000000, 6, "1.000.000,000000"}, Shown{1005, 2, "1.005,00"}, Shown{1000.05, 2, "1.000,05"},
           Shown{-1234.5, 2, "-1.234,50"}, Shown{123456789012345, 2, "123.456.789.012.345,00"},
           Shown{9e15, 0, "9.000.000.000.000.000"}, Shown{9e15, 2, "9.000.000.000.000.000,00"},
-          Shown{123456789012345680.0, 6, "123.456.789.012.345.680,000000"},
+          Shown{123456789012345680.0, 6, "123.456.789.012.346.000,000000"},
           Shown{-12345678901.5, 6, "-12.345.678.901,500000"},
           Shown{9e20, 2, "900.000.000.000.000.000.000,00"}}) {
         std::string text;
@@ -39,6 +39,7 @@ TEST(GroupedNumber, GroupsTheDigitsInTheLocale) {
 TEST(GroupedNumber, RoundsTiesToTheEvenDigit) {
     for (const Shown& shown :
          {Shown{0.125, 2, "0,12"}, Shown{0.375, 2, "0,38"}, Shown{2.5, 0, "2"}, Shown{1.005, 2, "1,00"},
+          Shown{1.015, 2, "1,02"}, Shown{2.675, 2, "2,68"}, Shown{14.5 * 19 / 100, 2, "2,76"},
           Shown{999.995, 2, "1.000,00"}, Shown{-0.004, 2, "0,00"}, Shown{-0.006, 2, "-0,01"}}) {
         std::string text;
         forms::WriteGroupedNumber(text, shown.number, shown.decimals, {});
