@@ -47,6 +47,20 @@ TEST_F(CursValutarTest, OpensOnTheMonthOfTheWorkingDate) {
     EXPECT_THAT(desktop.reports, IsEmpty());
 }
 
+TEST_F(CursValutarTest, AYearBeyondEveryCalendarGivesPickersThatACalendarTakes) {
+    for (const std::int16_t year : {std::int16_t{0}, std::int16_t{1752}, std::int16_t{32767}}) {
+        module.context.workYear = year;
+        CursValutar& list = OpenList();
+        for (const forms::DatePicker* picker : {&list.dpDataIn, &list.dpDataFin}) {
+            EXPECT_GE(picker->MinDate().days, Day(1753, 1, 1).days) << year;
+            EXPECT_LE(picker->MaxDate().days, Day(9999, 12, 31).days) << year;
+            EXPECT_GE(picker->Date().days, picker->MinDate().days) << year;
+            EXPECT_LE(picker->Date().days, picker->MaxDate().days) << year;
+        }
+        list.Unload();
+    }
+}
+
 TEST_F(CursValutarTest, AWorkingDateOutsideThePickersRangeIsMovedIntoIt) {
     module.context.workDate = Day(2010, 7, 15);
     const CursValutar& list = OpenList();
