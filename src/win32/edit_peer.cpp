@@ -124,10 +124,7 @@ LRESULT EditPeer::PassCharacter(const Message& message) {
     constexpr WPARAM ControlA = 1;
     if (message.wParam == ControlA) return SendMessageW(Handle(), EM_SETSEL, 0, -1);
     if (IsBeep(message.wParam)) return 0;
-    if (const wchar_t high = SharedToolkit().Keys().HighSurrogate(); high != 0) {
-        CallDefault({WM_CHAR, static_cast<WPARAM>(high), message.lParam});
-    }
-    return CallDefault(message);
+    return SharedToolkit().Keys().PassOn(message, [this](const Message& each) { return CallDefault(each); });
 }
 
 LRESULT EditPeer::OnSetFocus(const Message& message) {
@@ -147,7 +144,8 @@ LRESULT EditPeer::OnColors(const Message& message) {
 }
 
 LRESULT EditPeer::OnCommand(const Message& message) {
-    if (HIWORD(message.wParam) != EN_CHANGE || isShowing_) return 0;
+    const bool isNews = !isShowing_ && !SharedToolkit().Keys().IsInsideCharacter();
+    if (HIWORD(message.wParam) != EN_CHANGE || !isNews) return 0;
     const TextRange selection = ReadSelection(Handle());
     control_.HandleEdited(ReadText(Handle()), selection.start, selection.length);
     return 0;

@@ -35,7 +35,6 @@ class RichEditPeer final : public ControlWindow, public forms::RichTextEditor {
     LRESULT OnMouse(const Message& message);
     LRESULT OnMouseWheel(const Message& message);
 
-    LRESULT PassCharacter(const Message& message);
     void TellModelOfMouse(const Message& message);
     void ReportSelection();
     void UseStandardFormat();
