@@ -116,6 +116,11 @@ class Control {
     }
     /// The part that is the current one, -1 for a control without any.
     virtual int AccessibleSelectedChild() const { return -1; }
+    /// The part at a place within the control, -1 where there is none.
+    virtual int AccessibleChildAt(Point place) const {
+        (void)place;
+        return -1;
+    }
 
     // The peer, present while the form's window exists.
     void SetPeer(std::unique_ptr<ControlPeer> peer) { peer_ = std::move(peer); }

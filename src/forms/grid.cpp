@@ -289,11 +289,21 @@ AccessibleNode Grid::AccessibleChild(int child) const {
     return node;
 }
 
-int Grid::AccessibleSelectedChild() const {
+int Grid::PartOf(int row, int column) const {
     const std::vector<int> shown = ShownColumns();
-    const auto place = std::ranges::find(shown, column_);
-    if (row_ < 1 || place == shown.end()) return -1;
-    return row_ * static_cast<int>(shown.size()) + static_cast<int>(place - shown.begin());
+    const auto place = std::ranges::find(shown, column);
+    if (place == shown.end()) return -1;
+    return row * static_cast<int>(shown.size()) + static_cast<int>(place - shown.begin());
+}
+
+int Grid::AccessibleSelectedChild() const {
+    return row_ > 0 ? PartOf(row_, column_) : -1;
+}
+
+int Grid::AccessibleChildAt(Point place) const {
+    const GridViewport view = Viewport();
+    const int row = view.header.Contains(place) ? 0 : view.RowAt(place.y);
+    return row >= 0 && row < Rows() ? PartOf(row, view.ColumnAt(place.x)) : -1;
 }
 
 }  // namespace tavrin::forms

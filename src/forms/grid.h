@@ -67,6 +67,7 @@ class Grid : public Control {
     int AccessibleChildCount() const override;
     AccessibleNode AccessibleChild(int child) const override;
     int AccessibleSelectedChild() const override;
+    int AccessibleChildAt(Point place) const override;
 
   protected:
     KeyOutcome DefaultKeyDown(int keyCode, Modifiers modifiers) override;
@@ -111,6 +112,8 @@ class Grid : public Control {
     bool IsSelected(int row, int column) const;
 
     std::vector<int> ShownColumns() const;
+    /// The number of a cell among the parts, -1 in a hidden column.
+    int PartOf(int row, int column) const;
 
     data::TablePtr table_;
     std::vector<Column> columns_;
