@@ -241,10 +241,10 @@ void Grid::DefaultMouseUp(const MouseInput& input) {
 }
 
 void Grid::HandleDblClick(const MouseInput& input) {
-    if (IsCellAt(input.at)) {
-        Control::HandleDblClick(input);
-    } else {
+    if (Viewport().BarAt(input.at) != nullptr) {
         HandleMouseDown(input);
+    } else {
+        Control::HandleDblClick(input);
     }
 }
 

@@ -59,7 +59,7 @@ class Grid : public Control {
 
     bool IsFocusable() const override { return true; }
     void HandleWheel(int notches) override;
-    /// Beside the cells it is a second press.
+    /// On a scroll bar it is a second press.
     void HandleDblClick(const MouseInput& input) override;
     void Draw(Surface& surface) const override;
     AccessibleNode Accessible() const override;
