@@ -26,8 +26,9 @@ class CursValutar : public forms::Form {
 
     void ShowForm();
 
-    /// Reads the currencies and the days of the current filter anew. True when there are any. The argument is
-    /// part of the window's interface; every caller passes true.
+    /// Reads the currencies and the days of the current filter anew. True when there are any. The current day
+    /// stays the current one where it is still listed. The argument is part of the window's interface; every
+    /// caller passes true.
     bool Filtreaza(bool refresh);
     /// Takes the range from the two pickers and reads the list.
     bool ApplyDateFilter();
@@ -37,7 +38,7 @@ class CursValutar : public forms::Form {
     const CurrencyNames& Currencies() const { return currencyNames_; }
     /// The day of the grid's current row, "dd/mm/yyyy".
     std::string SelectedDayText() const;
-    /// Makes the row of a day the current one; without such a row the current one stays.
+    /// Makes the row of a day the current one, marked as a whole; without such a row the current one stays.
     void SelectDay(const std::string& dayMonthYear);
     /// Extends the selection over the whole current row.
     void SelectWholeRow();
@@ -63,6 +64,7 @@ class CursValutar : public forms::Form {
     bool IsRateValidated(data::OleDate day) const { return store_.IsFrozen(day); }
     void SetActionsEnabled(bool enabled);
     void BindGrid(data::TablePtr table);
+    void GoToRowOf(const std::string& dayMonthYear);
     bool RefusesFrozenDay();
     void OpenEntry(const std::string& mode);
     void OpenCurrencyWindow(const std::string& mode);
@@ -72,7 +74,7 @@ class CursValutar : public forms::Form {
 
     void cmdAction_KeyDown(int index, int& keyCode, forms::Modifiers modifiers);
     void CloseOnEscape(int keyCode);
-    void Grid_KeyDown(int keyCode);
+    void Grid_KeyDown(int keyCode, forms::Modifiers modifiers);
     void dpDataIn_KeyDown(int keyCode);
     void dpDataFin_KeyDown(int keyCode);
     void cmdRefresh_Click();

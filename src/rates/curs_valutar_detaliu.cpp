@@ -344,6 +344,7 @@ void CursValutarDetaliu::cmdAction_Click(int index) {
     if (auto* list = module_.Loaded<CursValutar>()) {
         list->ApplyDateFilter();
         list->SelectDay(day);
+        list->Grid.SetFocus();  // before its first day it was hidden and could not take it
     }
 }
 

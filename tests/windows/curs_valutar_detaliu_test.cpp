@@ -385,6 +385,43 @@ TEST_F(CursValutarDetaliuTest, TheListShowsTheNewDayAndMarksIt) {
     EXPECT_EQ(FocusedControl(), "Grid");
 }
 
+TEST_F(CursValutarDetaliuTest, WhereTheNewDayIsNotListedTheRowBeforeIsCurrentAgain) {
+    CursValutar& list = OpenList();
+    list.Grid.SetRow(4);
+    list.cmdAction[0].Click();
+    Entry().DataCurs.SetDate(Day(2003, 8, 1));
+    Entry().cmdAction[0].Click();
+    ASSERT_FALSE(EntryIsOpen());
+    EXPECT_EQ(list.Grid.TextMatrix(list.Grid.Row(), 0), "13/05/2003");
+    EXPECT_EQ(list.Grid.Col(), 0);
+    EXPECT_EQ(list.Grid.ColSel(), 3);
+    EXPECT_EQ(FocusedControl(), "Grid");
+}
+
+TEST_F(CursValutarDetaliuTest, TheFirstDayOfAnEmptyRangeComesWithTheListAndTheKeyboard) {
+    Run("DELETE FROM [Curs Valutar]");
+    CursValutar& list = OpenList();
+    ASSERT_FALSE(list.fraGrid.Visible());
+    ClickWithMouse(list.cmdAction[0]);
+    keyboard.Type("\r5\r6\r\r");
+    ASSERT_FALSE(EntryIsOpen());
+    EXPECT_TRUE(list.fraGrid.Visible());
+    EXPECT_EQ(list.Grid.TextMatrix(list.Grid.Row(), 0), "20/05/2003");
+    EXPECT_EQ(list.Grid.ColSel(), 3);
+    EXPECT_EQ(FocusedControl(), "Grid");
+}
+
+TEST_F(CursValutarDetaliuTest, WhereTheRangeStaysEmptyTheKeyboardStaysOnTheButton) {
+    Run("DELETE FROM [Curs Valutar]");
+    CursValutar& list = OpenList();
+    ClickWithMouse(list.cmdAction[0]);
+    Entry().DataCurs.SetDate(Day(2003, 8, 1));
+    Entry().cmdAction[0].Click();
+    ASSERT_FALSE(EntryIsOpen());
+    EXPECT_FALSE(list.fraGrid.Visible());
+    EXPECT_EQ(FocusedControl(), "cmdAction(0)");
+}
+
 TEST_F(CursValutarDetaliuTest, ADayNotLaterThanTheFrozenOneIsRefused) {
     CursValutarDetaliu& entry = OpenToAdd();
     for (const int day : {10, 9}) {

@@ -182,6 +182,18 @@ TEST_F(CursValutarTest, FilteringThatFindsDaysFocusesTheGrid) {
     EXPECT_EQ(list.Grid.Row(), 1);
 }
 
+TEST_F(CursValutarTest, TheCurrentDayStaysTheCurrentOneWhileItIsListed) {
+    CursValutar& list = OpenList();
+    list.Grid.SetRow(4);
+    list.dpDataIn.SetDate(Day(2003, 5, 9));
+    list.cmdRefresh.Click();
+    EXPECT_EQ(list.SelectedDayText(), "13/05/2003");
+    EXPECT_EQ(list.Grid.Row(), 3);
+    list.dpDataFin.SetDate(Day(2003, 5, 12));
+    list.cmdRefresh.Click();
+    EXPECT_EQ(list.Grid.Row(), 1) << "the first one where it is not";
+}
+
 TEST_F(CursValutarTest, TheGridComesBackWhenTheRangeHasDaysAgain) {
     module.context.workDate = Day(2003, 2, 20);
     CursValutar& list = OpenList();
@@ -239,6 +251,20 @@ TEST_F(CursValutarTest, AFrozenDayIsNotModified) {
     EXPECT_EQ(list.Grid.ColSel(), 3);
     EXPECT_EQ(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
     EXPECT_TRUE(list.Enabled());
+}
+
+TEST_F(CursValutarTest, TheRefusalOfAFrozenDayExtendsTheSelectionFromTheCurrentColumn) {
+    CursValutar& list = OpenList();
+    for (const int button : {1, 2}) {
+        for (const int column : {0, 2, 3}) {
+            list.Grid.SetRow(2);
+            list.Grid.SetCol(column);
+            list.cmdAction[button].Click();
+            EXPECT_EQ(list.Grid.Row(), 2);
+            EXPECT_EQ(list.Grid.Col(), column);
+            EXPECT_EQ(list.Grid.ColSel(), 3);
+        }
+    }
 }
 
 TEST_F(CursValutarTest, AFrozenDayIsNotDeletedAndTheTextSpeaksOfModifying) {
@@ -479,6 +505,19 @@ TEST_F(CursValutarTest, ShiftTabFromTheButtonsWalksBack) {
         list.cmdAction[button].SetFocus();
         keyboard.Press(key::Tab, {.shift = true});
         EXPECT_EQ(FocusedControl(), "cmdAction(" + std::to_string(button - 1) + ")");
+    }
+}
+
+TEST_F(CursValutarTest, ShiftTabFromTheGridWalksBackAsWell) {
+    CursValutar& list = OpenList();
+    keyboard.Press(key::Tab, {.shift = true});
+    EXPECT_EQ(FocusedControl(), "cmdAction(6)") << "the grid is the first";
+    keyboard.Press(key::Tab);
+    EXPECT_EQ(FocusedControl(), "Grid");
+    list.cmdAction[0].SetFocus();
+    for (const char* before : {"cmdRefresh", "dpDataFin", "dpDataIn", "Grid", "cmdAction(6)"}) {
+        keyboard.Press(key::Tab, {.shift = true});
+        EXPECT_EQ(FocusedControl(), before);
     }
 }
 
