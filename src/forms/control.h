@@ -142,7 +142,7 @@ class Control {
     bool IsHot() const { return hot_; }
     bool IsPressed() const { return pressed_; }
 
-    void Notify(Aspect aspect);
+    virtual void Notify(Aspect aspect);
     void Repaint() { Notify(Aspect::Look); }
 
     /// Runs a handler; what it throws is reported and stays here.

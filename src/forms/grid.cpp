@@ -27,6 +27,7 @@ int Grid::Columns() const {
 }
 
 void Grid::SetDataSource(data::TablePtr table) {
+    Raise(onContent);
     table_ = std::move(table);
     cells_.clear();
     if (table_) {
@@ -39,6 +40,7 @@ void Grid::SetDataSource(data::TablePtr table) {
 }
 
 void Grid::Clear() {
+    Raise(onContent);
     table_ = nullptr;
     for (Column& column : columns_) {
         column.header.clear();
@@ -85,6 +87,7 @@ void Grid::SetTitle(int column, std::string title) {
 }
 
 void Grid::SetSize(int rows, int columns) {
+    Raise(onContent);
     table_ = nullptr;
     columns_.resize(static_cast<std::size_t>(std::max(0, columns)));
     cells_.resize(static_cast<std::size_t>(std::max(0, rows - 1)));
@@ -246,6 +249,11 @@ void Grid::HandleDblClick(const MouseInput& input) {
     } else {
         Control::HandleDblClick(input);
     }
+}
+
+void Grid::Notify(Aspect aspect) {
+    Control::Notify(aspect);
+    Raise(onLayout);
 }
 
 // Assistive tools.

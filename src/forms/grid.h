@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -57,6 +58,11 @@ class Grid : public Control {
     int TopRow() const;
     void SetTopRow(int row);
 
+    /// The cells are about to be others: the grid is bound, cleared or given another size.
+    std::function<void()> onContent;
+    /// What is in sight may have changed: the grid has been scrolled, sized or painted anew.
+    std::function<void()> onLayout;
+
     bool IsFocusable() const override { return true; }
     void HandleWheel(int notches) override;
     /// On a scroll bar it is a second press.
@@ -75,6 +81,7 @@ class Grid : public Control {
     void DefaultMouseMove(const MouseInput& input) override;
     void DefaultMouseUp(const MouseInput& input) override;
     bool ClicksOnMouseUp() const override { return pressedCell_; }
+    void Notify(Aspect aspect) override;
 
   private:
     struct Column {

@@ -182,7 +182,9 @@ void EditPeer::TellModelOfMouse(const Message& message) {
 LRESULT EditPeer::OnCalculateClientArea(const Message& message) {
     RECT& area = *reinterpret_cast<RECT*>(message.lParam);
     const int margin = std::max(FrameThickness(PixelScale()), (Height(area) - LineHeight()) / 2);
-    InflateRect(&area, -SideMargin(PixelScale()), -margin);
+    // The field of a cell that is all but out of sight has less room than its margins want.
+    InflateRect(&area, -std::min(SideMargin(PixelScale()), Width(area) / 2),
+                -std::min(margin, Height(area) / 2));
     return 0;
 }
 

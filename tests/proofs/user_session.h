@@ -101,6 +101,8 @@ class UserSession {
     void ConnectPlatform();
     void GiveEditors(const forms::Form& form);
     int Answer(const std::string& prompt, int buttons);
+    /// The field that edits a rate lies over the cell that it edits, and over no other.
+    std::string ComplaintOfEditor() const;
 
     std::shared_ptr<host::EmbeddedDatabase> database_;
     std::unique_ptr<host::EmbeddedDatabase::Transaction> transaction_;
