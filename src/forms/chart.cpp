@@ -196,9 +196,14 @@ AccessibleNode Chart::AccessibleChild(int child) const {
     node.name = Row(row).label;
     node.value = data::ShortestDecimal(*Row(row).value);
     node.readOnly = true;
-    const int column = Bounds().width / std::max(1, RowCount());
-    node.bounds = {(row - 1) * column, 0, column, Bounds().height};
+    node.bounds = {(row - 1) * ColumnWidth(), 0, ColumnWidth(), Bounds().height};
     return node;
+}
+
+int Chart::AccessibleChildAt(Point place) const {
+    const std::vector<int> rows = RowsWithValue();
+    const auto found = std::ranges::find(rows, place.x / std::max(1, ColumnWidth()) + 1);
+    return found != rows.end() ? static_cast<int>(found - rows.begin()) : -1;
 }
 
 }  // namespace tavrin::forms

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -38,9 +39,11 @@ class Chart : public Control {
     /// One child a row that has a value.
     int AccessibleChildCount() const override;
     AccessibleNode AccessibleChild(int child) const override;
+    int AccessibleChildAt(Point place) const override;
 
   private:
     std::vector<int> RowsWithValue() const;
+    int ColumnWidth() const { return Bounds().width / std::max(1, RowCount()); }
 
     std::vector<ChartRow> rows_;
     double minimum_ = 0;

@@ -125,6 +125,11 @@ class Control {
     }
     /// The part that is the current one, -1 for a control without any.
     virtual int AccessibleSelectedChild() const { return -1; }
+    /// The part at a place within the control, -1 where there is none.
+    virtual int AccessibleChildAt(Point place) const {
+        (void)place;
+        return -1;
+    }
 
     // The peer, present while the form's window exists.
     void SetPeer(std::unique_ptr<ControlPeer> peer) { peer_ = std::move(peer); }
@@ -145,7 +150,7 @@ class Control {
 
     bool IsHot() const { return hot_; }
 
-    void Notify(Aspect aspect);
+    virtual void Notify(Aspect aspect);
     void Repaint() { Notify(Aspect::Look); }
 
     /// Runs a handler; what it throws is reported and stays here.

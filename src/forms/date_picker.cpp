@@ -11,7 +11,8 @@ namespace tavrin::forms {
 
 namespace {
 
-constexpr data::CalendarDay FirstDay{100, 1, 1};
+/// The platform's calendar begins in the autumn of 1752, dates in a database with the next year.
+constexpr data::CalendarDay FirstDay{1753, 1, 1};
 constexpr data::CalendarDay LastDay{9999, 12, 31};
 constexpr int TextInset = 45;  ///< twips between the upper or lower edge and the text
 
@@ -29,6 +30,11 @@ data::CalendarDay Existing(data::CalendarDay day) {
 
 data::OleDate WholeDay(data::OleDate date) {
     return data::ToOleDate(data::ToCalendarDay(date));
+}
+
+/// A day that every calendar takes.
+data::OleDate CalendarDate(data::OleDate date) {
+    return {std::clamp(WholeDay(date).days, data::ToOleDate(FirstDay).days, data::ToOleDate(LastDay).days)};
 }
 
 /// Keys that carry no character of a date: they end the typing of a part.
@@ -63,17 +69,17 @@ void DatePicker::SetDate(data::OleDate date) {
 }
 
 void DatePicker::SetRange(data::OleDate minDate, data::OleDate maxDate) {
-    minDate_ = WholeDay(minDate);
-    maxDate_ = {std::max(minDate_.days, WholeDay(maxDate).days)};
+    minDate_ = CalendarDate(minDate);
+    maxDate_ = {std::max(minDate_.days, CalendarDate(maxDate).days)};
     SetDate(value_);
 }
 
 void DatePicker::Take(data::OleDate date) {
     const data::OleDate day{std::clamp(WholeDay(date).days, minDate_.days, maxDate_.days)};
-    Repaint();
-    if (day == value_) return;
+    const bool differs = day != value_;
     value_ = day;
-    Raise(onChange);
+    Repaint();
+    if (differs) Raise(onChange);
 }
 
 std::string DatePicker::Text() const {

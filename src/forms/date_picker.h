@@ -11,8 +11,9 @@
 namespace tavrin::forms {
 
 /// A field for one day. Left and Right choose day, month or year, Up and Down change it, digits type it,
-/// Alt+Down or F4 opens the platform's calendar. The value is a whole day within the range. onChange tells of
-/// every new value, whoever set it.
+/// Alt+Down or F4 opens the platform's calendar. The value is a whole day within the range, and that within
+/// the days from 1753 to 9999 that calendars and databases take. onChange tells of every new value, whoever
+/// set it.
 class DatePicker : public Control {
   public:
     /// `customFormat` knows dd, MM, MMM (the locale's abbreviation), yy and yyyy; all else stands as it is.
@@ -26,7 +27,7 @@ class DatePicker : public Control {
     data::OleDate MinDate() const { return minDate_; }
     data::OleDate MaxDate() const { return maxDate_; }
     /// Both ends belong to the range; an end before the start leaves the start alone in it. The value is
-    /// moved into it.
+    /// moved into it, as an end is that lies where no calendar reaches.
     void SetRange(data::OleDate minDate, data::OleDate maxDate);
 
     /// The value in the custom format.

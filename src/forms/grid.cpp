@@ -27,6 +27,7 @@ int Grid::Columns() const {
 }
 
 void Grid::SetDataSource(data::TablePtr table) {
+    Raise(onContent);
     table_ = std::move(table);
     cells_.clear();
     if (table_) {
@@ -39,6 +40,7 @@ void Grid::SetDataSource(data::TablePtr table) {
 }
 
 void Grid::Clear() {
+    Raise(onContent);
     table_ = nullptr;
     for (Column& column : columns_) {
         column.header.clear();
@@ -85,6 +87,7 @@ void Grid::SetTitle(int column, std::string title) {
 }
 
 void Grid::SetSize(int rows, int columns) {
+    Raise(onContent);
     table_ = nullptr;
     columns_.resize(static_cast<std::size_t>(std::max(0, columns)));
     cells_.resize(static_cast<std::size_t>(std::max(0, rows - 1)));
@@ -241,11 +244,16 @@ void Grid::DefaultMouseUp(const MouseInput& input) {
 }
 
 void Grid::HandleDblClick(const MouseInput& input) {
-    if (IsCellAt(input.at)) {
-        Control::HandleDblClick(input);
-    } else {
+    if (Viewport().BarAt(input.at) != nullptr) {
         HandleMouseDown(input);
+    } else {
+        Control::HandleDblClick(input);
     }
+}
+
+void Grid::Notify(Aspect aspect) {
+    Control::Notify(aspect);
+    Raise(onLayout);
 }
 
 // Assistive tools.
@@ -289,11 +297,21 @@ AccessibleNode Grid::AccessibleChild(int child) const {
     return node;
 }
 
-int Grid::AccessibleSelectedChild() const {
+int Grid::PartOf(int row, int column) const {
     const std::vector<int> shown = ShownColumns();
-    const auto place = std::ranges::find(shown, column_);
-    if (row_ < 1 || place == shown.end()) return -1;
-    return row_ * static_cast<int>(shown.size()) + static_cast<int>(place - shown.begin());
+    const auto place = std::ranges::find(shown, column);
+    if (place == shown.end()) return -1;
+    return row * static_cast<int>(shown.size()) + static_cast<int>(place - shown.begin());
+}
+
+int Grid::AccessibleSelectedChild() const {
+    return row_ > 0 ? PartOf(row_, column_) : -1;
+}
+
+int Grid::AccessibleChildAt(Point place) const {
+    const GridViewport view = Viewport();
+    const int row = view.header.Contains(place) ? 0 : view.RowAt(place.y);
+    return row >= 0 && row < Rows() ? PartOf(row, view.ColumnAt(place.x)) : -1;
 }
 
 }  // namespace tavrin::forms

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -57,9 +58,14 @@ class Grid : public Control {
     int TopRow() const;
     void SetTopRow(int row);
 
+    /// The cells are about to be others: the grid is bound, cleared or given another size.
+    std::function<void()> onContent;
+    /// What is in sight may have changed: the grid has been scrolled, sized or painted anew.
+    std::function<void()> onLayout;
+
     bool IsFocusable() const override { return true; }
     void HandleWheel(int notches) override;
-    /// Beside the cells it is a second press.
+    /// On a scroll bar it is a second press.
     void HandleDblClick(const MouseInput& input) override;
     void Draw(Surface& surface) const override;
     AccessibleNode Accessible() const override;
@@ -67,6 +73,7 @@ class Grid : public Control {
     int AccessibleChildCount() const override;
     AccessibleNode AccessibleChild(int child) const override;
     int AccessibleSelectedChild() const override;
+    int AccessibleChildAt(Point place) const override;
 
   protected:
     KeyOutcome DefaultKeyDown(int keyCode, Modifiers modifiers) override;
@@ -74,6 +81,7 @@ class Grid : public Control {
     void DefaultMouseMove(const MouseInput& input) override;
     void DefaultMouseUp(const MouseInput& input) override;
     bool ClicksOnMouseUp() const override { return pressedCell_; }
+    void Notify(Aspect aspect) override;
 
   private:
     struct Column {
@@ -111,6 +119,8 @@ class Grid : public Control {
     bool IsSelected(int row, int column) const;
 
     std::vector<int> ShownColumns() const;
+    /// The number of a cell among the parts, -1 in a hidden column.
+    int PartOf(int row, int column) const;
 
     data::TablePtr table_;
     std::vector<Column> columns_;

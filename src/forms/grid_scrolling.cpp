@@ -72,20 +72,18 @@ void Grid::BringColumnIntoSight() {
 
 bool Grid::PressScrollBar(Point at) {
     const GridViewport view = Viewport();
-    for (const ScrollBar* bar : {&view.rowBar, &view.columnBar}) {
-        if (!bar->track.Contains(at)) continue;
-        if (!bar->IsNeeded()) return true;
-        const Rect thumb = bar->Thumb();
-        const int start = bar->Along({thumb.left, thumb.top});
-        if (thumb.Contains(at)) {
-            dragged_ = bar->direction;
-            dragOffset_ = bar->Along(at) - start;
-        } else {
-            ScrollTo(*bar, bar->first + (bar->Along(at) < start ? -bar->shown : bar->shown));
-        }
-        return true;
+    const ScrollBar* bar = view.BarAt(at);
+    if (bar == nullptr) return false;
+    if (!bar->IsNeeded()) return true;
+    const Rect thumb = bar->Thumb();
+    const int start = bar->Along({thumb.left, thumb.top});
+    if (thumb.Contains(at)) {
+        dragged_ = bar->direction;
+        dragOffset_ = bar->Along(at) - start;
+    } else {
+        ScrollTo(*bar, bar->first + (bar->Along(at) < start ? -bar->shown : bar->shown));
     }
-    return false;
+    return true;
 }
 
 void Grid::ScrollTo(const ScrollBar& bar, int first) {

@@ -132,6 +132,11 @@ int GridViewport::ColumnAt(int x) const {
     return strip == columns.end() ? -1 : strip->column;
 }
 
+const ScrollBar* GridViewport::BarAt(Point place) const {
+    if (rowBar.track.Contains(place)) return &rowBar;
+    return columnBar.track.Contains(place) ? &columnBar : nullptr;
+}
+
 int GridViewport::BottomRow() const {
     return topRow + (cells.height + rowHeight - 1) / rowHeight - 1;
 }

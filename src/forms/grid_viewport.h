@@ -63,6 +63,8 @@ struct GridViewport {
     int RowAt(int y) const;
     /// The column at that place, -1 where there is none.
     int ColumnAt(int x) const;
+    /// The scroll bar at that place, null where there is none.
+    const ScrollBar* BarAt(Point place) const;
     /// The last row that is in sight at least in part; it may be beyond the last of the grid.
     int BottomRow() const;
 

@@ -50,6 +50,11 @@ void TextBox::Select(int start, int length) {
     Notify(Aspect::Selection);
 }
 
+std::string TextBox::SelText() const {
+    const std::size_t from = OffsetOfCharacter(text_, selStart_);
+    return text_.substr(from, OffsetOfCharacter(text_, selStart_ + selLength_) - from);
+}
+
 void TextBox::HandleSelection(int selStart, int selLength) {
     const int characters = TextLength();
     selStart_ = std::clamp(selStart, 0, characters);
@@ -79,6 +84,10 @@ void TextBox::ReplaceSelection(const std::string& text) {
     Notify(Aspect::Text);
     Notify(Aspect::Selection);
     if (differs) Raise(onChange);
+}
+
+void TextBox::HandleWheel(int notches) {
+    Raise(onWheel, notches);
 }
 
 AccessibleNode TextBox::Accessible() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "forms/control.h"
@@ -27,6 +28,9 @@ class TextBox : public Control {
     int SelLength() const { return selLength_; }
     void Select(int start, int length);
     void SelectAll() { Select(0, TextLength()); }
+    std::string SelText() const;
+
+    std::function<void(int notches)> onWheel;
 
     /// Entry points of the platform's field. What it brings while no input is taken is taken back in it.
     void HandleEdited(std::string text, int selStart, int selLength);
@@ -35,6 +39,7 @@ class TextBox : public Control {
     void ReplaceSelection(const std::string& text);
 
     bool IsFocusable() const override { return true; }
+    void HandleWheel(int notches) override;
     AccessibleNode Accessible() const override;
 
   private:

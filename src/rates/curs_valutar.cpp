@@ -107,7 +107,7 @@ void CursValutar::ConnectEvents() {
     cmdAction.OnEach(&forms::Control::onKeyDown, [this](int index, int& keyCode, forms::Modifiers modifiers) {
         cmdAction_KeyDown(index, keyCode, modifiers);
     });
-    Grid.onKeyDown = [this](int& keyCode, forms::Modifiers) { Grid_KeyDown(keyCode); };
+    Grid.onKeyDown = [this](int& keyCode, forms::Modifiers modifiers) { Grid_KeyDown(keyCode, modifiers); };
     dpDataIn.onKeyDown = [this](int& keyCode, forms::Modifiers) { dpDataIn_KeyDown(keyCode); };
     dpDataFin.onKeyDown = [this](int& keyCode, forms::Modifiers) { dpDataFin_KeyDown(keyCode); };
     cmdRefresh.onKeyDown = [this](int& keyCode, forms::Modifiers) { CloseOnEscape(keyCode); };
@@ -158,10 +158,12 @@ bool CursValutar::Filtreaza(bool /*refresh*/) {
     currencyNames_ = std::move(currencies);
     baseQuery_ = std::move(query);
 
+    const std::string day = SelectedDayText();
     const bool hasRows = table != nullptr;
     fraGrid.SetVisible(hasRows);
     Grid.Clear();
     BindGrid(std::move(table));
+    GoToRowOf(day);
     SetActionsEnabled(true);
     return hasRows;
 }
@@ -254,7 +256,7 @@ bool CursValutar::RefusesFrozenDay() {
     module_.ShowMessage("Acest curs a fost validat !\r\nNu puteti modifica un curs deja validat !",
                         message::Error, message::Ok, Caption());
     if (fraGrid.Enabled()) {
-        SelectWholeRow();
+        Grid.SetColSel(currencyNames_.UpperBound());
         Grid.SetFocus();
     }
     return true;
@@ -266,12 +268,14 @@ void CursValutar::SelectWholeRow() {
 }
 
 void CursValutar::SelectDay(const std::string& dayMonthYear) {
-    for (int row = 1; row < Grid.Rows(); ++row) {
-        if (Grid.TextMatrix(row, DayColumn) != dayMonthYear) continue;
-        Grid.SetRow(row);
-        break;
-    }
+    GoToRowOf(dayMonthYear);
     SelectWholeRow();
+}
+
+void CursValutar::GoToRowOf(const std::string& dayMonthYear) {
+    for (int row = 1; row < Grid.Rows(); ++row) {
+        if (Grid.TextMatrix(row, DayColumn) == dayMonthYear) return Grid.SetRow(row);
+    }
 }
 
 // The windows that the list opens. It is disabled while one is up; each enables it again when it closes.
@@ -351,9 +355,10 @@ void CursValutar::CloseOnEscape(int keyCode) {
     if (keyCode == key::Escape) cmdAction_Click(Close);
 }
 
-void CursValutar::Grid_KeyDown(int keyCode) {
+void CursValutar::Grid_KeyDown(int keyCode, forms::Modifiers modifiers) {
     CloseOnEscape(keyCode);
-    if (keyCode == key::Enter || keyCode == key::Tab) cmdAction[ModifyDay].SetFocus();
+    const bool forward = keyCode == key::Tab && !modifiers.shift;
+    if (keyCode == key::Enter || forward) cmdAction[ModifyDay].SetFocus();
 }
 
 void CursValutar::dpDataIn_KeyDown(int keyCode) {

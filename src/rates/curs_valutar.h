@@ -26,8 +26,9 @@ class CursValutar : public forms::Form {
 
     void ShowForm();
 
-    /// Reads the currencies and the days of the current filter anew. True when there are any. The argument is
-    /// part of the window's interface; every caller passes true.
+    /// Reads the currencies and the days of the current filter anew. True when there are any. The current day
+    /// stays the current one where it is still listed. The argument is part of the window's interface; every
+    /// caller passes true.
     bool Filtreaza(bool refresh);
     /// Takes the range from the two pickers and reads the list.
     bool ApplyDateFilter();
@@ -40,7 +41,7 @@ class CursValutar : public forms::Form {
     const CurrencyNames& Currencies() const { return currencyNames_; }
     /// The day of the grid's current row, "dd/mm/yyyy".
     std::string SelectedDayText() const;
-    /// Makes the row of a day the current one; without such a row the current one stays.
+    /// Makes the row of a day the current one, marked as a whole; without such a row the current one stays.
     void SelectDay(const std::string& dayMonthYear);
     /// Extends the selection over the whole current row.
     void SelectWholeRow();
@@ -69,6 +70,7 @@ class CursValutar : public forms::Form {
     /// are read there, and the day that was to be changed is to be looked at again first.
     bool ShowsCurrentRates();
     void BindGrid(data::TablePtr table);
+    void GoToRowOf(const std::string& dayMonthYear);
     bool RefusesFrozenDay();
     bool MayChangeSelectedDay();
     bool IsHeld() const;
@@ -81,7 +83,7 @@ class CursValutar : public forms::Form {
 
     void cmdAction_KeyDown(int index, int& keyCode, forms::Modifiers modifiers);
     void CloseOnEscape(int keyCode);
-    void Grid_KeyDown(int keyCode);
+    void Grid_KeyDown(int keyCode, forms::Modifiers modifiers);
     void dpDataIn_KeyDown(int keyCode);
     void dpDataFin_KeyDown(int keyCode);
     void cmdRefresh_Click();

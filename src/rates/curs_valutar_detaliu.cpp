@@ -1,5 +1,6 @@
 #include "rates/curs_valutar_detaliu.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -27,6 +28,16 @@ constexpr int GridHeight = 3600;
 constexpr int LabelWidth = 1740;
 constexpr int ButtonWidth = 1560;
 constexpr int ThousandsGrouping = 3;
+/// As many as a number keeps on its way to the database and back.
+constexpr std::ptrdiff_t MostDigits = 15;
+
+bool IsDigit(char32_t character) {
+    return character >= U'0' && character <= U'9';
+}
+
+std::ptrdiff_t CountDigits(const std::string& text) {
+    return std::ranges::count_if(text, [](char each) { return each >= '0' && each <= '9'; });
+}
 
 /// The number in a cell's text, its thousands separators aside; nothing when there is none.
 std::optional<double> NumberIn(std::string text) {
@@ -87,13 +98,10 @@ void CursValutarDetaliu::ConnectEvents() {
     txtCursValutar.onGotFocus = [this] { txtCursValutar.SelectAll(); };
     txtCursValutar.onLostFocus = [this] { txtCursValutar_LostFocus(); };
     txtCursValutar.onKeyDown = [this](int& keyCode, forms::Modifiers) { txtCursValutar_KeyDown(keyCode); };
-    txtCursValutar.onKeyPress = [](char32_t& character) {
-        const bool accepted = (character >= U'0' && character <= U'9') || character == key::Backspace;
-        if (!accepted) character = 0;
-    };
+    txtCursValutar.onKeyPress = [this](char32_t& character) { txtCursValutar_KeyPress(character); };
     Grid.onKeyDown = [this](int& keyCode, forms::Modifiers) { Grid_KeyDown(keyCode); };
     Grid.onKeyPress = [this](char32_t& character) { Grid_KeyPress(character); };
-    Grid.onClick = [this] { BeginCellEdit(); };
+    Grid.onClick = [this] { Grid_Click(); };
     cmdAction.OnEach(&forms::Control::onClick, [this](int index) { cmdAction_Click(index); });
     cmdAction.OnEach(&forms::Control::onKeyDown,
                      [this](int, int& keyCode, forms::Modifiers) { CancelOnEscape(keyCode); });
@@ -157,40 +165,39 @@ std::string CursValutarDetaliu::FormatRate(const std::string& text, int decimals
 }
 
 void CursValutarDetaliu::BeginCellEdit() {
-    if (Grid.Row() < 1) return;
-    Grid.SetCol(ValueColumn);
-    const forms::Rect cell = Grid.CellBounds(Grid.Row(), ValueColumn);
-    const forms::Rect& grid = Grid.Bounds();
-    txtCursValutar.SetBounds({grid.left + cell.left, grid.top + cell.top, cell.width, cell.height});
-    txtCursValutar.SetText(Grid.TextMatrix(Grid.Row(), ValueColumn));
-    txtCursValutar.SetVisible(true);
-    txtCursValutar.SetFocus();
-    txtCursValutar.SelectAll();
+    editor_.Open(Grid.Row(), ValueColumn);
 }
 
 void CursValutarDetaliu::BeginEditAtFirstRow() {
-    Grid.SetRow(1);
-    BeginCellEdit();
+    editor_.Open(1, ValueColumn);
+}
+
+bool CursValutarDetaliu::HasRoomForDigit() const {
+    // What is typed takes the place of what is selected.
+    return CountDigits(txtCursValutar.Text()) - CountDigits(txtCursValutar.SelText()) < MostDigits;
 }
 
 bool CursValutarDetaliu::ValidateRateCell() {
-    if (txtCursValutar.Text().find_first_not_of(' ') == std::string::npos) {
-        module_.ShowMessage("Valoare obligatorie !", message::Information, message::Ok, Caption());
-        return false;
-    }
+    const std::string& text = txtCursValutar.Text();
+    if (text.find_first_not_of(' ') == std::string::npos) return Refuse("Valoare obligatorie !");
+    // A value of the database stays as it is until somebody changes it, whatever it looks like.
+    if (!editor_.IsEdited()) return true;
     // Letters and signs cannot be typed, but they can be pasted: what is no number is refused like a negative
     // one.
-    if (const auto number = NumberIn(txtCursValutar.Text()); number && *number >= 0) return true;
-    module_.ShowMessage("Valoarea cursului trebuie sa fie >= 0  !", message::Information, message::Ok,
-                        Caption());
+    const auto number = NumberIn(text);
+    if (!number || *number < 0) return Refuse("Valoarea cursului trebuie sa fie >= 0  !");
+    return CountDigits(text) <= MostDigits || Refuse("Valoarea poate avea cel mult 15 cifre !");
+}
+
+bool CursValutarDetaliu::Refuse(const char* reason) {
+    module_.ShowMessage(reason, message::Information, message::Ok, Caption());
     return false;
 }
 
 void CursValutarDetaliu::CommitCell() {
+    if (!editor_.IsEdited()) return editor_.Close();
     const double number = NumberIn(txtCursValutar.Text()).value_or(0);
-    Grid.SetTextMatrix(Grid.Row(), ValueColumn,
-                       FormatRate(data::ShortestDecimal(number), 0, ThousandsGrouping));
-    txtCursValutar.SetVisible(false);
+    editor_.Commit(FormatRate(data::ShortestDecimal(number), 0, ThousandsGrouping));
 }
 
 void CursValutarDetaliu::LeaveCell(Step step) {
@@ -198,17 +205,17 @@ void CursValutarDetaliu::LeaveCell(Step step) {
         txtCursValutar.SelectAll();
         return;
     }
+    const int row = editor_.Row() + (step == Step::Up ? -1 : 1);
     CommitCell();
-    const int row = Grid.Row() + (step == Step::Up ? -1 : 1);
-    if (row >= Grid.Rows()) {
+    if (row < Grid.Rows()) {
+        editor_.Open(std::max(1, row), ValueColumn);
+    } else {
         cmdAction[Accept].SetFocus();
-        return;
     }
-    Grid.SetRow(std::max(1, row));
-    BeginCellEdit();
 }
 
 void CursValutarDetaliu::txtCursValutar_KeyDown(int& keyCode) {
+    editor_.ReturnToCell();  // the wheel may have taken it out of sight
     const bool caretAlone = txtCursValutar.SelLength() == 0;
     const bool atEnd = caretAlone && txtCursValutar.SelStart() == txtCursValutar.TextLength();
     const bool atStart = caretAlone && txtCursValutar.SelStart() == 0;
@@ -237,14 +244,27 @@ void CursValutarDetaliu::txtCursValutar_KeyDown(int& keyCode) {
     keyCode = key::Swallowed;
 }
 
+void CursValutarDetaliu::txtCursValutar_KeyPress(char32_t& character) {
+    if (character == key::Backspace) return;
+    if (IsDigit(character) && HasRoomForDigit()) return;
+    if (IsDigit(character)) OwnerDesktop().Beep();
+    character = 0;
+}
+
 void CursValutarDetaliu::txtCursValutar_LostFocus() {
     if (!IsEditing()) return;
     if (ValidateRateCell()) {
         CommitCell();
     } else {
+        editor_.ReturnToCell();
         txtCursValutar.SetFocus();
         txtCursValutar.SelectAll();
     }
+}
+
+void CursValutarDetaliu::Grid_Click() {
+    // The press of a click may have been refused by the cell that it was to leave.
+    if (!IsEditing()) BeginCellEdit();
 }
 
 void CursValutarDetaliu::Grid_KeyDown(int& keyCode) {
@@ -255,7 +275,7 @@ void CursValutarDetaliu::Grid_KeyDown(int& keyCode) {
 }
 
 void CursValutarDetaliu::Grid_KeyPress(char32_t& character) {
-    if (character < U'0' || character > U'9' || Grid.Row() < 1) return;
+    if (!IsDigit(character) || Grid.Row() < 1) return;
     BeginCellEdit();
     txtCursValutar.ReplaceSelection(std::string(1, static_cast<char>(character)));
     character = 0;
@@ -346,6 +366,7 @@ void CursValutarDetaliu::cmdAction_Click(int index) {
     if (auto* list = module_.Loaded<CursValutar>()) {
         list->ApplyDateFilter();
         list->SelectDay(day);
+        list->Grid.SetFocus();  // before its first day it was hidden and could not take it
     }
 }
 

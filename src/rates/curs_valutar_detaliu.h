@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "data/value.h"
+#include "forms/cell_editor.h"
 #include "forms/command_button.h"
 #include "forms/control_array.h"
 #include "forms/date_picker.h"
@@ -51,8 +52,10 @@ class CursValutarDetaliu : public forms::Form {
     std::string FormatRate(const std::string& text, int decimals, int grouping) const;
     void BeginCellEdit();
     void BeginEditAtFirstRow();
-    bool IsEditing() const { return txtCursValutar.Visible(); }
+    bool IsEditing() const { return editor_.IsOpen(); }
+    bool HasRoomForDigit() const;
     bool ValidateRateCell();
+    bool Refuse(const char* reason);
     void CommitCell();
     void LeaveCell(Step step);
 
@@ -65,7 +68,9 @@ class CursValutarDetaliu : public forms::Form {
 
     void DataCurs_KeyDown(int keyCode);
     void txtCursValutar_KeyDown(int& keyCode);
+    void txtCursValutar_KeyPress(char32_t& character);
     void txtCursValutar_LostFocus();
+    void Grid_Click();
     void Grid_KeyDown(int& keyCode);
     void Grid_KeyPress(char32_t& character);
     void cmdAction_Click(int index);
@@ -74,6 +79,7 @@ class CursValutarDetaliu : public forms::Form {
     shell::Module& module_;
     RateStore store_;
     shell::ConnectionMark mark_;  ///< of the connection that the entry was begun on
+    forms::CellEditor editor_{Grid, txtCursValutar};
     CurrencyNames currencyNames_;
     std::string mode_;
 };

@@ -157,11 +157,7 @@ HRESULT AccessibleControl::accHitTest(LONG left, LONG top, VARIANT* child) noexc
         const Scale scale = form_->PixelScale();
         const forms::Point at{scale.ToTwips(pixel.x), scale.ToTwips(pixel.y)};
         if (!control_->Accessible().bounds.Contains(at)) return S_FALSE;
-        LONG hit = CHILDID_SELF;
-        for (int i = 0; i < control_->AccessibleChildCount() && hit == CHILDID_SELF; ++i) {
-            if (control_->AccessibleChild(i).bounds.Contains(at)) hit = i + 1;
-        }
-        PutLong(child, hit);
+        PutLong(child, control_->AccessibleChildAt(at) + 1);  // CHILDID_SELF where there is no part
         return S_OK;
     });
 }

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "data/date.h"
+#include "data/error.h"
 #include "forms/color.h"
 #include "win32/library.h"
 
@@ -28,8 +28,8 @@ data::CalendarDay ToCalendarDay(const SYSTEMTIME& time) {
 
 /// A month away, on the same day or the last one that there is.
 data::CalendarDay MonthsAway(data::CalendarDay day, int months) {
-    const data::CalendarDay first = data::ToCalendarDay(data::ToOleDate({day.year, day.month + months, 1}));
-    return {first.year, first.month, std::min(day.day, data::DaysInMonth(first.year, first.month))};
+    const int month = day.month + months;
+    return {day.year, month, std::min(day.day, data::DaysInMonth(day.year, month))};
 }
 
 /// Where a key leads from a day; the same day where it leads nowhere.
@@ -54,6 +54,11 @@ data::CalendarDay Walk(data::CalendarDay day, WPARAM key) {
         default:
             return day;
     }
+}
+
+/// A calendar that does not do as it is told would offer a day that nobody asked for.
+void Require(bool isAsWanted) {
+    if (!isAsWanted) throw data::RuntimeError(data::error_number::InternalError, "calendarul");
 }
 
 /// The system's theme would paint over the dark colours.
@@ -94,8 +99,7 @@ CalendarPopup::CalendarPopup(forms::Desktop& desktop, const Toolkit& toolkit, co
     : Window(desktop),
       scope_(desktop),
       calendar_(desktop, *this),
-      minimum_(settings.minimum),
-      maximum_(settings.maximum),
+      days_(settings.days),
       whenChosen_(std::move(whenChosen)),
       whenClosed_(std::move(whenClosed)) {
     Attach(toolkit.CreateWindowWith({.text = {},
@@ -103,7 +107,7 @@ CalendarPopup::CalendarPopup(forms::Desktop& desktop, const Toolkit& toolkit, co
                                      .extendedStyle = WS_EX_TOPMOST | WS_EX_TOOLWINDOW,
                                      .parent = settings.form}),
            "Calendar");
-    CreateCalendar(toolkit, settings);
+    CreateCalendar(toolkit);
     ShowBeside(settings.field);
 }
 
@@ -114,7 +118,7 @@ CalendarPopup::~CalendarPopup() {
     Destroy();
 }
 
-void CalendarPopup::CreateCalendar(const Toolkit& toolkit, const Settings& settings) {
+void CalendarPopup::CreateCalendar(const Toolkit& toolkit) {
     calendar_.Attach(
         toolkit.CreateWindowWith({.className = MONTHCAL_CLASSW,
                                   .text = {},
@@ -123,9 +127,9 @@ void CalendarPopup::CreateCalendar(const Toolkit& toolkit, const Settings& setti
         {});
     const HWND calendar = calendar_.Handle();
     Darken(calendar);
-    SYSTEMTIME range[] = {ToSystemTime(minimum_), ToSystemTime(maximum_)};
-    SendMessageW(calendar, MCM_SETRANGE, GDTR_MIN | GDTR_MAX, reinterpret_cast<LPARAM>(range));
-    Select(settings.value);
+    SYSTEMTIME range[] = {ToSystemTime(days_.minimum), ToSystemTime(days_.maximum)};
+    Require(SendMessageW(calendar, MCM_SETRANGE, GDTR_MIN | GDTR_MAX, reinterpret_cast<LPARAM>(range)) != 0);
+    Select(days_.value);
 }
 
 void CalendarPopup::ShowBeside(const RECT& field) {
@@ -147,20 +151,21 @@ void CalendarPopup::Close() {
     PostMessageW(Handle(), WM_CLOSE, 0, 0);
 }
 
-SYSTEMTIME CalendarPopup::Selected() const {
+data::CalendarDay CalendarPopup::Selected() const {
     SYSTEMTIME time{};
-    SendMessageW(calendar_.Handle(), MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(&time));
-    return time;
+    Require(SendMessageW(calendar_.Handle(), MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(&time)) != 0);
+    return ToCalendarDay(time);
 }
 
 void CalendarPopup::Select(data::OleDate date) {
-    const double days = std::clamp(date.days, minimum_.days, std::max(minimum_.days, maximum_.days));
-    SYSTEMTIME time = ToSystemTime({days});
-    SendMessageW(calendar_.Handle(), MCM_SETCURSEL, 0, reinterpret_cast<LPARAM>(&time));
+    const data::OleDate day{std::clamp(date.days, days_.minimum.days, days_.maximum.days)};
+    SYSTEMTIME time = ToSystemTime(day);
+    Require(SendMessageW(calendar_.Handle(), MCM_SETCURSEL, 0, reinterpret_cast<LPARAM>(&time)) != 0);
+    Require(Selected() == data::ToCalendarDay(day));
 }
 
 void CalendarPopup::Choose() {
-    const data::OleDate chosen = data::ToOleDate(ToCalendarDay(Selected()));
+    const data::OleDate chosen = data::ToOleDate(Selected());
     Close();
     whenChosen_(chosen);
 }
@@ -193,16 +198,25 @@ LRESULT CalendarPopup::OnActivate(const Message& message) {
 }
 
 LRESULT CalendarPopup::Calendar::HandleMessage(const Message& message) {
-    if (message.id == WM_GETDLGCODE) return DLGC_WANTALLKEYS;
-    if ((message.id == WM_KEYDOWN || message.id == WM_SYSKEYDOWN) && popup_.HandleKey(message.wParam))
-        return 0;
-    return CallDefault(message);
+    switch (message.id) {
+        case WM_GETDLGCODE:
+            return DLGC_WANTALLKEYS;
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+            return popup_.HandleKey(message.wParam) ? 0 : CallDefault(message);
+        case WM_RBUTTONDOWN:
+        case WM_RBUTTONUP:
+        case WM_CONTEXTMENU:
+            return 0;  // the platform's menu goes to today, be it in the range or not
+        default:
+            return CallDefault(message);
+    }
 }
 
 bool CalendarPopup::HandleKey(WPARAM key) {
     if (key == VK_ESCAPE || key == VK_F4 || key == VK_TAB) return Close(), true;
     if (key == VK_RETURN) return Choose(), true;
-    const data::CalendarDay day = ToCalendarDay(Selected());
+    const data::CalendarDay day = Selected();
     const data::CalendarDay next = Walk(day, key);
     if (next == day) return false;
     Select(data::ToOleDate(next));

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "data/date.h"
 #include "data/value.h"
 #include "win32/scale.h"
 #include "win32/toolkit.h"
@@ -14,15 +15,20 @@ namespace tavrin::win32 {
 /// Shows a month to choose a day from, and nothing else: keys and clicks elsewhere close it.
 class CalendarPopup final : public Window {
   public:
-    struct Settings {
+    struct Days {
         data::OleDate value;
         data::OleDate minimum;
         data::OleDate maximum;
+        bool operator==(const Days&) const = default;
+    };
+    struct Settings {
+        Days days;
         HWND form = nullptr;
         RECT field{};  ///< the field that the calendar belongs to, in pixels of the screen
     };
 
-    /// Appears at once. `whenClosed` may destroy the popup; neither callback runs after that.
+    /// Appears at once, on the value. `whenClosed` may destroy the popup; neither callback runs after that.
+    /// \throws data::Error where the platform's calendar does not take these days
     CalendarPopup(forms::Desktop& desktop, const Toolkit& toolkit, const Settings& settings,
                   std::function<void(data::OleDate)> whenChosen, std::function<void()> whenClosed);
     ~CalendarPopup() override;
@@ -48,16 +54,16 @@ class CalendarPopup final : public Window {
     LRESULT OnActivate(const Message& message);
     bool HandleKey(WPARAM key);
 
-    void CreateCalendar(const Toolkit& toolkit, const Settings& settings);
+    void CreateCalendar(const Toolkit& toolkit);
     void ShowBeside(const RECT& field);
-    SYSTEMTIME Selected() const;
+    data::CalendarDay Selected() const;
+    /// The nearest day of the range. \throws data::Error where the calendar then stands on another
     void Select(data::OleDate date);
     void Choose();
 
     forms::Desktop::PopupScope scope_;
     Calendar calendar_;
-    data::OleDate minimum_;
-    data::OleDate maximum_;
+    Days days_;
     std::function<void(data::OleDate)> whenChosen_;
     std::function<void()> whenClosed_;
     bool isClosing_ = false;

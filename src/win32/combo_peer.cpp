@@ -254,7 +254,7 @@ LRESULT ComboPeer::OnDrawItem(const Message& message) {
 }
 
 LRESULT ComboPeer::OnCommand(const Message& message) {
-    if (isShowing_) return 0;
+    if (isShowing_ || SharedToolkit().Keys().IsInsideCharacter()) return 0;
     switch (HIWORD(message.wParam)) {
         case CBN_EDITCHANGE:
             control_.HandleTyped(ReadText(edit_.Handle()));
@@ -340,7 +340,8 @@ LRESULT ComboPeer::OnKey(const Message& message) {
 LRESULT ComboPeer::HandleInnerKey(const Message& message) {
     if (RouteKey(message) == KeyRoute::Dealt) return 0;
     const bool beeps = message.id == WM_CHAR && (message.wParam == VK_RETURN || message.wParam == VK_ESCAPE);
-    return beeps ? 0 : edit_.PassOn(message);
+    if (beeps) return 0;
+    return SharedToolkit().Keys().PassOn(message, [this](const Message& each) { return edit_.PassOn(each); });
 }
 
 KeyRoute ComboPeer::RouteKey(const Message& message) {

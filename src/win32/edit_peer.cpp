@@ -149,10 +149,7 @@ LRESULT EditPeer::PassCharacter(const Message& message) {
     constexpr WPARAM ControlA = 1;
     if (message.wParam == ControlA) return SendMessageW(Handle(), EM_SETSEL, 0, -1);
     if (IsBeep(message.wParam)) return 0;
-    if (const wchar_t high = SharedToolkit().Keys().HighSurrogate(); high != 0) {
-        CallDefault({WM_CHAR, static_cast<WPARAM>(high), message.lParam});
-    }
-    return CallDefault(message);
+    return SharedToolkit().Keys().PassOn(message, [this](const Message& each) { return CallDefault(each); });
 }
 
 LRESULT EditPeer::OnSetFocus(const Message& message) {
@@ -203,7 +200,8 @@ void EditPeer::PaintBrowsed(HDC dc) const {
 }
 
 LRESULT EditPeer::OnCommand(const Message& message) {
-    if (HIWORD(message.wParam) != EN_CHANGE || isShowing_) return 0;
+    const bool isNews = !isShowing_ && !SharedToolkit().Keys().IsInsideCharacter();
+    if (HIWORD(message.wParam) != EN_CHANGE || !isNews) return 0;
     const TextRange selection = ReadSelection(Handle());
     control_.HandleEdited(ReadText(Handle()), selection.start, selection.length);
     return 0;
@@ -249,7 +247,9 @@ bool EditPeer::TellModelOfMouse(const Message& message) {
 LRESULT EditPeer::OnCalculateClientArea(const Message& message) {
     RECT& area = *reinterpret_cast<RECT*>(message.lParam);
     const int margin = std::max(FrameThickness(PixelScale()), (Height(area) - LineHeight()) / 2);
-    InflateRect(&area, -SideMargin(PixelScale()), -margin);
+    // The field of a cell that is all but out of sight has less room than its margins want.
+    InflateRect(&area, -std::min(SideMargin(PixelScale()), Width(area) / 2),
+                -std::min(margin, Height(area) / 2));
     return 0;
 }
 

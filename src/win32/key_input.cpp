@@ -71,7 +71,9 @@ KeyRoute KeyInput::OnCharacter(forms::Form& form, const Message& message) {
     }
     if (!IS_LOW_SURROGATE(unit)) highSurrogate_ = 0;
     const char32_t character = highSurrogate_ != 0 ? Combine(highSurrogate_, unit) : unit;
-    return form.HandleKeyPress(character) == forms::KeyOutcome::Done ? KeyRoute::Dealt : KeyRoute::Native;
+    if (form.HandleKeyPress(character) == forms::KeyOutcome::Default) return KeyRoute::Native;
+    highSurrogate_ = 0;
+    return KeyRoute::Dealt;
 }
 
 KeyRoute KeyInput::OnSystemCharacter(forms::Form& form, const Message& message) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <utility>
+
 #include "forms/form.h"
 #include "win32/window.h"
 
@@ -23,8 +25,21 @@ class KeyInput {
     /// The character of the key that is being handled is not to arrive anywhere.
     void DropCharacter() { dropCharacter_ = true; }
 
-    /// The first half of the surrogate pair whose second half was routed natively last, else 0.
-    wchar_t HighSurrogate() const { return highSurrogate_; }
+    /// Gives a field of the platform a key that was routed natively. A character of two units comes in two
+    /// messages: the first was held back until the model had seen the whole character, and goes in before the
+    /// second.
+    template <class Platform>
+    LRESULT PassOn(const Message& message, Platform&& callDefault) {
+        if (message.id == WM_CHAR && highSurrogate_ != 0) {
+            isInsideCharacter_ = true;
+            callDefault({WM_CHAR, static_cast<WPARAM>(std::exchange(highSurrogate_, L'\0')), message.lParam});
+            isInsideCharacter_ = false;
+        }
+        return callDefault(message);
+    }
+
+    /// While a field has the first unit of a character and not yet the second: its text is no news then.
+    bool IsInsideCharacter() const { return isInsideCharacter_; }
 
     static forms::Modifiers HeldModifiers();
 
@@ -35,7 +50,8 @@ class KeyInput {
     KeyRoute OnSystemCharacter(forms::Form& form, const Message& message);
 
     bool dropCharacter_ = false;
-    wchar_t highSurrogate_ = 0;
+    wchar_t highSurrogate_ = 0;  ///< held back, until its other half has come
+    bool isInsideCharacter_ = false;
 };
 
 }  // namespace tavrin::win32

@@ -146,15 +146,10 @@ LRESULT RichEditPeer::HandleMessage(const Message& message) {
 
 LRESULT RichEditPeer::OnKey(const Message& message) {
     if (SharedToolkit().Keys().Handle(OwnerForm(), message) == KeyRoute::Dealt) return 0;
-    const LRESULT answer = message.id == WM_CHAR ? PassCharacter(message) : CallDefault(message);
+    const LRESULT answer =
+        SharedToolkit().Keys().PassOn(message, [this](const Message& each) { return CallDefault(each); });
     ReportSelection();
     return answer;
-}
-
-LRESULT RichEditPeer::PassCharacter(const Message& message) {
-    if (const wchar_t high = SharedToolkit().Keys().HighSurrogate(); high != 0)
-        CallDefault({WM_CHAR, static_cast<WPARAM>(high), message.lParam});
-    return CallDefault(message);
 }
 
 LRESULT RichEditPeer::OnSetFocus(const Message& message) {

@@ -36,7 +36,6 @@ class RichEditPeer final : public ControlWindow, public forms::RichTextEditor {
     LRESULT OnRelease(const Message& message);
     LRESULT OnMouseWheel(const Message& message);
 
-    LRESULT PassCharacter(const Message& message);
     /// False where the platform's field is not to act on it any more.
     bool TellModelOfMouse(const Message& message);
     void ReportSelection();

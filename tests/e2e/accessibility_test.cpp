@@ -192,6 +192,30 @@ TEST_F(AccessibleEventsTest, AGridTellsOfItsSelection) {
     EXPECT_TRUE(watch.Await(EVENT_OBJECT_SELECTION, "Grid"));
 }
 
+TEST_F(AccessibleEventsTest, TheCellAtAPlaceIsFoundInAnInstant) {
+    const Window grid = OpenRateList().Control("Grid");
+    const std::vector<AccessibleFacts> parts = ReadParts(host->Ui(), grid);
+    const auto partAt = [&](LONG left, LONG top) {
+        return host->Call([&] {
+            VARIANT child;
+            VariantInit(&child);
+            return OpenAccessible(grid)->accHitTest(left, top, &child) == S_OK ? child.lVal : -1;
+        });
+    };
+    int inSight = 0;
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const RECT& place = parts[i].place;
+        if (IsRectEmpty(&place)) continue;
+        ++inSight;
+        EXPECT_EQ(partAt((place.left + place.right) / 2, (place.top + place.bottom) / 2),
+                  static_cast<LONG>(i) + 1);
+    }
+    EXPECT_GT(inSight, 5);
+    const RECT bounds = grid.ScreenBounds();
+    EXPECT_EQ(partAt(bounds.left, bounds.top), CHILDID_SELF) << "on the frame";
+    EXPECT_EQ(partAt(bounds.left - 1, bounds.top), -1) << "beside the grid";
+}
+
 TEST_F(AccessibleEventsTest, ADisplayTellsOfItsValue) {
     Click(OpenPalette().Control("cmdAction(2)"));
     const Window calculator = AwaitForm("frmCalculator");

@@ -25,6 +25,26 @@ TEST_P(PeersKeyboardTest, ACharacterBeyondTheFirstPlaneIsOneCharacter) {
     EXPECT_EQ(pressed, U"a\U0001F600");
 }
 
+TEST_P(PeersKeyboardTest, ACharacterBeyondTheFirstPlaneArrivesWholeInEveryField) {
+    std::string fieldSeen;
+    std::string comboSeen;
+    Call([&] {
+        form->field.onChange = [&] { fieldSeen += form->field.Text() + "|"; };
+        form->typed.onChange = [&] { comboSeen += form->typed.Text() + "|"; };
+    });
+    Send(L"\U0001F600");
+    Call([&] { form->typed.SetFocus(); });
+    Send(
+        L"\U0001F600"
+        L"b\U0001F601");
+    EXPECT_EQ(fieldSeen, "\xF0\x9F\x98\x80|") << "nobody is told of half a character";
+    EXPECT_EQ(comboSeen,
+              "\xF0\x9F\x98\x80|\xF0\x9F\x98\x80"
+              "b|\xF0\x9F\x98\x80"
+              "b\xF0\x9F\x98\x81|");
+    EXPECT_EQ(Control("typed").Text(), Call([&] { return form->typed.Text(); }));
+}
+
 TEST_P(PeersKeyboardTest, ASwallowedKeyTypesNothing) {
     Call([&] { form->preview = [](int& code) { code = code == 'Z' ? 0 : code; }; });
     Type("xzy");

@@ -93,6 +93,63 @@ TEST_F(RateWindowsTest, AnEmptyCellIsRefused) {
     EXPECT_TRUE(AwaitFocus("txtCursValutar"));
 }
 
+TEST_F(RateWindowsTest, FifteenDigitsAreKeptAndASixteenthIsNot) {
+    const Window entry = OpenEntry();
+    PressKey(VK_RETURN);
+    TypeRate("9999999999999991");
+    EXPECT_EQ(ReadTable(host->Ui(), entry.Control("Grid"))[1][1], "999,999,999,999,999");
+    Click(Action(entry, 0));
+    ASSERT_TRUE(AwaitClosed("CursValutarDetaliu"));
+    EXPECT_EQ(
+        host->Rows("SELECT 'x' FROM [Curs Valutar] WHERE [Data] = '2003-06-14' AND EUR = 999999999999999")
+            .size(),
+        1U);
+}
+
+TEST_F(RateWindowsTest, TheWheelTakesTheEditorAlongWithItsCell) {
+    for (int i = 0; i < 20; ++i)
+        host->Run("ALTER TABLE [Curs Valutar] ADD [C" + std::to_string(i) + "] float");
+    const Window entry = OpenEntry();
+    const Window grid = entry.Control("Grid");
+    const Window editor = entry.Control("txtCursValutar");
+    const auto valueCell = [&](int row) {
+        return ReadParts(host->Ui(), grid)[static_cast<std::size_t>(2 * row + 1)].place;
+    };
+    const auto roll = [&](int notches) {
+        SendMessageW(grid.Handle(), WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(notches * WHEEL_DELTA)),
+                     0);
+        host->Ui().Settle();
+    };
+    PressKey(VK_RETURN);
+    for (int row = 1; row < 5; ++row)
+        TypeRate("1");
+    ASSERT_TRUE(AwaitFocus("txtCursValutar"));
+    roll(-1);
+    const RECT cell = valueCell(5);
+    const RECT field = editor.ScreenBounds();
+    EXPECT_TRUE(EqualRect(&cell, &field)) << field.top << " instead of " << cell.top;
+    roll(-1);
+    EXPECT_EQ(editor.Height(), 0) << "its cell is out of sight";
+    TypeRate("55");
+    EXPECT_EQ(ReadTable(host->Ui(), grid)[5][1], "55");
+}
+
+TEST_F(RateWindowsTest, AClickOnAnotherRowLeavesARefusedCellWhereItIs) {
+    const Window entry = OpenEntry();
+    const Window grid = entry.Control("Grid");
+    PressKey(VK_RETURN);
+    TypeRate("5");
+    PressKey(VK_BACK);
+    const RECT first = ReadParts(host->Ui(), grid)[2].place;
+    ClickAt({first.left + 10, (first.top + first.bottom) / 2});
+    ExpectMessage("Valoare obligatorie !", MessageIcon::Information, "Curs Valutar - Adaugare", {IDOK}, IDOK);
+    ASSERT_TRUE(AwaitFocus("txtCursValutar"));
+    TypeRate("7");
+    const TableTexts rates = ReadTable(host->Ui(), grid);
+    EXPECT_EQ(rates[1][1], "5");
+    EXPECT_EQ(rates[2][1], "7");
+}
+
 TEST_F(RateWindowsTest, AZeroIsShownAndStoredAsZero) {
     const Window entry = OpenEntry();
     PressKey(VK_RETURN);

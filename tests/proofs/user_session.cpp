@@ -8,6 +8,8 @@
 #include "data/error.h"
 #include "forms/combo_box.h"
 #include "forms/date_picker.h"
+#include "forms/grid.h"
+#include "forms/text_box.h"
 #include "host/embedded/embedded_connection.h"
 #include "proofs/agreement.h"
 #include "proofs/faulty_connection.h"
@@ -252,7 +254,17 @@ std::string UserSession::Complaint() const {
     if (std::string difference = Disagreement(desktop, focus_); !difference.empty()) return difference;
     const int needed = Window("Agenda") != nullptr ? 1 : 0;
     if (plan->recordsets > needed) return std::to_string(plan->recordsets) + " recordsets are alive";
-    return {};
+    return ComplaintOfEditor();
+}
+
+std::string UserSession::ComplaintOfEditor() const {
+    const auto* field = FindAs<forms::TextBox>("CursValutarDetaliu", "txtCursValutar");
+    const auto* grid = FindAs<forms::Grid>("CursValutarDetaliu", "Grid");
+    if (field == nullptr || !field->Visible()) return {};
+    const forms::Rect cell = grid->CellBounds(grid->Row(), grid->Col());
+    const forms::Rect& bounds = grid->Bounds();
+    const forms::Rect wanted{bounds.left + cell.left, bounds.top + cell.top, cell.width, cell.height};
+    return field->Bounds() == wanted ? std::string() : "the editor is not over the current cell";
 }
 
 std::string UserSession::ComplaintAfterLeaving() const {

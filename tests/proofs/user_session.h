@@ -102,6 +102,8 @@ class UserSession {
     void GivePeers(const forms::Form& form);
     int Answer(const std::string& prompt, int buttons);
     void CheckStatement(const std::string& statement);
+    /// The field that edits a rate lies over the cell that it edits, and over no other.
+    std::string ComplaintOfEditor() const;
 
     std::shared_ptr<host::EmbeddedDatabase> database_;
     std::unique_ptr<host::EmbeddedDatabase::Transaction> transaction_;

@@ -275,6 +275,18 @@ TEST_F(AlegeMonedaTest, ADoubleClickTakesTheSelectedRate) {
     EXPECT_EQ(Calculator()->CursCurent(), 3.5);
 }
 
+TEST_F(AlegeMonedaTest, ADoubleClickBesideTheCellsTakesTheSelectedRateToo) {
+    for (const char* place : {"header", "empty space"}) {
+        Open();
+        AlegeMoneda& chooser = OpenChooser();
+        keyboard.Press(key::Down);
+        const int top = place == std::string("header") ? 60 : chooser.Grid.Bounds().height - 300;
+        chooser.Grid.HandleDblClick({forms::MouseButton::Left, {1500, top}, {}});
+        EXPECT_EQ(Chooser(), nullptr) << place;
+        EXPECT_EQ(Calculator()->CursCurent(), 4) << place;
+    }
+}
+
 TEST_F(AlegeMonedaTest, TheButtonTakesTheSelectedRate) {
     Open();
     ClickWithMouse(OpenChooser().cmdAction[0]);

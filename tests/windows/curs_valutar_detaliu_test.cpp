@@ -38,6 +38,7 @@ class CursValutarDetaliuTest : public RatesTest {
 
 const ShownMessage Mandatory{"Valoare obligatorie !", 64, 0, "Curs Valutar - Adaugare"};
 const ShownMessage NotNegative{"Valoarea cursului trebuie sa fie >= 0  !", 64, 0, "Curs Valutar - Adaugare"};
+const ShownMessage TooLong{"Valoarea poate avea cel mult 15 cifre !", 64, 0, "Curs Valutar - Adaugare"};
 
 // Opening.
 
@@ -271,13 +272,76 @@ TEST_F(CursValutarDetaliuTest, PastedSignsAndLettersAreRefused) {
     }
 }
 
-TEST_F(CursValutarDetaliuTest, TwentyDigitsAreShownAsTheNumberThatIsStored) {
+TEST_F(CursValutarDetaliuTest, TheSixteenthDigitBeepsAndIsNotTaken) {
     CursValutarDetaliu& entry = OpenToAdd();
-    keyboard.Type("\r12345678901234567890\r1\r\r");
+    keyboard.Type("\r12345678901234567890");
+    EXPECT_EQ(EditorText(), "123456789012345");
+    EXPECT_EQ(desktop.beeps, 5);
+    keyboard.Type("\r1\r\r");
     EXPECT_FALSE(EntryIsOpen());
-    EXPECT_THAT(desktop.reports, IsEmpty());
-    EXPECT_EQ(CountOf("[Curs Valutar] WHERE Data = '2003-05-20'"), 1);
+    EXPECT_THAT(messages.shown, IsEmpty());
+    EXPECT_EQ(CountOf("[Curs Valutar] WHERE Data = '2003-05-20' AND EUR = 123456789012345"), 1);
     (void)entry;
+}
+
+TEST_F(CursValutarDetaliuTest, TheLargestValueKeepsAllItsDigits) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r999999999999999\r");
+    EXPECT_EQ(entry.Grid.TextMatrix(1, 1), "999,999,999,999,999");
+    keyboard.Press(key::Up);
+    EXPECT_EQ(EditorText(), "999,999,999,999,999") << "its commas are no digits";
+    keyboard.Type("1");
+    EXPECT_EQ(EditorText(), "1") << "a digit takes the place of what is selected";
+    EXPECT_EQ(desktop.beeps, 0);
+}
+
+TEST_F(CursValutarDetaliuTest, ASelectionMakesRoomForADigit) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r123456789012345");
+    entry.txtCursValutar.Select(0, 1);
+    keyboard.Type("9");
+    EXPECT_EQ(EditorText(), "923456789012345");
+    entry.txtCursValutar.Select(3, 0);
+    keyboard.Type("9");
+    EXPECT_EQ(EditorText(), "923456789012345");
+    EXPECT_EQ(desktop.beeps, 1);
+    keyboard.Type("\b");
+    EXPECT_EQ(EditorText(), "92456789012345") << "Backspace is no digit";
+}
+
+TEST_F(CursValutarDetaliuTest, ALongerNumberThatIsPastedIsRefusedAndChangesNothing) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Press(key::Enter);
+    for (const char* text : {"1000000000000000", "9,999,999,999,999,999", "0000000000000001",
+                             "1.000000000000000", "123456789012345678901234567890"}) {
+        entry.txtCursValutar.SelectAll();
+        keyboard.Paste(text);
+        messages.shown.clear();
+        keyboard.Press(key::Enter);
+        EXPECT_THAT(messages.shown, ElementsAre(TooLong)) << text;
+        EXPECT_EQ(entry.Grid.TextMatrix(1, 1), "0") << text;
+        EXPECT_EQ(entry.Grid.Row(), 1);
+        EXPECT_EQ(FocusedControl(), "txtCursValutar");
+    }
+}
+
+TEST_F(CursValutarDetaliuTest, AValueThatNobodyEditsIsSentAsTheListShowsIt) {
+    for (const char* shown :
+         {"37300.5", "-5", "1e+16", "12345678901234567", "0.1", "100000000000000000000"}) {
+        CursValutarDetaliu& entry = OpenToModify(3);
+        entry.Grid.SetTextMatrix(1, 1, shown);
+        keyboard.Type("\r\r");
+        EXPECT_EQ(entry.Grid.Row(), 2) << shown;
+        entry.Grid.SetRow(1);
+        ClickWithMouse(entry.Grid, {300, entry.Grid.CellBounds(1, 0).top + 10});
+        EXPECT_EQ(EditorText(), shown);
+        connection->ClearRecord();
+        entry.cmdAction[0].Click();
+        EXPECT_THAT(messages.shown, IsEmpty());
+        EXPECT_EQ(connection->Statements()[0], "UPDATE [Curs Valutar] SET [EUR] = " + std::string(shown) +
+                                                   ", [USD] = 32300  WHERE [Data] = '05-12-2003'");
+        module.Loaded<CursValutar>()->Unload();
+    }
 }
 
 TEST_F(CursValutarDetaliuTest, ACommittedZeroIsShownAndSentAsZero) {
@@ -290,12 +354,16 @@ TEST_F(CursValutarDetaliuTest, ACommittedZeroIsShownAndSentAsZero) {
               "INSERT INTO [Curs Valutar]([Data],[EUR],[USD]) VALUES('05-20-2003',0,0)");
 }
 
-TEST_F(CursValutarDetaliuTest, ADecimalValueIsRoundedOnceItsCellWasCommitted) {
+TEST_F(CursValutarDetaliuTest, ADecimalValueIsRoundedOnceItsCellWasEdited) {
     CursValutarDetaliu& entry = OpenToModify(3);
     keyboard.Type("\r");
     EXPECT_EQ(EditorText(), "37300.5");
     keyboard.Type("\r");
-    EXPECT_EQ(entry.Grid.TextMatrix(1, 1), "37,301");
+    EXPECT_EQ(entry.Grid.TextMatrix(1, 1), "37300.5");
+    keyboard.Press(key::Up);
+    keyboard.Press(key::Home);
+    keyboard.Type("1\r");
+    EXPECT_EQ(entry.Grid.TextMatrix(1, 1), "137,301");
     EXPECT_EQ(entry.Grid.TextMatrix(2, 1), "32300");
 }
 
@@ -314,6 +382,94 @@ TEST_F(CursValutarDetaliuTest, ClickingElsewhereWithAnEmptyCellGoesBackToIt) {
     entry.DataCurs.SetFocus();
     EXPECT_THAT(messages.shown, ElementsAre(Mandatory));
     EXPECT_EQ(FocusedControl(), "txtCursValutar");
+}
+
+// The editor and its cell.
+
+TEST_F(CursValutarDetaliuTest, AClickOnAnotherRowIsRefusedAsAWholeWhileTheCellIs) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r5\r\b");
+    const forms::Rect other = entry.Grid.CellBounds(1, 0);
+    ClickWithMouse(entry.Grid, {other.left + 100, other.top + 10});
+    EXPECT_THAT(messages.shown, ElementsAre(Mandatory));
+    EXPECT_EQ(entry.Grid.Row(), 2);
+    EXPECT_EQ(entry.Grid.Col(), 1);
+    EXPECT_EQ(entry.Grid.ColSel(), 1);
+    EXPECT_EQ(FocusedControl(), "txtCursValutar");
+    EXPECT_EQ(EditorText(), "");
+    keyboard.Type("7\r");
+    EXPECT_THAT(ColumnOf(entry.Grid, 1), ElementsAre("Valoare Curs", "5", "7"));
+}
+
+TEST_F(CursValutarDetaliuTest, AClickOnAnotherRowCommitsTheCellAndEditsThatRow) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r5\r6");
+    const forms::Rect other = entry.Grid.CellBounds(1, 0);
+    ClickWithMouse(entry.Grid, {other.left + 100, other.top + 10});
+    EXPECT_THAT(ColumnOf(entry.Grid, 1), ElementsAre("Valoare Curs", "5", "6"));
+    EXPECT_EQ(entry.Grid.Row(), 1);
+    EXPECT_EQ(FocusedControl(), "txtCursValutar");
+    EXPECT_EQ(EditorText(), "5");
+}
+
+class CursValutarDetaliuScrollTest : public CursValutarDetaliuTest {
+  protected:
+    static constexpr int Currencies = 22;
+
+    CursValutarDetaliuScrollTest() {
+        for (int i = 2; i < Currencies; ++i)
+            Run("ALTER TABLE [Curs Valutar] ADD  [C" + std::to_string(i) + "] float");
+    }
+
+    void ExpectEditorOverRow(int row) {
+        const forms::Rect cell = Entry().Grid.CellBounds(row, 1);
+        const forms::Rect& grid = Entry().Grid.Bounds();
+        EXPECT_EQ(Entry().txtCursValutar.Bounds(),
+                  (forms::Rect{grid.left + cell.left, grid.top + cell.top, cell.width, cell.height}));
+    }
+};
+
+TEST_F(CursValutarDetaliuScrollTest, TheWheelTakesTheEditorAlongWithItsCell) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r\r\r\r\r41");
+    entry.Grid.HandleWheel(-1);
+    ExpectEditorOverRow(5);
+    entry.Grid.HandleWheel(-1);
+    EXPECT_TRUE(entry.txtCursValutar.Bounds().IsEmpty()) << "its cell is out of sight";
+    EXPECT_EQ(FocusedControl(), "txtCursValutar");
+    keyboard.Type("2");
+    ExpectEditorOverRow(5);
+    EXPECT_FALSE(entry.txtCursValutar.Bounds().IsEmpty()) << "typing brings it back";
+    keyboard.Type("\r");
+    EXPECT_EQ(entry.Grid.TextMatrix(5, 1), "412");
+    EXPECT_EQ(entry.Grid.Row(), 6);
+    ExpectEditorOverRow(6);
+}
+
+TEST_F(CursValutarDetaliuScrollTest, ARefusedCellComesBackIntoSight) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r\b");
+    entry.Grid.HandleWheel(-4);
+    const forms::Rect other = entry.Grid.CellBounds(15, 0);
+    ClickWithMouse(entry.Grid, {other.left + 100, other.top + 10});
+    EXPECT_THAT(messages.shown, ElementsAre(Mandatory));
+    EXPECT_EQ(entry.Grid.Row(), 1);
+    ExpectEditorOverRow(1);
+    EXPECT_FALSE(entry.txtCursValutar.Bounds().IsEmpty());
+    EXPECT_EQ(FocusedControl(), "txtCursValutar");
+}
+
+TEST_F(CursValutarDetaliuScrollTest, EveryValueGoesToTheCurrencyThatItWasTypedFor) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Press(key::Enter);
+    for (int row = 1; row <= Currencies; ++row) {
+        keyboard.Type(std::to_string(row));
+        entry.Grid.HandleWheel(row % 7 - 3);
+        ExpectEditorOverRow(row);
+        keyboard.Press(key::Enter);
+    }
+    for (int row = 1; row <= Currencies; ++row)
+        EXPECT_EQ(entry.Grid.TextMatrix(row, 1), std::to_string(row));
 }
 
 TEST_F(CursValutarDetaliuTest, EscapeGivesUpFromEveryControl) {
@@ -383,6 +539,43 @@ TEST_F(CursValutarDetaliuTest, TheListShowsTheNewDayAndMarksIt) {
     EXPECT_EQ(list.Grid.ColSel(), 3);
     EXPECT_TRUE(list.Enabled());
     EXPECT_EQ(FocusedControl(), "Grid");
+}
+
+TEST_F(CursValutarDetaliuTest, WhereTheNewDayIsNotListedTheRowBeforeIsCurrentAgain) {
+    CursValutar& list = OpenList();
+    list.Grid.SetRow(4);
+    list.cmdAction[0].Click();
+    Entry().DataCurs.SetDate(Day(2003, 8, 1));
+    Entry().cmdAction[0].Click();
+    ASSERT_FALSE(EntryIsOpen());
+    EXPECT_EQ(list.Grid.TextMatrix(list.Grid.Row(), 0), "13/05/2003");
+    EXPECT_EQ(list.Grid.Col(), 0);
+    EXPECT_EQ(list.Grid.ColSel(), 3);
+    EXPECT_EQ(FocusedControl(), "Grid");
+}
+
+TEST_F(CursValutarDetaliuTest, TheFirstDayOfAnEmptyRangeComesWithTheListAndTheKeyboard) {
+    Run("DELETE FROM [Curs Valutar]");
+    CursValutar& list = OpenList();
+    ASSERT_FALSE(list.fraGrid.Visible());
+    ClickWithMouse(list.cmdAction[0]);
+    keyboard.Type("\r5\r6\r\r");
+    ASSERT_FALSE(EntryIsOpen());
+    EXPECT_TRUE(list.fraGrid.Visible());
+    EXPECT_EQ(list.Grid.TextMatrix(list.Grid.Row(), 0), "20/05/2003");
+    EXPECT_EQ(list.Grid.ColSel(), 3);
+    EXPECT_EQ(FocusedControl(), "Grid");
+}
+
+TEST_F(CursValutarDetaliuTest, WhereTheRangeStaysEmptyTheKeyboardStaysOnTheButton) {
+    Run("DELETE FROM [Curs Valutar]");
+    CursValutar& list = OpenList();
+    ClickWithMouse(list.cmdAction[0]);
+    Entry().DataCurs.SetDate(Day(2003, 8, 1));
+    Entry().cmdAction[0].Click();
+    ASSERT_FALSE(EntryIsOpen());
+    EXPECT_FALSE(list.fraGrid.Visible());
+    EXPECT_EQ(FocusedControl(), "cmdAction(0)");
 }
 
 TEST_F(CursValutarDetaliuTest, ADayNotLaterThanTheFrozenOneIsRefused) {

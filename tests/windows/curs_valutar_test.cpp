@@ -47,6 +47,20 @@ TEST_F(CursValutarTest, OpensOnTheMonthOfTheWorkingDate) {
     EXPECT_THAT(desktop.reports, IsEmpty());
 }
 
+TEST_F(CursValutarTest, AYearBeyondEveryCalendarGivesPickersThatACalendarTakes) {
+    for (const std::int16_t year : {std::int16_t{0}, std::int16_t{1752}, std::int16_t{32767}}) {
+        module.context.workYear = year;
+        CursValutar& list = OpenList();
+        for (const forms::DatePicker* picker : {&list.dpDataIn, &list.dpDataFin}) {
+            EXPECT_GE(picker->MinDate().days, Day(1753, 1, 1).days) << year;
+            EXPECT_LE(picker->MaxDate().days, Day(9999, 12, 31).days) << year;
+            EXPECT_GE(picker->Date().days, picker->MinDate().days) << year;
+            EXPECT_LE(picker->Date().days, picker->MaxDate().days) << year;
+        }
+        list.Unload();
+    }
+}
+
 TEST_F(CursValutarTest, AWorkingDateOutsideThePickersRangeIsMovedIntoIt) {
     module.context.workDate = Day(2010, 7, 15);
     const CursValutar& list = OpenList();
@@ -168,6 +182,18 @@ TEST_F(CursValutarTest, FilteringThatFindsDaysFocusesTheGrid) {
     EXPECT_EQ(list.Grid.Row(), 1);
 }
 
+TEST_F(CursValutarTest, TheCurrentDayStaysTheCurrentOneWhileItIsListed) {
+    CursValutar& list = OpenList();
+    list.Grid.SetRow(4);
+    list.dpDataIn.SetDate(Day(2003, 5, 9));
+    list.cmdRefresh.Click();
+    EXPECT_EQ(list.SelectedDayText(), "13/05/2003");
+    EXPECT_EQ(list.Grid.Row(), 3);
+    list.dpDataFin.SetDate(Day(2003, 5, 12));
+    list.cmdRefresh.Click();
+    EXPECT_EQ(list.Grid.Row(), 1) << "the first one where it is not";
+}
+
 TEST_F(CursValutarTest, TheGridComesBackWhenTheRangeHasDaysAgain) {
     module.context.workDate = Day(2003, 2, 20);
     CursValutar& list = OpenList();
@@ -225,6 +251,20 @@ TEST_F(CursValutarTest, AFrozenDayIsNotModified) {
     EXPECT_EQ(list.Grid.ColSel(), 3);
     EXPECT_EQ(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
     EXPECT_TRUE(list.Enabled());
+}
+
+TEST_F(CursValutarTest, TheRefusalOfAFrozenDayExtendsTheSelectionFromTheCurrentColumn) {
+    CursValutar& list = OpenList();
+    for (const int button : {1, 2}) {
+        for (const int column : {0, 2, 3}) {
+            list.Grid.SetRow(2);
+            list.Grid.SetCol(column);
+            list.cmdAction[button].Click();
+            EXPECT_EQ(list.Grid.Row(), 2);
+            EXPECT_EQ(list.Grid.Col(), column);
+            EXPECT_EQ(list.Grid.ColSel(), 3);
+        }
+    }
 }
 
 TEST_F(CursValutarTest, AFrozenDayIsNotDeletedAndTheTextSpeaksOfModifying) {
@@ -465,6 +505,19 @@ TEST_F(CursValutarTest, ShiftTabFromTheButtonsWalksBack) {
         list.cmdAction[button].SetFocus();
         keyboard.Press(key::Tab, {.shift = true});
         EXPECT_EQ(FocusedControl(), "cmdAction(" + std::to_string(button - 1) + ")");
+    }
+}
+
+TEST_F(CursValutarTest, ShiftTabFromTheGridWalksBackAsWell) {
+    CursValutar& list = OpenList();
+    keyboard.Press(key::Tab, {.shift = true});
+    EXPECT_EQ(FocusedControl(), "cmdAction(6)") << "the grid is the first";
+    keyboard.Press(key::Tab);
+    EXPECT_EQ(FocusedControl(), "Grid");
+    list.cmdAction[0].SetFocus();
+    for (const char* before : {"cmdRefresh", "dpDataFin", "dpDataIn", "Grid", "cmdAction(6)"}) {
+        keyboard.Press(key::Tab, {.shift = true});
+        EXPECT_EQ(FocusedControl(), before);
     }
 }
 

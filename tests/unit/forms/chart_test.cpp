@@ -195,5 +195,15 @@ TEST_F(ChartTest, AssistiveToolsHearTheValues) {
     EXPECT_EQ(chart.AccessibleChild(1).value, "2");
 }
 
+TEST_F(ChartTest, TheValueAtAPlaceIsTheOneThatLiesThere) {
+    Fill({1.5, std::nullopt, 2});
+    EXPECT_EQ(chart.AccessibleChildAt({0, 100}), 0);
+    EXPECT_EQ(chart.AccessibleChildAt({2999, 100}), 0);
+    EXPECT_EQ(chart.AccessibleChildAt({3000, 100}), -1) << "a row without a value";
+    EXPECT_EQ(chart.AccessibleChildAt({8999, 100}), 1);
+    chart.SetRowCount(0);
+    EXPECT_EQ(chart.AccessibleChildAt({100, 100}), -1);
+}
+
 }  // namespace
 }  // namespace tavrin::tests

@@ -99,12 +99,50 @@ TEST_F(DatePickerTest, AbsurdDatesAreNoTrouble) {
     keyboard.Press(key::Up);
     EXPECT_EQ(picker.Text(), "31/12/9999");
     picker.SetDate({-1e300});
-    EXPECT_EQ(picker.Text(), "01/01/0100");
+    EXPECT_EQ(picker.Text(), "01/01/1753");
     keyboard.Press(key::Down);
-    EXPECT_EQ(picker.Text(), "01/01/0100");
+    EXPECT_EQ(picker.Text(), "01/01/1753");
     picker.SetRange({-1e300}, {1e300});
     picker.SetDate({});
     EXPECT_EQ(picker.Text(), "30/12/1899");
+}
+
+TEST_F(DatePickerTest, EveryRangeIsOneThatCalendarsTake) {
+    const data::OleDate first = ToOleDate({1753, 1, 1});
+    const data::OleDate last = ToOleDate({9999, 12, 31});
+    const auto expectRange = [&](data::OleDate from, data::OleDate to) {
+        EXPECT_EQ(picker.MinDate(), from);
+        EXPECT_EQ(picker.MaxDate(), to);
+        EXPECT_GE(picker.Date().days, from.days);
+        EXPECT_LE(picker.Date().days, to.days);
+    };
+    expectRange(first, last);
+    picker.SetRange({-1e300}, {1e300});
+    expectRange(first, last);
+    picker.SetRange(ToOleDate({100, 1, 1}), ToOleDate({1752, 12, 31}));
+    expectRange(first, first);
+    picker.SetRange(ToOleDate({32767, 1, 1}), ToOleDate({32768, 1, 31}));
+    expectRange(last, last);
+    picker.SetRange({first.days - 1}, {last.days + 1});
+    expectRange(first, last);
+    picker.SetRange({first.days + 1}, {last.days - 1});
+    expectRange({first.days + 1}, {last.days - 1});
+}
+
+TEST_F(DatePickerTest, NeitherKeysNorDigitsLeaveTheDaysOfACalendar) {
+    for (const auto& [day, text] : {std::pair{data::CalendarDay{1753, 1, 1}, "01/01/1753"},
+                                    {data::CalendarDay{9999, 12, 31}, "31/12/9999"}}) {
+        picker.SetDate(ToOleDate(day));
+        const bool isFirst = day.year == 1753;
+        keyboard.Press(key::Right);
+        keyboard.Press(key::Right);
+        keyboard.Press(isFirst ? key::Down : key::Up);
+        EXPECT_EQ(picker.Text(), text);
+        picker.HandleWheel(isFirst ? -3 : 3);
+        EXPECT_EQ(picker.Text(), text);
+    }
+    keyboard.Type("1752");
+    EXPECT_EQ(picker.Text(), "31/12/1753") << "the nearest year";
 }
 
 // Keys.
@@ -212,7 +250,7 @@ TEST_F(DatePickerTest, ZerosNameNoDayAndNoMonth) {
     EXPECT_EQ(picker.Text(), "20/05/2003");
     EXPECT_EQ(picker.ActivePart(), DatePart::Year);
     keyboard.Type("0000");
-    EXPECT_EQ(picker.Text(), "20/05/0100");
+    EXPECT_EQ(picker.Text(), "20/05/1753");
 }
 
 TEST_F(DatePickerTest, TwoDigitYearsAreOfTheNearestCentury) {

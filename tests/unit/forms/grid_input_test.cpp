@@ -168,15 +168,23 @@ TEST_F(GridInputTest, OtherButtonsSelectNothing) {
     ExpectCell(1, 0);
 }
 
-TEST_F(GridInputTest, ADoubleClickCountsOnCellsOnly) {
+TEST_F(GridInputTest, ADoubleClickCountsEverywhereButOnTheScrollBars) {
     int doubleClicks = 0;
     grid.onDblClick = [&] { ++doubleClicks; };
     grid.HandleDblClick({MouseButton::Left, Middle(3, 2), {}});
     EXPECT_EQ(doubleClicks, 1);
     grid.HandleDblClick({MouseButton::Left, Middle(0, 0), {}});
+    EXPECT_EQ(doubleClicks, 2) << "the header";
+    grid.HandleDblClick({MouseButton::Left, {5, 5}, {}});
+    EXPECT_EQ(doubleClicks, 3) << "the frame";
     grid.HandleDblClick({MouseButton::Left, rowTrackEnd, {}});
-    EXPECT_EQ(doubleClicks, 1);
     EXPECT_EQ(grid.TopRow(), 1 + RowsInSight);
+    grid.HandleDblClick({MouseButton::Left, {3700, 3250}, {}});
+    EXPECT_TRUE(grid.CellBounds(1, 0).IsEmpty());
+    EXPECT_EQ(doubleClicks, 3) << "a bar that is pressed quickly scrolls on";
+    grid.SetDataSource(std::make_shared<CountingTable>(3, 2));
+    grid.HandleDblClick({MouseButton::Left, {500, 2500}, {}});
+    EXPECT_EQ(doubleClicks, 4) << "beneath the last row";
 }
 
 TEST_F(GridInputTest, TheWheelScrollsWithoutMovingTheCell) {

@@ -226,6 +226,47 @@ TEST_F(GridTest, CellsScrolledAwayAreToldSo) {
     EXPECT_EQ(grid.AccessibleSelectedChild(), -1);
     grid.SetColumnWidth(1, 0);
     EXPECT_EQ(grid.AccessibleChildCount(), 0);
+    EXPECT_EQ(grid.AccessibleChildAt({100, 1000}), -1);
+}
+
+TEST_F(GridTest, TheCellAtAPlaceIsTheOneThatLiesThere) {
+    grid.SetDataSource(std::make_shared<CountingTable>(30, 6));
+    grid.SetColumnWidth(2, 0);
+    grid.SetColumnWidth(3, 1700);
+    const auto searched = [&](forms::Point place) {
+        for (int child = 0; child < grid.AccessibleChildCount(); ++child) {
+            if (grid.AccessibleChild(child).bounds.Contains(place)) return child;
+        }
+        return -1;
+    };
+    int found = 0;
+    for (const int top : {1, 12, 30}) {
+        grid.SetTopRow(top);
+        for (int x = 0; x < grid.Bounds().width; x += 145) {
+            for (int y = 0; y < grid.Bounds().height; y += 145) {
+                const int child = searched({x, y});
+                found += child >= 0 ? 1 : 0;
+                ASSERT_EQ(grid.AccessibleChildAt({x, y}), child) << x << "," << y << " from row " << top;
+            }
+        }
+    }
+    EXPECT_GT(found, 1000);
+}
+
+TEST_F(GridTest, ThereIsNoCellBesideTheLastRow) {
+    grid.SetDataSource(std::make_shared<CountingTable>(3, 2));
+    EXPECT_EQ(grid.AccessibleChildAt({500, 2500}), -1);
+    EXPECT_EQ(grid.AccessibleChildAt({3000, 500}), -1);
+    EXPECT_EQ(grid.AccessibleChildAt({500, 2}), -1) << "on the frame";
+}
+
+TEST_F(GridTest, FindingTheCellAtAPlaceReadsNoCell) {
+    const auto table = std::make_shared<CountingTable>(100'000, 5);
+    grid.SetDataSource(table);
+    grid.SetTopRow(50'000);
+    table->reads = 0;
+    EXPECT_EQ(grid.AccessibleChildAt({100, 1000}), 50'002 * 5);
+    EXPECT_EQ(table->reads, 0);
 }
 
 }  // namespace

@@ -53,6 +53,15 @@ TEST_F(TextBoxTest, ANewTextPutsTheCaretAtItsStart) {
     ExpectSelection(0, 0);
 }
 
+TEST_F(TextBoxTest, TellsTheTextThatIsSelected) {
+    field.SetText("ăîșțâ");
+    EXPECT_EQ(field.SelText(), "");
+    field.Select(1, 2);
+    EXPECT_EQ(field.SelText(), "îș");
+    field.SelectAll();
+    EXPECT_EQ(field.SelText(), "ăîșțâ");
+}
+
 TEST_F(TextBoxTest, PositionsCountCharacters) {
     field.SetText("ăîșțâ");
     EXPECT_EQ(field.TextLength(), 5);
