@@ -204,7 +204,8 @@ void CursValutar::cmdRefresh_Click() {
 void CursValutar::cmdAction_Click(int index) {
     switch (index) {
         case AddDay:
-            ShowsCurrentRates();  // a new day takes nothing from the list but its currencies
+            // A new day takes nothing from the list but its currencies.
+            if (module_.context.connection != nullptr) ShowsCurrentRates();
             OpenEntry("A");
             break;
         case ModifyDay:

@@ -94,7 +94,8 @@ void FormPeer::Reconcile() noexcept {
     desktop_.Guard([this] {
         if (Handle() == nullptr || isClosed_) return;
         EnableOrDisable();
-        ShowOrHide();
+        // Showing what is in sight would also put it above the others.
+        if ((IsWindowVisible(Handle()) != FALSE) != form_.Visible()) ShowOrHide();
         for (forms::Control* control : form_.AllControls()) {
             if (auto* peer = dynamic_cast<ControlWindow*>(control->Peer())) peer->Reconcile();
         }

@@ -409,6 +409,7 @@ TEST_F(AgendaTest, ClosingThePaletteClosesItToo) {
     Open();
     Click(AwaitForm("Utilitati").Control("imgClose"));
     EXPECT_TRUE(AwaitClosed("Agenda"));
+    EXPECT_TRUE(AwaitClosed("Utilitati"));  // the last to go, once the host has been told
     EXPECT_FALSE(ShownMessage::Find());
     EXPECT_EQ(host->Iesire(), 1);
 }
@@ -449,8 +450,10 @@ TEST_F(AgendaTest, DetailsAreGreenOnBlackWhetherTheyAreBrowsedOrEdited) {
 
 class AgendaConnectionTest : public AgendaTest {
   protected:
-    ~AgendaConnectionTest() override {
-        if (second) host->Call([this] { second.Reset(); });
+    void TearDown() override {
+        CloseEverything();
+        host->Call([this] { second.Reset(); });
+        AgendaTest::TearDown();
     }
 
     /// A database in which nobody but Vlad Dan is kept.

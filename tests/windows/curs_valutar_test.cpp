@@ -601,6 +601,15 @@ TEST_F(CursValutarTest, WithoutAConnectionTheWindowOpensAndSaysSo) {
     EXPECT_FALSE(list.fraGrid.Visible());
 }
 
+TEST_F(CursValutarTest, WithoutAConnectionTheEntryOpensAllTheSame) {
+    module.context.connection = nullptr;
+    CursValutar& list = OpenList();
+    desktop.reports.clear();
+    list.cmdAction[CursValutar::AddDay].Click();
+    EXPECT_NE(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
+    EXPECT_THAT(desktop.reports, IsEmpty());
+}
+
 TEST_F(CursValutarTest, AMissingTableIsReported) {
     database = std::make_shared<host::EmbeddedDatabase>(":memory:");
     module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
