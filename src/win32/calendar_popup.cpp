@@ -1,6 +1,7 @@
 #include "win32/calendar_popup.h"
 
 #include <commctrl.h>
+#include <windowsx.h>
 
 #include <algorithm>
 #include <utility>
@@ -208,9 +209,23 @@ LRESULT CalendarPopup::Calendar::HandleMessage(const Message& message) {
         case WM_RBUTTONUP:
         case WM_CONTEXTMENU:
             return 0;  // the platform's menu goes to today, be it in the range or not
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            return IsToday({GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)})
+                       ? 0
+                       : CallDefault(message);
         default:
             return CallDefault(message);
     }
+}
+
+/// Wine knows a way to today even where none is shown.
+bool CalendarPopup::Calendar::IsToday(POINT place) const {
+    MCHITTESTINFO hit{};
+    hit.cbSize = sizeof hit;
+    hit.pt = place;
+    SendMessageW(Handle(), MCM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+    return hit.uHit == MCHT_TODAYLINK;
 }
 
 bool CalendarPopup::HandleKey(WPARAM key) {

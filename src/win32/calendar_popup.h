@@ -46,6 +46,8 @@ class CalendarPopup final : public Window {
 
       private:
         LRESULT HandleMessage(const Message& message) override;
+        bool IsToday(POINT place) const;
+
         CalendarPopup& popup_;
     };
 

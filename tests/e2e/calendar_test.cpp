@@ -121,15 +121,30 @@ TEST_P(CalendarTest, AfterAnArrowOfTheTitleEnterTakesTheDayThatIsMarked) {
     EXPECT_EQ(Date(), marked);
 }
 
-TEST_P(CalendarTest, TheTitleOffersOtherYears) {
+TEST_P(CalendarTest, TheYearOfTheTitleLeadsToOtherYears) {
+    UseEveryDay();
     const Calendar calendar = OpenOn({2003, 5, 20});
     ClickPlace(calendar.PlaceOf(MCHT_TITLEYEAR));
-    Press(VK_UP);
+    EXPECT_EQ(calendar.Selected(), (CalendarDay{2003, 5, 20}));
+    const RECT arrows = calendar.YearArrows().ScreenBounds();
+    ClickPlace({(arrows.left + arrows.right) / 2, arrows.top + (arrows.bottom - arrows.top) / 4});
     Press(VK_RETURN);
-    if (Calendar::IsOpen()) Press(VK_RETURN);
+    EXPECT_EQ(calendar.Selected(), (CalendarDay{2004, 5, 20}));
+    Press(VK_RETURN);
     EXPECT_FALSE(Calendar::IsOpen());
-    const CalendarDay chosen = Date();
-    EXPECT_TRUE(chosen.year == 2003 || chosen.year == 2004) << chosen.year;
+    EXPECT_EQ(Date(), (CalendarDay{2004, 5, 20}));
+}
+
+TEST_P(CalendarTest, TheMonthOfTheTitleLeadsToOtherMonths) {
+    const Calendar calendar = OpenOn({2003, 5, 20});
+    ClickPlace(calendar.PlaceOf(MCHT_TITLEMONTH));
+    Press(VK_DOWN);
+    Press(VK_RETURN);
+    const CalendarDay marked = calendar.Selected();
+    EXPECT_EQ(marked, (CalendarDay{2003, 1, 20})) << "the first of the menu";
+    Press(VK_RETURN);
+    EXPECT_FALSE(Calendar::IsOpen());
+    EXPECT_EQ(Date(), marked);
 }
 
 TEST_P(CalendarTest, NothingInItGoesToToday) {

@@ -30,6 +30,10 @@ data::CalendarDay Calendar::Selected() const {
     return DayOf(time);
 }
 
+Window Calendar::YearArrows() const {
+    return Window(FindWindowExW(month_, nullptr, UPDOWN_CLASSW, nullptr));
+}
+
 /// The middle of the smallest area around all places that are wanted.
 template <class Wanted>
 std::optional<POINT> Calendar::Find(Wanted&& wanted) const {

@@ -20,6 +20,8 @@ class Calendar {
     static bool IsOpen() { return FindForm("Calendar").has_value(); }
 
     data::CalendarDay Selected() const;
+    /// The arrows beside the year while it is being changed.
+    Window YearArrows() const;
 
     /// The middle of what the calendar says is that part (MCHT_...), nothing where it has none.
     std::optional<POINT> FindPart(UINT part) const;
