@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cmath>
+
 #include "data/checked_arithmetic.h"
+#include "data/decimal.h"
 
 namespace tavrin::calculator {
 
@@ -9,10 +12,16 @@ class Memory {
   public:
     double Value() const { return value_; }
     void Clear() { value_ = 0; }
-    void Add(double number) { value_ = data::CheckedResult(value_ + number); }
-    void Subtract(double number) { value_ = data::CheckedResult(value_ - number); }
+    void Add(double number) { Keep(value_ + number); }
+    void Subtract(double number) { Keep(value_ - number); }
 
   private:
+    /// What is kept is what recalling it shows: sums of amounts come out even.
+    void Keep(double number) {
+        const double magnitude = data::DecimalOf(std::fabs(data::CheckedResult(number))).ToDouble();
+        value_ = data::CheckedResult(number < 0 ? -magnitude : magnitude);
+    }
+
     double value_ = 0;
 };
 

@@ -182,14 +182,14 @@ class NotesTest : public HostTest {
     PlatformDialog Dialog() {
         const PlatformDialog dialog = PlatformDialog::AwaitOf(window);
         EXPECT_TRUE(dialog.IsInFront());
-        // The platform shows some dialogs a moment before it disables what they stand before.
-        EXPECT_TRUE(WaitUntil([this] { return !window.IsEnabled(); }));
+        EXPECT_FALSE(window.IsEnabled());
         return dialog;
     }
 
     void ExpectUsable() {
+        // The dialog gives the keyboard back before the action that it was part of has ended.
+        EXPECT_TRUE(WaitUntil([this] { return window.IsEnabled(); }));
         EXPECT_TRUE(AwaitFocus("txtNota"));
-        EXPECT_TRUE(window.IsEnabled());
         EXPECT_FALSE(ShownMessage::Find());
         host->Ui().Settle();
     }

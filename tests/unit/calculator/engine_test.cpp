@@ -141,7 +141,8 @@ SEQUENCES(MemoryKeys, Sequence{"5M", "0", "0,00", "0,00"}, Sequence{"5MR", "5", 
           Sequence{"5M7+R=", "5", "5,00", "1,11"}, Sequence{"5M7+R+1=", "8", "8,00", "1,78"},
           // Digits are added to a recalled number where one is being typed.
           Sequence{"5M7R2", "52", "52,00", "11,56"}, Sequence{"1/3=MR", "0,33", "0,33", "0,07"},
-          Sequence{"0.1M0.2MR", "0,3", "0,30", "0,07"}, Sequence{"0.1M0.2MR<", "0", "0,00", "0,00"},
+          Sequence{"0.1M0.2M0.3WR", "0", "0,00", "0,00"}, Sequence{"0.1M0.2MR", "0,3", "0,30", "0,07"},
+          Sequence{"0.1M0.2MR<", "0", "0,00", "0,00"},
           // A separator asked for before recalling a number that has one makes a text with two; the number is
           // what stands before the second.
           Sequence{"1.5M2.R7", "1,5,7", "1,50", "0,33"});

@@ -53,7 +53,7 @@ class NaiveCalculator {
             ShowValues();
         } else if (key == 'M' || key == 'W') {
             mark = true;
-            memory = Checked(key == 'M' ? ValueOf(entry) + memory : memory - ValueOf(entry));
+            memory = ValueOf(TextOf(Checked(key == 'M' ? ValueOf(entry) + memory : memory - ValueOf(entry))));
             entry = "0";
             ShowValues();
         } else {
