@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "calculator_fixture.h"
+#include "data/value.h"
 
 namespace tavrin::tests {
 namespace {
@@ -625,6 +626,32 @@ TEST_F(FrmCalculatorTest, EveryDisplayKnowsFifteenDigits) {
         EXPECT_EQ(window.ValLei.Text(), number.lei) << "the same when typing goes on from it";
         EXPECT_EQ(window.ValValuta.Text(), "1,000000");
         window.cmbUM.SetListIndex(1);
+    }
+}
+
+struct LongRate {
+    const char* stored;
+    const char* listed;
+    const char* caption;
+};
+
+TEST_F(FrmCalculatorTest, ARateOfManyDigitsIsTakenAsItIsListed) {
+    for (const LongRate& rate :
+         {LongRate{"123456789012345.0", "123456789012345", "123.456.789.012.345,00"},
+          LongRate{"1000000000000000.0", "1000000000000000", "1.000.000.000.000.000,00"},
+          LongRate{"1234567890123456.0", "1234567890123460", "1.234.567.890.123.460,00"},
+          LongRate{"12345678901234567.0", "12345678901234600", "12.345.678.901.234.600,00"},
+          LongRate{"4.97621234567894", "4.97621234567894", "4,98"},
+          LongRate{"4.976212345678945", "4.97621234567895", "4,98"},
+          LongRate{"0.12345678901234567", "0.123456789012346", "0,12"}}) {
+        Run(std::string("UPDATE [Curs Valutar] SET [$] = ") + rate.stored);
+        const FrmCalculator& window = Open();
+        EXPECT_EQ(OpenChooser().Grid.TextMatrix(1, 1), rate.listed);
+        keyboard.Press(key::Enter);
+        EXPECT_EQ(data::ShortestDecimal(window.CursCurent()), rate.listed);
+        EXPECT_EQ(window.lblCurs.Caption(),
+                  std::string("Cursul este de  ") + rate.caption + " Lei pentru 1 $");
+        Calculator()->Unload();
     }
 }
 
