@@ -318,7 +318,7 @@ TEST_F(CursValutarDetaliuTest, ALongerNumberThatIsPastedIsRefusedAndChangesNothi
         keyboard.Paste(text);
         messages.shown.clear();
         keyboard.Press(key::Enter);
-        EXPECT_THAT(messages.shown, ElementsAre(TooLong)) << text;
+        ASSERT_THAT(messages.shown, ElementsAre(TooLong)) << text;
         EXPECT_EQ(entry.Grid.TextMatrix(1, 1), "0") << text;
         EXPECT_EQ(entry.Grid.Row(), 1);
         EXPECT_EQ(FocusedControl(), "txtCursValutar");
@@ -331,13 +331,14 @@ TEST_F(CursValutarDetaliuTest, AValueThatNobodyEditsIsSentAsTheListShowsIt) {
         CursValutarDetaliu& entry = OpenToModify(3);
         entry.Grid.SetTextMatrix(1, 1, shown);
         keyboard.Type("\r\r");
-        EXPECT_EQ(entry.Grid.Row(), 2) << shown;
+        ASSERT_EQ(entry.Grid.Row(), 2) << shown;
         entry.Grid.SetRow(1);
         ClickWithMouse(entry.Grid, {300, entry.Grid.CellBounds(1, 0).top + 10});
         EXPECT_EQ(EditorText(), shown);
         connection->ClearRecord();
         entry.cmdAction[0].Click();
         EXPECT_THAT(messages.shown, IsEmpty());
+        ASSERT_THAT(connection->Statements(), Not(IsEmpty())) << shown;
         EXPECT_EQ(connection->Statements()[0], "UPDATE [Curs Valutar] SET [EUR] = " + std::string(shown) +
                                                    ", [USD] = 32300  WHERE [Data] = '05-12-2003'");
         module.Loaded<CursValutar>()->Unload();
