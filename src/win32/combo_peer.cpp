@@ -211,6 +211,7 @@ LRESULT ComboPeer::HandleMessage(const Message& message) {
         {WM_COMMAND + Reflected, &ComboPeer::OnCommand},
         {WM_DRAWITEM + Reflected, &ComboPeer::OnDrawItem},
         {ChosenMessage, &ComboPeer::OnChosen},
+        {CB_SETCURSEL, &ComboPeer::OnSetSelection},
         {WM_MOUSEMOVE, &ComboPeer::OnMouse},
         {WM_LBUTTONDOWN, &ComboPeer::OnMouse},
         {WM_LBUTTONUP, &ComboPeer::OnMouse},
@@ -263,7 +264,8 @@ LRESULT ComboPeer::OnCommand(const Message& message) {
             control_.HandleDropped(true);
             break;
         case CBN_SELENDOK:
-            settled_ = SelectedIndex();
+            // Of a list that is not open the platform says so as well, and closes nothing then.
+            if (IsOpen()) settled_ = SelectedIndex();
             break;
         case CBN_SELENDCANCEL:
             settled_ = -1;
@@ -284,6 +286,13 @@ LRESULT ComboPeer::OnCommand(const Message& message) {
     }
     InvalidateRect(Handle(), nullptr, FALSE);
     return 0;
+}
+
+/// Other programs choose so, and need not tell of it as the platform does.
+LRESULT ComboPeer::OnSetSelection(const Message& message) {
+    const LRESULT answer = CallDefault(message);
+    if (!isShowing_ && !IsOpen()) PostChoice(SelectedIndex(), Choice::Reported);
+    return answer;
 }
 
 void ComboPeer::PostChoice(int index, Choice choice) {
@@ -325,6 +334,7 @@ LRESULT ComboPeer::OnSetFocus(const Message& message) {
 }
 
 void ComboPeer::HandleInnerFocus() {
+    if (!HoldsFocus()) return;  // somebody sent it who is not the platform
     OwnerForm().HandleFocus(control_);
     if (OwnerForm().ActiveControl() != &control_) return OwnerPeer().RestoreFocus();
     ShowSelection();

@@ -34,6 +34,7 @@ class ComboPeer final : public ControlWindow {
     LRESULT OnEraseBackground(const Message& message);
     LRESULT OnColors(const Message& message);
     LRESULT OnCommand(const Message& message);
+    LRESULT OnSetSelection(const Message& message);
     LRESULT OnDrawItem(const Message& message);
     LRESULT OnChosen(const Message& message);
     LRESULT OnMouse(const Message& message);

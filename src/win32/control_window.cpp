@@ -91,7 +91,9 @@ void ControlWindow::Reconcile() {
 LRESULT ControlWindow::Disagreement() const {
     const bool isShown = (GetWindowLongPtrW(Handle(), GWL_STYLE) & WS_VISIBLE) != 0;
     const bool isEnabled = IsWindowEnabled(Handle()) != FALSE;
-    const bool isActive = GetActiveWindow() == form_.Handle() && OwnerForm().AcceptsInput();
+    // Elsewhere than in front a window need not have the focus that it will have there.
+    const bool isActive =
+        OwnerForm().IsActive() && OwnerForm().AcceptsInput() && GetForegroundWindow() == form_.Handle();
     LRESULT differs = disagreement::None;
     if (isEnabled != control_.IsEffectivelyEnabled()) differs |= disagreement::Enabled;
     if (isShown != control_.Visible()) differs |= disagreement::Visible;
@@ -158,6 +160,7 @@ LRESULT ControlWindow::OnKey(const Message& message) {
 
 LRESULT ControlWindow::OnSetFocus(const Message& message) {
     const LRESULT answer = CallDefault(message);
+    if (!HoldsFocus()) return answer;  // somebody sent it who is not the platform
     OwnerForm().HandleFocus(control_);
     if (OwnerForm().ActiveControl() != &control_) {
         form_.RestoreFocus();

@@ -126,6 +126,16 @@ LRESULT EditPeer::HandleMessage(const Message& message) {
         {WM_COMMAND + Reflected, &EditPeer::OnCommand},
         {WM_PAINT, &EditPeer::OnPaint},
         {WM_PRINTCLIENT, &EditPeer::OnPaint},
+        {EM_SETSEL, &EditPeer::OnEditing},
+        {EM_REPLACESEL, &EditPeer::OnEditing},
+        {EM_UNDO, &EditPeer::OnEditing},
+        {WM_UNDO, &EditPeer::OnEditing},
+        {WM_CUT, &EditPeer::OnEditing},
+        {WM_CLEAR, &EditPeer::OnEditing},
+        {WM_PASTE, &EditPeer::OnEditing},
+        {WM_SETTEXT, &EditPeer::OnEditing},
+        {WM_CONTEXTMENU, &EditPeer::OnEditing},
+        {WM_CAPTURECHANGED, &EditPeer::OnCaptureChanged},
         {WM_MOUSEMOVE, &EditPeer::OnMouse},
         {WM_LBUTTONDOWN, &EditPeer::OnMouse},
         {WM_LBUTTONUP, &EditPeer::OnMouse},
@@ -207,6 +217,13 @@ LRESULT EditPeer::OnCommand(const Message& message) {
     return 0;
 }
 
+/// Commands and other programs move the caret, of which the platform tells nobody.
+LRESULT EditPeer::OnEditing(const Message& message) {
+    const LRESULT answer = CallDefault(message);
+    if (!isShowing_ && Handle() != nullptr) ReportSelection();
+    return answer;
+}
+
 void EditPeer::ReportSelection() {
     const TextRange selection = ReadSelection(Handle());
     if (selection != TextRange{control_.SelStart(), control_.SelLength()})
@@ -230,6 +247,12 @@ LRESULT EditPeer::OnRelease(const Message& message) {
     const LRESULT answer = std::exchange(holdsPress_, false) ? CallDefault(message) : 0;
     ReportSelection();
     TellModelOfMouse(message);
+    return answer;
+}
+
+LRESULT EditPeer::OnCaptureChanged(const Message& message) {
+    const LRESULT answer = CallDefault(message);
+    if (std::exchange(holdsPress_, false)) control_.HandleCaptureLost();
     return answer;
 }
 

@@ -31,8 +31,10 @@ class EditPeer final : public ControlWindow {
     LRESULT OnPaint(const Message& message);
     void PaintBrowsed(HDC dc) const;
     LRESULT OnCommand(const Message& message);
+    LRESULT OnEditing(const Message& message);
     LRESULT OnMouse(const Message& message);
     LRESULT OnRelease(const Message& message);
+    LRESULT OnCaptureChanged(const Message& message);
 
     LRESULT PassCharacter(const Message& message);
     void ShowText();

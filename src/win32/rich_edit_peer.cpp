@@ -132,6 +132,7 @@ LRESULT RichEditPeer::HandleMessage(const Message& message) {
     static constexpr Route<RichEditPeer> routes[] = {
         {WM_NCCALCSIZE, &RichEditPeer::OnCalculateClientArea},
         {WM_NCPAINT, &RichEditPeer::OnPaintFrame},
+        {WM_CAPTURECHANGED, &RichEditPeer::OnCaptureChanged},
         {WM_MOUSEMOVE, &RichEditPeer::OnMouse},
         {WM_LBUTTONDOWN, &RichEditPeer::OnMouse},
         {WM_LBUTTONUP, &RichEditPeer::OnMouse},
@@ -183,6 +184,12 @@ LRESULT RichEditPeer::OnRelease(const Message& message) {
     const LRESULT answer = std::exchange(holdsPress_, false) ? CallDefault(message) : 0;
     TellModelOfMouse(message);
     ReportSelection();
+    return answer;
+}
+
+LRESULT RichEditPeer::OnCaptureChanged(const Message& message) {
+    const LRESULT answer = CallDefault(message);
+    if (std::exchange(holdsPress_, false)) control_.HandleCaptureLost();
     return answer;
 }
 

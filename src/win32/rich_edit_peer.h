@@ -34,6 +34,7 @@ class RichEditPeer final : public ControlWindow, public forms::RichTextEditor {
     LRESULT OnPaintFrame(const Message& message);
     LRESULT OnMouse(const Message& message);
     LRESULT OnRelease(const Message& message);
+    LRESULT OnCaptureChanged(const Message& message);
     LRESULT OnMouseWheel(const Message& message);
 
     /// False where the platform's field is not to act on it any more.

@@ -43,6 +43,7 @@ constexpr auto KnownPrompts = std::to_array<std::string_view>({
     "Eroare 11\n",                                 // a rate is 0, which may be entered
     "Eroare 91\n",                                 // a host without a connection
     "Lipseste conexiunea la baza de date ",        // the same while a currency is added
+    "Eroare 3709\n",                               // the host has gone on to another connection meanwhile
     "Eroare 13\n",                                 // a day is to be changed where the list has none
     "Eroare 94\n",                                 // a person that another user has entered lacks a text
     "Eroare -2147217833 (80040E57)\n",             // a person's text is too long

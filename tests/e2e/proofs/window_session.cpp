@@ -29,17 +29,17 @@ void WindowSession::OpenIfClosed() {
     host_.Ui().Settle();
 }
 
-std::string WindowSession::LookAround() {
+std::string WindowSession::LookAround(WindowWatch::Events events) {
     attendant_.Attend();
     if (!attendant_.UnknownMessage().empty()) return "an unknown message: " + attendant_.UnknownMessage();
-    std::string complaint = watch_.Complaint();
+    std::string complaint = watch_.Complaint(events);
     if (complaint.empty()) return complaint;
     // A menu or a drag keeps the handler under way in which it began, and what that has closed is gone only
     // when it has ended. The system need not know of a drag any more: what takes the mouse away does not end
     // it.
     WaitUntil([&] {
         attendant_.EndMenuAndDrag();
-        complaint = watch_.Complaint();
+        complaint = watch_.Complaint(events);
         return complaint.empty();
     });
     return complaint;
@@ -49,7 +49,7 @@ std::string WindowSession::Send(int events) {
     int next = 0;
     for (int i = 0; i < events; ++i) {
         if (i == next) {
-            if (std::string complaint = LookAround(); !complaint.empty())
+            if (std::string complaint = LookAround(WindowWatch::Events::Sent); !complaint.empty())
                 return After(i, complaint, sent_.Trace());
             OpenIfClosed();
             sent_.Look();
@@ -57,7 +57,7 @@ std::string WindowSession::Send(int events) {
         }
         sent_.Do();
     }
-    const std::string complaint = LookAround();
+    const std::string complaint = LookAround(WindowWatch::Events::Sent);
     return complaint.empty() ? complaint : After(events, complaint, sent_.Trace());
 }
 
@@ -65,7 +65,7 @@ std::string WindowSession::Type(int events) {
     for (int i = 0; i < events; ++i) {
         OpenIfClosed();
         typed_.Do();
-        if (std::string complaint = LookAround(); !complaint.empty())
+        if (std::string complaint = LookAround(WindowWatch::Events::Typed); !complaint.empty())
             return After(i + 1, complaint, " a " + typed_.Last());
     }
     return {};

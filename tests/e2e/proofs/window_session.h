@@ -29,7 +29,7 @@ class WindowSession {
     const Attendant& Messages() const { return attendant_; }
 
   private:
-    std::string LookAround();
+    std::string LookAround(WindowWatch::Events events);
     void OpenIfClosed();
 
     Host& host_;

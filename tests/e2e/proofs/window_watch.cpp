@@ -60,11 +60,12 @@ std::string Describe(LRESULT differs) {
 }
 
 /// What a form and its controls show otherwise than they say. On the thread of the windows.
-std::string Disagreement(const Window& form) {
+std::string Disagreement(const Window& form, WindowWatch::Events events) {
     std::vector<Window> windows = form.Controls();
     windows.push_back(form);
     for (const Window& window : windows) {
-        const LRESULT differs = SendMessageW(window.Handle(), win32::DisagreementQuestion, 0, 0);
+        LRESULT differs = SendMessageW(window.Handle(), win32::DisagreementQuestion, 0, 0);
+        if (events == WindowWatch::Events::Sent) differs &= ~win32::disagreement::Focus;
         if (differs != 0) return form.Name() + "." + window.Name() + " differs in" + Describe(differs);
     }
     return {};
@@ -80,7 +81,7 @@ bool IsBusy() {
 
 }  // namespace
 
-std::string WindowWatch::Complaint() {
+std::string WindowWatch::Complaint(Events events) {
     std::vector<Seen> seen;
     host_.Call([&] { EnumWindows(See, reinterpret_cast<LPARAM>(&seen)); });
     std::set<HWND> open;
@@ -98,11 +99,11 @@ std::string WindowWatch::Complaint() {
         if (!window.isEnabled) return window.name + " is disabled and nobody will enable it";
     }
     if (std::string complaint = WronglyEnabled(seen); !complaint.empty()) return complaint;
-    return host_.Call([] {
+    return host_.Call([events] {
         std::string difference;
         if (IsBusy()) return difference;
         for (const Window& form : OpenForms()) {
-            if (difference.empty()) difference = Disagreement(form);
+            if (difference.empty()) difference = Disagreement(form, events);
         }
         return difference;
     });

@@ -12,9 +12,13 @@ class WindowWatch {
   public:
     explicit WindowWatch(Host& host) : host_(host) {}
 
+    /// Whether the events were the system's own. Messages that others send tell of a focus that the system
+    /// has elsewhere.
+    enum class Events { Sent, Typed };
+
     /// Has the host's thread answer, and looks.
     /// \return what is wrong; empty when nothing is
-    std::string Complaint();
+    std::string Complaint(Events events);
 
     /// How many windows have been opened as far as was seen.
     int Openings() const { return openings_; }
