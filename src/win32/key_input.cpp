@@ -47,14 +47,17 @@ KeyRoute KeyInput::Handle(forms::Form& form, const Message& message) {
 }
 
 KeyRoute KeyInput::OnKeyDown(forms::Form& form, const Message& message) {
+    const unsigned thisKey = ++keysDown_;
     dropCharacter_ = false;
     if (message.wParam == VK_PROCESSKEY) return KeyRoute::Native;  // an input method's own
     // A handler may show a message, whose loop would bring the character here before the handler has ended.
     dropCharacter_ = true;
     if (IsRepeatedEscape(message)) return KeyRoute::Dealt;
     const auto outcome = form.HandleKeyDown(static_cast<int>(message.wParam), HeldModifiers());
-    dropCharacter_ = outcome == forms::KeyOutcome::Done;
-    return dropCharacter_ || OpensMenu(message.wParam) ? KeyRoute::Dealt : KeyRoute::Native;
+    const bool isDone = outcome == forms::KeyOutcome::Done;
+    // Where that loop has brought other keys too, the character that comes next is the last one's.
+    if (keysDown_ == thisKey) dropCharacter_ = isDone;
+    return isDone || OpensMenu(message.wParam) ? KeyRoute::Dealt : KeyRoute::Native;
 }
 
 KeyRoute KeyInput::OnKeyUp(const Message& message) {

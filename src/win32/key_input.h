@@ -50,6 +50,7 @@ class KeyInput {
     KeyRoute OnSystemCharacter(forms::Form& form, const Message& message);
 
     bool dropCharacter_ = false;
+    unsigned keysDown_ = 0;      ///< so far
     wchar_t highSurrogate_ = 0;  ///< held back, until its other half has come
     bool isInsideCharacter_ = false;
 };

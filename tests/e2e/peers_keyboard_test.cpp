@@ -1,6 +1,7 @@
 // Keys, characters and the focus on their way from the platform to the model and back, in both kinds of
 // loops.
 
+#include "e2e/driver/screen.h"
 #include "e2e/peers_test.h"
 
 namespace tavrin::e2e {
@@ -72,6 +73,23 @@ TEST_P(PeersKeyboardTest, TheCharacterOfAKeyThatMovesTheFocusGoesNowhere) {
     EXPECT_EQ(Call([&] { return form->inner.Text(); }), "w");
 }
 
+TEST_P(PeersKeyboardTest, AHandlersOwnLoopLosesNoCharacter) {
+    bool ended = false;
+    Call([&] {
+        form->field.onKeyDown = [&](int& code, forms::Modifiers) {
+            ended = code == 'B';
+            if (code != 'Q') return;
+            code = 0;
+            for (MSG message{}; !ended && GetMessageW(&message, nullptr, 0, 0) > 0;) {
+                TranslateMessage(&message);
+                DispatchMessageW(&message);
+            }
+        };
+    });
+    Type("qabc");
+    EXPECT_EQ(Call([&] { return form->field.Text(); }), "abc");
+}
+
 TEST_P(PeersKeyboardTest, ASetTextPutsTheCaretFirstAndStaysEditable) {
     Type("old");
     Call([&] { form->field.SetText("new"); });
@@ -113,6 +131,51 @@ TEST_P(PeersKeyboardTest, EnterSpaceAcceleratorAndMouseClickAButton) {
     ClickOn("cmdStop");
     EXPECT_EQ(clicks, 4);
     EXPECT_EQ(Call([&] { return form->field.Text(); }), "");
+}
+
+/// The display says which keys are down whenever the pointer finds another window beneath it.
+TEST_P(PeersKeyboardTest, AChordStaysWholeWhileWindowsComeAndGo) {
+    constexpr int Rounds = 40;
+    int clicks = 0;
+    HWND other = nullptr;
+    const RECT place = window.ScreenBounds();
+    MovePointer(window.Center());
+    Call([&] {
+        form->button.onClick = [&] { ++clicks; };
+        other = CreateWindowExW(WS_EX_TOPMOST, L"STATIC", L"", WS_POPUP, place.left, place.top,
+                                window.Width(), window.Height(), nullptr, nullptr, nullptr, nullptr);
+    });
+    const auto flicker = [&other] {
+        for (const int state : {SW_SHOWNA, SW_HIDE, SW_SHOWNA, SW_HIDE, SW_SHOWNA, SW_HIDE}) {
+            ShowWindow(other, state);
+            AskDisplay();
+            MSG next{};
+            PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE);
+        }
+    };
+    for (int round = 0; round < Rounds; ++round) {
+        ui.Post(flicker);
+        PressKey('O', {VK_MENU});
+    }
+    EXPECT_TRUE(WaitUntil([&] { return Call([&] { return clicks; }) == Rounds; })) << clicks;
+    Call([&] { DestroyWindow(other); });
+}
+
+TEST_P(PeersKeyboardTest, TheKeyboardComesBackFromMessagesThatAreAnsweredAtOnce) {
+    constexpr int Rounds = 40;
+    int clicks = 0;
+    Call([&] {
+        form->button.onClick = [&] {
+            ++clicks;
+            MessageBoxW(GetActiveWindow(), L"Opreste ?", L"Sample", MB_OK | MB_TOPMOST);
+        };
+    });
+    for (int round = 0; round < Rounds; ++round) {
+        PressKey('O', {VK_MENU});
+        PressKey(VK_RETURN);
+    }
+    EXPECT_TRUE(WaitUntil([&] { return Call([&] { return clicks; }) == Rounds; })) << clicks;
+    EXPECT_TRUE(AwaitFocus("cmdStop"));
 }
 
 TEST_P(PeersKeyboardTest, AltAndF10OpenNoMenu) {

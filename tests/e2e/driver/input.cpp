@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "e2e/driver/screen.h"
 #include "e2e/driver/wait.h"
 
 namespace tavrin::e2e {
@@ -51,15 +52,21 @@ void Send(std::vector<INPUT> inputs) {
     if (sent != inputs.size()) throw DriverError("the system took no input");
 }
 
+/// Sends keys of which some are held for others. A display tells a window that the pointer enters or that the
+/// keyboard comes to, as when a message closes over it, which keys are down; and these it has never heard of.
+/// Wine then lets go of them, between one key of the chord and the next. A user's keys come from the display,
+/// and stay down: so here no thread listens to it until the chord is complete.
+void SendChord(std::vector<INPUT> inputs) {
+    UiThread::HoldAll([&] { Send(std::move(inputs)); });
+}
+
 /// Moves the pointer and waits until the windows' threads know. The display tells them in its own time of
 /// where the pointer has been put; a button pressed before that would go down at the place before.
 void Point(POINT place) {
     constexpr int RoundTrips = 3;  // a display that serves several clients has then come round to each
     Send({MoveInput(place)});
-    const HDC screen = GetDC(nullptr);
     for (int trip = 0; trip < RoundTrips; ++trip)
-        GetPixel(screen, 0, 0);
-    ReleaseDC(nullptr, screen);
+        AskDisplay();
     UiThread::SettleAll();
 }
 
@@ -73,7 +80,7 @@ void PressKey(WORD key, std::initializer_list<WORD> held) {
     inputs.push_back(KeyInput(key, Stroke::Up));
     for (const WORD modifier : held)
         inputs.push_back(KeyInput(modifier, Stroke::Up));
-    Send(std::move(inputs));
+    held.size() == 0 ? Send(std::move(inputs)) : SendChord(std::move(inputs));
 }
 
 void TypeText(std::string_view text) {

@@ -89,4 +89,9 @@ void SaveScreenshot(const std::string& name) {
     stream.write(reinterpret_cast<const char*>(picture.pixels.data()), static_cast<std::streamsize>(size));
 }
 
+void AskDisplay() {
+    const ScreenDc screen;
+    GetPixel(screen.Get(), 0, 0);
+}
+
 }  // namespace tavrin::e2e

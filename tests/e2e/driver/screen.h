@@ -17,4 +17,7 @@ void SaveScreenshot(const std::string& name);
 /// Where screenshots go: a Windows path, empty for none. Set once, before the tests run.
 void SetScreenshotFolder(std::wstring folder);
 
+/// Waits for the display's answer to a question; whatever it had to tell this thread before has come with it.
+void AskDisplay();
+
 }  // namespace tavrin::e2e

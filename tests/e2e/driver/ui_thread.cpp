@@ -68,6 +68,28 @@ bool TakeInputFirst(MSG& message) {
     }
 }
 
+/// Hears of the focus before each key. A display tells in its own time where the keyboard has gone. Where
+/// windows open and close faster than that, Wine takes old news for new, and no window has the keyboard any
+/// more; keys that were all typed in advance are as fast as that.
+class NewsOfDisplayFirst {
+  public:
+    NewsOfDisplayFirst()
+        : hook_(SetWindowsHookExW(WH_GETMESSAGE, &NewsOfDisplayFirst::Hook, nullptr, GetCurrentThreadId())) {}
+    ~NewsOfDisplayFirst() { UnhookWindowsHookEx(hook_); }
+    NewsOfDisplayFirst(const NewsOfDisplayFirst&) = delete;
+    NewsOfDisplayFirst& operator=(const NewsOfDisplayFirst&) = delete;
+
+  private:
+    static LRESULT CALLBACK Hook(int code, WPARAM wParam, LPARAM lParam) {
+        const UINT message = reinterpret_cast<const MSG*>(lParam)->message;
+        const bool isKey = message >= WM_KEYFIRST && message <= WM_KEYLAST;
+        if (code == HC_ACTION && wParam == PM_REMOVE && isKey) AskDisplay();
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    HHOOK hook_;
+};
+
 /// A host's own shortcuts, for its own windows alone.
 class Accelerators {
   public:
@@ -114,6 +136,7 @@ void UiThread::Run(LoopKind kind, HANDLE ready) {
     SetEvent(ready);
 
     const Accelerators accelerators;
+    const NewsOfDisplayFirst newsOfDisplayFirst;
     MSG message{};
     while (kind == LoopKind::Filtering ? TakeInputFirst(message) : GetMessageW(&message, nullptr, 0, 0) > 0) {
         if (kind == LoopKind::Dialog && TakenByDialog(message)) continue;
@@ -197,6 +220,15 @@ void UiThread::Settle() {
 void UiThread::SettleAll() {
     for (UiThread* thread : Running())
         thread->Settle();
+}
+
+void UiThread::HoldAll(const std::function<void()>& function) {
+    HoldFrom(0, function);
+}
+
+void UiThread::HoldFrom(std::size_t first, const std::function<void()>& function) {
+    if (first == Running().size()) return function();
+    Running()[first]->Execute([&] { HoldFrom(first + 1, function); });
 }
 
 }  // namespace tavrin::e2e

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cstddef>
 #include <deque>
 #include <exception>
 #include <functional>
@@ -54,8 +55,12 @@ class UiThread {
     /// Waits so for every thread there is.
     static void SettleAll();
 
+    /// Runs a function while every thread there is stands still.
+    static void HoldAll(const std::function<void()>& function);
+
   private:
     void Run(LoopKind kind, HANDLE ready);
+    static void HoldFrom(std::size_t first, const std::function<void()>& function);
     void Execute(const std::function<void()>& function);
     void Knock();
     void RunNext();
