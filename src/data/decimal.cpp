@@ -225,8 +225,8 @@ std::optional<std::uint64_t> Millionths(double magnitude) {
     constexpr double Million = PowersOfTen[MillionthPlaces];
     const double scaled = magnitude * Million;
     if (!(scaled < PowersOfTen[SafeDigits])) return std::nullopt;
-    // NOLINTNEXTLINE(bugprone-incorrect-roundings): never negative, and a tie is none of the numbers looked
-    // for
+    // Never negative, and a tie is none of the numbers looked for.
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings)
     const auto nearest = static_cast<std::int64_t>(scaled + 0.5);
     const double off = std::fabs(magnitude - static_cast<double>(nearest) / Million);
     if (off > magnitude * SafelyNear) return std::nullopt;

@@ -26,16 +26,16 @@ void Control::SetBounds(const Rect& bounds) {
 void Control::SetVisible(bool visible) {
     if (visible_ == visible) return;
     visible_ = visible;
-    HandleCaptureLost();
     Notify(Aspect::Visible);
+    OwnerForm().EndPressOfUnavailable();
     OwnerForm().LeaveUnfocusable();
 }
 
 void Control::SetEnabled(bool enabled) {
     if (enabled_ == enabled) return;
     enabled_ = enabled;
-    HandleCaptureLost();
     Notify(Aspect::Enabled);
+    OwnerForm().EndPressOfUnavailable();
     OwnerForm().LeaveUnfocusable();
 }
 

@@ -43,7 +43,7 @@ void Desktop::EndMessage() noexcept {
 }
 
 void Desktop::ReconcileForms() noexcept {
-    // By number: what the platform tells meanwhile may close a form.
+    // NOLINTNEXTLINE(modernize-loop-convert): what the platform tells meanwhile may close a form
     for (std::size_t i = 0; i < forms_.size(); ++i)
         forms_[i]->Reconcile();
 }

@@ -198,6 +198,13 @@ void Form::FocusNeighbour(int step) {
     }
 }
 
+void Form::EndPressOfUnavailable() {
+    for (Control* control : AllControls()) {
+        if (!control->IsEffectivelyEnabled() || !control->IsEffectivelyVisible())
+            control->HandleCaptureLost();
+    }
+}
+
 void Form::LeaveUnfocusable() {
     if (activeControl_ == nullptr || unloading_ || activeControl_->CanTakeFocus()) return;
     Control* left = activeControl_;

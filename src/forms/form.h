@@ -132,6 +132,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     void MoveFocus(Control& control);
     void FocusFirst();
     void FocusNeighbour(int step);
+    /// What was hidden or disabled, itself or with what it stands in, is not pressed any more.
+    void EndPressOfUnavailable();
     /// Moves the focus on when its control was hidden or disabled.
     void LeaveUnfocusable();
     int NextTabIndex() { return nextTabIndex_++; }

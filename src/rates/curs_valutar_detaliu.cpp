@@ -245,9 +245,12 @@ void CursValutarDetaliu::txtCursValutar_KeyDown(int& keyCode) {
 }
 
 void CursValutarDetaliu::txtCursValutar_KeyPress(char32_t& character) {
-    if (character == key::Backspace) return;
+    // Backspace, and what the platform's field makes of Ctrl and a letter: copying, pasting, taking back.
+    // None of them is a character of the text.
+    if (character < U' ') return;
     if (IsDigit(character) && HasRoomForDigit()) return;
-    if (IsDigit(character)) OwnerDesktop().Beep();
+    // Who types a comma must not take 95 for 9,5.
+    OwnerDesktop().Beep();
     character = 0;
 }
 

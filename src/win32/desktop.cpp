@@ -114,6 +114,12 @@ void Desktop::HoldWindows() {
     heldWindows_.Hold();
 }
 
+HWND Desktop::OwnerOfDialog(const forms::Form& form) {
+    const HWND owner = OwnerOfMessage(*this, WindowOf(form));
+    heldWindows_.HoldActiveBut(owner);
+    return owner;
+}
+
 void Desktop::ReleaseWindows() noexcept {
     heldWindows_.Release();
 }

@@ -45,6 +45,9 @@ class Desktop final : public forms::Desktop {
     /// Between screen pixels and the twips of forms' places.
     Scale ScreenScale() const;
 
+    /// What a dialog of a form is to be shown before.
+    HWND OwnerOfDialog(const forms::Form& form);
+
   protected:
     void HoldWindows() override;
     void ReleaseWindows() noexcept override;

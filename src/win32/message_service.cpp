@@ -65,7 +65,7 @@ DISPID FirstOperation(IDispatch& object) {
 
 }  // namespace
 
-MessageService::MessageService(forms::Desktop& desktop) : desktop_(desktop), service_(CreateService()) {}
+MessageService::MessageService(const Desktop& desktop) : desktop_(desktop), service_(CreateService()) {}
 
 int MessageService::ShowMessage(const std::string& prompt, int icon, int buttons, const std::string& title) {
     return service_ ? ShowByService(prompt, icon, buttons, title)

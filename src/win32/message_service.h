@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "forms/desktop.h"
 #include "shell/message_service.h"
 #include "win32/ado/dispatch_object.h"
+#include "win32/desktop.h"
 
 namespace tavrin::win32 {
 
@@ -15,7 +15,7 @@ namespace tavrin::win32 {
 class MessageService : public shell::MessageService {
   public:
     /// Makes the external object, if its class is registered.
-    explicit MessageService(forms::Desktop& desktop);
+    explicit MessageService(const Desktop& desktop);
 
     int ShowMessage(const std::string& prompt, int icon, int buttons, const std::string& title) override;
 
@@ -23,7 +23,7 @@ class MessageService : public shell::MessageService {
     int ShowByService(const std::string& prompt, int icon, int buttons, const std::string& title) const;
     int ShowByPlatform(const std::string& prompt, int icon, int buttons, const std::string& title) const;
 
-    forms::Desktop& desktop_;
+    const Desktop& desktop_;
     DispatchObject service_;
 };
 

@@ -53,6 +53,13 @@ void HeldWindows::Hold() {
         EnableWindow(window, FALSE);
 }
 
+void HeldWindows::HoldActiveBut(HWND owner) {
+    const HWND active = GetActiveWindow();
+    if (active == nullptr || active == owner || !TakesInput(active)) return;
+    windows_.push_back(active);
+    EnableWindow(active, FALSE);
+}
+
 void HeldWindows::Release() noexcept {
     for (const HWND window : windows_)
         EnableWindow(window, TRUE);

@@ -11,11 +11,11 @@
 
 #include "data/error.h"
 #include "forms/form.h"
+#include "win32/desktop.h"
 #include "win32/dpi.h"
 #include "win32/form_peer.h"
 #include "win32/handles.h"
 #include "win32/library.h"
-#include "win32/modality.h"
 #include "win32/text.h"
 
 namespace tavrin::win32 {
@@ -43,7 +43,8 @@ class CommonDialogs {
 };
 
 HWND OwnerOfDialog(const forms::Form& form) {
-    return OwnerOfMessage(form.OwnerDesktop(), WindowOf(form));
+    // The forms of the process stand on its one screen.
+    return static_cast<Desktop&>(form.OwnerDesktop()).OwnerOfDialog(form);
 }
 
 /// "Note|*.rtf" as the platform wants it: each piece ends with a null, and a further one ends them all.

@@ -328,10 +328,10 @@ TEST_P(CalculatorTest, SettingsThatChangeReachTheNextCalculatorAndNotTheOpenOne)
     ExpectShown("1.234,50", "1.234,50");
     Reopen();
     TypeKeys("1234.5+0=");
-    const std::string expected = changed.Decimal() == L"." ? "1,234.50" : "1.234,50";
+    const std::string expected = UserSeparators::Decimal() == L"." ? "1,234.50" : "1.234,50";
     EXPECT_TRUE(WaitUntil([&] { return ShownIn("ValLei") == expected; })) << ShownIn("ValLei");
     EXPECT_EQ(ReadAccessible(host->Ui(), calculator.Control("Decimal")).name,
-              changed.Decimal() == L"." ? "." : ",");
+              UserSeparators::Decimal() == L"." ? "." : ",");
 }
 
 INSTANTIATE_TEST_SUITE_P(Locales, CalculatorTest, testing::Values(Romanian, English),

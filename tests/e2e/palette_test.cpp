@@ -233,5 +233,17 @@ std::string NameOfLoop(const testing::TestParamInfo<LoopKind>& loop) {
 INSTANTIATE_TEST_SUITE_P(AnyLoop, PaletteTest,
                          testing::Values(LoopKind::Plain, LoopKind::Dialog, LoopKind::Filtering), NameOfLoop);
 
+TEST_P(PaletteTest, ARepeatedEscapeLeavesTheNextWindowAlone) {
+    constexpr LPARAM First = 1;
+    constexpr LPARAM Repeated = First | LPARAM{1} << 30;
+    const Window opened = OpenPalette();
+    const HWND button = opened.Control("cmdAction(2)").Handle();
+    PostMessageW(button, WM_KEYDOWN, VK_ESCAPE, Repeated);
+    host->Ui().Settle();
+    EXPECT_TRUE(opened.IsVisible());
+    PostMessageW(button, WM_KEYDOWN, VK_ESCAPE, First);
+    EXPECT_TRUE(AwaitClosed("Utilitati"));
+}
+
 }  // namespace
 }  // namespace tavrin::e2e

@@ -4,6 +4,7 @@
 #include <oleacc.h>
 
 #include "e2e/driver/accessible_reader.h"
+#include "e2e/driver/clipboard.h"
 #include "e2e/host_test.h"
 #include "win32/number_format.h"
 
@@ -49,6 +50,25 @@ class RateWindowsTest : public HostTest {
 };
 
 // The entry of a day.
+
+TEST_F(RateWindowsTest, ARateIsPastedByKeyboardAndALongerOneIsRefused) {
+    OpenEntry();
+    PressKey(VK_RETURN);
+    const auto paste = [this](const std::string& text) {
+        ASSERT_TRUE(AwaitFocus("txtCursValutar"));
+        host->Call([&] { PutOnClipboard(text); });
+        PressKey('V', {VK_CONTROL});
+        PressKey(VK_RETURN);
+    };
+    paste("1000000000000000");
+    ExpectMessage("Valoarea poate avea cel mult 15 cifre !", MessageIcon::Information,
+                  "Curs Valutar - Adaugare", {IDOK}, IDOK);
+    paste("37500");
+    ASSERT_TRUE(AwaitFocus("txtCursValutar"));
+    host->Ui().Settle();
+    const TableTexts cells = ReadTable(host->Ui(), AwaitForm("CursValutarDetaliu").Control("Grid"));
+    EXPECT_EQ(cells[1][1], "37,500");
+}
 
 TEST_F(RateWindowsTest, ADayIsAddedByKeyboardAlone) {
     const Window entry = OpenEntry();
@@ -113,7 +133,7 @@ TEST_F(RateWindowsTest, TheWheelTakesTheEditorAlongWithItsCell) {
     const Window grid = entry.Control("Grid");
     const Window editor = entry.Control("txtCursValutar");
     const auto valueCell = [&](int row) {
-        return ReadParts(host->Ui(), grid)[static_cast<std::size_t>(2 * row + 1)].place;
+        return ReadParts(host->Ui(), grid)[2 * static_cast<std::size_t>(row) + 1].place;
     };
     const auto roll = [&](int notches) {
         SendMessageW(grid.Handle(), WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(notches * WHEEL_DELTA)),

@@ -58,9 +58,10 @@ std::string ControlDisagreement(const forms::Form& form) {
 }
 
 std::string FormDisagreement(const HeadlessDesktop& desktop, const forms::Form& form) {
-    if (desktop.IsWindowEnabled(form) != form.AcceptsInput())
+    if (desktop.IsWindowEnabled(form) != form.AcceptsInput()) {
         return form.Name() + (form.AcceptsInput() ? " takes input and its window none"
                                                   : " takes no input and its window does");
+    }
     if (desktop.IsWindowVisible(form) != form.Visible()) return form.Name() + " is not what is in sight";
     const forms::Control* active = form.ActiveControl();
     if (active != nullptr && !active->CanTakeFocus())

@@ -153,8 +153,20 @@ TEST_F(CursValutarDetaliuTest, OnlyDigitsCanBeTyped) {
     OpenToAdd();
     keyboard.Type("\r1a2.3,4-5+6 7e8");
     EXPECT_EQ(EditorText(), "12345678");
+    EXPECT_EQ(desktop.beeps, 8);
     keyboard.Type("\b");
     EXPECT_EQ(EditorText(), "1234567");
+}
+
+TEST_F(CursValutarDetaliuTest, TheFieldsOwnCommandsReachIt) {
+    CursValutarDetaliu& entry = OpenToAdd();
+    keyboard.Type("\r");
+    for (char32_t command : {U'\x3', U'\x16', U'\x18', U'\x1A'}) {
+        const char32_t typed = command;
+        entry.txtCursValutar.onKeyPress(command);
+        EXPECT_EQ(command, typed) << "Ctrl and a letter";
+    }
+    EXPECT_EQ(desktop.beeps, 0);
 }
 
 TEST_F(CursValutarDetaliuTest, AValueIsShownInThousandsAndStoredPlain) {
