@@ -153,7 +153,7 @@ TEST_F(CursValutarDetaliuTest, OnlyDigitsCanBeTyped) {
     OpenToAdd();
     keyboard.Type("\r1a2.3,4-5+6 7e8");
     EXPECT_EQ(EditorText(), "12345678");
-    EXPECT_EQ(desktop.beeps, 8);
+    EXPECT_EQ(desktop.beeps, 7);
     keyboard.Type("\b");
     EXPECT_EQ(EditorText(), "1234567");
 }
