@@ -138,7 +138,10 @@ LRESULT ComboPeer::Disagreement() const {
     LRESULT differs = ControlWindow::Disagreement();
     // While the list is open the platform's choice is the user's on the way to one.
     if (IsOpen()) return differs;
-    if (SelectedIndex() != control_.ListIndex()) differs |= disagreement::Selection;
+    // Beside a field that is typed into, the platform keeps the entry that was chosen last; the text counts
+    // there.
+    const bool isTyped = control_.Style() == forms::ComboStyle::DropDown;
+    if (!isTyped && SelectedIndex() != control_.ListIndex()) differs |= disagreement::Selection;
     if (edit_.Handle() != nullptr && ReadText(edit_.Handle()) != control_.Text())
         differs |= disagreement::Text;
     return differs;
