@@ -1,25 +1,38 @@
 # Sourced by ./test: runs checks and test programs, prints one line for each, and adds up what passed and failed.
+# Several may run at the same time, each in a shell of its own: what they count goes through a file.
 # shellcheck shell=bash
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
-passed=0
-failed=0
 logs=$build/test
+tally=$logs/tally
 
-# line NAME STATUS SECONDS
-line() { printf '%-24s %-32s %4d s\n' "$1" "$2" "$3"; }
+# Before anything is counted.
+begin_tally() {
+    mkdir -p "$logs"
+    : >"$tally"
+}
+
+# add PASSED FAILED
+add() { echo "$1 $2" >>"$tally"; }
+
+# line NAME STATUS SECONDS [OUTPUT]: with what is to be seen of its output below it, in one piece.
+line() {
+    local text
+    text=$(printf '%-24s %-32s %4d s' "$1" "$2" "$3")
+    [[ -z ${4:-} ]] || text+=$(printf '\n    %s' "${4//$'\n'/$'\n    '}")
+    printf '%s\n' "$text"
+}
 
 # check NAME COMMAND...: one test; passes when the command does. Its output is shown when it fails.
 check() {
     local name=$1 log=$logs/$1.log start=$SECONDS
     shift
     if "$@" >"$log" 2>&1 </dev/null; then
-        passed=$((passed + 1))
+        add 1 0
         line "$name" ok $((SECONDS - start))
     else
-        failed=$((failed + 1))
-        line "$name" FAILED $((SECONDS - start))
-        tail -n 60 "$log" | sed 's/^/    /'
+        add 0 1
+        line "$name" FAILED $((SECONDS - start)) "$(tail -n 60 "$log")"
         return 1
     fi
 }
@@ -34,7 +47,7 @@ figures() {
 
 # not_run NAME: what could not even start has failed.
 not_run() {
-    failed=$((failed + 1))
+    add 0 1
     line "$1" 'FAILED: not run' 0
 }
 
@@ -59,7 +72,7 @@ failing_output() {
          /^\[       OK \]/ { open = 0 }
          /^\[  FAILED  \]/ && open { printf "%s", text; open = 0 }
          !open && /error: |runtime error|ERROR: / { print }
-         END { if (open) printf "%s", text }' "$logs/$1.log" | tail -n 200 | sed 's/^/    /'
+         END { if (open) printf "%s", text }' "$logs/$1.log" | tail -n 200
 }
 
 # count_program NAME: adds up a program that run_program has run. Tests that were skipped or disabled did not pass.
@@ -81,20 +94,20 @@ count_program() {
         bad=$(($(grep -c '^\[  FAILED  \].*ms)' "$logs/$name.log" || true) + 1))
         note="crashed or hung ($code)"
     fi
-    passed=$((passed + ran))
-    failed=$((failed + bad))
+    add "$ran" "$bad"
     if [[ $bad -eq 0 ]]; then
         line "$name" "$ran passed" "$seconds"
         return
     fi
-    line "$name" "FAILED: $bad of $((ran + bad))${note:+, $note}" "$seconds"
-    failing_output "$name"
-    [[ -z $note ]] || tail -n 30 "$logs/$name.log" | sed 's/^/    /'
+    line "$name" "FAILED: $bad of $((ran + bad))${note:+, $note}" "$seconds" \
+        "$(failing_output "$name" && { [[ -z $note ]] || tail -n 30 "$logs/$name.log"; })"
     return 1
 }
 
 # The last line; fails when something failed or nothing ran.
 summary() {
+    local passed failed
+    read -r passed failed < <(awk '{ passed += $1; failed += $2 } END { print passed + 0, failed + 0 }' "$tally")
     echo "$passed passed, $failed failed"
     [[ $failed -eq 0 && $passed -gt 0 ]]
 }
