@@ -102,12 +102,15 @@ void DrawnPeer::Press(const forms::MouseInput& input) {
     SetCapture(Handle());
     const bool goesOn = control_.HandleMouseDown(input);
     if (!goesOn && GetCapture() == Handle()) ReleaseCapture();
+    // A window that becomes the active one on the way takes the mouse from all others.
+    if (control_.IsPressed() && GetCapture() != Handle()) SetCapture(Handle());
 }
 
 void DrawnPeer::Release(const Message& message) {
-    // Before the model acts: a click may well show a message.
+    // Before the model acts: a click may well show a message. The left button's release ends the press in the
+    // model itself; when the last button to go up is another one, the press ends with the mouse.
     if (!IsAnyButtonHeld(message) && GetCapture() == Handle()) {
-        isReleasing_ = true;
+        isReleasing_ = message.id == WM_LBUTTONUP;
         ReleaseCapture();
         isReleasing_ = false;
     }

@@ -243,8 +243,12 @@ LRESULT EditPeer::OnMouse(const Message& message) {
 }
 
 LRESULT EditPeer::OnRelease(const Message& message) {
+    // The model ends the press itself when the left button goes up. A menu that another button opens takes
+    // the mouse.
+    isReleasing_ = message.id == WM_LBUTTONUP;
     // A press that came to nothing, as the field was not to have the focus, opens no menu either.
     const LRESULT answer = std::exchange(holdsPress_, false) ? CallDefault(message) : 0;
+    isReleasing_ = false;
     ReportSelection();
     TellModelOfMouse(message);
     return answer;
@@ -252,7 +256,8 @@ LRESULT EditPeer::OnRelease(const Message& message) {
 
 LRESULT EditPeer::OnCaptureChanged(const Message& message) {
     const LRESULT answer = CallDefault(message);
-    if (std::exchange(holdsPress_, false)) control_.HandleCaptureLost();
+    holdsPress_ = false;
+    if (!isReleasing_) control_.HandleCaptureLost();
     return answer;
 }
 

@@ -49,6 +49,7 @@ class EditPeer final : public ControlWindow {
     /// Set while the model's state is written into the field, whose notifications are no news then.
     bool isShowing_ = false;
     bool holdsPress_ = false;  ///< a button of the mouse went down here and is the field's to act on
+    bool isReleasing_ = false;
 };
 
 }  // namespace tavrin::win32

@@ -180,8 +180,12 @@ LRESULT RichEditPeer::OnMouse(const Message& message) {
 }
 
 LRESULT RichEditPeer::OnRelease(const Message& message) {
+    // The model ends the press itself when the left button goes up. A menu that another button opens takes
+    // the mouse.
+    isReleasing_ = message.id == WM_LBUTTONUP;
     // A press that came to nothing, as the editor was not to have the focus, opens no menu either.
     const LRESULT answer = std::exchange(holdsPress_, false) ? CallDefault(message) : 0;
+    isReleasing_ = false;
     TellModelOfMouse(message);
     ReportSelection();
     return answer;
@@ -189,7 +193,8 @@ LRESULT RichEditPeer::OnRelease(const Message& message) {
 
 LRESULT RichEditPeer::OnCaptureChanged(const Message& message) {
     const LRESULT answer = CallDefault(message);
-    if (std::exchange(holdsPress_, false)) control_.HandleCaptureLost();
+    holdsPress_ = false;
+    if (!isReleasing_) control_.HandleCaptureLost();
     return answer;
 }
 

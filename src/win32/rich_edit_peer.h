@@ -46,6 +46,7 @@ class RichEditPeer final : public ControlWindow, public forms::RichTextEditor {
     forms::RichTextBox& control_;
     mutable std::optional<bool> writesEveryLetter_;
     bool holdsPress_ = false;  ///< a button of the mouse went down here and is the editor's to act on
+    bool isReleasing_ = false;
 };
 
 }  // namespace tavrin::win32

@@ -411,6 +411,26 @@ TEST_F(NotesTest, CancelledDialogsChangeNothing) {
     EXPECT_THAT(folder.Names(), IsEmpty());
 }
 
+// An assistive tool presses a button of a window that is not the active one: the window that is active waits
+// too.
+TEST_F(NotesTest, TheActiveWindowWaitsUnderTheDialogOfAnother) {
+    Open();
+    const Window palette = AwaitForm("Utilitati");
+    Click(palette.Control("Label4"));
+    Require("the palette in use", [&] { return GetForegroundWindow() == palette.Handle(); });
+    host->Ui().Post([this] {
+        VARIANT self{};
+        self.vt = VT_I4;
+        OpenAccessible(ButtonOf(Save))->accDoDefaultAction(self);
+    });
+    const PlatformDialog dialog = PlatformDialog::AwaitOf(window);
+    EXPECT_FALSE(window.IsEnabled());
+    EXPECT_FALSE(palette.IsEnabled());
+    dialog.Cancel();
+    ExpectUsable();
+    EXPECT_TRUE(palette.IsEnabled());
+}
+
 // Files.
 
 TEST_F(NotesTest, WrittenFormattedSavedEmptiedAndLoaded) {

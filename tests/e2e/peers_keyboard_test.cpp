@@ -191,6 +191,22 @@ TEST_P(PeersKeyboardTest, AltF4ClosesTheForm) {
     EXPECT_TRUE(IsGone());
 }
 
+// A program may say of the last button to go up that it is not the left one: nobody would tell of the left
+// one's release.
+TEST_P(PeersKeyboardTest, APressEndsWithTheMouse) {
+    const HWND button = Control("cmdStop").Handle();
+    int clicks = 0;
+    Call([&] {
+        form->button.onClick = [&] { ++clicks; };
+        SendMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    });
+    EXPECT_TRUE(Call([&] { return form->button.IsPressed(); }));
+    Call([&] { SendMessageW(button, WM_MBUTTONUP, 0, MAKELPARAM(5, 5)); });
+    EXPECT_FALSE(Call([&] { return form->button.IsPressed(); }));
+    Call([&] { SendMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(5, 5)); });
+    EXPECT_EQ(Call([&] { return clicks; }), 0);
+}
+
 TEST_P(PeersKeyboardTest, ADisabledFrameGivesItsFocusAway) {
     Call([&] { form->inner.SetFocus(); });
     Call([&] { form->frame.SetEnabled(false); });
