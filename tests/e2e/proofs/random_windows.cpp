@@ -18,7 +18,6 @@
 #include "e2e/driver/process.h"
 #include "e2e/driver/program_path.h"
 #include "e2e/driver/screen.h"
-#include "e2e/driver/tour.h"
 #include "e2e/driver/wait.h"
 #include "e2e/proofs/footprint.h"
 #include "e2e/proofs/host_libraries.h"
@@ -84,7 +83,6 @@ int Report(const std::string& complaint) {
 int Run(const Options& options) {
     const HostLibraries libraries;
     Host host;
-    PrepareForTour(host);
     if (const std::string complaint = WarmUp(host, options); !complaint.empty())
         return Report("in the warm-up, " + complaint);
     const Footprint before = Footprint::Take();
