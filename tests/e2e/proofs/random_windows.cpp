@@ -75,7 +75,7 @@ void PrintMessages(const Attendant& attendant) {
 
 int Report(const std::string& complaint) {
     if (complaint.empty()) return 0;
-    SaveScreenshot("random_windows");
+    std::printf("Its picture: %s\n", SaveScreenshot("random_windows").c_str());
     std::printf("FAILED: %s\n", complaint.c_str());
     return 1;
 }
