@@ -17,9 +17,9 @@ endif()
 
 # tavrin_optimize_for_speed(<source>...): sources of the current folder whose loops run over pixels, cells or keys.
 function(tavrin_optimize_for_speed)
-  if(MINGW)
+  if(MINGW AND CMAKE_BUILD_TYPE STREQUAL Release)
     set_source_files_properties(${ARGN} PROPERTIES
-      COMPILE_OPTIONS "$<$<CONFIG:Release>:-O2>"
+      COMPILE_OPTIONS -O2
       SKIP_PRECOMPILE_HEADERS ON)  # which are compiled with -Os
   endif()
 endfunction()

@@ -18,6 +18,12 @@ die() {
     exit 1
 }
 
+# print_usage SCRIPT: the comment at its beginning.
+print_usage() { sed -n '2,/^[^#]/s/^# \{0,1\}//p' "$1"; }
+
+# require_value OPTION [VALUE...]: what stands after an option is not the next option.
+require_value() { [[ -n ${2:-} && $2 != --* ]] || die "$1 needs a value (see --help)"; }
+
 # Put before a command that needs root.
 become_root=()
 if [[ $(id -u) -ne 0 ]]; then
@@ -42,6 +48,13 @@ use_wine_environment() {
     export LC_ALL=C.UTF-8
     export WINEDEBUG=${WINEDEBUG:--all}
     export WINEDLLOVERRIDES='winedbg.exe=;winemenubuilder.exe=;mscoree,mshtml='
+}
+
+# Where this machine gets Debian from.
+debian_mirror() {
+    local mirror
+    mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Origin: Debian' 'Label: Debian' 2>/dev/null | sort -u | head -n 1)
+    echo "${mirror:-http://deb.debian.org/debian}"
 }
 
 require_arch() {

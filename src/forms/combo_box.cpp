@@ -12,14 +12,10 @@ namespace tavrin::forms {
 namespace {
 
 constexpr int PageStep = 10;
-constexpr int TextInset = 45;  ///< twips between the upper or lower edge and the text
-
-char LowerCase(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
 
 bool BeginsWith(const std::string& item, char32_t letter) {
-    return !item.empty() && letter < 0x80 && LowerCase(item.front()) == LowerCase(static_cast<char>(letter));
+    return !item.empty() && letter < 0x80 &&
+           LowerCase(static_cast<unsigned char>(item.front())) == LowerCase(letter);
 }
 
 }  // namespace
@@ -160,7 +156,8 @@ KeyOutcome ComboBox::DefaultKeyPress(char32_t character) {
 Rect ComboBox::TextArea() const {
     const int left = look::Padding + look::FocusWidth / 2;
     const int right = Bounds().width - look::FocusWidth - look::ArrowWidth;
-    return {left, TextInset, std::max(0, right - left), std::max(0, Bounds().height - 2 * TextInset)};
+    return {left, look::TextInset, std::max(0, right - left),
+            std::max(0, Bounds().height - 2 * look::TextInset)};
 }
 
 void ComboBox::Draw(Surface& surface) const {

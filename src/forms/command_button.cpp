@@ -5,6 +5,7 @@
 
 #include "forms/form.h"
 #include "forms/look.h"
+#include "forms/utf8.h"
 
 namespace tavrin::forms {
 
@@ -12,10 +13,6 @@ namespace {
 
 constexpr int LargestIconBesideCaption = 300;  ///< twips
 constexpr int LargestIcon = 480;
-
-char32_t LowerCase(char32_t letter) {
-    return letter >= U'A' && letter <= U'Z' ? letter + (U'a' - U'A') : letter;
-}
 
 /// The byte of the caption to underline, -1 for none.
 int FindAccelerator(std::string_view caption, char32_t letter) {

@@ -14,7 +14,6 @@ namespace {
 /// The platform's calendar begins in the autumn of 1752, dates in a database with the next year.
 constexpr data::CalendarDay FirstDay{1753, 1, 1};
 constexpr data::CalendarDay LastDay{9999, 12, 31};
-constexpr int TextInset = 45;  ///< twips between the upper or lower edge and the text
 
 int Wrapped(int number, int count) {
     return ((number - 1) % count + count) % count + 1;
@@ -251,14 +250,14 @@ void DatePicker::Draw(Surface& surface) const {
     const TextStyle style = look::TextStyleOf(*this);
     const int left = look::Padding + look::FocusWidth / 2;
     const int right = Bounds().width - look::FocusWidth - look::ArrowWidth;
-    const int height = std::max(0, Bounds().height - 2 * TextInset);
-    const ClipScope clip(surface, {left, TextInset, std::max(0, right - left), height});
+    const int height = std::max(0, Bounds().height - 2 * look::TextInset);
+    const ClipScope clip(surface, {left, look::TextInset, std::max(0, right - left), height});
     drawnAt_.clear();
     int x = left;
     for (std::size_t i = 0; i < pieces_.size(); ++i) {
         const std::string text = ShownText(i);
         drawnAt_.push_back(x);
-        const Rect place{x, TextInset, surface.MeasureText(text, style.font).width, height};
+        const Rect place{x, look::TextInset, surface.MeasureText(text, style.font).width, height};
         if (i == active_ && HasFocus()) surface.FillRectangle(place, scheme::Selection);
         surface.DrawText(text, place, style);
         x = place.Right();

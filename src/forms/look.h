@@ -8,6 +8,7 @@ namespace tavrin::forms::look {
 // What the drawn controls have in common, so that they look like one family.
 
 inline constexpr int Padding = 60;      ///< twips between a frame and what it surrounds
+inline constexpr int TextInset = 45;    ///< twips between a field's upper or lower edge and its text
 inline constexpr int FocusWidth = 30;   ///< twips; as wide as the frame of the focused control
 inline constexpr int ArrowWidth = 255;  ///< twips; the part of a field that opens something
 

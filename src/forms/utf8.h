@@ -14,4 +14,9 @@ int CountCharacters(std::string_view text);
 /// Where the character of that number begins; the text's end where there are not so many.
 std::size_t OffsetOfCharacter(std::string_view text, int character);
 
+/// The small letter of a capital one between A and Z, anything else as it is.
+constexpr char32_t LowerCase(char32_t letter) {
+    return letter >= U'A' && letter <= U'Z' ? letter + (U'a' - U'A') : letter;
+}
+
 }  // namespace tavrin::forms

@@ -6,6 +6,8 @@ namespace tavrin::win32 {
 
 // Resolutions as the host lets us see them: the component never changes the process's awareness of them.
 
+inline constexpr int PointsPerInch = 72;
+
 /// Dots per inch of the screen.
 int SystemDpi();
 

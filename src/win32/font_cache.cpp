@@ -2,13 +2,12 @@
 
 #include <cmath>
 
+#include "win32/dpi.h"
 #include "win32/text.h"
 
 namespace tavrin::win32 {
 
 namespace {
-
-constexpr int PointsPerInch = 72;
 
 OwnedFont Create(const forms::Font& font, int height) {
     LOGFONTW description{};

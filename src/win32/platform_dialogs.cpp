@@ -24,7 +24,6 @@ namespace {
 
 constexpr std::size_t LongestPath = 32768;
 constexpr std::size_t LongestPrinterName = 512;
-constexpr int PointsPerInch = 72;
 constexpr int TenthsPerPoint = 10;
 
 /// The dialogs' library, and what it says after a dialog.

@@ -29,5 +29,13 @@ TEST(Utf8Test, BrokenTextIsNoTrouble) {
     EXPECT_EQ(forms::CountCharacters("a\xC4"), 2);
 }
 
+TEST(Utf8Test, OnlyPlainCapitalsHaveASmallLetter) {
+    EXPECT_EQ(forms::LowerCase(U'A'), U'a');
+    EXPECT_EQ(forms::LowerCase(U'Z'), U'z');
+    EXPECT_EQ(forms::LowerCase(U'@'), U'@');
+    EXPECT_EQ(forms::LowerCase(U'['), U'[');
+    EXPECT_EQ(forms::LowerCase(U'\u0102'), U'\u0102');
+}
+
 }  // namespace
 }  // namespace tavrin::tests
