@@ -20,7 +20,7 @@ line() {
     local text
     text=$(printf '%-24s %-32s %4d s' "$1" "$2" "$3")
     [[ -z ${4:-} ]] || text+=$(printf '\n    %s' "${4//$'\n'/$'\n    '}")
-    printf '%s\n' "$text"
+    { flock 9 && printf '%s\n' "$text"; } 9>>"$tally"
 }
 
 # check NAME COMMAND...: one test; passes when the command does. Its output is shown when it fails.

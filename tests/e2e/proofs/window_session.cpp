@@ -62,8 +62,8 @@ std::string WindowSession::Send(int events) {
 }
 
 std::string WindowSession::Type(int events) {
-    // Messages that say of a window what is not so, as sent events do, leave behind a focus that the system knows
-    // nothing of.
+    // Messages that say of a window what is not so, as sent events do, leave behind a focus that the system
+    // knows nothing of.
     attendant_.CloseEverything();
     for (int i = 0; i < events; ++i) {
         OpenIfClosed();
