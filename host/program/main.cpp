@@ -5,6 +5,7 @@
 #include <objbase.h>
 #include <shellapi.h>
 
+#include <chrono>
 #include <cstdio>
 #include <future>
 #include <memory>
@@ -99,6 +100,11 @@ void RunMessageLoopDuringTour(const std::wstring& folder) {
         }
     });
     RunMessageLoop();
+    // Where the windows have gone before their time, the tour still asks for them.
+    while (tour.wait_for(std::chrono::milliseconds(10)) == std::future_status::timeout) {
+        MSG message;
+        PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);
+    }
     tour.get();
 }
 

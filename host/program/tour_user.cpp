@@ -38,6 +38,18 @@ LONG OfScreen(LONG pixel, int metric) {
     return static_cast<LONG>((pixel * 65536LL + 32768) / GetSystemMetrics(metric));
 }
 
+BOOL CALLBACK TellThatPointerHasGone(HWND control, LPARAM /*parameter*/) {
+    SendMessageW(control, WM_MOUSELEAVE, 0, 0);
+    return TRUE;
+}
+
+BOOL CALLBACK TellControls(HWND form, LPARAM parameter) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(form, &process);
+    if (process == GetCurrentProcessId()) EnumChildWindows(form, TellThatPointerHasGone, parameter);
+    return TRUE;
+}
+
 POINT MiddleOf(HWND window) {
     RECT place;
     GetWindowRect(window, &place);
@@ -90,8 +102,10 @@ void TourUser::Point(POINT place) const {
     windows_.Settle();
 }
 
+/// What the pointer was over hears that it has gone in the platform's own time, half a second perhaps.
 void TourUser::Rest() const {
     Point({GetSystemMetrics(SM_CXSCREEN) - 1, GetSystemMetrics(SM_CYSCREEN) - 1});
+    EnumWindows(TellControls, 0);
 }
 
 void TourUser::Click(const TourAction& action) const {
