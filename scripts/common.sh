@@ -60,3 +60,8 @@ debian_mirror() {
 require_arch() {
     [[ $1 == x64 || $1 == x86 ]] || die "architecture must be x64 or x86, not '$1'"
 }
+
+# Under Wine a process that has had some sixty apartments hangs in the next one's first marshalling, and each
+# end-to-end test has one of its own. So the tests are dealt to several processes.
+# shellcheck disable=SC2034 # for those who source this file
+e2e_shards=6

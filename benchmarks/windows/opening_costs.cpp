@@ -76,12 +76,6 @@ std::wstring FirstWindow(SIZE size) {
     return L"--first-window " + std::to_wstring(size.cx) + L" " + std::to_wstring(size.cy);
 }
 
-/// The currency that the calculator's chooser shows first.
-void AddDollar(AccountingHost& host) {
-    host.Data().Run("ALTER TABLE [Curs Valutar] ADD [$] float");
-    host.Data().Run("UPDATE [Curs Valutar] SET [$] = 4");
-}
-
 /// Opens and closes a window, by turns with a bare one of the same size.
 void CompareWindow(const Way& way) {
     SIZE size{};
@@ -164,7 +158,6 @@ void ComparePalettes() {
 void TimeWindows() {
     Report::Heading("Windows: from the click to the paint, the bare one of the same size beside it");
     AccountingHost host;
-    AddDollar(host);
     host.OpenPalette();
     for (const Way& way : Ways)
         CompareWindow(way);
@@ -173,7 +166,6 @@ void TimeWindows() {
 void WeighWindows() {
     Report::Heading("Private bytes");
     AccountingHost host;
-    AddDollar(host);
     const SIZE_T before = PrivateBytes();
     host.OpenPalette();
     const SIZE_T palette = PrivateBytes();

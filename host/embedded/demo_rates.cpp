@@ -11,23 +11,24 @@ namespace {
 
 struct Trend {
     const char* currency;
-    double first;  ///< lei for one unit on the first day
-    double last;   ///< on the last day
+    std::uint32_t seed;  ///< of how the rate strays
+    double first;        ///< lei for one unit on the first day
+    double last;         ///< at the end of the last year
 };
 
-constexpr std::array<Trend, 6> Trends{{{"EUR", 25200, 40600},
-                                       {"USD", 26300, 32900},
-                                       {"GBP", 38700, 57400},
-                                       {"CHF", 16600, 26100},
-                                       {"JPY", 228, 304},
-                                       {"HUF", 95, 156}}};
+constexpr std::array<Trend, 6> Trends{{{"EUR", 1, 25200, 40600},
+                                       {"USD", 2, 26300, 32900},
+                                       {"GBP", 3, 38700, 57400},
+                                       {"CHF", 4, 16600, 26100},
+                                       {"JPY", 5, 228, 304},
+                                       {"$", 2, 26300, 32900}}};
 
 /// A rate that strays from its trend and is drawn back to it.
 class Walk {
   public:
-    Walk(const Trend& trend, std::uint32_t seed) : trend_(trend), random_(seed) {}
+    explicit Walk(const Trend& trend) : trend_(trend), random_(trend.seed) {}
 
-    /// \param progress from 0 on the first day to 1 on the last
+    /// \param progress from 0 on the first day to 1 at the end of the last year
     long long Next(double progress) {
         const double step = static_cast<double>(random_() % 2001) / 1000.0 - 1.0;
         deviation_ = deviation_ * 0.97 + step * 0.0025;
@@ -65,12 +66,13 @@ void CreateDemoRates(EmbeddedDatabase& database) {
     std::vector<Walk> walks;
     walks.reserve(Trends.size());
     for (const Trend& trend : Trends)
-        walks.emplace_back(trend, static_cast<std::uint32_t>(walks.size() + 1));
+        walks.emplace_back(trend);
     const double first = data::ToOleDate({DemoFirstYear, 1, 1}).days;
     const double last = data::ToOleDate({DemoLastYear, 12, 31}).days;
+    const double today = data::ToOleDate(DemoDay).days;
     const double validated = data::ToOleDate({2003, 3, 31}).days;
     std::array<long long, Trends.size()> rates{};
-    for (double day = first; day <= last; ++day) {
+    for (double day = first; day < today; ++day) {
         if (!IsWorkingDay(day)) continue;
         std::string values = "'" + data::FormatYearMonthDay({day}) + "', " + (day <= validated ? "1" : "0");
         for (std::size_t index = 0; index < walks.size(); ++index) {

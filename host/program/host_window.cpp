@@ -4,6 +4,7 @@
 
 #include "data/error.h"
 #include "host/program/form_finder.h"
+#include "host/program/screen_scale.h"
 #include "win32/text.h"
 
 namespace tavrin::host {
@@ -13,7 +14,7 @@ constexpr wchar_t ClassName[] = L"TavrinHost";
 constexpr wchar_t Caption[] = L"Contabilitate";
 constexpr int UtilitiesButton = 1;
 constexpr UINT LeftMessage = WM_APP;
-constexpr RECT WindowPlace{40, 40, 700, 480};  // left, top, width, height
+constexpr RECT WindowPlace{20, 40, 1160, 740};  // left, top, width, height at 96 DPI
 
 void RegisterWindowClass(WNDPROC procedure) {
     WNDCLASSEXW description{};
@@ -31,9 +32,9 @@ void RegisterWindowClass(WNDPROC procedure) {
 HostWindow::HostWindow(const std::string& summary, std::function<void()> openUtilities)
     : openUtilities_(std::move(openUtilities)) {
     RegisterWindowClass(Procedure);
-    CreateWindowExW(0, ClassName, Caption, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WindowPlace.left,
-                    WindowPlace.top, WindowPlace.right, WindowPlace.bottom, nullptr, nullptr,
-                    GetModuleHandleW(nullptr), this);
+    CreateWindowExW(0, ClassName, Caption, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, Scaled(WindowPlace.left),
+                    Scaled(WindowPlace.top), Scaled(WindowPlace.right), Scaled(WindowPlace.bottom), nullptr,
+                    nullptr, GetModuleHandleW(nullptr), this);
     if (window_ == nullptr) throw data::Error(HRESULT_FROM_WIN32(GetLastError()), "the main window");
     AddChild(L"STATIC", win32::ToWide(summary).c_str(), {20, 20, 640, 24}, 0);
     AddChild(L"BUTTON", L"&Utilitare", {20, 60, 140, 32}, UtilitiesButton);
@@ -46,9 +47,10 @@ HostWindow::~HostWindow() {
 }
 
 HWND HostWindow::AddChild(const wchar_t* kind, const wchar_t* text, RECT place, int id) {
-    const HWND child = CreateWindowExW(
-        0, kind, text, WS_CHILD | WS_VISIBLE | WS_TABSTOP, place.left, place.top, place.right, place.bottom,
-        window_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
+    const HWND child = CreateWindowExW(0, kind, text, WS_CHILD | WS_VISIBLE | WS_TABSTOP, Scaled(place.left),
+                                       Scaled(place.top), Scaled(place.right), Scaled(place.bottom), window_,
+                                       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                                       GetModuleHandleW(nullptr), nullptr);
     SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), TRUE);
     return child;
 }

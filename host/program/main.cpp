@@ -5,7 +5,9 @@
 #include <objbase.h>
 #include <shellapi.h>
 
+#include <chrono>
 #include <cstdio>
+#include <future>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -20,6 +22,7 @@
 #include "host/program/options.h"
 #include "host/program/tour.h"
 #include "host/program/utilities.h"
+#include "host/program/window_thread.h"
 #include "win32/ado/dispatch_object.h"
 #include "win32/module_path.h"
 #include "win32/text.h"
@@ -80,16 +83,29 @@ void FollowResolution() {
     if (set != nullptr) reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(set))(perMonitor);
 }
 
-/// The calculator asks for the currency "$" first, which the demo data do not have.
-void AddDollar(EmbeddedDatabase& database) {
-    if (database.FindTable("Curs Valutar")->Find("$") != nullptr) return;
-    database.Run("ALTER TABLE [Curs Valutar] ADD [$] float");
-    database.Run("UPDATE [Curs Valutar] SET [$] = [USD]");
-}
-
 std::string Summary(const Options& options) {
     return "Societatea " + std::to_string(options.company) + ", data de lucru " +
            data::FormatDayMonthYear(options.date) + ", exercitiul " + std::to_string(options.year);
+}
+
+/// The tour is a user of its own, so it may go on while a window shows a message.
+void RunMessageLoopDuringTour(const std::wstring& folder) {
+    const WindowThread windows;
+    std::future<void> tour = std::async(std::launch::async, [&] {
+        try {
+            RunTour(windows, folder);
+        } catch (...) {
+            windows.Quit();
+            throw;
+        }
+    });
+    RunMessageLoop();
+    // Where the windows have gone before their time, the tour still asks for them.
+    while (tour.wait_for(std::chrono::milliseconds(10)) == std::future_status::timeout) {
+        MSG message;
+        PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);
+    }
+    tour.get();
 }
 
 void RunHost(const Options& options) {
@@ -100,9 +116,7 @@ void RunHost(const Options& options) {
     ComPtr<IDispatch> connection;
     if (options.adoConnection.empty()) {
         recordsets.emplace();
-        const std::shared_ptr<EmbeddedDatabase> database = OpenDemoDatabase(options.database);
-        if (!options.tourFolder.empty()) AddDollar(*database);
-        connection = win32::MakeObject<ConnectionObject>(database);
+        connection = win32::MakeObject<ConnectionObject>(OpenDemoDatabase(options.database));
     } else {
         connection = OpenSystemAdo(options.adoConnection);
     }
@@ -113,8 +127,11 @@ void RunHost(const Options& options) {
     const HostWindow window(Summary(options), open);
     left = &window;
     open();
-    if (!options.tourFolder.empty()) RunTour(win32::ToWide(options.tourFolder));
-    RunMessageLoop();
+    if (options.tourFolder.empty()) {
+        RunMessageLoop();
+    } else {
+        RunMessageLoopDuringTour(win32::ToWide(options.tourFolder));
+    }
 }
 
 int Main() try {

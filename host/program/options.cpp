@@ -30,8 +30,6 @@ const char* const UsageText =
 
 namespace {
 
-constexpr data::CalendarDay DemoDay{DemoLastYear, 11, 28};
-
 template <class Number>
 Number ParseNumber(const std::string& text) {
     Number number = 0;

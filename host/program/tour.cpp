@@ -1,187 +1,84 @@
 #include "host/program/tour.h"
 
-#include <windows.h>
-
 #include <cstdio>
-#include <string>
-#include <vector>
 
 #include "data/error.h"
-#include "host/program/form_finder.h"
-#include "host/program/png.h"
+#include "host/pictures/png.h"
+#include "host/pictures/screen_picture.h"
+#include "host/program/tour_steps.h"
+#include "host/program/tour_user.h"
 #include "win32/text.h"
 
 namespace tavrin::host {
 namespace {
 
-constexpr ULONGLONG PatienceMilliseconds = 20000;
-constexpr DWORD QuietMilliseconds = 300;
+constexpr ULONGLONG PatienceMilliseconds = 5000;
+/// Longer than what is drawn needs from a window to the screen.
+constexpr DWORD BetweenLooksMilliseconds = 30;
 
-/// A click on a control, then what is pressed: digits, capital letters and the keys' own codes.
-struct Action {
-    const char* form;
-    const char* control;
-    std::string keys;
-    std::wstring text = {};  ///< typed after the keys, in any script
+/// Takes the caret off the picture: whether it is to be seen is a matter of luck.
+class WithoutCaret {
+  public:
+    explicit WithoutCaret(const WindowThread& windows) : windows_(windows) {
+        windows_.Call([this] { isHidden_ = HideCaret(nullptr) != FALSE; });
+    }
+    ~WithoutCaret() {
+        if (isHidden_) windows_.Call([] { ShowCaret(nullptr); });
+    }
+    WithoutCaret(const WithoutCaret&) = delete;
+    WithoutCaret& operator=(const WithoutCaret&) = delete;
+
+  private:
+    const WindowThread& windows_;
+    bool isHidden_ = false;
 };
 
-/// One picture: what to do before it, and which window it shows.
-struct Step {
-    const char* picture;
-    std::vector<Action> actions;
-    const char* form;
-};
-
-const std::string Enter(1, VK_RETURN);
-
-const std::vector<Step>& Steps() {
-    static const std::vector<Step> steps{
-        {"palette", {}, "Utilitati"},
-        {"palette-rolled-up", {{"Utilitati", "imgRollup(0)", ""}}, "Utilitati"},
-        {"calculator",
-         {{"Utilitati", "imgRollup(1)", ""},
-          {"Utilitati", "cmdAction(2)", ""},
-          {"frmCalculator", "Number(1)", "25000"}},
-         "frmCalculator"},
-        {"currency-chooser", {{"frmCalculator", "cmdVal", ""}}, "AlegeMoneda"},
-        {"calculator-with-rate", {{"AlegeMoneda", "cmdAction(0)", ""}}, "frmCalculator"},
-        {"rate-list", {{"frmCalculator", "cmdUnload", ""}, {"Utilitati", "cmdAction(3)", ""}}, "CursValutar"},
-        {"rate-entry", {{"CursValutar", "cmdAction(0)", ""}}, "CursValutarDetaliu"},
-        {"rate-entry-editing", {{"CursValutarDetaliu", "DataCurs", Enter}}, "CursValutarDetaliu"},
-        {"rate-entry-modify",
-         {{"CursValutarDetaliu", "cmdAction(1)", ""}, {"CursValutar", "cmdAction(1)", ""}},
-         "CursValutarDetaliu"},
-        {"add-currency",
-         {{"CursValutarDetaliu", "cmdAction(1)", ""}, {"CursValutar", "cmdAction(3)", ""}},
-         "CereMoneda"},
-        {"evolution-prompt",
-         {{"CereMoneda", "cmdAction(1)", ""}, {"CursValutar", "cmdAction(5)", ""}},
-         "EvolutieCurs"},
-        {"evolution", {{"EvolutieCurs", "cmdAction(1)", ""}}, "EvolutieCurs"},
-        {"address-book", {{"Utilitati", "cmdAction(1)", ""}}, "Agenda"},
-        {"address-book-modify", {{"Agenda", "cmdAction(3)", ""}}, "Agenda"},
-        {"address-book-entry", {{"Agenda", "cmdAction(1)", ""}, {"Agenda", "cmdAction(2)", ""}}, "Agenda"},
-        {"address-book-compact",
-         {{"Agenda", "cmdAction(1)", ""}, {"Agenda", "TextBoxes(0)", "NIMENI" + Enter}},
-         "Agenda"},
-        {"notes",
-         {{"Agenda", "cmdAction(1)", ""},
-          {"Utilitati", "cmdAction(0)", ""},
-          {"Notes", "ImgBouton(4)", "", L"Luni, 1 decembrie"},
-          {"Notes", "ImgBouton(4)", "", L"\rBanca: curs EUR \u0219i USD, 500 \u20ac\r"},
-          {"Notes", "ImgBouton(5)", "", L"de trimis balan\u021ba pe noiembrie\r"},
-          {"Notes", "ImgBouton(5)", ""},
-          {"Notes", "ImgBouton(6)", "", L"Sun\u0103 la Radu"}},
-         "Notes"},
-    };
-    return steps;
-}
-
-/// Dispatches messages until none has come for a while.
-void Settle() {
-    const ULONGLONG end = GetTickCount64() + PatienceMilliseconds;
-    while (GetTickCount64() < end) {
-        if (MsgWaitForMultipleObjects(0, nullptr, FALSE, QuietMilliseconds, QS_ALLINPUT) == WAIT_TIMEOUT)
-            return;
-        MSG message;
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
-        }
+/// The smallest part of the screen that holds all windows of the step.
+RECT PlaceOf(const TourStep& step, const TourUser& user) {
+    RECT all{};
+    for (const char* const name : step.windows) {
+        RECT place;
+        GetWindowRect(user.Await(name), &place);
+        UnionRect(&all, &all, &place);
     }
+    return all;
 }
 
-template <class Find>
-HWND Await(const std::string& what, const Find& find) {
+/// What is there twice in a row.
+ScreenPicture CaptureStill(const RECT& place) {
     const ULONGLONG end = GetTickCount64() + PatienceMilliseconds;
+    ScreenPicture before;
     while (GetTickCount64() < end) {
-        Settle();
-        if (const HWND found = find(); found != nullptr) return found;
+        Sleep(BetweenLooksMilliseconds);
+        ScreenPicture picture = CaptureScreen(place);
+        if (picture == before) return picture;
+        before = std::move(picture);
     }
-    throw data::Error(E_FAIL, what + " does not appear");
+    throw data::Error(E_FAIL, "the picture does not come to rest");
 }
 
-HWND AwaitForm(const std::string& name) {
-    return Await(name, [&] { return FindForm(name); });
-}
-
-POINT MiddleOf(HWND window) {
-    RECT place;
-    GetWindowRect(window, &place);
-    return {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
-}
-
-void Send(const INPUT& input) {
-    INPUT sent = input;
-    SendInput(1, &sent, sizeof sent);
-}
-
-void Click(HWND control) {
-    const POINT middle = MiddleOf(control);
-    SetCursorPos(middle.x, middle.y);
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    Send(input);
-    input.mi.dwFlags = MOUSEEVENTF_LEFTUP;
-    Send(input);
-    Settle();
-}
-
-void Press(char key) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = static_cast<unsigned char>(key);
-    Send(input);
-    input.ki.dwFlags = KEYEVENTF_KEYUP;
-    Send(input);
-}
-
-void Type(wchar_t unit) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wScan = unit;
-    input.ki.dwFlags = KEYEVENTF_UNICODE;
-    Send(input);
-    input.ki.dwFlags |= KEYEVENTF_KEYUP;
-    Send(input);
-}
-
-void Perform(const Action& action) {
-    const HWND form = AwaitForm(action.form);
-    const HWND control = Await(std::string(action.form) + "." + action.control,
-                               [&] { return FindControl(form, action.control); });
-    SetForegroundWindow(form);
-    Settle();
-    Click(control);
-    for (const char key : action.keys)
-        Press(key);
-    for (const wchar_t unit : action.text)
-        unit == L'\r' ? Press(VK_RETURN) : Type(unit);
-    Settle();
-}
-
-void TakePicture(const Step& step, const std::wstring& folder) {
-    const HWND form = AwaitForm(step.form);
-    RedrawWindow(form, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-    Settle();
-    RECT place;
-    GetWindowRect(form, &place);
-    const std::wstring path = folder + L"\\" + win32::ToWide(step.picture) + L".png";
-    SavePng(place, path);
-    std::printf("%s\n", win32::ToUtf8(path).c_str());
+ScreenPicture TakePicture(const TourStep& step, const TourUser& user, const WindowThread& windows) {
+    const RECT place = PlaceOf(step, user);
+    user.Rest();
+    const WithoutCaret withoutCaret(windows);
+    windows.Settle();
+    return CaptureStill(place);
 }
 
 }  // namespace
 
-void RunTour(const std::wstring& folder) {
+void RunTour(const WindowThread& windows, const std::wstring& folder) {
     CreateDirectoryW(folder.c_str(), nullptr);
-    for (const Step& step : Steps()) {
-        for (const Action& action : step.actions)
-            Perform(action);
-        TakePicture(step, folder);
+    const TourUser user(windows);
+    std::size_t number = 0;
+    for (const TourStep& step : TourSteps()) {
+        for (const TourAction& action : step.actions)
+            user.Perform(action);
+        SavePng(TakePicture(step, user, windows), folder + L"\\" + win32::ToWide(step.picture) + L".png");
+        std::printf("Window %zu of %zu: %s\n", ++number, TourSteps().size(), step.picture);
+        std::fflush(stdout);
     }
-    SendMessageW(AwaitForm("Utilitati"), WM_CLOSE, 0, 0);
+    PostMessageW(user.Await("Utilitati"), WM_CLOSE, 0, 0);
 }
 
 }  // namespace tavrin::host

@@ -46,9 +46,6 @@ const std::vector<Place>& Places() {
 class AccessibilityTest : public HostTest, public testing::WithParamInterface<Place> {
   protected:
     void SetUp() override {
-        // The calculator asks for this currency first.
-        host->Run("ALTER TABLE [Curs Valutar] ADD [$] float");
-        host->Run("UPDATE [Curs Valutar] SET [$] = 4");
         OpenPalette();
         for (const auto& [form, control] : GetParam().clicks) {
             Click(AwaitForm(form).Control(control));

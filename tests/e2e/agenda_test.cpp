@@ -121,7 +121,6 @@ TEST_F(AgendaTest, OpensOnTheFirstOfThreeHundredPersons) {
     EXPECT_EQ(shown, Stored("1 = 1"));
     EXPECT_EQ(ShownName(), shown[1][0] + " " + shown[1][1]);
     EXPECT_THAT(ButtonsInSight(), ElementsAre("Adauga", "Modifica", "Sterge", "Renunta"));
-    SaveScreenshot("agenda-browse");
 }
 
 TEST_F(AgendaTest, OpensByKeyboardFromThePalette) {
@@ -175,7 +174,6 @@ TEST_F(AgendaTest, ASearchForNobodyLeavesTheDetailsAloneReadyForSomebody) {
     ASSERT_TRUE(AwaitFocus("TextBoxes(2)"));
     EXPECT_LT(window.Width(), width);
     EXPECT_THAT(ButtonsInSight(), ElementsAre("Accepta", "Renunta"));
-    SaveScreenshot("agenda-compact");
     TypeText("Zzaharia");
     PressKey(VK_RETURN);
     ASSERT_TRUE(AwaitFocus("TextBoxes(3)"));
@@ -185,7 +183,6 @@ TEST_F(AgendaTest, ASearchForNobodyLeavesTheDetailsAloneReadyForSomebody) {
     host->Ui().Settle();
     EXPECT_EQ(Shown(), (TableTexts{{"Nume", "Prenume"}, {"Zzaharia", "Ion"}}));
     EXPECT_GT(window.Width(), width * 9 / 10);
-    SaveScreenshot("agenda-widened");
 }
 
 // Editing.
@@ -440,7 +437,6 @@ TEST_F(AgendaTest, DetailsAreGreenOnBlackWhetherTheyAreBrowsedOrEdited) {
             EXPECT_FALSE(ShowsColor(Box(box), Grey)) << box << browsed;
             EXPECT_FALSE(ShowsColor(Box(box), GetSysColor(COLOR_GRAYTEXT))) << box << browsed;
         }
-        SaveScreenshot(std::string("agenda-") + (browsed ? "browsed" : "edited"));
         Click(Button(action));
         host->Ui().Settle();
     }

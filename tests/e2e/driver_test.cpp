@@ -12,6 +12,7 @@
 #include "e2e/driver/ui_thread.h"
 #include "e2e/driver/wait.h"
 #include "win32/name_property.h"
+#include "win32/text.h"
 
 namespace tavrin::e2e {
 namespace {
@@ -118,6 +119,15 @@ TEST_F(DriverTest, SeesColorsOnTheScreen) {
         ReleaseDC(form.Handle(), dc);
     });
     EXPECT_TRUE(WaitUntil([&] { return ShowsColor(form, RGB(1, 200, 3)); }));
+}
+
+TEST_F(DriverTest, PicturesOfTestsLieInFilesOfTheirOwn) {
+    for (const std::string name : {"Sample/One.Test/0", "Sample/One.Test/1"}) {
+        const std::string place = SaveScreenshot(name);
+        const std::wstring file = win32::ToWide((place.starts_with('/') ? "Z:" : "") + place);
+        EXPECT_THAT(place, testing::EndsWith("Sample-One.Test-" + name.substr(name.size() - 1) + ".png"));
+        EXPECT_TRUE(DeleteFileW(file.c_str())) << place;
+    }
 }
 
 TEST_F(DriverTest, ReadsAccessibleFacts) {

@@ -43,7 +43,6 @@ int EndLoop(std::unique_ptr<Host> host) {
 
 int LeaveBadly(const std::string& how) try {
     auto host = std::make_unique<Host>();
-    PrepareForTour(*host);
     OpenEveryWindow(*host);
     if (how == "return") {
         // Nobody destroys the host any more: its thread is in the loop when the process ends.

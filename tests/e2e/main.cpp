@@ -1,7 +1,8 @@
 // Usage: tavrin_e2e [--dll PATH] [--screenshots FOLDER] [--leave HOW] [GoogleTest's options]
 //
 // Tests Tavrin.dll from the outside. The DLL is taken from --dll, else from the environment's TAVRIN_DLL,
-// else from the root of the build folder that this program lies in. The screen is saved where a test fails.
+// else from the root of the build folder that this program lies in. The screen is saved as FOLDER/TEST.png
+// where a test first fails, and the path is printed.
 // With --leave HOW it is a host that leaves at a bad moment instead, for the test of those.
 // Under Wine all tests together are too many for one process: ./test deals them with GTEST_TOTAL_SHARDS.
 
@@ -10,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <atomic>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -29,12 +31,17 @@ using tavrin::win32::ToWide;
 
 class ScreenshotOfFailure : public testing::EmptyTestEventListener {
   public:
+    void OnTestStart(const testing::TestInfo& /*test*/) override { isTaken_ = false; }
+
     void OnTestPartResult(const testing::TestPartResult& result) override {
-        if (!result.failed()) return;
         const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-        if (test == nullptr) return;
-        tavrin::e2e::SaveScreenshot(std::string(test->test_suite_name()) + "." + test->name());
+        if (!result.failed() || test == nullptr || isTaken_.exchange(true)) return;
+        const std::string name = std::string(test->test_suite_name()) + "." + test->name();
+        std::printf("Its picture: %s\n", tavrin::e2e::SaveScreenshot(name).c_str());
     }
+
+  private:
+    std::atomic<bool> isTaken_ = false;  ///< later failures follow from the first
 };
 
 std::wstring FromEnvironment(const wchar_t* name) {

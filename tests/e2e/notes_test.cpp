@@ -242,7 +242,6 @@ TEST_F(NotesTest, OpensFromThePaletteReadyToWrite) {
     const AccessibleFacts facts = ReadAccessible(host->Ui(), Note());
     EXPECT_EQ(facts.role, ROLE_SYSTEM_TEXT);
     EXPECT_EQ(facts.value, "abc\r\n\tdef");
-    SaveScreenshot("notes");
 }
 
 TEST_F(NotesTest, EscapeAndTheLastButtonCloseWithoutAQuestion) {
@@ -290,7 +289,6 @@ TEST_F(NotesTest, TheFocusIsToBeSeen) {
     EXPECT_TRUE(AwaitFocus("ImgBouton(7)"));
     EXPECT_TRUE(WaitUntil([&] { return ShowsColor(ButtonOf(Leave), Focus); }));
     EXPECT_TRUE(WaitUntil([&] { return !ShowsColor(Note(), Focus); }));
-    SaveScreenshot("notes-bar-focus");
     Press(VK_TAB);
     EXPECT_TRUE(AwaitFocus("txtNota"));
 }
@@ -335,7 +333,6 @@ TEST_F(NotesTest, TheFontDialogShowsTheSelectionAndChangesIt) {
     EXPECT_EQ(dialog.Item(cmb3).Text(), "10");
     EXPECT_FALSE(dialog.IsChecked(chx1));
     EXPECT_TRUE(dialog.IsChecked(chx2));
-    SaveScreenshot("notes-font");
     dialog.Fill(cmb3, L"18");
     ClickAt(dialog.Item(chx1).Center());
     host->Ui().Settle();
@@ -380,7 +377,6 @@ TEST_F(NotesTest, TheColorDialogColorsTheSelection) {
     const PlatformDialog dialog = Dialog();
     Click(dialog.Item(DefineOwn));
     host->Ui().Settle();
-    SaveScreenshot("notes-color");
     dialog.Fill(RedField, L"200");
     dialog.Fill(GreenField, L"30");
     dialog.Fill(BlueField, L"40");
@@ -434,7 +430,6 @@ TEST_F(NotesTest, WrittenFormattedSavedEmptiedAndLoaded) {
     const std::vector<Look> before = looks();
     EXPECT_THAT(before, ElementsAre(Look{"Arial", 10, 0, 0, 0, 0, 0}, Look{"Arial", 10, 1, 0, 0, 0, 0},
                                     Look{"Arial", 10, 1, 1, 0, 0, 0}, Look{"Arial", 10, 0, 0, 1, 0, 0}));
-    SaveScreenshot("notes-formatted");
     const std::wstring file = folder.File(L"nota.rtf");
     SaveAs(file);
     EXPECT_THAT(folder.Names(), ElementsAre(L"nota.rtf")) << "no other file is left";

@@ -249,7 +249,6 @@ TEST_P(TypeAheadTest, ASumGoesOnAfterADivisionByZero) {
 }
 
 TEST_P(TypeAheadTest, ARateIsChosenAndTheChooserOpenedAgain) {
-    host->Run("ALTER TABLE [Curs Valutar] ADD [$] float");
     host->Run("UPDATE [Curs Valutar] SET [$] = 4");
     OpenPalette();
     PressKey(VK_RETURN);

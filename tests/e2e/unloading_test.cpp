@@ -92,7 +92,6 @@ TEST_F(UnloadingTest, CanBeLoadedAgain) {
 class CycleTest : public HostTest {
   protected:
     void SetUp() override {
-        PrepareForTour(*host);
         host->Release();
         host->Call([] { CoFreeUnusedLibrariesEx(0, 0); });
         ASSERT_FALSE(Component::IsLoaded());

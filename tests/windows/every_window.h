@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "addressbook/agenda.h"
 #include "calculator/frm_calculator.h"
@@ -23,13 +24,19 @@ class EveryWindowTest : public WindowTest {
     using Look = std::function<void(forms::Form& form)>;
 
     EveryWindowTest() {
-        module.context.connection =
-            std::make_shared<host::EmbeddedConnection>(host::OpenDemoDatabase(":memory:"));
+        StartAnew();
+        module.context.connection = std::make_shared<host::EmbeddedConnection>(DemoData());
         module.context.workDate = data::ToOleDate({2003, 11, 28});
         module.context.workYear = 2003;
         module.context.companyId = 1;
     }
     ~EveryWindowTest() override { desktop.UnloadAll(); }
+
+    /// Undoes what was done to the data.
+    void StartAnew() {
+        transaction_.reset();
+        transaction_.emplace(*DemoData());
+    }
 
     void ForEachWindow(const Look& look) {
         auto& palette = module.Default<shell::Utilitati>();
@@ -42,6 +49,12 @@ class EveryWindowTest : public WindowTest {
     }
 
   private:
+    /// Made once for all tests, which takes longer than most of them.
+    static const std::shared_ptr<host::EmbeddedDatabase>& DemoData() {
+        static const std::shared_ptr<host::EmbeddedDatabase> database = host::OpenDemoDatabase(":memory:");
+        return database;
+    }
+
     void LookAtRates(const Look& look) {
         auto& list = module.Default<rates::CursValutar>();
         list.ShowForm();
@@ -83,6 +96,8 @@ class EveryWindowTest : public WindowTest {
         agenda.cmdAction[addressbook::Agenda::Add].Click();
         look(agenda);
     }
+
+    std::optional<host::EmbeddedDatabase::Transaction> transaction_;
 };
 
 }  // namespace tavrin::tests

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <fstream>
-#include <vector>
+#include <exception>
+#include <string_view>
+#include <utility>
 
-#include "win32/handles.h"
+#include "host/pictures/png.h"
+#include "host/pictures/screen_picture.h"
 #include "win32/text.h"
 
 namespace tavrin::e2e {
@@ -13,12 +15,6 @@ namespace tavrin::e2e {
 namespace {
 
 std::wstring screenshotFolder;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
-
-/// What stands in a rectangle of the screen, as 32-bit pixels from the bottom row up.
-struct Picture {
-    BITMAPINFOHEADER header{};
-    std::vector<std::uint32_t> pixels;
-};
 
 class ScreenDc {
   public:
@@ -32,29 +28,24 @@ class ScreenDc {
     HDC dc_;
 };
 
-Picture Capture(const RECT& place) {
-    Picture picture;
-    const int width = static_cast<int>(place.right - place.left);
-    const int height = static_cast<int>(place.bottom - place.top);
-    if (width <= 0 || height <= 0) return picture;
-    const ScreenDc screen;
-    const win32::OwnedMemoryDc memory(CreateCompatibleDC(screen.Get()));
-    const win32::OwnedBitmap bitmap(CreateCompatibleBitmap(screen.Get(), width, height));
-    {
-        const win32::SelectScope selected(memory.get(), bitmap.get());
-        BitBlt(memory.get(), 0, 0, width, height, screen.Get(), place.left, place.top, SRCCOPY);
-    }
-    picture.header.biSize = sizeof picture.header;
-    picture.header.biWidth = width;
-    picture.header.biHeight = height;
-    picture.header.biPlanes = 1;
-    picture.header.biBitCount = 32;
-    picture.pixels.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
-    BITMAPINFO info{};
-    info.bmiHeader = picture.header;
-    GetDIBits(memory.get(), bitmap.get(), 0, static_cast<UINT>(height), picture.pixels.data(), &info,
-              DIB_RGB_COLORS);
-    return picture;
+/// A name of a test may hold what a file's may not.
+std::wstring FileName(std::string name) {
+    std::ranges::replace_if(
+        name, [](char each) { return std::string_view("\\/:*?\"<>|").find(each) != std::string_view::npos; },
+        '-');
+    return win32::ToWide(name);
+}
+
+/// As the system beneath calls it, where there is one.
+std::string NativePath(const std::wstring& path) {
+    using Convert = char* CDECL(const wchar_t*);
+    const FARPROC convert = GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name");
+    if (convert == nullptr) return win32::ToUtf8(path);
+    char* const native = reinterpret_cast<Convert*>(reinterpret_cast<void (*)()>(convert))(path.c_str());
+    if (native == nullptr) return win32::ToUtf8(path);
+    std::string text = native;
+    HeapFree(GetProcessHeap(), 0, native);
+    return text;
 }
 
 std::uint32_t AsPixel(COLORREF color) {
@@ -65,28 +56,23 @@ std::uint32_t AsPixel(COLORREF color) {
 }  // namespace
 
 bool ShowsColor(const Window& window, COLORREF color) {
-    const Picture picture = Capture(window.ScreenBounds());
-    return std::ranges::any_of(picture.pixels, [wanted = AsPixel(color)](std::uint32_t pixel) {
-        return (pixel & 0xFFFFFF) == wanted;
-    });
+    const host::ScreenPicture picture = host::CaptureScreen(window.ScreenBounds());
+    return std::ranges::find(picture.pixels, AsPixel(color)) != picture.pixels.end();
 }
 
 void SetScreenshotFolder(std::wstring folder) {
     screenshotFolder = std::move(folder);
 }
 
-void SaveScreenshot(const std::string& name) {
-    if (screenshotFolder.empty()) return;
-    const Picture picture = Capture({0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
-    const auto size = static_cast<DWORD>(picture.pixels.size() * sizeof(std::uint32_t));
-    BITMAPFILEHEADER file{};
-    file.bfType = 0x4D42;  // "BM"
-    file.bfOffBits = sizeof file + sizeof picture.header;
-    file.bfSize = file.bfOffBits + size;
-    std::ofstream stream(win32::ToUtf8(screenshotFolder) + "\\" + name + ".bmp", std::ios::binary);
-    stream.write(reinterpret_cast<const char*>(&file), sizeof file);
-    stream.write(reinterpret_cast<const char*>(&picture.header), sizeof picture.header);
-    stream.write(reinterpret_cast<const char*>(picture.pixels.data()), static_cast<std::streamsize>(size));
+std::string SaveScreenshot(const std::string& name) try {
+    if (screenshotFolder.empty()) return {};
+    CreateDirectoryW(screenshotFolder.c_str(), nullptr);
+    const std::wstring path = screenshotFolder + L"\\" + FileName(name) + L".png";
+    const RECT screen{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+    host::SavePng(host::CaptureScreen(screen), path);
+    return NativePath(path);
+} catch (const std::exception& error) {
+    return std::string("none, ") + error.what();
 }
 
 void AskDisplay() {

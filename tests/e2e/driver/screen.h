@@ -11,8 +11,9 @@ namespace tavrin::e2e {
 /// Whether any pixel of exactly that colour is to be seen inside the window's place on the screen.
 bool ShowsColor(const Window& window, COLORREF color);
 
-/// Saves the whole screen as `<name>.bmp` in the screenshot folder; without a folder nothing happens.
-void SaveScreenshot(const std::string& name);
+/// Saves the whole screen as `<name>.png` in the screenshot folder, which is made where there is none.
+/// \return where it lies, as the system beneath Wine calls it; empty where no folder was set
+std::string SaveScreenshot(const std::string& name);
 
 /// Where screenshots go: a Windows path, empty for none. Set once, before the tests run.
 void SetScreenshotFolder(std::wstring folder);

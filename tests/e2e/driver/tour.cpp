@@ -33,12 +33,6 @@ void PostClick(const Window& button) {
     PostMessageW(button.Handle(), WM_LBUTTONUP, 0, MiddleOf(button));
 }
 
-void PrepareForTour(Host& host) {
-    // The calculator asks for this currency first.
-    host.Run("ALTER TABLE [Curs Valutar] ADD [$] float");
-    host.Run("UPDATE [Curs Valutar] SET [$] = 4");
-}
-
 void OpenEveryWindow(Host& host) {
     if (host.Apel() != S_OK) throw DriverError("Apel failed");
     OpenFrom("Utilitati", "cmdAction(3)", "CursValutar");

@@ -6,9 +6,6 @@
 
 namespace tavrin::e2e {
 
-/// Adds what every window needs to be opened without a complaint to the host's demo data.
-void PrepareForTour(Host& host);
-
 /// Calls Apel and opens every window there is, by mouse messages, without the pointer. When it comes back all
 /// of them are open but the currency window, which was opened and closed: it would stand in the way of the
 /// others. \throws DriverError when one does not appear

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <cstdio>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -46,7 +47,8 @@ class Event {
 /// \param how far the thread has come with what it was to do
 [[noreturn]] void GiveUp(const char* how) {
     std::fprintf(stderr, "The host's thread does not answer any more: %s.\n", how);
-    SaveScreenshot("hang");
+    const std::string picture = SaveScreenshot("hang-" + std::to_string(GetCurrentProcessId()));
+    std::fprintf(stderr, "Its picture: %s\n", picture.c_str());
     std::fflush(nullptr);
     TerminateProcess(GetCurrentProcess(), 3);
     std::terminate();

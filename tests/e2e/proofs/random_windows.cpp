@@ -18,7 +18,6 @@
 #include "e2e/driver/process.h"
 #include "e2e/driver/program_path.h"
 #include "e2e/driver/screen.h"
-#include "e2e/driver/tour.h"
 #include "e2e/driver/wait.h"
 #include "e2e/proofs/footprint.h"
 #include "e2e/proofs/host_libraries.h"
@@ -76,7 +75,7 @@ void PrintMessages(const Attendant& attendant) {
 
 int Report(const std::string& complaint) {
     if (complaint.empty()) return 0;
-    SaveScreenshot("random_windows");
+    std::printf("Its picture: %s\n", SaveScreenshot("random_windows").c_str());
     std::printf("FAILED: %s\n", complaint.c_str());
     return 1;
 }
@@ -84,7 +83,6 @@ int Report(const std::string& complaint) {
 int Run(const Options& options) {
     const HostLibraries libraries;
     Host host;
-    PrepareForTour(host);
     if (const std::string complaint = WarmUp(host, options); !complaint.empty())
         return Report("in the warm-up, " + complaint);
     const Footprint before = Footprint::Take();

@@ -55,7 +55,6 @@ int Run(const Options& options) {
     const HostLibraries libraries;
     MovePointer({640, 900});
     Host host;
-    PrepareForTour(host);
     host.Release();
     host.Call([] { CoFreeUnusedLibrariesEx(0, 0); });
     RunCycles(host, options.warmUp);

@@ -8,7 +8,9 @@
 #include <filesystem>
 
 #include "data/connection.h"
+#include "data/date.h"
 #include "host/embedded/demo_people.h"
+#include "host/embedded/demo_rates.h"
 #include "host/embedded/embedded_connection.h"
 
 namespace tavrin::host {
@@ -29,19 +31,19 @@ class DemoData : public testing::Test {
     EmbeddedConnection connection_{database_};
 };
 
-TEST_F(DemoData, RatesBeginWithDayAndFlagThenSixCurrencies) {
+TEST_F(DemoData, RatesBeginWithDayAndFlagThenCurrencies) {
     const auto rows = connection_.Execute("SELECT * FROM [Curs Valutar]");
     std::vector<std::string> names;
     for (std::size_t field = 0; field < rows->FieldCount(); ++field)
         names.push_back(rows->FieldName(field));
-    EXPECT_THAT(names, ElementsAre("Data", "Validat", "EUR", "USD", "GBP", "CHF", "JPY", "HUF"));
+    EXPECT_THAT(names, ElementsAre("Data", "Validat", "EUR", "USD", "GBP", "CHF", "JPY", "$"));
 }
 
 TEST_F(DemoData, EveryYearHasItsWorkingDays) {
     for (const char* const year : {"2001", "2002", "2003"}) {
         const std::int64_t days =
             Count(std::string("SELECT Count(*) FROM [Curs Valutar] WHERE YEAR(Data) = ") + year);
-        EXPECT_GT(days, 250) << year;
+        EXPECT_GT(days, 230) << year;
         EXPECT_LT(days, 262) << year;
     }
     EXPECT_EQ(Count("SELECT Count(*) FROM [Curs Valutar] WHERE Data = '2003-05-17'"), 0) << "a Saturday";
@@ -57,6 +59,17 @@ TEST_F(DemoData, RatesAreWholeLeiOfTheTime) {
         ASSERT_TRUE(euro > 23500 && euro < 42500) << euro;
         ASSERT_TRUE(dollar > 24500 && dollar < 35000) << dollar;
     }
+}
+
+TEST_F(DemoData, TheCalculatorsCurrencyIsTheDollar) {
+    EXPECT_GT(Count("SELECT Count(*) FROM [Curs Valutar] WHERE [$] = [USD]"), 700);
+    EXPECT_EQ(Count("SELECT Count(*) FROM [Curs Valutar] WHERE [$] <> [USD]"), 0);
+}
+
+TEST_F(DemoData, RatesOfTheDayAreStillToBeEntered) {
+    const std::string today = data::FormatYearMonthDay(data::ToOleDate(DemoDay));
+    EXPECT_EQ(Count("SELECT Count(*) FROM [Curs Valutar] WHERE [Data] >= '" + today + "'"), 0);
+    EXPECT_EQ(Count("SELECT Count(*) FROM [Curs Valutar] WHERE [Data] = '2003-11-27'"), 1);
 }
 
 TEST_F(DemoData, CompaniesAreFrozenNeverAndLongAgo) {
