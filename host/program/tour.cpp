@@ -12,7 +12,7 @@
 namespace tavrin::host {
 namespace {
 
-constexpr ULONGLONG PatienceMilliseconds = 5000;
+constexpr ULONGLONG StillnessPatienceMilliseconds = 5000;
 /// Longer than what is drawn needs from a window to the screen.
 constexpr DWORD BetweenLooksMilliseconds = 30;
 
@@ -46,7 +46,7 @@ RECT PlaceOf(const TourStep& step, const TourUser& user) {
 
 /// What is there twice in a row.
 ScreenPicture CaptureStill(const RECT& place) {
-    const ULONGLONG end = GetTickCount64() + PatienceMilliseconds;
+    const ULONGLONG end = GetTickCount64() + StillnessPatienceMilliseconds;
     ScreenPicture before;
     while (GetTickCount64() < end) {
         Sleep(BetweenLooksMilliseconds);

@@ -7,11 +7,11 @@
 namespace tavrin::host {
 namespace {
 
-constexpr ULONGLONG PatienceMilliseconds = 20000;
+constexpr ULONGLONG AppearancePatienceMilliseconds = 20000;
 
 template <class Find>
 HWND AwaitFound(const WindowThread& windows, const std::string& what, const Find& find) {
-    const ULONGLONG end = GetTickCount64() + PatienceMilliseconds;
+    const ULONGLONG end = GetTickCount64() + AppearancePatienceMilliseconds;
     while (GetTickCount64() < end) {
         windows.Settle();
         if (const HWND found = find(); found != nullptr) return found;

@@ -7,7 +7,7 @@ namespace tavrin::host {
 namespace {
 
 constexpr UINT RunMessage = WM_APP;
-constexpr ULONGLONG PatienceMilliseconds = 20000;
+constexpr ULONGLONG IdlenessPatienceMilliseconds = 20000;
 constexpr DWORD PauseMilliseconds = 5;
 /// What the display has to tell may come between two looks, and may lead to more than one message.
 constexpr int IdleLooks = 3;
@@ -44,7 +44,7 @@ bool WindowThread::IsIdle() const {
 }
 
 void WindowThread::Settle() const {
-    const ULONGLONG end = GetTickCount64() + PatienceMilliseconds;
+    const ULONGLONG end = GetTickCount64() + IdlenessPatienceMilliseconds;
     for (int idle = 0; idle < IdleLooks; Sleep(PauseMilliseconds)) {
         idle = IsIdle() ? idle + 1 : 0;
         if (GetTickCount64() > end) throw data::Error(E_FAIL, "the windows do not come to rest");
