@@ -152,6 +152,7 @@ void Form::Focus(Control& control) {
     const bool usable = visible_ && AcceptsInput() && !unloading_;
     // Activating first: what the window does then must not take back the focus that is given now.
     if (usable && !active_ && peer_) peer_->Activate();
+    if (!control.CanTakeFocus()) return;
     MoveFocus(control);
     if (usable && active_ && activeControl_ == &control && control.Peer() != nullptr)
         control.Peer()->TakeFocus();
@@ -184,6 +185,10 @@ void Form::FocusPrevious() {
 }
 
 void Form::FocusNeighbour(int step) {
+    if (Control* next = Neighbour(step)) Focus(*next);
+}
+
+Control* Form::Neighbour(int step) const {
     const std::vector<Control*> controls = AllControls();
     const auto count = static_cast<std::ptrdiff_t>(controls.size());
     auto index = std::find(controls.begin(), controls.end(), activeControl_) - controls.begin();
@@ -191,11 +196,9 @@ void Form::FocusNeighbour(int step) {
     for (std::ptrdiff_t tried = 0; tried < count; ++tried) {
         index = (index + step + count) % count;
         Control* candidate = controls[static_cast<std::size_t>(index)];
-        if (candidate->CanTakeFocus()) {
-            Focus(*candidate);
-            return;
-        }
+        if (candidate->CanTakeFocus()) return candidate;
     }
+    return nullptr;
 }
 
 void Form::EndPressOfUnavailable() {
@@ -208,7 +211,8 @@ void Form::EndPressOfUnavailable() {
 void Form::LeaveUnfocusable() {
     if (activeControl_ == nullptr || unloading_ || activeControl_->CanTakeFocus()) return;
     Control* left = activeControl_;
-    FocusNext();
+    // A window that is not in use stays in the background.
+    if (Control* next = Neighbour(1)) active_ ? Focus(*next) : MoveFocus(*next);
     if (activeControl_ != left) return;
     activeControl_ = nullptr;
     left->RaiseLostFocus();

@@ -132,6 +132,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     void MoveFocus(Control& control);
     void FocusFirst();
     void FocusNeighbour(int step);
+    Control* Neighbour(int step) const;  ///< null when none takes the focus
     /// What was hidden or disabled, itself or with what it stands in, is not pressed any more.
     void EndPressOfUnavailable();
     /// Moves the focus on when its control was hidden or disabled.

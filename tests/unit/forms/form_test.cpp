@@ -258,6 +258,25 @@ TEST_F(FormTest, AControlThatIsHiddenPassesItsFocusOn) {
     EXPECT_EQ(form->ActiveControl(), nullptr);
 }
 
+TEST_F(FormTest, AControlThatCannotTakeTheFocusAnyMoreDoesNotGetIt) {
+    const auto form = Make();
+    form->Show();
+    desktop.ActivateByUser(nullptr);
+    form->whenActivating = [&] { form->second.SetEnabled(false); };
+    form->second.SetFocus();
+    EXPECT_EQ(desktop.ActiveForm(), form.get());
+    EXPECT_EQ(form->ActiveControl(), &form->first);
+}
+
+TEST_F(FormTest, AWindowInTheBackgroundMovesItsFocusThere) {
+    const auto form = Make();
+    form->Show();
+    desktop.ActivateByUser(nullptr);
+    form->first.SetEnabled(false);
+    EXPECT_EQ(form->ActiveControl(), &form->second);
+    EXPECT_EQ(desktop.ActiveForm(), nullptr);
+}
+
 TEST_F(FormTest, AFocusGivenToAnInactiveWindowActivatesIt) {
     const auto form = Make();
     form->Show();
