@@ -95,28 +95,22 @@ class FileBeside {
 
     void Write(std::string_view content) { WriteAll(file_.get(), content); }
 
-    /// False where the other file is held by somebody, and still there.
+    /// False where the other file is held by somebody, and still there. The platform's way to replace one
+    /// file by another keeps what the old one was besides its content, its rights above all. It needs an old
+    /// one, and not every drive knows it.
     bool TakePlace() {
         file_.reset();
-        if (!TakesAttributesOver() && !MoveFileExW(name_.c_str(), target_.c_str(), Moving)) return false;
+        const DWORD attributes = GetFileAttributesW(target_.c_str());
+        if (!ReplaceFileW(target_.c_str(), name_.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+                          nullptr) &&
+            !MoveFileExW(name_.c_str(), target_.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            return false;
         name_.clear();
+        if (attributes != INVALID_FILE_ATTRIBUTES) SetFileAttributesW(target_.c_str(), attributes);
         return true;
     }
 
   private:
-    static constexpr DWORD Moving = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-
-    /// The platform's way to replace one file by another, which keeps what the old one was besides its
-    /// content. It needs an old one, and not every drive knows it.
-    bool TakesAttributesOver() {
-        const DWORD attributes = GetFileAttributesW(target_.c_str());
-        if (!ReplaceFileW(target_.c_str(), name_.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
-                          nullptr))
-            return false;
-        SetFileAttributesW(target_.c_str(), attributes);
-        return true;
-    }
-
     std::wstring target_;
     std::wstring name_;
     OwnedFile file_;
