@@ -37,6 +37,13 @@ bool IsReadOnly(const std::wstring& name) {
     return Exists(name) && (GetFileAttributesW(name.c_str()) & FILE_ATTRIBUTE_READONLY) != 0;
 }
 
+/// Whether somebody has the file open who lets nobody take its name away.
+bool IsNameHeld(const std::wstring& name) {
+    const OwnedFile file = Own(
+        CreateFileW(name.c_str(), DELETE, Sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return !file && GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
 std::size_t SizeOf(HANDLE file) {
     LARGE_INTEGER size{};
     if (!GetFileSizeEx(file, &size)) ThrowLastError();
@@ -95,7 +102,7 @@ class FileBeside {
 
     void Write(std::string_view content) { WriteAll(file_.get(), content); }
 
-    /// False where the other file is held by somebody, and still there. The platform's way to replace one
+    /// False where the other file is still there. The platform's way to replace one
     /// file by another keeps what the old one was besides its content, its rights above all. It needs an old
     /// one, and not every drive knows it.
     bool TakePlace() {
@@ -152,6 +159,7 @@ std::string WholeFiles::Read(const std::string& name, std::size_t maximumSize) {
 void WholeFiles::Replace(const std::string& name, std::string_view content) {
     const std::wstring target = ToWide(name);
     if (IsReadOnly(target)) ThrowSystemError(HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED));
+    if (IsNameHeld(target)) return WriteInPlace(target, content);
     FileBeside file(target);
     if (file.Error() != ERROR_SUCCESS) {
         if (!Exists(target)) ThrowSystemError(HRESULT_FROM_WIN32(file.Error()));

@@ -721,7 +721,7 @@ TEST_F(NotesTest, LettersAreThoseOfTheDocumentsPage) {
     ExpectNothingDrifts();
 }
 
-TEST_F(NotesTest, AMegabyteInOneParagraphIsBrokenUp) {
+TEST_F(NotesTest, ALongParagraphIsBrokenUp) {
     Open();
     std::wstring words;
     for (int i = 0; i < 14286; ++i)
@@ -739,7 +739,7 @@ TEST_F(NotesTest, AMegabyteInOneParagraphIsBrokenUp) {
 TEST_F(NotesTest, ObjectsDeletionsAndTablesComeAsText) {
     Open();
     LoadText(
-        R"({\rtf1\ansi before{\object\objautlink{\*\objdata 0105000002}{\result  seen}} after{\deleted  gone}\bin3 }}} .\par)"
+        R"({\rtf1\ansi before{\object\objautlink{\*\objdata 0105000002}{\result  seen}} after{\deleted  gone}\bin3 }}}.\par)"
         R"(\trowd\clvertalt\cellx1000\cellx2000\intbl a\cell b\cell\row\pard end})");
     EXPECT_EQ(Text(), L"before seen after.\r\na\tb\r\nend");
     ExpectNothingDrifts();
