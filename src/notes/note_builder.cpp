@@ -13,17 +13,6 @@ bool BeginsCharacter(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
 }
 
-/// The start of a name that has at most so many units of UTF-16. A character of four bytes takes two.
-std::string_view CutName(std::string_view name) {
-    std::size_t units = 0;
-    for (std::size_t i = 0; i < name.size(); ++i) {
-        if (!BeginsCharacter(name[i])) continue;
-        units += static_cast<unsigned char>(name[i]) >= 0xF0U ? 2 : 1;
-        if (units > LongestFontName) return name.substr(0, i);
-    }
-    return name;
-}
-
 std::string_view WithoutBlanksAround(std::string_view text) {
     while (text.starts_with(' '))
         text.remove_prefix(1);
@@ -46,8 +35,19 @@ ParagraphFormat Continued(ParagraphFormat format) {
 
 }  // namespace
 
+std::string_view SoundFontName(std::string_view name) {
+    name = WithoutBlanksAround(name);
+    std::size_t units = 0;
+    for (std::size_t i = 0; i < name.size(); ++i) {
+        if (!BeginsCharacter(name[i])) continue;
+        units += static_cast<unsigned char>(name[i]) >= 0xF0U ? 2 : 1;
+        if (units > LongestFontName) return WithoutBlanksAround(name.substr(0, i));
+    }
+    return name;
+}
+
 std::uint16_t NoteBuilder::Font(std::string_view name, bool symbols) {
-    name = WithoutBlanksAround(CutName(WithoutBlanksAround(name)));
+    name = SoundFontName(name);
     if (name.empty()) name = StandardFont;
     const auto same = [&](const NoteFont& font) { return font.name == name && font.symbols == symbols; };
     const auto found = std::ranges::find_if(note_.fonts, same);

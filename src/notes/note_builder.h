@@ -11,7 +11,7 @@ namespace tavrin::notes {
 /// notes. What goes beyond a bound is left out, and told by IsTooLarge.
 class NoteBuilder {
   public:
-    /// The number of that font, which is to be used next. The name is cut where platforms cut it.
+    /// The number of that font, which is to be used next.
     std::uint16_t Font(std::string_view name, bool symbols);
 
     /// Printable ASCII.
@@ -51,6 +51,10 @@ class NoteBuilder {
 
 /// The same with every value as an editor takes it: none negative but the first line's indent.
 ParagraphFormat Sound(ParagraphFormat format);
+
+/// A font's name as platforms keep it: no longer than they take, and without blanks around it. A character of
+/// four bytes takes two of their places.
+std::string_view SoundFontName(std::string_view name);
 
 void AppendUtf8(std::string& text, char32_t character);
 

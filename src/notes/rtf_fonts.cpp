@@ -26,13 +26,15 @@ constexpr std::string_view SymbolFonts[] = {"Symbol", "Wingdings", "Wingdings 2"
 
 constexpr std::size_t LongestName = 256;  // in bytes; much more than is kept
 
-void TakeSuffixOff(RtfFont& font) {
+/// False where there is none.
+bool TakeSuffixOff(RtfFont& font) {
     for (const Suffix& suffix : Suffixes) {
         if (!font.name.ends_with(suffix.text)) continue;
         font.name.resize(font.name.size() - suffix.text.size());
         if (!font.page) font.page = suffix.page;
-        return;
+        return true;
     }
+    return false;
 }
 
 bool IsSymbolFont(std::string_view name) {
@@ -65,9 +67,10 @@ void RtfFonts::Add(char32_t character) {
 
 void RtfFonts::End() {
     if (!std::exchange(begun_, false)) return;
-    while (font_.name.ends_with(' '))
-        font_.name.pop_back();
-    TakeSuffixOff(font_);
+    // Cutting may bring a suffix to the end, and a name that has been read once must stay the same.
+    do {
+        font_.name = std::string(SoundFontName(font_.name));
+    } while (TakeSuffixOff(font_));
     if (!font_.page && IsSymbolFont(font_.name)) font_.page = code_page::Symbols;
     font_.symbols = font_.page == code_page::Symbols;
     Keep();

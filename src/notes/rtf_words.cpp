@@ -1,6 +1,9 @@
 #include "notes/rtf_words.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
 #include <iterator>
 
 #include "notes/note.h"
@@ -217,11 +220,31 @@ constexpr RtfWord Words[] = {
 
 static_assert(std::ranges::is_sorted(Words, {}, &RtfWord::name));
 
+constexpr std::size_t Letters = 26;
+
+/// Where the words of each letter begin; those of the last one end where one more would.
+constexpr std::array<std::uint8_t, Letters + 1> MakeStarts() {
+    std::array<std::uint8_t, Letters + 1> starts{};
+    for (const RtfWord& word : Words) {
+        for (auto letter = static_cast<std::size_t>(word.name.front() - 'a') + 1; letter <= Letters; ++letter)
+            ++starts[letter];
+    }
+    return starts;
+}
+
+static_assert(std::size(Words) <= 0xFF);
+constexpr std::array<std::uint8_t, Letters + 1> Starts = MakeStarts();
+
 }  // namespace
 
 const RtfWord* FindRtfWord(std::string_view name) {
-    const auto* const found = std::ranges::lower_bound(Words, name, {}, &RtfWord::name);
-    return found != std::end(Words) && found->name == name ? found : nullptr;
+    if (name.front() < 'a' || name.front() > 'z') return nullptr;
+    const auto letter = static_cast<std::size_t>(name.front() - 'a');
+    const RtfWord* const end = Words + Starts[letter + 1];
+    const RtfWord* const found =
+        std::lower_bound(Words + Starts[letter], end, name,
+                         [](const RtfWord& word, std::string_view wanted) { return word.name < wanted; });
+    return found != end && found->name == name ? found : nullptr;
 }
 
 }  // namespace tavrin::notes
