@@ -25,12 +25,23 @@ std::int16_t Clamp(int value, int lowest, int highest) {
     return static_cast<std::int16_t>(std::clamp(value, lowest, highest));
 }
 
+/// Every value as an editor takes it: none negative but the first line's indent.
+void MakeSound(ParagraphFormat& format) {
+    format.leftIndent = Clamp(format.leftIndent, 0, LongestLength);
+    format.rightIndent = Clamp(format.rightIndent, 0, LongestLength);
+    format.firstLineIndent =
+        Clamp(format.firstLineIndent, -format.leftIndent, LongestLength - format.leftIndent);
+    format.spaceBefore = Clamp(format.spaceBefore, 0, LongestLength);
+    format.spaceAfter = Clamp(format.spaceAfter, 0, LongestLength);
+    format.lineHeight = Clamp(format.lineHeight, 0, LongestLength);
+    if (format.lineHeight == 0) format.lineSpacing = LineSpacing::Multiple;
+}
+
 /// What follows a break within a long paragraph looks as if there were none.
-ParagraphFormat Continued(ParagraphFormat format) {
+void Continue(ParagraphFormat& format) {
     format.firstLineIndent = 0;
     format.spaceBefore = 0;
     format.bullet = false;
-    return format;
 }
 
 }  // namespace
@@ -123,23 +134,12 @@ void NoteBuilder::EndParagraph(const RunFormat& format, const ParagraphFormat& p
     const RunFormat shown = IsParagraphEmpty() ? format : note_.runs.back().format;
     note_.text += '\n';
     EndText(shown, false);
-    const ParagraphFormat sound = Sound(paragraph);
-    note_.paragraphs.push_back(goesOn_ ? Continued(sound) : sound);
+    note_.paragraphs.push_back(paragraph);
+    MakeSound(note_.paragraphs.back());
+    if (goesOn_) Continue(note_.paragraphs.back());
     paragraphStart_ = note_.text.size();
     paragraphCharacters_ = 0;
     goesOn_ = false;
-}
-
-ParagraphFormat Sound(ParagraphFormat format) {
-    format.leftIndent = Clamp(format.leftIndent, 0, LongestLength);
-    format.rightIndent = Clamp(format.rightIndent, 0, LongestLength);
-    format.firstLineIndent =
-        Clamp(format.firstLineIndent, -format.leftIndent, LongestLength - format.leftIndent);
-    format.spaceBefore = Clamp(format.spaceBefore, 0, LongestLength);
-    format.spaceAfter = Clamp(format.spaceAfter, 0, LongestLength);
-    format.lineHeight = Clamp(format.lineHeight, 0, LongestLength);
-    if (format.lineHeight == 0) format.lineSpacing = LineSpacing::Multiple;
-    return format;
 }
 
 void AppendUtf8(std::string& text, char32_t character) {

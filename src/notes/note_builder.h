@@ -11,6 +11,9 @@ namespace tavrin::notes {
 /// notes. What goes beyond a bound is left out, and told by IsTooLarge.
 class NoteBuilder {
   public:
+    /// Makes room for so many bytes of text, for speed.
+    void Expect(std::size_t bytes) { note_.text.reserve(bytes); }
+
     /// The number of that font, which is to be used next.
     std::uint16_t Font(std::string_view name, bool symbols);
 
@@ -48,9 +51,6 @@ class NoteBuilder {
     bool goesOn_ = false;  ///< the paragraph is the rest of one that was too long
     bool tooLarge_ = false;
 };
-
-/// The same with every value as an editor takes it: none negative but the first line's indent.
-ParagraphFormat Sound(ParagraphFormat format);
 
 /// A font's name as platforms keep it: no longer than they take, and without blanks around it. A character of
 /// four bytes takes two of their places.

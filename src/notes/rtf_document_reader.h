@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 #include <vector>
@@ -20,7 +21,9 @@ class RtfDocumentReader {
   public:
     /// `document` begins inside the outermost group.
     RtfDocumentReader(std::string_view document, RtfIndents indents, bool rawIsUtf8)
-        : tokens_(document), indents_(indents), rawIsUtf8_(rawIsUtf8) {}
+        : tokens_(document), indents_(indents), rawIsUtf8_(rawIsUtf8) {
+        builder_.Expect(std::min(document.size(), MaximumCharacters));
+    }
 
     RtfReading Run();
 
