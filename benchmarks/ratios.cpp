@@ -1,7 +1,7 @@
 // What the windows cost beside the bare database work that they stand on, as medians of rounds taken by
 // turns: the rate list's refresh and the address book's opening, search and insertion, as their data grows,
-// and one key of the calculator. --large adds a million persons. A goal that is missed is marked; the exit
-// code does not tell.
+// one key of the calculator, and the reading and writing of notes. --large adds a million persons. A goal
+// that is missed is marked; the exit code does not tell.
 
 #include <cstdio>
 #include <memory>
@@ -15,6 +15,7 @@
 #include "calculator_keys.h"
 #include "host/embedded/embedded_connection.h"
 #include "host/embedded/embedded_database.h"
+#include "note_speed.h"
 #include "rates/curs_valutar.h"
 #include "rates/rate_statements.h"
 #include "support/headless_desktop.h"
@@ -282,5 +283,7 @@ int main(int argc, char** argv) {
     TimeKeys("a percent", bench::Percent);
     TimeKeys("a conversion", bench::Conversion);
     TimePrinting();
+    std::printf("Notes: a file of 1 MB\n");
+    bench::PrintNoteSpeed(Rounds);
     return 0;
 }

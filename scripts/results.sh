@@ -51,6 +51,9 @@ not_run() {
     line "$1" 'FAILED: not run' 0
 }
 
+# skipped NAME REASON: what this machine cannot run, and need not. It counts neither way.
+skipped() { line "$1" "skipped: $2" 0; }
+
 # run_program NAME COMMAND...: runs a GoogleTest program that writes $logs/NAME.xml; count_program adds it up.
 run_program() {
     local name=$1 start=$SECONDS code=0

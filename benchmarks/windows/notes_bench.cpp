@@ -16,15 +16,19 @@
 
 #include "forms/form.h"
 #include "forms/rich_text_box.h"
-#include "notes/note_filter.h"
+#include "notes/rtf_reader.h"
+#include "notes/rtf_writer.h"
+#include "sample_note.h"
 #include "win32/desktop.h"
 #include "win32/text.h"
 
 namespace {
 
 namespace forms = tavrin::forms;
+using namespace tavrin::notes;
 
 constexpr std::size_t NoteSize = std::size_t{1} << 20;
+constexpr std::size_t LongestFile = NoteSize * 2;
 constexpr int Rounds = 7;
 constexpr int SavesOfARound = 5;  // a disk's answers differ more than an editor's
 constexpr double Worst = 1.1;
@@ -37,22 +41,6 @@ class NoteForm : public forms::Form {
     }
     forms::RichTextBox note{*this, "note", {0, 0, 6000, 6000}};
 };
-
-/// Paragraphs, one in four with words in several formats, and letters that plain ASCII lacks. Where every
-/// paragraph has them, Wine takes most of a minute to lay them out, for either side.
-std::string MakeNote() {
-    std::string rtf =
-        "{\\rtf1\\ansi\\ansicpg1250\\uc1\\deff0{\\fonttbl{\\f0\\fnil\\fcharset238 Arial;}"
-        "{\\f1\\fnil\\fcharset238 Times New Roman;}}{\\colortbl;\\red200\\green0\\blue0;}\\pard\\f0\\fs20 ";
-    for (int line = 0; rtf.size() < NoteSize; ++line) {
-        rtf += "Nota " + std::to_string(line);
-        rtf += line % 4 == 0 ? ": plain text, {\\b bold text}, {\\i\\cf1 red text in italics}, \\u537?i "
-                               "{\\f1\\fs28 larger \\ul text} to the end of the paragraph.\\par\r\n"
-                             : ": plain text, \\u537?i nothing but plain text that goes on for more than a "
-                               "line, to the end of the paragraph.\\par\r\n";
-    }
-    return rtf + "}";
-}
 
 std::wstring PlaceFor(const wchar_t* name) {
     std::array<wchar_t, MAX_PATH + 1> folder{};
@@ -152,9 +140,14 @@ class NotePad {
     NotePad& operator=(const NotePad&) = delete;
 
     void Load(const std::string& name) {
-        form_->note.Load(tavrin::notes::FilterNote(files_.Read(name, tavrin::notes::MaximumNoteSize)));
+        form_->note.Load(WriteRtf(ReadRtf(files_.Read(name, LongestFile)).note));
     }
-    void Save(const std::string& name) { files_.Replace(name, form_->note.Save()); }
+    void Save(const std::string& name) {
+        const bool exchanged = form_->note.ExchangesIndents();
+        const RtfReading reading =
+            ReadRtf(form_->note.Save(), exchanged ? RtfIndents::Exchanged : RtfIndents::Standard);
+        files_.Replace(name, WriteRtf(reading.note));
+    }
 
   private:
     forms::Files& files_;
@@ -196,8 +189,8 @@ int main() {
     Times theirs;
     for (int round = 0; round <= Rounds; ++round) {
         // What the other round has saved is not what is compared.
-        desktop.PlatformFiles().Replace(name, MakeNote());
-        desktop.PlatformFiles().Replace(tavrin::win32::ToUtf8(bareName), MakeNote());
+        desktop.PlatformFiles().Replace(name, tavrin::bench::SampleNote(NoteSize));
+        desktop.PlatformFiles().Replace(tavrin::win32::ToUtf8(bareName), tavrin::bench::SampleNote(NoteSize));
         Measure(NotePad(desktop), name, round, ours);
         Measure(BareControl(), bareName, round, theirs);
     }

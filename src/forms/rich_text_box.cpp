@@ -47,6 +47,10 @@ std::string RichTextBox::Save() const {
     return Editor().Save();
 }
 
+bool RichTextBox::ExchangesIndents() const {
+    return Editor().ExchangesIndents();
+}
+
 void RichTextBox::HandleSelectionChange() {
     Raise(onSelChange);
 }

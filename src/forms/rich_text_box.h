@@ -26,8 +26,11 @@ class RichTextEditor {
     /// Puts a document in place of everything. \throws data::Error where the editor cannot read it to its
     /// end; everything is as before then.
     virtual void Load(std::string_view rtf) = 0;
-    /// The document in RTF, plain ASCII. \throws data::Error
+    /// The document in RTF, in the editor's own words. \throws data::Error
     virtual std::string Save() const = 0;
+    /// Whether the editor writes a paragraph's two indents in each other's place: the first line's as if it
+    /// were the paragraph's, and the rest as if it were the first line's.
+    virtual bool ExchangesIndents() const { return false; }
 };
 
 /// A field for formatted text of many lines. It edits by itself; the rest is asked of its editor. Keys that
@@ -44,6 +47,7 @@ class RichTextBox : public Control {
     void FormatSelection(const CharacterFormat& format);
     void Load(std::string_view rtf);
     std::string Save() const;
+    bool ExchangesIndents() const;
 
     /// The selection, or how it looks, has changed.
     std::function<void()> onSelChange;

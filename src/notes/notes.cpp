@@ -2,21 +2,26 @@
 
 #include <new>
 #include <optional>
+#include <string>
 
 #include "data/error.h"
 #include "notes/messages.h"
-#include "notes/note_filter.h"
+#include "notes/rtf_writer.h"
 
 namespace tavrin::notes {
 
 namespace {
 
 namespace key = forms::key;
+namespace message = shell::message;
 using forms::CharacterFormat;
 using forms::ToolLook;
 using Answer = shell::Module::Answer;
 
 constexpr int NoButton = -1;
+
+/// The longest file that is read, in bytes. Most of such a one are pictures' digits.
+constexpr std::size_t LongestFile = std::size_t{128} << 20;
 
 constexpr unsigned HideReadOnly = 0x4;
 constexpr unsigned NoChangeOfFolder = 0x8;
@@ -68,8 +73,24 @@ void Quietly(const Action& action) {
     } catch (const data::Error&) {
         // What went before stands.
     } catch (const std::bad_alloc&) {
-        // A note too large for the memory at hand is one that cannot be had.
+        // A dialog that the memory at hand does not suffice for is one that cannot be had.
     }
+}
+
+/// What is said of a file that gives no note.
+const char* ProblemOf(RtfOutcome outcome) {
+    switch (outcome) {
+        case RtfOutcome::NoNote:
+            return text::NoNote;
+        case RtfOutcome::NothingLeft:
+            return text::NothingLeft;
+        case RtfOutcome::TooLarge:
+            return text::TooLarge;
+        case RtfOutcome::Whole:
+        case RtfOutcome::Cut:
+            break;
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -173,7 +194,7 @@ void Notes::Perform(int index) {
         case NewOrOpen:
             return NewOrOpenNote();
         case Save:
-            return Quietly([this] { SaveNote(); });
+            return TellingOfFailure(text::NotSaved, [this] { SaveNote(); });
         case ChooseFont:
             return Quietly([this] { ChooseSelectionFont(); });
         case ChooseColor:
@@ -196,7 +217,7 @@ void Notes::NewOrOpenNote() {
         case Answer::Yes:
             return txtNota.SetText({});
         case Answer::No:
-            return Quietly([this] { OpenNote(); });
+            return TellingOfFailure(text::NotLoaded, [this] { OpenNote(); });
         case Answer::Withdrawn:
             break;
     }
@@ -207,8 +228,22 @@ void Notes::OpenNote() {
     dlgCommonDialog.dialogTitle = text::OpenTitle;
     dlgCommonDialog.filter = text::NoteFilter;
     if (!dlgCommonDialog.ShowOpen()) return;
-    const std::string file = OwnerDesktop().PlatformFiles().Read(dlgCommonDialog.fileName, MaximumNoteSize);
-    txtNota.Load(FilterNote(file));
+    LoadNote(OwnerDesktop().PlatformFiles().Read(dlgCommonDialog.fileName, LongestFile));
+}
+
+void Notes::LoadNote(const std::string& file) {
+    const RtfReading reading = ReadRtf(file);
+    if (const char* const problem = ProblemOf(reading.outcome)) return Tell(problem, message::Error);
+    txtNota.Load(WriteRtf(reading.note));
+    // Not every editor keeps pictures of every kind, and what it does not keep is not saved again.
+    const std::size_t pictures = reading.note.pictures.size();
+    const bool lacksPictures = pictures > 0 && ReadEditor().note.pictures.size() < pictures;
+    if (reading.outcome == RtfOutcome::Cut) Tell(text::CutNote, message::Exclamation);
+    if (reading.picturesLeftOut || lacksPictures) Tell(text::PicturesNotShown, message::Exclamation);
+}
+
+RtfReading Notes::ReadEditor() const {
+    return ReadRtf(txtNota.Save(), txtNota.ExchangesIndents() ? RtfIndents::Exchanged : RtfIndents::Standard);
 }
 
 void Notes::SaveNote() {
@@ -216,7 +251,32 @@ void Notes::SaveNote() {
     dlgCommonDialog.dialogTitle = text::SaveTitle;
     dlgCommonDialog.filter = text::NoteFilter;
     if (!dlgCommonDialog.ShowSave()) return;
-    OwnerDesktop().PlatformFiles().Replace(dlgCommonDialog.fileName, txtNota.Save());
+    const RtfReading reading = ReadEditor();
+    if (reading.outcome != RtfOutcome::Whole) {
+        const bool tooLarge = reading.outcome == RtfOutcome::TooLarge;
+        throw data::Error(data::error_number::InvalidFile, tooLarge ? text::TooLarge : text::EditorFailed);
+    }
+    OwnerDesktop().PlatformFiles().Replace(dlgCommonDialog.fileName, WriteRtf(reading.note));
+    if (reading.picturesLeftOut) Tell(text::PicturesNotSaved, message::Exclamation);
+}
+
+/// A window that was closed while an earlier message was up has no more to say.
+void Notes::Tell(const std::string& prompt, int icon) {
+    if (IsLoaded()) module_.ShowMessage(prompt, icon, message::Ok, Caption());
+}
+
+/// Runs an action that loads or saves. Where it fails the user is told so, and of what the platform says.
+template <class Action>
+void Notes::TellingOfFailure(const char* failure, const Action& action) {
+    std::string reason;
+    try {
+        return action();
+    } catch (const data::Error& error) {
+        reason = error.Description();
+    } catch (const std::bad_alloc&) {
+        reason = data::CurrentError().Description();
+    }
+    Tell(std::string(failure) + "\r\n" + reason, message::Error);
 }
 
 void Notes::ChooseSelectionFont() {

@@ -1,15 +1,18 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "notes/notes_design.h"
+#include "notes/rtf_reader.h"
 #include "shell/module.h"
 
 namespace tavrin::notes {
 
-/// The note pad: one formatted text, kept in an RTF file where the user saves it. Nothing asks about unsaved
-/// text. A dialog that is cancelled, and a file that cannot be read or written, end the action without a
-/// word; the text is as it was then.
+/// The note pad: one formatted text, kept in an RTF file where the user saves it. What goes into the editor
+/// and what goes into the file is written by the note pad itself, from what it could read. Nothing asks about
+/// unsaved text. A dialog that is cancelled ends the action without a word; a file that cannot be read or
+/// written is told, with the text and the old file as they were.
 class Notes : public NotesDesign {
   public:
     explicit Notes(shell::Module& module);
@@ -40,7 +43,12 @@ class Notes : public NotesDesign {
     void Perform(int index);
     void NewOrOpenNote();
     void OpenNote();
+    void LoadNote(const std::string& file);
     void SaveNote();
+    RtfReading ReadEditor() const;
+    void Tell(const std::string& prompt, int icon);
+    template <class Action>
+    void TellingOfFailure(const char* failure, const Action& action);
     void ChooseSelectionFont();
     void ChooseSelectionColor();
     void Toggle(std::optional<bool> forms::CharacterFormat::*property);

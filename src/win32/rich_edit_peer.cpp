@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "data/error.h"
-#include "forms/rtf_escape.h"
 #include "win32/edit_frame.h"
 #include "win32/library.h"
 #include "win32/mouse_message.h"
@@ -111,8 +110,7 @@ void RichEditPeer::Load(std::string_view rtf) {
 }
 
 std::string RichEditPeer::Save() const {
-    if (WritesEveryLetter()) return StreamRtfOut(Handle(), RtfEncoding::Native);
-    return forms::EscapeRtf(StreamRtfOut(Handle(), RtfEncoding::Utf8));
+    return StreamRtfOut(Handle(), WritesEveryLetter() ? RtfEncoding::Native : RtfEncoding::Utf8);
 }
 
 /// Some versions of the control write a look-alike for a letter that the font's character set lacks.
@@ -124,6 +122,17 @@ bool RichEditPeer::WritesEveryLetter() const {
             StreamRtfOut(probe.Handle(), RtfEncoding::Native).find("\\u259") != std::string::npos;
     }
     return *writesEveryLetter_;
+}
+
+/// Some versions of the control do not write of a paragraph what they have read.
+bool RichEditPeer::ExchangesIndents() const {
+    if (!exchangesIndents_) {
+        const HiddenEdit probe;
+        StreamRtfIn(probe.Handle(), R"({\rtf1\pard\fi400\li700 a\par})");
+        const std::string written = StreamRtfOut(probe.Handle(), RtfEncoding::Native);
+        exchangesIndents_ = written.find("\\fi1100") != std::string::npos;
+    }
+    return *exchangesIndents_;
 }
 
 // What the platform tells.

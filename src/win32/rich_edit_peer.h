@@ -22,6 +22,7 @@ class RichEditPeer final : public ControlWindow, public forms::RichTextEditor {
     void FormatSelection(const forms::CharacterFormat& format) override;
     void Load(std::string_view rtf) override;
     std::string Save() const override;
+    bool ExchangesIndents() const override;
 
   protected:
     LRESULT HandleMessage(const Message& message) override;
@@ -45,6 +46,7 @@ class RichEditPeer final : public ControlWindow, public forms::RichTextEditor {
 
     forms::RichTextBox& control_;
     mutable std::optional<bool> writesEveryLetter_;
+    mutable std::optional<bool> exchangesIndents_;
     bool holdsPress_ = false;  ///< a button of the mouse went down here and is the editor's to act on
     bool isReleasing_ = false;
 };

@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "data/error.h"
 #include "win32/system_error.h"
 #include "win32/text.h"
 
@@ -16,6 +17,7 @@ namespace {
 
 constexpr std::size_t LargestPiece = std::size_t{1} << 20;
 constexpr int NamesTried = 100;
+constexpr DWORD Sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 struct CloseFile {
     using pointer = HANDLE;
@@ -27,9 +29,51 @@ OwnedFile Own(HANDLE file) {
     return OwnedFile(file != INVALID_HANDLE_VALUE ? file : nullptr);
 }
 
+bool Exists(const std::wstring& name) {
+    return GetFileAttributesW(name.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
 bool IsReadOnly(const std::wstring& name) {
-    const DWORD attributes = GetFileAttributesW(name.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    return Exists(name) && (GetFileAttributesW(name.c_str()) & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
+/// Whether somebody has the file open who lets nobody take its name away.
+bool IsNameHeld(const std::wstring& name) {
+    const OwnedFile file = Own(
+        CreateFileW(name.c_str(), DELETE, Sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return !file && GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
+std::size_t SizeOf(HANDLE file) {
+    LARGE_INTEGER size{};
+    if (!GetFileSizeEx(file, &size)) ThrowLastError();
+    return static_cast<std::size_t>(size.QuadPart);
+}
+
+std::string ReadAll(HANDLE file) {
+    std::string content(SizeOf(file), '\0');
+    DWORD read = 0;
+    if (!ReadFile(file, content.data(), static_cast<DWORD>(content.size()), &read, nullptr)) ThrowLastError();
+    content.resize(read);
+    return content;
+}
+
+void WriteAll(HANDLE file, std::string_view content) {
+    while (!content.empty()) {
+        const auto piece = static_cast<DWORD>(std::min(content.size(), LargestPiece));
+        DWORD written = 0;
+        if (!WriteFile(file, content.data(), piece, &written, nullptr)) ThrowLastError();
+        // A full disk may take less without calling it an error.
+        if (written == 0) ThrowSystemError(HRESULT_FROM_WIN32(ERROR_DISK_FULL));
+        content.remove_prefix(written);
+    }
+    if (!FlushFileBuffers(file)) ThrowLastError();
+}
+
+void MoveTo(HANDLE file, std::size_t place) {
+    LARGE_INTEGER distance{};
+    distance.QuadPart = static_cast<LONGLONG>(place);
+    if (!SetFilePointerEx(file, distance, nullptr, FILE_BEGIN)) ThrowLastError();
 }
 
 /// A new file beside another, which is gone with this object unless it has taken the other's place.
@@ -41,10 +85,13 @@ class FileBeside {
                     ToWide("." + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(i) + ".tmp");
             file_ = Own(CreateFileW(name_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                     FILE_ATTRIBUTE_NORMAL, nullptr));
-            if (!file_ && GetLastError() != ERROR_FILE_EXISTS) break;
+            error_ = file_ ? ERROR_SUCCESS : GetLastError();
+            if (!file_ && error_ != ERROR_FILE_EXISTS) break;
         }
-        if (!file_) ThrowLastError();
+        if (!file_) name_.clear();
     }
+    /// Why there is no such file, if there is none.
+    DWORD Error() const { return error_; }
     ~FileBeside() {
         if (name_.empty()) return;
         file_.reset();
@@ -53,55 +100,73 @@ class FileBeside {
     FileBeside(const FileBeside&) = delete;
     FileBeside& operator=(const FileBeside&) = delete;
 
-    void Write(std::string_view content) {
-        while (!content.empty()) {
-            const auto piece = static_cast<DWORD>(std::min(content.size(), LargestPiece));
-            DWORD written = 0;
-            if (!WriteFile(file_.get(), content.data(), piece, &written, nullptr)) ThrowLastError();
-            // A full disk may take less without calling it an error.
-            if (written == 0) ThrowSystemError(HRESULT_FROM_WIN32(ERROR_DISK_FULL));
-            content.remove_prefix(written);
-        }
-        if (!FlushFileBuffers(file_.get())) ThrowLastError();
-    }
+    void Write(std::string_view content) { WriteAll(file_.get(), content); }
 
-    void TakePlace() {
+    /// False where the other file is still there. The platform's way to replace one
+    /// file by another keeps what the old one was besides its content, its rights above all. It needs an old
+    /// one, and not every drive knows it.
+    bool TakePlace() {
         file_.reset();
-        const DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-        if (!MoveFileExW(name_.c_str(), target_.c_str(), how)) ThrowLastError();
+        const DWORD attributes = GetFileAttributesW(target_.c_str());
+        if (!ReplaceFileW(target_.c_str(), name_.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+                          nullptr) &&
+            !MoveFileExW(name_.c_str(), target_.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            return false;
         name_.clear();
+        if (attributes != INVALID_FILE_ATTRIBUTES) SetFileAttributesW(target_.c_str(), attributes);
+        return true;
     }
 
   private:
     std::wstring target_;
     std::wstring name_;
     OwnedFile file_;
+    DWORD error_ = ERROR_SUCCESS;
 };
+
+/// The content of an open file in place of what was in it. Room is made before anything is overwritten.
+void Overwrite(HANDLE file, std::string_view content) {
+    MoveTo(file, content.size());
+    if (!SetEndOfFile(file)) ThrowLastError();
+    MoveTo(file, 0);
+    WriteAll(file, content);
+}
+
+/// Writes into a file that stays the one it is.
+void WriteInPlace(const std::wstring& target, std::string_view content) {
+    const OwnedFile file = Own(CreateFileW(target.c_str(), GENERIC_READ | GENERIC_WRITE, Sharing, nullptr,
+                                           OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file) ThrowLastError();
+    const std::string before = ReadAll(file.get());
+    try {
+        Overwrite(file.get(), content);
+    } catch (const data::Error&) {
+        Overwrite(file.get(), before);
+        throw;
+    }
+}
 
 }  // namespace
 
 std::string WholeFiles::Read(const std::string& name, std::size_t maximumSize) {
-    const OwnedFile file = Own(CreateFileW(ToWide(name).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+    const OwnedFile file = Own(CreateFileW(ToWide(name).c_str(), GENERIC_READ, Sharing, nullptr,
                                            OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!file) ThrowLastError();
-    LARGE_INTEGER size{};
-    if (!GetFileSizeEx(file.get(), &size)) ThrowLastError();
-    if (static_cast<ULONGLONG>(size.QuadPart) > maximumSize)
-        ThrowSystemError(HRESULT_FROM_WIN32(ERROR_FILE_TOO_LARGE));
-    std::string content(static_cast<std::size_t>(size.QuadPart), '\0');
-    DWORD read = 0;
-    if (!ReadFile(file.get(), content.data(), static_cast<DWORD>(content.size()), &read, nullptr))
-        ThrowLastError();
-    content.resize(read);
-    return content;
+    if (SizeOf(file.get()) > maximumSize) ThrowSystemError(HRESULT_FROM_WIN32(ERROR_FILE_TOO_LARGE));
+    return ReadAll(file.get());
 }
 
 void WholeFiles::Replace(const std::string& name, std::string_view content) {
     const std::wstring target = ToWide(name);
     if (IsReadOnly(target)) ThrowSystemError(HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED));
+    if (IsNameHeld(target)) return WriteInPlace(target, content);
     FileBeside file(target);
+    if (file.Error() != ERROR_SUCCESS) {
+        if (!Exists(target)) ThrowSystemError(HRESULT_FROM_WIN32(file.Error()));
+        return WriteInPlace(target, content);
+    }
     file.Write(content);
-    file.TakePlace();
+    if (!file.TakePlace()) WriteInPlace(target, content);
 }
 
 }  // namespace tavrin::win32

@@ -76,7 +76,7 @@ void ThrowFault(FaultKind kind) {
 }
 
 bool IsQuiet(Touch touch) {
-    return touch == Touch::Dialog || touch == Touch::File || touch == Touch::Document;
+    return touch == Touch::Dialog;
 }
 
 bool IsStatement(Touch touch) {

@@ -64,6 +64,7 @@ enum class Touch {
     Field,
     Message,
     Dialog,
+    FileDialog,
     File,
     Document  ///< comes into an editor or out of it
 };

@@ -103,8 +103,9 @@ void FaultRunner::RunEveryInterruption(std::size_t flow) {
 
 void FaultRunner::RunEveryClosing(std::size_t flow) {
     const auto& touches = Clean(flow).touches;
-    const auto moments = static_cast<std::size_t>(std::ranges::count_if(
-        touches, [](Touch touch) { return touch == Touch::Message || touch == Touch::Dialog; }));
+    const auto moments = static_cast<std::size_t>(std::ranges::count_if(touches, [](Touch touch) {
+        return touch == Touch::Message || touch == Touch::Dialog || touch == Touch::FileDialog;
+    }));
     for (std::size_t moment = 1; moment <= moments; ++moment) {
         for (const char* window : {"Utilitati", "Notes", "Agenda", "frmCalculator", "AlegeMoneda",
                                    "CursValutar", "CursValutarDetaliu", "CereMoneda", "EvolutieCurs", ""})

@@ -98,7 +98,8 @@ void UserSession::ConnectPlatform() {
         GivePeers(form);
     };
     desktop.dialogs.whileShowing = [this](const forms::Form&) {
-        plan->Meet(Touch::Dialog);
+        const std::size_t files = desktop.dialogs.opened.size() + desktop.dialogs.saved.size();
+        plan->Meet(std::exchange(fileDialogs_, files) != files ? Touch::FileDialog : Touch::Dialog);
         if (whileShowing) whileShowing();
     };
     desktop.files.whenUsed = [this] { plan->Meet(Touch::File); };
@@ -222,6 +223,7 @@ void UserSession::Restart() {
     }
     desktop.reports.clear();
     desktop.dialogs = {};
+    fileDialogs_ = 0;
     desktop.files = {};
     ConnectPlatform();
     desktop.cursor = {500, 400};

@@ -105,6 +105,7 @@ class UserSession {
     /// The field that edits a rate lies over the cell that it edits, and over no other.
     std::string ComplaintOfEditor() const;
 
+    std::size_t fileDialogs_ = 0;  ///< that have been asked for
     std::shared_ptr<host::EmbeddedDatabase> database_;
     std::unique_ptr<host::EmbeddedDatabase::Transaction> transaction_;
     std::shared_ptr<data::Connection> connection_;

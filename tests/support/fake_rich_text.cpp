@@ -1,17 +1,18 @@
 #include "support/fake_rich_text.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "data/error.h"
+#include "notes/code_pages.h"
+#include "notes/note_builder.h"
+#include "notes/rtf_reader.h"
+#include "notes/rtf_writer.h"
 
 namespace tavrin::tests {
 
 namespace {
 
 using forms::CharacterFormat;
-
-constexpr std::string_view Start = "{\\rtf1 ";
 
 CharacterFormat Standard() {
     return {.face = "Arial",
@@ -53,70 +54,29 @@ void KeepAllShared(CharacterFormat& format, const CharacterFormat& other) {
     KeepShared(format.color, other.color);
 }
 
-/// One character with its format: `{\b1\i0\ul0\strike0\fs20\cf255 Arial;a}`.
-std::string Describe(char letter, const CharacterFormat& format) {
-    const auto number = [](const char* word, int value) { return word + std::to_string(value); };
-    std::string escaped = letter == '{' || letter == '}' || letter == '\\' ? "\\" : "";
-    return "{" + number("\\b", *format.bold) + number("\\i", *format.italic) +
-           number("\\ul", *format.underline) + number("\\strike", *format.strikeThru) +
-           number("\\fs", static_cast<int>(*format.points * 2)) +
-           number("\\cf", static_cast<int>(*format.color)) + " " + *format.face + ";" + escaped + letter +
-           "}";
+constexpr int HalfPointsOfPoint = 2;
+
+notes::RunFormat ToNote(const CharacterFormat& format, notes::NoteBuilder& builder) {
+    notes::RunFormat look;
+    look.font = builder.Font(*format.face, false);
+    look.halfPoints = static_cast<std::uint16_t>(*format.points * HalfPointsOfPoint);
+    look.bold = *format.bold;
+    look.italic = *format.italic;
+    look.underline = *format.underline;
+    look.strikeThru = *format.strikeThru;
+    look.color = *format.color == forms::Black ? notes::AutomaticColor : *format.color;
+    return look;
 }
 
-/// Reads what Describe has written, from the front of a text.
-class Reader {
-  public:
-    explicit Reader(std::string_view rest) : rest_(rest) {}
-
-    bool IsAtEnd() {
-        // As every reader does, it passes over the ends of lines.
-        while (rest_.starts_with('\n') || rest_.starts_with('\r'))
-            rest_.remove_prefix(1);
-        return rest_ == "}";
-    }
-
-    std::pair<char, CharacterFormat> Next() {
-        CharacterFormat format;
-        Expect("{");
-        format.bold = Number("\\b") != 0;
-        format.italic = Number("\\i") != 0;
-        format.underline = Number("\\ul") != 0;
-        format.strikeThru = Number("\\strike") != 0;
-        format.points = Number("\\fs") / 2.0;
-        format.color = static_cast<forms::Color>(Number("\\cf"));
-        Expect(" ");
-        const std::size_t end = std::min(rest_.find(';'), rest_.size());
-        format.face = std::string(rest_.substr(0, end));
-        rest_.remove_prefix(end);
-        Expect(";");
-        if (rest_.starts_with('\\')) Expect("\\");
-        if (rest_.empty()) Fail();
-        const char letter = rest_.front();
-        rest_.remove_prefix(1);
-        Expect("}");
-        return {letter, format};
-    }
-
-  private:
-    [[noreturn]] static void Fail() { throw data::Error(321, "no document of this editor"); }
-
-    void Expect(std::string_view text) {
-        if (!rest_.starts_with(text)) Fail();
-        rest_.remove_prefix(text.size());
-    }
-
-    int Number(std::string_view word) {
-        Expect(word);
-        int value = 0;
-        const auto read = std::from_chars(rest_.begin(), rest_.end(), value);
-        if (read.ec != std::errc()) Fail();
-        rest_ = {read.ptr, rest_.end()};
-        return value;
-    }
-
-    std::string_view rest_;
-};
+CharacterFormat FromNote(const notes::RunFormat& look, const notes::Note& note) {
+    return {.face = note.fonts.at(look.font).name,
+            .points = static_cast<double>(look.halfPoints) / HalfPointsOfPoint,
+            .bold = look.bold,
+            .italic = look.italic,
+            .underline = look.underline,
+            .strikeThru = look.strikeThru,
+            .color = look.color == notes::AutomaticColor ? forms::Black : forms::Color{look.color}};
+}
 
 }  // namespace
 
@@ -161,13 +121,18 @@ void FakeRichText::FormatSelection(const CharacterFormat& format) {
 void FakeRichText::Load(std::string_view rtf) {
     ++loads;
     if (whenStreaming) whenStreaming();
-    if (!rtf.starts_with(Start)) throw data::Error(321, "no document of this editor");
-    std::vector<Character> loaded;
-    for (Reader reader(rtf.substr(Start.size())); !reader.IsAtEnd();) {
-        const auto [letter, format] = reader.Next();
-        loaded.push_back({letter, format});
+    const notes::RtfReading reading = notes::ReadRtf(rtf);
+    if (failsToLoad || reading.outcome != notes::RtfOutcome::Whole)
+        throw data::Error(321, "no document of this editor");
+    characters_.clear();
+    std::size_t begin = 0;
+    for (const notes::NoteRun& run : reading.note.runs) {
+        for (; begin < run.end; ++begin) {
+            const char letter = reading.note.text[begin];
+            characters_.push_back({letter == '\n' ? '\r' : letter, FromNote(run.format, reading.note)});
+        }
     }
-    characters_ = std::move(loaded);
+    characters_.pop_back();  // the last paragraph's end is not to be seen
     start_ = length_ = 0;
     typing_ = Standard();
 }
@@ -175,10 +140,19 @@ void FakeRichText::Load(std::string_view rtf) {
 std::string FakeRichText::Save() const {
     if (whenStreaming) whenStreaming();
     if (failsToSave) throw data::Error(-2147467259, "the editor fails");
-    std::string rtf(Start);
-    for (const Character& character : characters_)
-        rtf += Describe(character.letter, character.format);
-    return rtf + "}";
+    if (!written.empty()) return written;
+    notes::NoteBuilder builder;
+    notes::CodePageDecoder decoder;
+    for (const Character& character : characters_) {
+        const notes::RunFormat look = ToNote(character.format, builder);
+        if (character.letter == '\r')
+            builder.EndParagraph(look, {});
+        else if (const auto whole =
+                     decoder.Put(notes::code_page::Utf8, static_cast<unsigned char>(character.letter)))
+            builder.Add(*whole, look, {});
+    }
+    builder.EndParagraph(ToNote(typing_, builder), {});
+    return notes::WriteRtf(builder.Finish());
 }
 
 void FakeRichText::Type(std::string_view text) {

@@ -1,6 +1,7 @@
 // The note pad's actions: new, open, save, font, colour, the three switches, and what happens when they fail.
 
 #include <new>
+#include <utility>
 
 #include "data/error.h"
 #include "notes_fixture.h"
@@ -16,6 +17,18 @@ using testing::IsEmpty;
 
 const std::string File = "C:\\Note\\azi.rtf";
 const ShownMessage Question{"Doriti sa creati o nota noua ?", 32, 4, "Bloc Notes"};
+
+ShownMessage Failure(const std::string& prompt) {
+    return {prompt, 16, 0, "Bloc Notes"};
+}
+
+ShownMessage Warning(const std::string& prompt) {
+    return {prompt, 48, 0, "Bloc Notes"};
+}
+
+const ShownMessage CutNote = Warning("Fisierul ales este incomplet. S-a incarcat numai inceputul notei !");
+const ShownMessage PicturesNotShown =
+    Warning("Unele imagini din fisier nu pot fi pastrate si lipsesc din nota !");
 
 class NotesActionTest : public NotesTest {
   protected:
@@ -98,46 +111,111 @@ TEST_F(NotesActionTest, ACancelledOpenDialogKeepsTheText) {
     EXPECT_EQ(editor->loads, 0);
 }
 
-TEST_F(NotesActionTest, AFileThatIsNoNoteNeverReachesTheEditor) {
+TEST_F(NotesActionTest, AFileThatGivesNoNoteIsToldAndNeverReachesTheEditor) {
+    const ShownMessage noNote = Failure("Fisierul ales nu este o nota RTF !");
+    const ShownMessage nothingLeft = Failure("Fisierul ales este incomplet si nu mai poate fi citit !");
+    const ShownMessage tooLarge = Failure("Nota este prea mare !");
     Notes& window = Open();
     keyboard.Type("abc");
     desktop.dialogs.chosenFile = File;
-    const std::string deep(5000, '{');
-    for (const std::string& content :
-         {std::string(), std::string("text"), std::string("{\\rtf1 cut"), "{\\rtf1 " + deep,
-          std::string("{\\rtf1 a\0}", 10), std::string(50 << 20, ' ')}) {
+    std::string large = "{\\rtf1 ";
+    for (std::size_t i = 0; i <= notes::MaximumParagraphs; ++i)
+        large += "\\par";
+    for (const auto& [content, told] : {std::pair(std::string(), noNote),
+                                        {"text", noNote},
+                                        {"{\\rtf1{\\info", nothingLeft},
+                                        {large, tooLarge}}) {
+        messages.shown.clear();
         desktop.files.contents[File] = content;
         OpenNote(window);
+        EXPECT_THAT(messages.shown, ElementsAre(Question, told));
         EXPECT_EQ(editor->Text(), "abc");
         ExpectUsable(window);
     }
     EXPECT_EQ(editor->loads, 0);
-    EXPECT_EQ(messages.shown.size(), 6U) << "the questions, and nothing else";
 }
 
-TEST_F(NotesActionTest, AnEmbeddedObjectNeverReachesTheEditor) {
+TEST_F(NotesActionTest, AFileOfManyMegabytesIsReadWhereItsTextIsShort) {
     Notes& window = Open();
-    keyboard.Type("abc");
-    SaveAs(window, File);
-    desktop.files.contents[File].insert(7, R"({\object\objemb{\*\objdata 01}})");
-    NewNote(window);
     desktop.dialogs.chosenFile = File;
+    desktop.files.contents[File] = "{\\rtf1 abc{\\*\\objdata " + std::string(20 << 20, '0') + "}}";
     OpenNote(window);
     EXPECT_EQ(editor->Text(), "abc");
+    EXPECT_THAT(messages.shown, ElementsAre(Question));
 }
 
-TEST_F(NotesActionTest, AFileThatIsNotThereOrThatTheEditorRefusesKeepsTheText) {
+TEST_F(NotesActionTest, AFileThatLostItsEndIsLoadedAsFarAsItGoesAndThatIsTold) {
+    Notes& window = Open();
+    desktop.dialogs.chosenFile = File;
+    desktop.files.contents[File] = "{\\rtf1 unu\\par doi";
+    messages.whileShowing = [&] {
+        if (messages.shown.size() == 2) {
+            EXPECT_EQ(editor->Text(), "unu\r\ndoi");
+        }
+    };
+    OpenNote(window);
+    EXPECT_THAT(messages.shown, ElementsAre(Question, CutNote));
+    EXPECT_EQ(editor->Text(), "unu\r\ndoi");
+    ExpectUsable(window);
+}
+
+TEST_F(NotesActionTest, PicturesThatCannotBeShownAreTold) {
+    Notes& window = Open();
+    desktop.dialogs.chosenFile = File;
+    desktop.files.contents[File] = "{\\rtf1 a{\\pict\\wmetafile8 01}b}";
+    OpenNote(window);
+    EXPECT_THAT(messages.shown, ElementsAre(Question, PicturesNotShown));
+    EXPECT_EQ(editor->Text(), "ab");
+    // One that a note may hold, and this editor does not.
+    messages.shown.clear();
+    desktop.files.contents[File] = "{\\rtf1 c{\\pict\\jpegblip ffd8ffc0000b08000100010101ffd9}}";
+    OpenNote(window);
+    EXPECT_THAT(messages.shown, ElementsAre(Question, PicturesNotShown));
+    ExpectUsable(window);
+}
+
+TEST_F(NotesActionTest, WhatTheEditorGetsIsWrittenAnew) {
+    Notes& window = Open();
+    desktop.dialogs.chosenFile = File;
+    desktop.files.contents[File] =
+        R"({\rtf1 a{\object\objemb{\*\objdata 01}{\result seen}}b{\unknown\xyz-5 c}})";
+    OpenNote(window);
+    EXPECT_EQ(editor->Text(), "aseenbc");
+    SaveAs(window, File);
+    EXPECT_EQ(desktop.files.contents[File].find("object"), std::string::npos);
+}
+
+TEST_F(NotesActionTest, AFileThatIsNotThereOrThatTheEditorRefusesIsToldAndKeepsTheText) {
     Notes& window = Open();
     keyboard.Type("abc");
     desktop.dialogs.chosenFile = File;
     OpenNote(window);
+    EXPECT_THAT(messages.shown,
+                ElementsAre(Question, Failure("Nota nu a putut fi incarcata !\r\nThe file is not there")));
     EXPECT_EQ(editor->loads, 0);
-    desktop.files.contents[File] = "{\\rtf1 of another editor}";
+    messages.shown.clear();
+    desktop.files.contents[File] = "{\\rtf1 def}";
+    editor->failsToLoad = true;
     OpenNote(window);
     EXPECT_EQ(editor->loads, 1);
     EXPECT_EQ(editor->Text(), "abc");
-    EXPECT_EQ(messages.shown.size(), 2U);
+    EXPECT_THAT(messages.shown,
+                ElementsAre(Question, Failure("Nota nu a putut fi incarcata !\r\nno document of "
+                                              "this editor")));
     ExpectUsable(window);
+}
+
+TEST_F(NotesActionTest, AWindowThatGoesWhileItTellsSomethingSaysNoMore) {
+    Notes& window = Open();
+    desktop.dialogs.chosenFile = File;
+    desktop.files.contents[File] = "{\\rtf1 a{\\pict\\wmetafile8 01}b";
+    messages.whileShowing = [&] {
+        if (messages.shown.back() == CutNote) module.UnloadWindow("Notes");
+    };
+    OpenNote(window);
+    EXPECT_THAT(messages.shown, ElementsAre(Question, CutNote));
+    EXPECT_FALSE(IsOpen());
+    EXPECT_THAT(desktop.reports, IsEmpty());
 }
 
 // Save.
@@ -175,7 +253,7 @@ TEST_F(NotesActionTest, ACancelledSaveDialogWritesNothing) {
     ExpectUsable(window);
 }
 
-TEST_F(NotesActionTest, ASaveThatFailsIsSilentAndKeepsTheOldFile) {
+TEST_F(NotesActionTest, ASaveThatFailsIsToldAndKeepsTheOldFile) {
     Notes& window = Open();
     keyboard.Type("abc");
     SaveAs(window, File);
@@ -183,15 +261,54 @@ TEST_F(NotesActionTest, ASaveThatFailsIsSilentAndKeepsTheOldFile) {
     keyboard.Type("def");
     desktop.files.failsToWrite = true;
     SaveAs(window, File);
+    EXPECT_THAT(messages.shown, ElementsAre(Failure("Nota nu a putut fi salvata !\r\nThe disk is full")));
     EXPECT_EQ(desktop.files.contents, before);
     ExpectUsable(window);
     desktop.files.failsToWrite = false;
+    messages.shown.clear();
     editor->failsToSave = true;
     SaveAs(window, File);
+    EXPECT_THAT(messages.shown, ElementsAre(Failure("Nota nu a putut fi salvata !\r\nthe editor fails")));
     EXPECT_EQ(desktop.files.contents, before);
     EXPECT_EQ(editor->Text(), "abcdef");
-    EXPECT_THAT(messages.shown, IsEmpty());
     ExpectUsable(window);
+}
+
+TEST_F(NotesActionTest, AnEditorThatDoesNotGiveAllOfItsTextDoesNotReplaceAFile) {
+    Notes& window = Open();
+    keyboard.Type("abc");
+    SaveAs(window, File);
+    const auto before = desktop.files.contents;
+    for (const char* written : {"{\\rtf1 a", "{\\rtf1", "a"}) {
+        messages.shown.clear();
+        editor->written = written;
+        SaveAs(window, File);
+        EXPECT_THAT(messages.shown,
+                    ElementsAre(Failure("Nota nu a putut fi salvata !\r\nTextul nu a putut fi "
+                                        "citit in intregime din fereastra !")));
+        EXPECT_EQ(desktop.files.contents, before);
+    }
+    ExpectUsable(window);
+}
+
+TEST_F(NotesActionTest, PicturesThatCannotBeSavedAreTold) {
+    Notes& window = Open();
+    editor->written = "{\\rtf1 a{\\pict\\wmetafile8 01}b}";
+    SaveAs(window, File);
+    EXPECT_THAT(messages.shown,
+                ElementsAre(Warning("Nota a fost salvata fara unele imagini, care nu pot fi pastrate !")));
+    EXPECT_EQ(desktop.files.contents.count(File), 1U);
+    ExpectUsable(window);
+}
+
+TEST_F(NotesActionTest, AnEditorsIndentsAreSavedAsTheyAreMeant) {
+    Notes& window = Open();
+    editor->written = R"({\rtf1\pard\li360\fi360 a\par})";
+    SaveAs(window, File);
+    EXPECT_NE(desktop.files.contents[File].find(R"(\pard\fi360\li360)"), std::string::npos);
+    editor->exchangesIndents = true;
+    SaveAs(window, File);
+    EXPECT_NE(desktop.files.contents[File].find(R"(\pard\fi-360\li720)"), std::string::npos);
 }
 
 // Font.
@@ -423,17 +540,23 @@ TEST_F(NotesActionTest, NoActionBeginsInsideAnother) {
     EXPECT_TRUE(IsOpen());
 }
 
-TEST_F(NotesActionTest, ADialogThatFailsEndsTheActionSilently) {
+TEST_F(NotesActionTest, ADialogForAFileThatFailsIsToldAndTheOthersEndSilently) {
     Notes& window = Open();
     desktop.dialogs.whileShowing = [](const forms::Form&) { throw data::Error(-1, "no dialog"); };
     OpenNote(window);
+    EXPECT_THAT(messages.shown,
+                ElementsAre(Question, Failure("Nota nu a putut fi incarcata !\r\nno dialog")));
     ExpectUsable(window);
-    for (const int button : {Notes::Save, Notes::ChooseFont, Notes::ChooseColor}) {
+    messages.shown.clear();
+    for (const int button : {Notes::ChooseFont, Notes::ChooseColor}) {
         window.ImgBouton[button].Click();
         ExpectUsable(window);
     }
+    EXPECT_THAT(messages.shown, IsEmpty());
     desktop.dialogs.whileShowing = [](const forms::Form&) { throw std::bad_alloc(); };
+    window.ImgBouton[Notes::ChooseFont].Click();
     window.ImgBouton[Notes::Save].Click();
+    EXPECT_THAT(messages.shown, ElementsAre(Failure("Nota nu a putut fi salvata !\r\nMemorie insuficienta")));
     ExpectUsable(window);
 }
 

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <string_view>
+#include <utility>
+
+#include "notes/note.h"
+
+namespace tavrin::notes {
+
+/// Puts a note together from front to back, within the bounds of note.h: of equal documents it makes equal
+/// notes. What goes beyond a bound is left out, and told by IsTooLarge.
+class NoteBuilder {
+  public:
+    /// Makes room for so many bytes of text, for speed.
+    void Expect(std::size_t bytes) { note_.text.reserve(bytes); }
+
+    /// The number of that font, which is to be used next.
+    std::uint16_t Font(std::string_view name, bool symbols);
+
+    /// Printable ASCII.
+    void AddAscii(std::string_view text, const RunFormat& format, const ParagraphFormat& paragraph);
+    /// Whether a character may stand in a text. A paragraph's end and a picture are added in other ways.
+    static bool IsText(char32_t character);
+    /// What is no character of a text is left out.
+    void Add(char32_t character, const RunFormat& format, const ParagraphFormat& paragraph);
+    bool HasRoomFor(const NotePicture& picture) const {
+        return picture.bytes.size() <= MaximumPictureBytes - pictureBytes_;
+    }
+    void AddPicture(NotePicture picture, const RunFormat& format, const ParagraphFormat& paragraph);
+    void EndParagraph(const RunFormat& format, const ParagraphFormat& paragraph);
+
+    bool IsParagraphEmpty() const { return paragraphStart_ == note_.text.size(); }
+    bool IsTooLarge() const { return tooLarge_; }
+
+    /// Whether a paragraph's end is due, as the last one is not empty, or there is none.
+    bool LacksEnd() const { return !IsParagraphEmpty() || note_.paragraphs.empty(); }
+    Note Finish() { return std::move(note_); }
+
+  private:
+    void AddLong(std::string_view text, const RunFormat& format, const ParagraphFormat& paragraph);
+    void EndText(const RunFormat& format, bool endsWithBlank);
+    bool TakesMore(std::size_t characters);
+    void BreakWhereTooLong(const ParagraphFormat& paragraph);
+
+    Note note_;
+    std::size_t characters_ = 0;
+    std::size_t paragraphStart_ = 0;
+    std::size_t paragraphCharacters_ = 0;
+    std::size_t pictureBytes_ = 0;
+    bool endsWithBlank_ = false;
+    bool goesOn_ = false;  ///< the paragraph is the rest of one that was too long
+    bool tooLarge_ = false;
+};
+
+/// A font's name as platforms keep it: no longer than they take, and without blanks around it. A character of
+/// four bytes takes two of their places.
+std::string_view SoundFontName(std::string_view name);
+
+void AppendUtf8(std::string& text, char32_t character);
+
+}  // namespace tavrin::notes

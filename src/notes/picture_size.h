@@ -1,0 +1,19 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "notes/note.h"
+
+namespace tavrin::notes {
+
+struct PixelSize {
+    std::size_t width = 0;
+    std::size_t height = 0;
+};
+
+/// How large a picture is by its own account. None where it is not of that kind, is not whole, or would have
+/// more pixels than a note's picture may.
+std::optional<PixelSize> SizeOfPicture(PictureKind kind, std::string_view bytes);
+
+}  // namespace tavrin::notes

@@ -1,0 +1,116 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "notes/note_builder.h"
+#include "notes/rtf_fonts.h"
+#include "notes/rtf_picture.h"
+#include "notes/rtf_reader.h"
+#include "notes/rtf_small_tables.h"
+#include "notes/rtf_state.h"
+#include "notes/rtf_tokens.h"
+#include "notes/rtf_words.h"
+
+namespace tavrin::notes {
+
+/// One pass over a document, from its outermost group on: ReadRtf at work.
+class RtfDocumentReader {
+  public:
+    /// `document` begins inside the outermost group.
+    RtfDocumentReader(std::string_view document, RtfIndents indents, bool rawIsUtf8)
+        : tokens_(document), indents_(indents), rawIsUtf8_(rawIsUtf8) {
+        builder_.Expect(std::min(document.size(), MaximumCharacters));
+    }
+
+    RtfReading Run();
+
+  private:
+    struct Group {
+        RtfState before;
+        RtfDestination begun = RtfDestination::Body;  ///< what it is the outermost group of
+        bool starred = false;                         ///< its next word is one that not every reader knows
+    };
+
+    void Handle(const RtfToken& token);
+
+    // Groups.
+    void OpenGroup();
+    void CloseGroup();
+    void BeginDestination(RtfDestination destination);
+    void BeginUpright();
+    void BeginFont(int number);
+    bool TakesStar(const RtfWord* word);
+
+    // Words.
+    void OnWord(const RtfToken& token);
+    void OnSymbol(char symbol);
+    void Do(const RtfWord& word, const RtfToken& token);
+    void DoOfText(const RtfWord& word, const RtfToken& token);
+    void DoOfDocument(const RtfWord& word, int number);
+    void DoOfPicture(const RtfWord& word, int number);
+
+    // From the file's bytes to characters.
+    void OnText(std::string_view ascii);
+    void OnByte(const RtfToken& token);
+    void OnUnicode(int number);
+    void OnBinary(std::string_view bytes);
+    bool IsSkipped();
+    void PutByte(CodePage page, unsigned char byte);
+    void PutUnit(char32_t unit);
+    void EndBrokenBytes();
+    void EndBrokenCharacters();
+
+    // Fonts.
+    RtfFont* CurrentFont();
+    CodePage PageOfBytes();
+    const RunFormat& LookOfText();
+
+    // From characters to the note.
+    void Put(char32_t character);
+    bool IsSeen() const { return !state_.hidden && !state_.deleted; }
+    bool IsBody() const;
+    void Insert(char32_t character);
+    void InsertAll(std::string_view ascii);
+    void InsertOfFootnote(char32_t character);
+    void EndFootnote();
+    void EndParagraph();
+    void PutParagraphEnd();
+    void EndParagraphIfAny();
+    void EndCell();
+    void EndRow();
+    void FlushTabs();
+    void EndListText();
+    void EndPicture();
+
+    RtfTokens tokens_;
+    RtfIndents indents_;
+    NoteBuilder builder_;
+    RtfState state_;
+    std::vector<Group> groups_;
+    std::size_t deeper_ = 0;  ///< groups that are open and too deep to remember
+
+    RtfFonts fonts_;
+    std::size_t depthOfFont_ = 0;  ///< the groups that are open where the last entry began
+    int defaultFont_ = -1;
+    RtfColors colors_;
+    RtfPicture picture_;
+    RtfListText listText_;
+    CodePage documentPage_ = code_page::Western;
+    bool rawIsUtf8_;  ///< bytes that stand for themselves are UTF-8, whatever page there is
+
+    CodePageDecoder decoder_;
+    char32_t highSurrogate_ = 0;
+    int toSkip_ = 0;  ///< characters that follow one in Unicode and say the same
+    std::size_t pendingTabs_ = 0;
+    bool bullet_ = false;  ///< before this paragraph
+    bool inFootnote_ = false;
+    bool footnoteBlank_ = false;
+    bool picturesLeftOut_ = false;
+    bool hasContent_ = false;
+    bool ended_ = false;
+};
+
+}  // namespace tavrin::notes

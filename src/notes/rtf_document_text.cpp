@@ -1,0 +1,248 @@
+#include <algorithm>
+#include <utility>
+
+#include "notes/rtf_document_reader.h"
+
+// What a document's text becomes; groups and words are in rtf_document_reader.cpp.
+
+namespace tavrin::notes {
+
+namespace {
+
+using Destination = RtfDestination;
+
+bool IsHighSurrogate(char32_t unit) {
+    return unit >= 0xD800 && unit < 0xDC00;
+}
+
+bool IsLowSurrogate(char32_t unit) {
+    return unit >= 0xDC00 && unit < 0xE000;
+}
+
+}  // namespace
+
+// From the file's bytes to characters.
+
+void RtfDocumentReader::OnText(std::string_view ascii) {
+    if (state_.destination == Destination::Nothing) return;
+    const auto skipped = std::min(ascii.size(), static_cast<std::size_t>(toSkip_));
+    toSkip_ -= static_cast<int>(skipped);
+    ascii.remove_prefix(skipped);
+    if (state_.destination == Destination::Picture) return picture_.AddDigits(ascii);
+    if (!ascii.empty() && decoder_.Continues(PageOfBytes(), static_cast<unsigned char>(ascii.front()))) {
+        PutByte(PageOfBytes(), static_cast<unsigned char>(ascii.front()));
+        ascii.remove_prefix(1);
+    }
+    if (ascii.empty()) return;
+    EndBrokenCharacters();
+    if (IsBody()) {
+        FlushTabs();
+        builder_.AddAscii(ascii, LookOfText(), state_.paragraph);
+        hasContent_ = true;
+        return;
+    }
+    for (const char each : ascii)
+        Put(static_cast<unsigned char>(each));
+}
+
+void RtfDocumentReader::OnByte(const RtfToken& token) {
+    if (state_.destination == Destination::Nothing || IsSkipped()) return;
+    const bool raw = !token.text.empty();
+    PutByte(raw && rawIsUtf8_ ? code_page::Utf8 : PageOfBytes(), token.byte);
+}
+
+void RtfDocumentReader::PutByte(CodePage page, unsigned char byte) {
+    if (!decoder_.Continues(page, byte)) EndBrokenBytes();
+    if (const auto decoded = decoder_.Put(page, byte)) PutUnit(*decoded);
+}
+
+/// Numbers are signed ones of 16 bits, but for writers that know no bounds.
+void RtfDocumentReader::OnUnicode(int number) {
+    EndBrokenBytes();
+    if (number < 0) number += 0x10000;
+    PutUnit(number >= 0 && number <= 0x10FFFF ? static_cast<char32_t>(number) : ReplacementCharacter);
+    toSkip_ = state_.unicodeSkip;
+}
+
+void RtfDocumentReader::OnBinary(std::string_view bytes) {
+    if (IsSkipped()) return;
+    if (state_.destination == Destination::Picture) picture_.AddBytes(bytes);
+}
+
+bool RtfDocumentReader::IsSkipped() {
+    if (toSkip_ == 0) return false;
+    --toSkip_;
+    return true;
+}
+
+/// Takes characters beyond U+FFFF in their two halves as well.
+void RtfDocumentReader::PutUnit(char32_t unit) {
+    const char32_t high = std::exchange(highSurrogate_, 0);
+    if (IsLowSurrogate(unit)) {
+        return Put(high != 0 ? 0x10000 + ((high - 0xD800) << 10U) + (unit - 0xDC00) : ReplacementCharacter);
+    }
+    if (high != 0) Put(ReplacementCharacter);
+    if (IsHighSurrogate(unit))
+        highSurrogate_ = unit;
+    else
+        Put(unit);
+}
+
+void RtfDocumentReader::EndBrokenBytes() {
+    if (decoder_.Break()) PutUnit(ReplacementCharacter);
+}
+
+void RtfDocumentReader::EndBrokenCharacters() {
+    EndBrokenBytes();
+    if (std::exchange(highSurrogate_, 0) != 0) Put(ReplacementCharacter);
+}
+
+// Fonts.
+
+/// A number that the file does not explain means the font for which nothing was said.
+RtfFont* RtfDocumentReader::CurrentFont() {
+    if (state_.fontNumber != RtfState::DefaultFont) {
+        if (RtfFont* const font = fonts_.Find(state_.fontNumber)) return font;
+    }
+    RtfFont* const font = fonts_.Find(defaultFont_);
+    return font != nullptr ? font : fonts_.First();
+}
+
+CodePage RtfDocumentReader::PageOfBytes() {
+    if (state_.destination == Destination::Fonts) return fonts_.Page().value_or(documentPage_);
+    if (state_.page == 0) {
+        const RtfFont* const font = CurrentFont();
+        state_.page = font != nullptr ? font->page.value_or(documentPage_) : documentPage_;
+    }
+    return state_.page;
+}
+
+const RunFormat& RtfDocumentReader::LookOfText() {
+    if (!std::exchange(state_.fontIsKnown, true)) {
+        RtfFont* const font = CurrentFont();
+        if (font != nullptr && !font->numberInNote)
+            font->numberInNote = builder_.Font(font->name, font->symbols);
+        state_.run.font = font != nullptr ? *font->numberInNote : builder_.Font({}, false);
+    }
+    return state_.run;
+}
+
+// From characters to the note.
+
+void RtfDocumentReader::Put(char32_t character) {
+    switch (state_.destination) {
+        case Destination::Body:
+        case Destination::TextBox:
+            return Insert(character);
+        case Destination::Footnote:
+            return InsertOfFootnote(character);
+        case Destination::Fonts:
+            return fonts_.Add(character);
+        case Destination::Colors:
+            return colors_.Add(character);
+        case Destination::ListText:
+            return listText_.Add(character);
+        default:
+            break;
+    }
+}
+
+bool RtfDocumentReader::IsBody() const {
+    return IsSeen() &&
+           (state_.destination == Destination::Body || state_.destination == Destination::TextBox);
+}
+
+void RtfDocumentReader::Insert(char32_t character) {
+    if (!IsSeen()) return;
+    if (character == character::ParagraphSeparator) return EndParagraph();
+    if (character == character::LineSeparator) character = character::LineBreak;
+    if (!NoteBuilder::IsText(character)) return;
+    FlushTabs();
+    builder_.Add(character, LookOfText(), state_.paragraph);
+    hasContent_ = true;
+}
+
+void RtfDocumentReader::EndCell() {
+    if (IsBody()) ++pendingTabs_;
+}
+
+/// Cells that nothing follows in their row need no tab.
+void RtfDocumentReader::FlushTabs() {
+    for (; pendingTabs_ > 0 && !builder_.IsTooLarge(); --pendingTabs_)
+        builder_.Add(character::Tab, LookOfText(), state_.paragraph);
+}
+
+void RtfDocumentReader::EndParagraph() {
+    toSkip_ = 0;
+    EndBrokenCharacters();
+    if (state_.destination == Destination::Footnote) return InsertOfFootnote(' ');
+    if (!IsBody()) return;
+    PutParagraphEnd();
+    hasContent_ = true;
+}
+
+/// The look of a paragraph's end is to be seen in an empty one alone.
+void RtfDocumentReader::PutParagraphEnd() {
+    pendingTabs_ = 0;
+    ParagraphFormat format = state_.paragraph;
+    format.bullet |= std::exchange(bullet_, false);
+    builder_.EndParagraph(builder_.IsParagraphEmpty() ? LookOfText() : state_.run, format);
+}
+
+void RtfDocumentReader::EndRow() {
+    if (!IsBody()) return;
+    pendingTabs_ = 0;
+    EndParagraph();
+}
+
+void RtfDocumentReader::EndParagraphIfAny() {
+    if (IsSeen() && !builder_.IsParagraphEmpty()) PutParagraphEnd();
+}
+
+/// In brackets, where its number would be; its paragraphs and the blanks around it count as one blank.
+void RtfDocumentReader::InsertOfFootnote(char32_t character) {
+    if (!IsSeen()) return;
+    if (character == ' ' || character == character::Tab) {
+        footnoteBlank_ = true;
+        return;
+    }
+    const bool blank = std::exchange(footnoteBlank_, false);
+    if (!std::exchange(inFootnote_, true))
+        InsertAll(" [");
+    else if (blank)
+        Insert(' ');
+    Insert(character);
+}
+
+void RtfDocumentReader::EndFootnote() {
+    footnoteBlank_ = false;
+    if (std::exchange(inFootnote_, false)) Insert(']');
+}
+
+void RtfDocumentReader::InsertAll(std::string_view ascii) {
+    for (const char each : ascii)
+        Insert(static_cast<unsigned char>(each));
+}
+
+void RtfDocumentReader::EndListText() {
+    if (!IsBody()) return;
+    if (listText_.IsBullet()) {
+        bullet_ = true;
+        return;
+    }
+    for (const char32_t each : listText_)
+        Insert(each);
+}
+
+void RtfDocumentReader::EndPicture() {
+    if (!picture_.HasContent() || !IsSeen()) return;
+    auto picture = picture_.Finish();
+    if (!picture || !builder_.HasRoomFor(*picture)) {
+        picturesLeftOut_ = true;
+        return;
+    }
+    builder_.AddPicture(std::move(*picture), LookOfText(), state_.paragraph);
+    hasContent_ = true;
+}
+
+}  // namespace tavrin::notes

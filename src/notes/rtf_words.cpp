@@ -1,0 +1,250 @@
+#include "notes/rtf_words.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+
+#include "notes/note.h"
+
+namespace tavrin::notes {
+
+namespace {
+
+using Action = RtfAction;
+using Destination = RtfDestination;
+
+template <class Enumeration>
+constexpr std::int16_t Of(Enumeration value) {
+    return static_cast<std::int16_t>(value);
+}
+
+// In the order of their names, by which they are looked up.
+constexpr RtfWord Words[] = {
+    {"aftncn", Action::Destination, Of(Destination::Nothing)},
+    {"aftnsep", Action::Destination, Of(Destination::Nothing)},
+    {"aftnsepc", Action::Destination, Of(Destination::Nothing)},
+    {"annotation", Action::Destination, Of(Destination::Nothing)},
+    {"ansi", Action::DocumentPage, 1252},
+    {"ansicpg", Action::AnsiPage},
+    {"atnauthor", Action::Destination, Of(Destination::Nothing)},
+    {"author", Action::Destination, Of(Destination::Nothing)},
+    {"b", Action::Bold},
+    {"bkmkend", Action::Destination, Of(Destination::Nothing)},
+    {"bkmkstart", Action::Destination, Of(Destination::Nothing)},
+    {"blue", Action::ColorPart, 16},
+    {"bullet", Action::Character, 0x2022},
+    {"category", Action::Destination, Of(Destination::Nothing)},
+    {"cb", Action::Background},
+    {"cell", Action::Cell},
+    {"cf", Action::Color},
+    {"chcbpat", Action::Background},
+    {"colorschememapping", Action::Destination, Of(Destination::Nothing)},
+    {"colortbl", Action::Destination, Of(Destination::Colors)},
+    {"column", Action::Break},
+    {"comment", Action::Destination, Of(Destination::Nothing)},
+    {"company", Action::Destination, Of(Destination::Nothing)},
+    {"cpg", Action::FontPage},
+    {"creatim", Action::Destination, Of(Destination::Nothing)},
+    {"datafield", Action::Destination, Of(Destination::Nothing)},
+    {"datastore", Action::Destination, Of(Destination::Nothing)},
+    {"deff", Action::DefaultFont},
+    {"deleted", Action::Deleted},
+    {"dn", Action::Raised, -1},
+    {"do", Action::Destination, Of(Destination::Container)},
+    {"doccomm", Action::Destination, Of(Destination::Nothing)},
+    {"docvar", Action::Destination, Of(Destination::Nothing)},
+    {"dptxbxtext", Action::Destination, Of(Destination::TextBox)},
+    {"emdash", Action::Character, 0x2014},
+    {"emspace", Action::Character, 0x2003},
+    {"endash", Action::Character, 0x2013},
+    {"enspace", Action::Character, 0x2002},
+    {"f", Action::Font},
+    {"falt", Action::Destination, Of(Destination::Nothing)},
+    {"fcharset", Action::FontCharacterSet},
+    {"ffname", Action::Destination, Of(Destination::Nothing)},
+    {"fi", Action::FirstLineIndent},
+    {"filetbl", Action::Destination, Of(Destination::Nothing)},
+    {"fldinst", Action::Destination, Of(Destination::Nothing)},
+    {"fldrslt", Action::Destination, Of(Destination::Body)},
+    {"fonttbl", Action::Destination, Of(Destination::Fonts)},
+    {"footer", Action::Destination, Of(Destination::Nothing)},
+    {"footerf", Action::Destination, Of(Destination::Nothing)},
+    {"footerl", Action::Destination, Of(Destination::Nothing)},
+    {"footerr", Action::Destination, Of(Destination::Nothing)},
+    {"footnote", Action::Destination, Of(Destination::Footnote)},
+    {"formfield", Action::Destination, Of(Destination::Nothing)},
+    {"fs", Action::FontSize},
+    {"ftncn", Action::Destination, Of(Destination::Nothing)},
+    {"ftnsep", Action::Destination, Of(Destination::Nothing)},
+    {"ftnsepc", Action::Destination, Of(Destination::Nothing)},
+    {"green", Action::ColorPart, 8},
+    {"header", Action::Destination, Of(Destination::Nothing)},
+    {"headerf", Action::Destination, Of(Destination::Nothing)},
+    {"headerl", Action::Destination, Of(Destination::Nothing)},
+    {"headerr", Action::Destination, Of(Destination::Nothing)},
+    {"highlight", Action::Background},
+    {"hlinkbase", Action::Destination, Of(Destination::Nothing)},
+    {"i", Action::Italic},
+    {"info", Action::Destination, Of(Destination::Nothing)},
+    {"jpegblip", Action::PictureKind, Of(PictureKind::Jpeg)},
+    {"keywords", Action::Destination, Of(Destination::Nothing)},
+    {"latentstyles", Action::Destination, Of(Destination::Nothing)},
+    {"ldblquote", Action::Character, 0x201C},
+    {"li", Action::LeftIndent},
+    {"line", Action::Character, 0xB},
+    {"listname", Action::Destination, Of(Destination::Nothing)},
+    {"listoverridetable", Action::Destination, Of(Destination::Nothing)},
+    {"listtable", Action::Destination, Of(Destination::Nothing)},
+    {"listtext", Action::Destination, Of(Destination::ListText)},
+    {"lquote", Action::Character, 0x2018},
+    {"ltrmark", Action::Character, 0x200E},
+    {"mac", Action::DocumentPage, 10000},
+    {"manager", Action::Destination, Of(Destination::Nothing)},
+    {"mmathPr", Action::Destination, Of(Destination::Nothing)},
+    {"nestcell", Action::Cell},
+    {"nestrow", Action::Row},
+    {"nesttableprops", Action::Destination, Of(Destination::Body)},
+    {"nonesttables", Action::Destination, Of(Destination::Nothing)},
+    {"nonshppict", Action::Destination, Of(Destination::Nothing)},
+    {"nosupersub", Action::Script, Of(Script::Normal)},
+    {"objalias", Action::Destination, Of(Destination::Nothing)},
+    {"objclass", Action::Destination, Of(Destination::Nothing)},
+    {"objdata", Action::Destination, Of(Destination::Nothing)},
+    {"object", Action::Destination, Of(Destination::Container)},
+    {"objname", Action::Destination, Of(Destination::Nothing)},
+    {"objsect", Action::Destination, Of(Destination::Nothing)},
+    {"operator", Action::Destination, Of(Destination::Nothing)},
+    {"page", Action::Break},
+    {"panose", Action::Destination, Of(Destination::Nothing)},
+    {"par", Action::ParagraphEnd},
+    {"pard", Action::ParagraphPlain},
+    {"pc", Action::DocumentPage, 437},
+    {"pca", Action::DocumentPage, 850},
+    {"pgdsctbl", Action::Destination, Of(Destination::Nothing)},
+    {"pichgoal", Action::PictureHeight},
+    {"picscalex", Action::PictureScaleX},
+    {"picscaley", Action::PictureScaleY},
+    {"pict", Action::Destination, Of(Destination::Picture)},
+    {"picwgoal", Action::PictureWidth},
+    {"plain", Action::Plain},
+    {"pn", Action::Destination, Of(Destination::Numbering)},
+    {"pngblip", Action::PictureKind, Of(PictureKind::Png)},
+    {"pnlvlblt", Action::Bullet},
+    {"pnseclvl", Action::Destination, Of(Destination::Nothing)},
+    {"pntext", Action::Destination, Of(Destination::ListText)},
+    {"pntxta", Action::Destination, Of(Destination::Nothing)},
+    {"pntxtb", Action::Destination, Of(Destination::Nothing)},
+    {"printim", Action::Destination, Of(Destination::Nothing)},
+    {"private", Action::Destination, Of(Destination::Nothing)},
+    {"qc", Action::Alignment, Of(Alignment::Center)},
+    {"qd", Action::Alignment, Of(Alignment::Justified)},
+    {"qj", Action::Alignment, Of(Alignment::Justified)},
+    {"ql", Action::Alignment, Of(Alignment::Left)},
+    {"qmspace", Action::Character, 0x2005},
+    {"qr", Action::Alignment, Of(Alignment::Right)},
+    {"rdblquote", Action::Character, 0x201D},
+    {"red", Action::ColorPart},
+    {"result", Action::Destination, Of(Destination::Body)},
+    {"revtbl", Action::Destination, Of(Destination::Nothing)},
+    {"revtim", Action::Destination, Of(Destination::Nothing)},
+    {"ri", Action::RightIndent},
+    {"row", Action::Row},
+    {"rquote", Action::Character, 0x2019},
+    {"rsidtbl", Action::Destination, Of(Destination::Nothing)},
+    {"rtlmark", Action::Character, 0x200F},
+    {"rxe", Action::Destination, Of(Destination::Nothing)},
+    {"sa", Action::SpaceAfter},
+    {"sb", Action::SpaceBefore},
+    {"sect", Action::Break},
+    {"shp", Action::Destination, Of(Destination::Container)},
+    {"shpgrp", Action::Destination, Of(Destination::Container)},
+    {"shpinst", Action::Destination, Of(Destination::Container)},
+    {"shppict", Action::Destination, Of(Destination::Container)},
+    {"shprslt", Action::Destination, Of(Destination::Nothing)},
+    {"shptxt", Action::Destination, Of(Destination::TextBox)},
+    {"sl", Action::LineHeight},
+    {"slmult", Action::LineMultiple},
+    {"sn", Action::Destination, Of(Destination::Nothing)},
+    {"sp", Action::Destination, Of(Destination::Container)},
+    {"strike", Action::StrikeThru},
+    {"striked", Action::StrikeThru},
+    {"stylesheet", Action::Destination, Of(Destination::Nothing)},
+    {"sub", Action::Script, Of(Script::Sub)},
+    {"subject", Action::Destination, Of(Destination::Nothing)},
+    {"super", Action::Script, Of(Script::Super)},
+    {"sv", Action::Destination, Of(Destination::Container)},
+    {"tab", Action::Character, 0x9},
+    {"tc", Action::Destination, Of(Destination::Nothing)},
+    {"tcn", Action::Destination, Of(Destination::Nothing)},
+    {"template", Action::Destination, Of(Destination::Nothing)},
+    {"themedata", Action::Destination, Of(Destination::Nothing)},
+    {"title", Action::Destination, Of(Destination::Nothing)},
+    {"tqc", Action::TabAlignment, Of(TabAlignment::Center)},
+    {"tqdec", Action::TabAlignment, Of(TabAlignment::Decimal)},
+    {"tqr", Action::TabAlignment, Of(TabAlignment::Right)},
+    {"tx", Action::Tab},
+    {"txe", Action::Destination, Of(Destination::Nothing)},
+    {"u", Action::Unicode},
+    {"uc", Action::UnicodeSkip},
+    {"ud", Action::Destination, Of(Destination::Body)},
+    {"ul", Action::Underline},
+    {"uld", Action::Underline},
+    {"uldash", Action::Underline},
+    {"uldashd", Action::Underline},
+    {"uldashdd", Action::Underline},
+    {"uldb", Action::Underline},
+    {"ulhwave", Action::Underline},
+    {"ulldash", Action::Underline},
+    {"ulnone", Action::NoUnderline},
+    {"ulth", Action::Underline},
+    {"ulthd", Action::Underline},
+    {"ulthdash", Action::Underline},
+    {"ulthdashd", Action::Underline},
+    {"ulthdashdd", Action::Underline},
+    {"ulthldash", Action::Underline},
+    {"ululdbwave", Action::Underline},
+    {"ulw", Action::Underline},
+    {"ulwave", Action::Underline},
+    {"up", Action::Raised, 1},
+    {"upr", Action::Destination, Of(Destination::Upright)},
+    {"userprops", Action::Destination, Of(Destination::Nothing)},
+    {"v", Action::Hidden},
+    {"xe", Action::Destination, Of(Destination::Nothing)},
+    {"xmlnstbl", Action::Destination, Of(Destination::Nothing)},
+    {"zwbo", Action::Character, 0x200B},
+    {"zwj", Action::Character, 0x200D},
+    {"zwnj", Action::Character, 0x200C},
+};
+
+static_assert(std::ranges::is_sorted(Words, {}, &RtfWord::name));
+
+constexpr std::size_t Letters = 26;
+
+/// Where the words of each letter begin; those of the last one end where one more would.
+constexpr std::array<std::uint8_t, Letters + 1> MakeStarts() {
+    std::array<std::uint8_t, Letters + 1> starts{};
+    for (const RtfWord& word : Words) {
+        for (auto letter = static_cast<std::size_t>(word.name.front() - 'a') + 1; letter <= Letters; ++letter)
+            ++starts[letter];
+    }
+    return starts;
+}
+
+static_assert(std::size(Words) <= 0xFF);
+constexpr std::array<std::uint8_t, Letters + 1> Starts = MakeStarts();
+
+}  // namespace
+
+const RtfWord* FindRtfWord(std::string_view name) {
+    if (name.front() < 'a' || name.front() > 'z') return nullptr;
+    const auto letter = static_cast<std::size_t>(name.front() - 'a');
+    const RtfWord* const end = Words + Starts[letter + 1];
+    const RtfWord* const found =
+        std::lower_bound(Words + Starts[letter], end, name,
+                         [](const RtfWord& word, std::string_view wanted) { return word.name < wanted; });
+    return found != end && found->name == name ? found : nullptr;
+}
+
+}  // namespace tavrin::notes

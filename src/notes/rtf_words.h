@@ -1,0 +1,87 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace tavrin::notes {
+
+/// What the text of a group is for.
+enum class RtfDestination : std::uint8_t {
+    Body,
+    Nothing,     ///< not for a note, with everything in it
+    Container,   ///< its text is not, but there may be a group in it that is
+    Upright,     ///< a text twice, of which the second one is in Unicode
+    UprightOld,  ///< the first one of these
+    Fonts,
+    Colors,
+    Picture,
+    ListText,  ///< what stands before a paragraph of a list
+    Numbering,
+    Footnote,
+    TextBox,
+};
+
+/// What a word does. Its value, or its number in the file, says to what.
+enum class RtfAction : std::uint8_t {
+    Destination,
+    // Text.
+    Character,
+    ParagraphEnd,
+    Break,
+    Cell,
+    Row,
+    Unicode,
+    UnicodeSkip,
+    // Characters' looks.
+    Plain,
+    Font,
+    FontSize,
+    Color,
+    Background,
+    Bold,
+    Italic,
+    Underline,
+    NoUnderline,
+    StrikeThru,
+    Script,
+    Raised,
+    Hidden,
+    Deleted,
+    // Paragraphs' looks.
+    ParagraphPlain,
+    Alignment,
+    LeftIndent,
+    RightIndent,
+    FirstLineIndent,
+    SpaceBefore,
+    SpaceAfter,
+    LineHeight,
+    LineMultiple,
+    Tab,
+    TabAlignment,
+    Bullet,
+    // The document.
+    DocumentPage,
+    AnsiPage,
+    DefaultFont,
+    FontCharacterSet,
+    FontPage,
+    ColorPart,
+    // Pictures.
+    PictureKind,
+    PictureWidth,
+    PictureHeight,
+    PictureScaleX,
+    PictureScaleY,
+};
+
+struct RtfWord {
+    std::string_view name;
+    RtfAction action;
+    std::int16_t value = 0;
+};
+
+/// Null for a word that says nothing for a note.
+const RtfWord* FindRtfWord(std::string_view name);
+
+}  // namespace tavrin::notes
