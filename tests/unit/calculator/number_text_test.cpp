@@ -74,7 +74,7 @@ TEST(ReadNumber, WordsAreNoNumbers) {
         EXPECT_EQ(ReadNumber(word, ","), 0) << word;
 }
 
-TEST(NumberText, ReadsBackAsANumberWithTheSameText) {
+TEST(NumberTextAgainstItsReader, ReadsBackAsANumberWithTheSameText) {
     std::mt19937_64 random(4);
     for (int i = 0; i < 60'000; ++i) {
         const double number = std::bit_cast<double>(random());
@@ -84,7 +84,7 @@ TEST(NumberText, ReadsBackAsANumberWithTheSameText) {
     }
 }
 
-TEST(NumberText, ReadsBackDecimalsOfUpToFifteenDigits) {
+TEST(NumberTextAgainstItsReader, ReadsBackDecimalsOfUpToFifteenDigits) {
     std::mt19937_64 random(5);
     for (int i = 0; i < 60'000; ++i) {
         const std::uint64_t range = std::uint64_t{1} << (1 + random() % 49);

@@ -28,7 +28,7 @@ std::string WithoutGroups(std::string text) {
     return text;
 }
 
-class ValueAddedTaxTest : public testing::TestWithParam<int> {
+class ValueAddedTaxAgainstPaper : public testing::TestWithParam<int> {
   protected:
     /// Presses "amount operator rate %" and compares what is shown, counted in ten-thousandths.
     void Expect(int amount, char sign, int expected) {
@@ -45,13 +45,13 @@ class ValueAddedTaxTest : public testing::TestWithParam<int> {
     TwoDisplays shown_;
 };
 
-TEST_P(ValueAddedTaxTest, OfEveryAmountIsRoundedHalfToEven) {
+TEST_P(ValueAddedTaxAgainstPaper, OfEveryAmountIsRoundedHalfToEven) {
     for (int amount = 1; amount <= 99'999; ++amount)
         ASSERT_NO_FATAL_FAILURE(Expect(amount, 'X', amount * GetParam()));
     EXPECT_EQ(ties, GetParam() == 5 ? 5'000 : 1'000);
 }
 
-TEST_P(ValueAddedTaxTest, IsAddedAndTakenOffAtEveryTie) {
+TEST_P(ValueAddedTaxAgainstPaper, IsAddedAndTakenOffAtEveryTie) {
     for (int amount = 1; amount <= 99'999; ++amount) {
         if (amount * GetParam() % 100 != 50) continue;
         ASSERT_NO_FATAL_FAILURE(Expect(amount, '+', amount * (100 + GetParam())));
@@ -60,9 +60,9 @@ TEST_P(ValueAddedTaxTest, IsAddedAndTakenOffAtEveryTie) {
     EXPECT_EQ(ties, GetParam() == 5 ? 10'000 : 2'000);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rates, ValueAddedTaxTest, testing::Values(5, 9, 11, 19));
+INSTANTIATE_TEST_SUITE_P(Rates, ValueAddedTaxAgainstPaper, testing::Values(5, 9, 11, 19));
 
-TEST(Halves, OfEveryAmountAreRoundedHalfToEven) {
+TEST(HalvesAgainstPaper, OfEveryAmountAreRoundedHalfToEven) {
     TwoDisplays shown;
     for (int amount = 1; amount <= 99'999; ++amount) {
         shown.Press("A" + Hundredths(amount, '.') + "/2=");

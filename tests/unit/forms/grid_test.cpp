@@ -229,7 +229,9 @@ TEST_F(GridTest, CellsScrolledAwayAreToldSo) {
     EXPECT_EQ(grid.AccessibleChildAt({100, 1000}), -1);
 }
 
-TEST_F(GridTest, TheCellAtAPlaceIsTheOneThatLiesThere) {
+using GridAgainstSearch = GridTest;
+
+TEST_F(GridAgainstSearch, TheCellAtAPlaceIsTheOneThatLiesThere) {
     grid.SetDataSource(std::make_shared<CountingTable>(30, 6));
     grid.SetColumnWidth(2, 0);
     grid.SetColumnWidth(3, 1700);

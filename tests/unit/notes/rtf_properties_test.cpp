@@ -49,7 +49,7 @@ void ExpectNote(const RtfReading& reading, std::string_view file) {
     ASSERT_EQ(WriteRtf(again.note), written);
 }
 
-TEST(RtfPropertiesTest, EveryNoteIsReadAsItWasWritten) {
+TEST(RandomNotes, EveryNoteIsReadAsItWasWritten) {
     std::mt19937 random(1);  // NOLINT(bugprone-random-generator-seed): the same notes each time
     std::size_t pictures = 0;
     std::size_t bullets = 0;
@@ -67,7 +67,7 @@ TEST(RtfPropertiesTest, EveryNoteIsReadAsItWasWritten) {
     EXPECT_GT(bullets, 50U);
 }
 
-TEST(RtfPropertiesTest, DamagedFilesGiveNotesOrNothing) {
+TEST(RandomNotes, DamagedFilesGiveNotesOrNothing) {
     std::mt19937 random(2);  // NOLINT(bugprone-random-generator-seed): the same damage each time
     constexpr std::string_view Bytes("{}\\ \0a1-'*\xE3;", 12);
     int read = 0;
@@ -84,7 +84,7 @@ TEST(RtfPropertiesTest, DamagedFilesGiveNotesOrNothing) {
     EXPECT_GT(read, 1000);
 }
 
-TEST(RtfPropertiesTest, ArbitraryBytesBehindAStartGiveNotesOrNothing) {
+TEST(RandomNotes, ArbitraryBytesBehindAStartGiveNotesOrNothing) {
     std::mt19937 random(3);  // NOLINT(bugprone-random-generator-seed): the same bytes each time
     for (int i = 0; i < 500; ++i) {
         const std::string file = "{\\rtf1 " + RandomBytes(random, random() % 200);
