@@ -104,6 +104,11 @@ void NoteBuilder::AddLong(std::string_view text, const RunFormat& format, const 
 
 void NoteBuilder::Add(char32_t character, const RunFormat& format, const ParagraphFormat& paragraph) {
     if (!IsText(character) || !TakesMore(1)) return;
+    // Where a line ends anyway a break is not to be seen.
+    if (character == character::LineBreak && paragraphCharacters_ > LongestParagraph / 2) {
+        --characters_;
+        return GoOnInAnother(paragraph);
+    }
     BreakWhereTooLong(paragraph);
     AppendUtf8(note_.text, character);
     EndText(format, character == ' ');
@@ -113,6 +118,10 @@ void NoteBuilder::Add(char32_t character, const RunFormat& format, const Paragra
 void NoteBuilder::BreakWhereTooLong(const ParagraphFormat& paragraph) {
     if (paragraphCharacters_ < LongestParagraph) return;
     if (!endsWithBlank_ && paragraphCharacters_ < LongestParagraph + LongestWord) return;
+    GoOnInAnother(paragraph);
+}
+
+void NoteBuilder::GoOnInAnother(const ParagraphFormat& paragraph) {
     ParagraphFormat part = paragraph;
     part.spaceAfter = 0;
     EndParagraph(note_.runs.back().format, part);

@@ -41,6 +41,7 @@ class NoteBuilder {
     void EndText(const RunFormat& format, bool endsWithBlank);
     bool TakesMore(std::size_t characters);
     void BreakWhereTooLong(const ParagraphFormat& paragraph);
+    void GoOnInAnother(const ParagraphFormat& paragraph);
 
     Note note_;
     std::size_t characters_ = 0;

@@ -51,6 +51,7 @@ RtfReading RtfDocumentReader::Run() {
 }
 
 void RtfDocumentReader::Handle(const RtfToken& token) {
+    if (token.kind != Kind::Byte) byteBefore_ = 0;
     switch (token.kind) {
         case Kind::GroupStart:
             return OpenGroup();
@@ -87,6 +88,7 @@ void RtfDocumentReader::OpenGroup() {
 void RtfDocumentReader::CloseGroup() {
     toSkip_ = 0;
     if (deeper_ > 0) {
+        if (deeper_ == silentFrom_) EndSilence();
         --deeper_;
         return;
     }
@@ -108,12 +110,27 @@ void RtfDocumentReader::CloseGroup() {
 
 /// What a word makes of its group. The outermost one is the note, whatever it says.
 void RtfDocumentReader::BeginDestination(Destination destination) {
-    if (groups_.size() < 2 || deeper_ > 0) return;
+    if (deeper_ > 0) return BeginSilence(destination);
+    if (groups_.size() < 2) return;
     if (destination == Destination::TextBox) EndParagraphIfAny();
     if (destination == Destination::ListText) listText_.Begin();
     if (destination == Destination::Picture) picture_ = {};
     state_.destination = destination;
     groups_.back().begun = destination;
+}
+
+/// Of groups that are too deep to be remembered only one thing is: that what they hold is not to be seen.
+void RtfDocumentReader::BeginSilence(Destination destination) {
+    const bool isText = destination == Destination::Body || destination == Destination::Container ||
+                        destination == Destination::TextBox;
+    if (isText || silentFrom_ > 0) return;
+    silentFrom_ = deeper_;
+    destinationBefore_ = std::exchange(state_.destination, Destination::Nothing);
+}
+
+void RtfDocumentReader::EndSilence() {
+    silentFrom_ = 0;
+    state_.destination = destinationBefore_;
 }
 
 /// A group that begins with a star is passed over where its word is not known as one that begins a group.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -41,6 +42,8 @@ class RtfDocumentReader {
     void CloseGroup();
     void BeginDestination(RtfDestination destination);
     void BeginUpright();
+    void BeginSilence(RtfDestination destination);
+    void EndSilence();
     void BeginFont(int number);
     bool TakesStar(const RtfWord* word);
 
@@ -55,6 +58,7 @@ class RtfDocumentReader {
     // From the file's bytes to characters.
     void OnText(std::string_view ascii);
     void OnByte(const RtfToken& token);
+    void OnLineEnd(unsigned char byte);
     void OnUnicode(int number);
     void OnBinary(std::string_view bytes);
     bool IsSkipped();
@@ -90,7 +94,9 @@ class RtfDocumentReader {
     NoteBuilder builder_;
     RtfState state_;
     std::vector<Group> groups_;
-    std::size_t deeper_ = 0;  ///< groups that are open and too deep to remember
+    std::size_t deeper_ = 0;      ///< groups that are open and too deep to remember
+    std::size_t silentFrom_ = 0;  ///< the first of these that is passed over, 0 for none
+    RtfDestination destinationBefore_ = RtfDestination::Body;
 
     RtfFonts fonts_;
     std::size_t depthOfFont_ = 0;  ///< the groups that are open where the last entry began
@@ -103,9 +109,11 @@ class RtfDocumentReader {
 
     CodePageDecoder decoder_;
     char32_t highSurrogate_ = 0;
-    int toSkip_ = 0;  ///< characters that follow one in Unicode and say the same
+    int toSkip_ = 0;                ///< characters that follow one in Unicode and say the same
+    unsigned char byteBefore_ = 0;  ///< the end of a line that was given by its number just before
     std::size_t pendingTabs_ = 0;
-    bool bullet_ = false;  ///< before this paragraph
+    std::optional<ParagraphFormat> row_;  ///< how the row stands whose cells are being read
+    bool bullet_ = false;                 ///< before this paragraph
     bool inFootnote_ = false;
     bool footnoteBlank_ = false;
     bool picturesLeftOut_ = false;

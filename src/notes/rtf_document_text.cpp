@@ -11,6 +11,10 @@ namespace {
 
 using Destination = RtfDestination;
 
+bool IsLineEnd(unsigned char byte) {
+    return byte == '\r' || byte == '\n';
+}
+
 bool IsHighSurrogate(char32_t unit) {
     return unit >= 0xD800 && unit < 0xDC00;
 }
@@ -48,7 +52,15 @@ void RtfDocumentReader::OnText(std::string_view ascii) {
 void RtfDocumentReader::OnByte(const RtfToken& token) {
     if (state_.destination == Destination::Nothing || IsSkipped()) return;
     const bool raw = !token.text.empty();
+    if (!raw && IsLineEnd(token.byte)) return OnLineEnd(token.byte);
     PutByte(raw && rawIsUtf8_ ? code_page::Utf8 : PageOfBytes(), token.byte);
+}
+
+/// Writers that give every byte by its number give the ends of lines so, too: one byte or two.
+void RtfDocumentReader::OnLineEnd(unsigned char byte) {
+    const bool second = byte == '\n' && byteBefore_ == '\r';
+    byteBefore_ = byte;
+    if (!second) EndParagraph();
 }
 
 void RtfDocumentReader::PutByte(CodePage page, unsigned char byte) {
@@ -162,8 +174,11 @@ void RtfDocumentReader::Insert(char32_t character) {
     hasContent_ = true;
 }
 
+/// A row is one line, which stands as its first cell does.
 void RtfDocumentReader::EndCell() {
-    if (IsBody()) ++pendingTabs_;
+    if (!IsBody()) return;
+    ++pendingTabs_;
+    if (!row_) row_ = state_.paragraph;
 }
 
 /// Cells that nothing follows in their row need no tab.
@@ -184,7 +199,8 @@ void RtfDocumentReader::EndParagraph() {
 /// The look of a paragraph's end is to be seen in an empty one alone.
 void RtfDocumentReader::PutParagraphEnd() {
     pendingTabs_ = 0;
-    ParagraphFormat format = state_.paragraph;
+    ParagraphFormat format = row_.value_or(state_.paragraph);
+    row_.reset();
     format.bullet |= std::exchange(bullet_, false);
     builder_.EndParagraph(builder_.IsParagraphEmpty() ? LookOfText() : state_.run, format);
 }

@@ -37,6 +37,12 @@ bool TakeSuffixOff(RtfFont& font) {
     return false;
 }
 
+/// A name is one line of text.
+bool IsOfName(char32_t character) {
+    return character >= 0x20 && character != character::LineSeparator &&
+           character != character::ParagraphSeparator && NoteBuilder::IsText(character);
+}
+
 bool IsSymbolFont(std::string_view name) {
     return std::ranges::find(SymbolFonts, name) != std::end(SymbolFonts);
 }
@@ -60,7 +66,7 @@ void RtfFonts::SetPage(int page) {
 
 void RtfFonts::Add(char32_t character) {
     if (character == ';') return End();
-    if (!begun_ || character < 0x20 || font_.name.size() >= LongestName) return;
+    if (!begun_ || !IsOfName(character) || font_.name.size() >= LongestName) return;
     if (character == ' ' && font_.name.empty()) return;
     AppendUtf8(font_.name, character);
 }

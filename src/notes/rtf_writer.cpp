@@ -84,8 +84,19 @@ class RtfWriter {
     void WriteFont(std::size_t number, std::string_view name, bool symbols) {
         Word("{\\f", static_cast<int>(number));
         rtf_ += symbols ? "\\fnil\\fcharset2 " : "\\fnil\\fcharset0 ";
-        WriteCharacters(name);
+        WriteName(name);
         rtf_ += ";}";
+    }
+
+    /// In a name no character stands for something else.
+    void WriteName(std::string_view name) {
+        while (!name.empty()) {
+            const char32_t character = TakeCharacter(name);
+            if (character < Plain.size() && Plain[character])
+                rtf_ += static_cast<char>(character);
+            else
+                WriteUnicode(character);
+        }
     }
 
     void WriteColors() {

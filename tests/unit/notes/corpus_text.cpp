@@ -8,6 +8,8 @@ using namespace std::string_view_literals;
 
 std::vector<NoteSample> TextSamples() {
     return {
+        {"a page before the word for ANSI", R"({\rtf1\ansicpg1250\ansi{\fonttbl{\f0 A;}}\f0\'ba})",
+         "{A|\u015F}"},
         {"nothing", R"({\rtf1})", ""},
         {"plain text", R"({\rtf1\ansi De sunat la banca.})", "De sunat la banca."},
         {"paragraphs", "{\\rtf1\\ansi Prima\\par\r\nA doua\\par\r\n}", "Prima\nA doua"},

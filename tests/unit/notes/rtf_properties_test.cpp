@@ -143,6 +143,25 @@ TEST(RtfPropertiesTest, ALongParagraphGoesOnInAnother) {
     ExpectNote(letters, "letters");
 }
 
+TEST(RtfPropertiesTest, ALongParagraphGoesOnWhereALineEnds) {
+    const RtfReading reading = ReadRtf("{\\rtf1 " + Repeated("Un rand al scrisorii\\line ", 400) + "}");
+    EXPECT_GT(reading.note.paragraphs.size(), 4U);
+    std::string text = reading.note.text;
+    std::ranges::replace(text, '\v', '\n');
+    EXPECT_TRUE(text == Repeated("Un rand al scrisorii\n", 400) + "\n");
+    ExpectNote(reading, "lines");
+}
+
+TEST(RtfPropertiesTest, WhatIsNotToBeSeenIsNotAtAnyDepth) {
+    for (const std::size_t depth : {1, 3'990, 4'090, 20'000}) {
+        const std::string hidden =
+            R"({\*\x unu{doi}trei}{\fonttbl{\f9 patru;}}{\pict 00}{\field{\*\fldinst cinci}{\fldrslt b}})";
+        const RtfReading reading =
+            ReadRtf("{\\rtf1 a" + std::string(depth, '{') + hidden + std::string(depth, '}') + "c}");
+        EXPECT_EQ(reading.note.text, "abc\n") << depth;
+    }
+}
+
 TEST(RtfPropertiesTest, WhatIsMoreThanANoteMayHaveIsTold) {
     const auto outcome = [](std::string_view text, std::size_t times) {
         return ReadRtf("{\\rtf1 " + Repeated(text, times) + "}").outcome;
