@@ -202,10 +202,11 @@ void RtfDocumentReader::Do(const RtfWord& word, const RtfToken& token) {
     int number = token.number;
     if (word.action == Action::LineHeight && !token.hasNumber) tokens_.TakeNumberAfterDashes(number);
     if (ApplyToParagraphs(state_, word, number, indents_)) return;
-    if (word.action >= Action::DocumentPage)
+    if (word.action >= Action::DocumentPage) {
         DoOfDocument(word, number);
-    else
+    } else {
         DoOfText(word, token);
+    }
 }
 
 void RtfDocumentReader::BeginFont(int number) {

@@ -94,10 +94,11 @@ void RtfDocumentReader::PutUnit(char32_t unit) {
         return Put(high != 0 ? 0x10000 + ((high - 0xD800) << 10U) + (unit - 0xDC00) : ReplacementCharacter);
     }
     if (high != 0) Put(ReplacementCharacter);
-    if (IsHighSurrogate(unit))
+    if (IsHighSurrogate(unit)) {
         highSurrogate_ = unit;
-    else
+    } else {
         Put(unit);
+    }
 }
 
 void RtfDocumentReader::EndBrokenBytes() {
@@ -223,10 +224,11 @@ void RtfDocumentReader::InsertOfFootnote(char32_t character) {
         return;
     }
     const bool blank = std::exchange(footnoteBlank_, false);
-    if (!std::exchange(inFootnote_, true))
+    if (!std::exchange(inFootnote_, true)) {
         InsertAll(" [");
-    else if (blank)
+    } else if (blank) {
         Insert(' ');
+    }
     Insert(character);
 }
 

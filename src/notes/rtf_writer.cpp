@@ -47,7 +47,7 @@ class RtfWriter {
 
     std::string Run() {
         CollectColors();
-        rtf_ += "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1";
+        rtf_ += R"({\rtf1\ansi\ansicpg1252\deff0\uc1)";
         WriteFonts();
         WriteColors();
         WriteText();
@@ -92,10 +92,11 @@ class RtfWriter {
     void WriteName(std::string_view name) {
         while (!name.empty()) {
             const char32_t character = TakeCharacter(name);
-            if (character < Plain.size() && Plain[character])
+            if (character < Plain.size() && Plain[character]) {
                 rtf_ += static_cast<char>(character);
-            else
+            } else {
                 WriteUnicode(character);
+            }
         }
     }
 
@@ -145,10 +146,11 @@ class RtfWriter {
         if (format.bullet) WriteBullet(format, !same);
         if (same) return;
         WriteParagraphFormat(format);
-        if (number == 0)
+        if (number == 0) {
             rtf_ += "\\plain";
-        else if (!rtf_.ends_with('}'))  // a word goes before
+        } else if (!rtf_.ends_with('}')) {  // a word goes before
             rtf_ += ' ';
+        }
     }
 
     /// For readers who know bullets, and as text for those who do not.
@@ -156,7 +158,7 @@ class RtfWriter {
         Word("{\\pntext\\f", static_cast<int>(note_.fonts.size()));
         rtf_ += "\\'b7\\tab}";
         if (!tellsReaders) return;
-        Word("{\\*\\pn\\pnlvlblt\\pnf", static_cast<int>(note_.fonts.size()));
+        Word(R"({\*\pn\pnlvlblt\pnf)", static_cast<int>(note_.fonts.size()));
         Word("\\pnindent", std::max(0, -format.firstLineIndent));
         rtf_ += "{\\pntxtb\\'b7}}";
     }

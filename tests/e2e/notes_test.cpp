@@ -642,8 +642,8 @@ TEST_F(NotesTest, ANoteKeepsItsAttributes) {
 
 std::string SampleNote() {
     std::string rtf =
-        "{\\rtf1\\ansi\\ansicpg1250\\deff0{\\fonttbl{\\f0\\fnil\\fcharset238 Arial;}{\\f1 Times New Roman;}}"
-        "{\\colortbl;\\red255\\green0\\blue0;}{\\*\\generator Writer;}\\pard\\f0\\fs20 ";
+        R"({\rtf1\ansi\ansicpg1250\deff0{\fonttbl{\f0\fnil\fcharset238 Arial;}{\f1 Times New Roman;}})"
+        R"({\colortbl;\red255\green0\blue0;}{\*\generator Writer;}\pard\f0\fs20 )";
     for (int i = 0; i < 40; ++i)
         rtf += "{\\b line " + std::to_string(i) + "} \\'e3\\u537?{\\i\\cf1\\f1 text}\\par\r\n";
     return rtf + "}";
@@ -706,7 +706,7 @@ TEST_F(NotesTest, ExactLinesAreKept) {
 
 TEST_F(NotesTest, NamesBeyondAllMeasureDoNoHarm) {
     Open();
-    LoadText("{\\rtf1{\\fonttbl{\\f0 " + std::string(2000, 'N') + ";}}{\\stylesheet{\\s1 " +
+    LoadText(R"({\rtf1{\fonttbl{\f0 )" + std::string(2000, 'N') + ";}}{\\stylesheet{\\s1 " +
              std::string(5000, 'S') + ";}}\\f0 a}");
     EXPECT_EQ(Text(), L"a");
     EXPECT_EQ(LookAt(0, 1).face, std::string(31, 'N'));
@@ -787,9 +787,9 @@ TEST_F(NotesTest, FormatsOfParagraphsAndCharactersDoNotDrift) {
         R"(\qr\sl400\f1\fs24 m{\super 2} H{\sub 2}O {\strike a}{\ul b}\line {\f2\'b7}\u537?\par})");
     const std::string file = ExpectNothingDrifts();
     for (const char* format :
-         {"\\pard\\qc\\fi-360\\li720\\ri360\\sb120\\sa240\\tx900\\tx1800", "{\\*\\pn\\pnlvlblt",
-          "\\fi-360\\li720", "\\pard\\qr\\sl400", "\\super", "\\sub", "\\strike", "\\ul", "\\line ",
-          "\\u-3913\\'b7", "\\u537?", "\\red200\\green0\\blue0;", "\\highlight", "\\fs40"})
+         {R"(\pard\qc\fi-360\li720\ri360\sb120\sa240\tx900\tx1800)", R"({\*\pn\pnlvlblt)", "\\fi-360\\li720",
+          R"(\pard\qr\sl400)", "\\super", "\\sub", "\\strike", "\\ul", "\\line ", "\\u-3913\\'b7", "\\u537?",
+          R"(\red200\green0\blue0;)", "\\highlight", "\\fs40"})
         EXPECT_NE(file.find(format), std::string::npos) << format << " in " << file;
 }
 

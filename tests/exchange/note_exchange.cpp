@@ -59,9 +59,10 @@ std::string NameOf(const std::string& folder, std::size_t number) {
 }
 
 void Write(const std::string& folder) {
-    for (std::size_t i = 0; i < Chosen.size(); ++i)
+    for (std::size_t i = 0; i < Chosen.size(); ++i) {
         std::ofstream(NameOf(folder, i), std::ios::binary)
             << notes::WriteRtf(notes::ReadRtf(SampleOf(Chosen[i]).file).note);
+    }
 }
 
 bool IsSame(const std::string& name, const NoteSample& sample) {

@@ -145,11 +145,12 @@ std::string FakeRichText::Save() const {
     notes::CodePageDecoder decoder;
     for (const Character& character : characters_) {
         const notes::RunFormat look = ToNote(character.format, builder);
-        if (character.letter == '\r')
+        if (character.letter == '\r') {
             builder.EndParagraph(look, {});
-        else if (const auto whole =
-                     decoder.Put(notes::code_page::Utf8, static_cast<unsigned char>(character.letter)))
+        } else if (const auto whole =
+                       decoder.Put(notes::code_page::Utf8, static_cast<unsigned char>(character.letter))) {
             builder.Add(*whole, look, {});
+        }
     }
     builder.EndParagraph(ToNote(typing_, builder), {});
     return notes::WriteRtf(builder.Finish());

@@ -104,10 +104,11 @@ std::string Dump(const Note& note) {
             const std::string look = LookOf(run.format, note);
             const bool emptyParagraph =
                 length == 0 && (dump.empty() || dump.ends_with('\n') || dump.ends_with('>'));
-            if (!look.empty() && (length > 0 || emptyParagraph))
+            if (!look.empty() && (length > 0 || emptyParagraph)) {
                 dump += "{" + look + "|" + shown + "}";
-            else
+            } else {
                 dump += shown;
+            }
             text.erase(0, length);
             if (text.empty()) break;
             text.erase(0, 1);

@@ -138,7 +138,7 @@ TEST_F(NotesActionTest, AFileThatGivesNoNoteIsToldAndNeverReachesTheEditor) {
 TEST_F(NotesActionTest, AFileOfManyMegabytesIsReadWhereItsTextIsShort) {
     Notes& window = Open();
     desktop.dialogs.chosenFile = File;
-    desktop.files.contents[File] = "{\\rtf1 abc{\\*\\objdata " + std::string(20 << 20, '0') + "}}";
+    desktop.files.contents[File] = R"({\rtf1 abc{\*\objdata )" + std::string(20 << 20, '0') + "}}";
     OpenNote(window);
     EXPECT_EQ(editor->Text(), "abc");
     EXPECT_THAT(messages.shown, ElementsAre(Question));
@@ -162,13 +162,13 @@ TEST_F(NotesActionTest, AFileThatLostItsEndIsLoadedAsFarAsItGoesAndThatIsTold) {
 TEST_F(NotesActionTest, PicturesThatCannotBeShownAreTold) {
     Notes& window = Open();
     desktop.dialogs.chosenFile = File;
-    desktop.files.contents[File] = "{\\rtf1 a{\\pict\\wmetafile8 01}b}";
+    desktop.files.contents[File] = R"({\rtf1 a{\pict\wmetafile8 01}b})";
     OpenNote(window);
     EXPECT_THAT(messages.shown, ElementsAre(Question, PicturesNotShown));
     EXPECT_EQ(editor->Text(), "ab");
     // One that a note may hold, and this editor does not.
     messages.shown.clear();
-    desktop.files.contents[File] = "{\\rtf1 c{\\pict\\jpegblip ffd8ffc0000b08000100010101ffd9}}";
+    desktop.files.contents[File] = R"({\rtf1 c{\pict\jpegblip ffd8ffc0000b08000100010101ffd9}})";
     OpenNote(window);
     EXPECT_THAT(messages.shown, ElementsAre(Question, PicturesNotShown));
     ExpectUsable(window);
@@ -208,7 +208,7 @@ TEST_F(NotesActionTest, AFileThatIsNotThereOrThatTheEditorRefusesIsToldAndKeepsT
 TEST_F(NotesActionTest, AWindowThatGoesWhileItTellsSomethingSaysNoMore) {
     Notes& window = Open();
     desktop.dialogs.chosenFile = File;
-    desktop.files.contents[File] = "{\\rtf1 a{\\pict\\wmetafile8 01}b";
+    desktop.files.contents[File] = R"({\rtf1 a{\pict\wmetafile8 01}b)";
     messages.whileShowing = [&] {
         if (messages.shown.back() == CutNote) module.UnloadWindow("Notes");
     };
@@ -293,7 +293,7 @@ TEST_F(NotesActionTest, AnEditorThatDoesNotGiveAllOfItsTextDoesNotReplaceAFile) 
 
 TEST_F(NotesActionTest, PicturesThatCannotBeSavedAreTold) {
     Notes& window = Open();
-    editor->written = "{\\rtf1 a{\\pict\\wmetafile8 01}b}";
+    editor->written = R"({\rtf1 a{\pict\wmetafile8 01}b})";
     SaveAs(window, File);
     EXPECT_THAT(messages.shown,
                 ElementsAre(Warning("Nota a fost salvata fara unele imagini, care nu pot fi pastrate !")));

@@ -101,7 +101,7 @@ TEST(RtfPropertiesTest, AFileThatLostItsEndIsReadAsFarAsItGoes) {
     EXPECT_EQ(cut.outcome, RtfOutcome::Cut);
     EXPECT_EQ(Dump(cut.note), "{b|unu}\n{b|doi}");
     for (const char* file :
-         {"{\\rtf1", "{\\rtf1{\\fonttbl{\\f0 Ar", "{\\rtf1{\\info{\\title Titlu", "{\\rtf1{\\*\\x\\bin99 a"})
+         {"{\\rtf1", R"({\rtf1{\fonttbl{\f0 Ar)", R"({\rtf1{\info{\title Titlu)", R"({\rtf1{\*\x\bin99 a)"})
         EXPECT_EQ(ReadRtf(file).outcome, RtfOutcome::NothingLeft) << file;
 }
 
@@ -122,7 +122,7 @@ TEST(RtfPropertiesTest, PicturesThatANoteDoesNotTakeAreTold) {
 
 TEST(RtfPropertiesTest, ALongParagraphGoesOnInAnother) {
     const std::string words = Repeated("cuvant ", 1000);
-    const RtfReading reading = ReadRtf("{\\rtf1\\pard\\qc\\li500\\fi-200\\sb100\\sa100 " + words + "\\par}");
+    const RtfReading reading = ReadRtf(R"({\rtf1\pard\qc\li500\fi-200\sb100\sa100 )" + words + "\\par}");
     std::string text = reading.note.text;
     EXPECT_EQ(reading.note.paragraphs.size(), 4U);
     std::erase(text, '\n');
@@ -185,10 +185,10 @@ TEST(RtfPropertiesTest, TimeGrowsWithTheFileAlone) {
                               "\\u-10179?",
                               "{\\*\\x",
                               "{\\fonttbl{\\f0;",
-                              "\\f1{\\fonttbl\\f1 a;}",
+                              R"(\f1{\fonttbl\f1 a;})",
                               "\\colortbl;",
                               ";",
-                              "\\tx1\\tx2\\tx3",
+                              R"(\tx1\tx2\tx3)",
                               "{\\pict\\jpegblip 00}",
                               "{\\pntext a}",
                               "\\bin1",
@@ -198,7 +198,7 @@ TEST(RtfPropertiesTest, TimeGrowsWithTheFileAlone) {
                               "\\uc9999\\u1",
                               "{\\footnote a}",
                               "\\cf1\\cf2",
-                              "\\fonttbl\\f0;\\f1;"}) {
+                              R"(\fonttbl\f0;\f1;)"}) {
         const auto start = std::chrono::steady_clock::now();
         const std::string file = "{\\rtf1{" + Repeated(piece, Size / std::string_view(piece).size());
         const RtfReading reading = ReadRtf(file);
