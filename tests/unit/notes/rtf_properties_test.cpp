@@ -153,7 +153,7 @@ TEST(RtfPropertiesTest, ALongParagraphGoesOnWhereALineEnds) {
 }
 
 TEST(RtfPropertiesTest, WhatIsNotToBeSeenIsNotAtAnyDepth) {
-    for (const std::size_t depth : {1, 3'990, 4'090, 20'000}) {
+    for (const std::size_t depth : std::initializer_list<std::size_t>{1, 3'990, 4'090, 20'000}) {
         const std::string hidden =
             R"({\*\x unu{doi}trei}{\fonttbl{\f9 patru;}}{\pict 00}{\field{\*\fldinst cinci}{\fldrslt b}})";
         const RtfReading reading =
