@@ -7,18 +7,6 @@ namespace {
 
 constexpr std::uint32_t ColorBits = 0xFFFFFF;
 
-class ScreenDc {
-  public:
-    ScreenDc() : dc_(GetDC(nullptr)) {}
-    ~ScreenDc() { ReleaseDC(nullptr, dc_); }
-    ScreenDc(const ScreenDc&) = delete;
-    ScreenDc& operator=(const ScreenDc&) = delete;
-    HDC Get() const { return dc_; }
-
-  private:
-    HDC dc_;
-};
-
 win32::OwnedBitmap Copy(HDC screen, HDC memory, const RECT& place) {
     const int width = place.right - place.left;
     const int height = place.bottom - place.top;

@@ -7,6 +7,19 @@
 
 namespace tavrin::host {
 
+/// The whole screen, to be read from.
+class ScreenDc {
+  public:
+    ScreenDc() : dc_(GetDC(nullptr)) {}
+    ~ScreenDc() { ReleaseDC(nullptr, dc_); }
+    ScreenDc(const ScreenDc&) = delete;
+    ScreenDc& operator=(const ScreenDc&) = delete;
+    HDC Get() const { return dc_; }
+
+  private:
+    HDC dc_;
+};
+
 /// What stood in a part of the screen: 0x00RRGGBB a pixel, rows from the top.
 struct ScreenPicture {
     int width = 0;

@@ -113,7 +113,8 @@ inline constexpr std::size_t MaximumCharacters = std::size_t{2} << 20;
 inline constexpr std::size_t MaximumParagraphs = 200'000;
 inline constexpr std::size_t MaximumRuns = 400'000;
 inline constexpr std::size_t MaximumFonts = 1'000;
-/// A longer paragraph goes on in another one, behind a blank where there is one before LongestWord.
+/// A longer paragraph goes on in another one: where a line ends in its second half, else behind a blank where
+/// there is one before LongestWord.
 inline constexpr std::size_t LongestParagraph = 2'000;
 inline constexpr std::size_t LongestWord = 200;
 inline constexpr std::size_t MaximumPictureBytes = std::size_t{32} << 20;  ///< of all pictures

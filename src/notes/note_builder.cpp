@@ -103,12 +103,11 @@ void NoteBuilder::AddLong(std::string_view text, const RunFormat& format, const 
 }
 
 void NoteBuilder::Add(char32_t character, const RunFormat& format, const ParagraphFormat& paragraph) {
-    if (!IsText(character) || !TakesMore(1)) return;
+    if (!IsText(character)) return;
     // Where a line ends anyway a break is not to be seen.
-    if (character == character::LineBreak && paragraphCharacters_ > LongestParagraph / 2) {
-        --characters_;
-        return GoOnInAnother(paragraph);
-    }
+    const bool endsLine = character == character::LineBreak && paragraphCharacters_ > LongestParagraph / 2;
+    if (endsLine) return GoOnInAnother(paragraph);
+    if (!TakesMore(1)) return;
     BreakWhereTooLong(paragraph);
     AppendUtf8(note_.text, character);
     EndText(format, character == ' ');

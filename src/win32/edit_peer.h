@@ -48,8 +48,8 @@ class EditPeer final : public ControlWindow {
     forms::TextBox& control_;
     /// Set while the model's state is written into the field, whose notifications are no news then.
     bool isShowing_ = false;
-    bool holdsPress_ = false;  ///< a button of the mouse went down here and is the field's to act on
-    bool isReleasing_ = false;
+    bool holdsPress_ = false;   ///< a button of the mouse went down here and is the field's to act on
+    bool isReleasing_ = false;  ///< the left button goes up: the mouse is given back, not taken away
 };
 
 }  // namespace tavrin::win32

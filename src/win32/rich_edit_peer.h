@@ -47,8 +47,8 @@ class RichEditPeer final : public ControlWindow, public forms::RichTextEditor {
     forms::RichTextBox& control_;
     mutable std::optional<bool> writesEveryLetter_;
     mutable std::optional<bool> exchangesIndents_;
-    bool holdsPress_ = false;  ///< a button of the mouse went down here and is the editor's to act on
-    bool isReleasing_ = false;
+    bool holdsPress_ = false;   ///< a button of the mouse went down here and is the editor's to act on
+    bool isReleasing_ = false;  ///< the left button goes up: the mouse is given back, not taken away
 };
 
 }  // namespace tavrin::win32

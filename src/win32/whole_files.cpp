@@ -102,22 +102,28 @@ class FileBeside {
 
     void Write(std::string_view content) { WriteAll(file_.get(), content); }
 
-    /// False where the other file is still there. The platform's way to replace one
-    /// file by another keeps what the old one was besides its content, its rights above all. It needs an old
-    /// one, and not every drive knows it.
+    /// False where the other file is still there.
     bool TakePlace() {
         file_.reset();
         const DWORD attributes = GetFileAttributesW(target_.c_str());
-        if (!ReplaceFileW(target_.c_str(), name_.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
-                          nullptr) &&
-            !MoveFileExW(name_.c_str(), target_.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-            return false;
+        if (!Replace() && !Move()) return false;
         name_.clear();
         if (attributes != INVALID_FILE_ATTRIBUTES) SetFileAttributesW(target_.c_str(), attributes);
         return true;
     }
 
   private:
+    /// Keeps what the old file was besides its content, its rights above all. It needs an old one, and not
+    /// every drive knows it.
+    bool Replace() const {
+        return ReplaceFileW(target_.c_str(), name_.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+                            nullptr) != FALSE;
+    }
+    bool Move() const {
+        const DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+        return MoveFileExW(name_.c_str(), target_.c_str(), how) != FALSE;
+    }
+
     std::wstring target_;
     std::wstring name_;
     OwnedFile file_;

@@ -207,6 +207,35 @@ TEST_P(PeersKeyboardTest, APressEndsWithTheMouse) {
     EXPECT_EQ(Call([&] { return clicks; }), 0);
 }
 
+// What a focus brings about may take the mouse, another window's becoming active for one.
+TEST_P(PeersKeyboardTest, APressHasTheMouseWhateverTheFocusBringsAbout) {
+    const HWND button = Control("cmdStop").Handle();
+    const HWND holder = Call([&] {
+        form->button.onGotFocus = [] { ReleaseCapture(); };
+        SendMessageW(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+        return GetCapture();
+    });
+    EXPECT_TRUE(Call([&] { return form->button.IsPressed(); }));
+    EXPECT_EQ(holder, button);
+    Call([&] { SendMessageW(button, WM_LBUTTONUP, 0, MAKELPARAM(5, 5)); });
+}
+
+TEST_P(PeersKeyboardTest, APressEndsWhereAMenuTakesTheMouse) {
+    const HWND field = Control("field").Handle();
+    ui.Post([field] {
+        SendMessageW(field, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+        SendMessageW(field, WM_RBUTTONUP, MK_LBUTTON, MAKELPARAM(5, 5));
+    });
+    Require("the field's menu", [this] {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        return GetGUIThreadInfo(ui.Id(), &info) != FALSE && (info.flags & GUI_INMENUMODE) != 0;
+    });
+    Call([] { EndMenu(); });
+    ui.Settle();
+    EXPECT_FALSE(Call([&] { return form->field.IsPressed(); }));
+}
+
 TEST_P(PeersKeyboardTest, ADisabledFrameGivesItsFocusAway) {
     Call([&] { form->inner.SetFocus(); });
     Call([&] { form->frame.SetEnabled(false); });

@@ -16,18 +16,6 @@ namespace {
 
 std::wstring screenshotFolder;  // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
-class ScreenDc {
-  public:
-    ScreenDc() : dc_(GetDC(nullptr)) {}
-    ~ScreenDc() { ReleaseDC(nullptr, dc_); }
-    ScreenDc(const ScreenDc&) = delete;
-    ScreenDc& operator=(const ScreenDc&) = delete;
-    HDC Get() const { return dc_; }
-
-  private:
-    HDC dc_;
-};
-
 /// A name of a test may hold what a file's may not.
 std::wstring FileName(std::string name) {
     std::ranges::replace_if(
@@ -76,7 +64,7 @@ std::string SaveScreenshot(const std::string& name) try {
 }
 
 void AskDisplay() {
-    const ScreenDc screen;
+    const host::ScreenDc screen;
     GetPixel(screen.Get(), 0, 0);
 }
 
