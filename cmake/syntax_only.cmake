@@ -1,6 +1,6 @@
 # With TAVRIN_SYNTAX_ONLY a build reads every source for its warnings and makes no code: what stands in for objects,
-# libraries and programs is empty. It takes half the time, and nothing of it can be run.
-option(TAVRIN_SYNTAX_ONLY "Look for warnings alone (with clang)" OFF)
+# libraries and programs is empty. It takes a quarter of the time, and nothing of it can be run.
+option(TAVRIN_SYNTAX_ONLY "Look for warnings alone" OFF)
 if(TAVRIN_SYNTAX_ONLY)
   set(made "${CMAKE_COMMAND} -E touch")
   set(CMAKE_CXX_COMPILE_OBJECT

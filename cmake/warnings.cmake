@@ -5,6 +5,9 @@ if(MSVC)
 endif()
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
                     -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+  add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:-Wreserved-identifier;-Wzero-as-null-pointer-constant>")
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # GCC 12 takes std::string's own operator+ for an overlapping copy.
   add_compile_options(-Wno-restrict)

@@ -111,7 +111,9 @@ TEST_F(NotesActionTest, ACancelledOpenDialogKeepsTheText) {
     EXPECT_EQ(editor->loads, 0);
 }
 
-TEST_F(NotesActionTest, AFileThatGivesNoNoteIsToldAndNeverReachesTheEditor) {
+using NotesActionThorough = NotesActionTest;
+
+TEST_F(NotesActionThorough, AFileThatGivesNoNoteIsToldAndNeverReachesTheEditor) {
     const ShownMessage noNote = Failure("Fisierul ales nu este o nota RTF !");
     const ShownMessage nothingLeft = Failure("Fisierul ales este incomplet si nu mai poate fi citit !");
     const ShownMessage tooLarge = Failure("Nota este prea mare !");
@@ -135,7 +137,7 @@ TEST_F(NotesActionTest, AFileThatGivesNoNoteIsToldAndNeverReachesTheEditor) {
     EXPECT_EQ(editor->loads, 0);
 }
 
-TEST_F(NotesActionTest, AFileOfManyMegabytesIsReadWhereItsTextIsShort) {
+TEST_F(NotesActionThorough, AFileOfManyMegabytesIsReadWhereItsTextIsShort) {
     Notes& window = Open();
     desktop.dialogs.chosenFile = File;
     desktop.files.contents[File] = R"({\rtf1 abc{\*\objdata )" + std::string(20 << 20, '0') + "}}";

@@ -16,7 +16,7 @@ TEST(OleDates, CountFromTheirFirstDay) {
     EXPECT_EQ(ToOleDate({9999, 12, 31}).days, 2958465);
 }
 
-TEST(OleDates, EveryDayComesBack) {
+TEST(OleDatesThorough, EveryDayComesBack) {
     for (double day = -657434; day <= 2958465; ++day) {
         const CalendarDay calendarDay = ToCalendarDay({day});
         ASSERT_EQ(ToOleDate(calendarDay).days, day) << calendarDay.year << '-' << calendarDay.month;

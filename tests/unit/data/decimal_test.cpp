@@ -69,7 +69,7 @@ std::vector<double> Samples() {
     return samples;
 }
 
-TEST(DecimalOfTest, IsTheStandardLibrarysOfFifteenDigits) {
+TEST(DecimalThorough, IsTheStandardLibrarysOfFifteenDigits) {
     for (const double sample : Samples()) {
         const Decimal expected = StandardDecimal(sample);
         const Decimal decimal = DecimalOf(sample);
@@ -79,7 +79,7 @@ TEST(DecimalOfTest, IsTheStandardLibrarysOfFifteenDigits) {
     EXPECT_EQ(Fixed(DecimalOf(0)), "0");
 }
 
-TEST(DecimalOfTest, SeesNoDifferenceBetweenTheDoublesAroundADecimal) {
+TEST(DecimalThorough, SeesNoDifferenceBetweenTheDoublesAroundADecimal) {
     std::mt19937_64 random(11);
     for (int i = 0; i < 50'000; ++i) {
         const std::uint64_t units = random() % (std::uint64_t{1} << (1 + random() % 49));
@@ -129,7 +129,7 @@ TEST(DecimalTest, RoundsTiesToTheEvenDigit) {
     EXPECT_EQ(rounded({"1", -2}, 1), "0");
 }
 
-TEST(DecimalTest, BecomesTheNearestDouble) {
+TEST(DecimalThorough, BecomesTheNearestDouble) {
     for (const double sample : Samples()) {
         EXPECT_EQ(DecimalOf(sample).ToDouble(),
                   StandardNumber(Standard(sample, std::chars_format::scientific, 14)))
@@ -138,7 +138,7 @@ TEST(DecimalTest, BecomesTheNearestDouble) {
     EXPECT_EQ(DecimalOf(Limits::max()).ToDouble(), Limits::infinity()) << "its decimal lies above it";
 }
 
-TEST(DecimalTest, ReadsWhatTheStandardLibraryReads) {
+TEST(DecimalThorough, ReadsWhatTheStandardLibraryReads) {
     std::mt19937_64 random(7);
     const auto pick = [&](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
     for (int i = 0; i < 20000; ++i) {
@@ -203,7 +203,7 @@ TEST(DecimalTest, WritesZerosWhereThePointLiesOutside) {
     EXPECT_EQ(Fixed({}), "0");
 }
 
-TEST(ShortestDecimalTest, IsItsDecimalWithoutAnExponent) {
+TEST(DecimalThorough, IsTheShortestTextWithoutAnExponent) {
     for (const double sample : Samples()) {
         EXPECT_EQ(ShortestDecimal(sample), Fixed(StandardDecimal(sample)));
         EXPECT_EQ(ShortestDecimal(-sample), "-" + Fixed(StandardDecimal(sample)));

@@ -56,7 +56,7 @@ TEST(ShortestDecimalText, HasNoMoreThanFifteenDigits) {
     EXPECT_EQ(ShortestDecimal(1.0 / 3), "0.333333333333333");
 }
 
-TEST(ShortestDecimalText, ReadsBackAsANumberWithTheSameText) {
+TEST(ShortestDecimalThorough, ReadsBackAsANumberWithTheSameText) {
     std::mt19937_64 random(1);
     for (int count = 0; count < 10000; ++count) {
         const double number =

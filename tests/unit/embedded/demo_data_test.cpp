@@ -90,7 +90,7 @@ TEST_F(DemoData, AddressBookIsFullOfInventedPeople) {
     EXPECT_GT(Count("SELECT Count(*) FROM Agenda WHERE Nume = 'șerban'"), 0);
 }
 
-TEST(DemoDataFile, IsMadeOnceAndKept) {
+TEST(DemoDataFileThorough, IsMadeOnceAndKept) {
     const std::filesystem::path folder = std::filesystem::temp_directory_path();
     const std::string path = (folder / ("tavrin-demo-" + std::to_string(::getpid()) + ".db")).string();
     std::remove(path.c_str());

@@ -169,7 +169,9 @@ class EmbeddedFile : public testing::Test {
             .string();
 };
 
-TEST_F(EmbeddedFile, AHundredThousandRowsAreReadAtOnce) {
+using EmbeddedFileThorough = EmbeddedFile;
+
+TEST_F(EmbeddedFileThorough, AHundredThousandRowsAreReadAtOnce) {
     constexpr std::int64_t rowCount = 100000;
     sqlite3* engine = nullptr;
     ASSERT_EQ(sqlite3_open(path_.c_str(), &engine), SQLITE_OK);

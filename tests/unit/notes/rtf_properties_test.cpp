@@ -162,7 +162,7 @@ TEST(RtfPropertiesTest, WhatIsNotToBeSeenIsNotAtAnyDepth) {
     }
 }
 
-TEST(RtfPropertiesTest, WhatIsMoreThanANoteMayHaveIsTold) {
+TEST(RtfThorough, WhatIsMoreThanANoteMayHaveIsTold) {
     const auto outcome = [](std::string_view text, std::size_t times) {
         return ReadRtf("{\\rtf1 " + Repeated(text, times) + "}").outcome;
     };
@@ -173,7 +173,7 @@ TEST(RtfPropertiesTest, WhatIsMoreThanANoteMayHaveIsTold) {
 }
 
 /// A fraction of a second with sanitizers: what grows with the square takes minutes.
-TEST(RtfPropertiesTest, TimeGrowsWithTheFileAlone) {
+TEST(RtfThorough, TimeGrowsWithTheFileAlone) {
     constexpr std::size_t Size = 60'000;
     for (const char* piece : {"{",
                               "}{",
@@ -216,7 +216,7 @@ TEST(RtfPropertiesTest, TimeGrowsWithTheFileAlone) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
-TEST(RtfPropertiesTest, GroupsMayBeNestedToAnyDepth) {
+TEST(RtfThorough, GroupsMayBeNestedToAnyDepth) {
     constexpr std::size_t Depth = 100'000;
     const RtfReading reading =
         ReadRtf("{\\rtf1 a" + Repeated("{\\b b", Depth) + std::string(Depth, '}') + "c}");
