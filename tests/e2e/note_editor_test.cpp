@@ -56,7 +56,7 @@ class NoteEditorTest : public testing::Test {
             form->Show();
         });
     }
-    ~NoteEditorTest() override {
+    void TearDown() override {
         ui.Call([this] {
             form->Unload();
             form.reset();
