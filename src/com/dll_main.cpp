@@ -8,11 +8,13 @@
 
 #include <cstddef>
 #include <new>
+#include <string>
 
 #include "com/class_factory.h"
 #include "com/registration.h"
 #include "com/runtime_memory.h"
 #include "com/server.h"
+#include "win32/module_path.h"
 #include "win32/translation.h"
 
 namespace tavrin::com {
@@ -25,6 +27,10 @@ Server* server = nullptr;
 
 Server& TheServer() {
     return *server;
+}
+
+std::wstring OwnFile() {
+    return tavrin::win32::ModulePath(TheServer().Instance());
 }
 
 }  // namespace
@@ -52,17 +58,17 @@ STDAPI DllGetClassObject(REFCLSID classId, REFIID id, void** object) {
 }
 
 STDAPI DllRegisterServer() noexcept {
-    return tavrin::win32::Translated([] { return Register(TheServer(), Scope::Machine); });
+    return tavrin::win32::Translated([] { return Register(OwnFile(), Scope::Machine); });
 }
 
 STDAPI DllUnregisterServer() noexcept {
-    return tavrin::win32::Translated([] { return Unregister(TheServer(), Scope::Machine); });
+    return tavrin::win32::Translated([] { return Unregister(OwnFile(), Scope::Machine); });
 }
 
 STDAPI DllInstall(BOOL install, LPCWSTR forWhom) noexcept {
     return tavrin::win32::Translated([&] {
         Scope scope{};
         if (const HRESULT named = ScopeOf(forWhom, scope); FAILED(named)) return named;
-        return install != FALSE ? Register(TheServer(), scope) : Unregister(TheServer(), scope);
+        return install != FALSE ? Register(OwnFile(), scope) : Unregister(OwnFile(), scope);
     });
 }

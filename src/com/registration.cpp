@@ -3,10 +3,10 @@
 #include <olectl.h>
 
 #include <algorithm>
-#include <string>
 #include <vector>
 
 #include "com/registry_entries.h"
+#include "win32/module_path.h"
 
 namespace tavrin::com {
 namespace {
@@ -14,14 +14,15 @@ namespace {
 // Keys of the system's own, which the first class of a user brings along; the last is the user's classes.
 constexpr const wchar_t* SharedKeys[] = {L"CLSID", L"Interface", L"TypeLib", L""};
 
-bool WriteAll(const Registry& registry, const std::vector<RegistryEntry>& entries) {
-    return std::ranges::all_of(entries, [&](const RegistryEntry& entry) { return registry.Write(entry); });
+bool WriteAll(const Registry& registry, Part part, const std::wstring& file) {
+    return std::ranges::all_of(EntriesOf(part, file),
+                               [&](const RegistryEntry& entry) { return registry.Write(entry); });
 }
 
 /// With what other tools may have put below.
-bool RemoveAll(const Registry& registry, const std::vector<RegistryEntry>& entries) {
+bool RemoveAll(const Registry& registry, Part part) {
     bool complete = true;
-    for (const RegistryEntry& entry : entries)
+    for (const RegistryEntry& entry : EntriesOf(part, L""))
         complete = registry.RemoveTree(entry.key) && complete;
     return complete;
 }
@@ -30,12 +31,26 @@ std::wstring ParentOf(const std::wstring& key) {
     return key.substr(0, key.find_last_of(L'\\'));
 }
 
+bool NamesAnother(const Registry& registry, Part part, const std::wstring& file) {
+    const std::optional<std::wstring> registered = registry.Read(FileKeyOf(part));
+    return registered && !win32::IsSamePath(*registered, file);
+}
+
+/// The ProgID stays while the other bitness has its class.
+bool RemoveClass(const Registry& registry) {
+    const bool complete = RemoveAll(registry, Part::Class);
+    return registry.IsInOtherView(FileKeyOf(Part::Class)) ? complete
+                                                          : RemoveAll(registry, Part::Program) && complete;
+}
+
 /// The key of the files goes only when the other bitness has none in it; the rest of the library with it.
-bool RemoveTypeLibrary(const Registry& registry, Server& server) {
-    const std::wstring file = TypeLibraryFileKey(server);
+bool RemoveTypeLibrary(const Registry& registry) {
+    const std::wstring file = FileKeyOf(Part::File);
     if (!registry.Remove(file)) return false;
     if (!registry.Remove(ParentOf(file))) return true;
-    return RemoveAll(registry, TypeLibraryEntries(server));
+    const bool complete = RemoveAll(registry, Part::Library);
+    registry.RemoveIfEmpty(ParentOf(EntriesOf(Part::Library, L"").front().key));
+    return complete;
 }
 
 void RemoveSharedKeys(const Registry& registry) {
@@ -45,27 +60,25 @@ void RemoveSharedKeys(const Registry& registry) {
 
 }  // namespace
 
-HRESULT Register(Server& server, Scope scope) {
+HRESULT Register(const std::wstring& file, Scope scope) {
     const Registry registry(scope);
     HRESULT result = S_OK;
-    if (!WriteAll(registry, ClassEntries(server))) {
+    if (!WriteAll(registry, Part::Program, file) || !WriteAll(registry, Part::Class, file)) {
         result = SELFREG_E_CLASS;
-    } else if (!WriteAll(registry, InterfaceEntries(server)) ||
-               !WriteAll(registry, TypeLibraryEntries(server))) {
+    } else if (!WriteAll(registry, Part::Library, file) || !WriteAll(registry, Part::File, file)) {
         result = SELFREG_E_TYPELIB;
     }
-    if (FAILED(result)) Unregister(server, scope);
+    if (FAILED(result)) Unregister(file, scope);
     return result;
 }
 
-HRESULT Unregister(Server& server, Scope scope) {
+HRESULT Unregister(const std::wstring& file, Scope scope) {
     const Registry registry(scope);
-    const bool libraryRemoved = RemoveTypeLibrary(registry, server);
-    const bool interfacesRemoved = RemoveAll(registry, InterfaceEntries(server));
-    const bool classRemoved = RemoveAll(registry, ClassEntries(server));
+    const bool libraryRemoved = NamesAnother(registry, Part::File, file) || RemoveTypeLibrary(registry);
+    const bool classRemoved = NamesAnother(registry, Part::Class, file) || RemoveClass(registry);
     if (scope == Scope::User) RemoveSharedKeys(registry);
     if (!classRemoved) return SELFREG_E_CLASS;
-    return libraryRemoved && interfacesRemoved ? S_OK : SELFREG_E_TYPELIB;
+    return libraryRemoved ? S_OK : SELFREG_E_TYPELIB;
 }
 
 HRESULT ScopeOf(const wchar_t* name, Scope& scope) {

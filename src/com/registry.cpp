@@ -4,6 +4,7 @@ namespace tavrin::com {
 namespace {
 
 constexpr wchar_t Classes[] = L"Software\\Classes";
+constexpr REGSAM OtherView = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
 
 bool IsGone(LSTATUS removed) {
     return removed == ERROR_SUCCESS || removed == ERROR_FILE_NOT_FOUND;
@@ -26,6 +27,27 @@ bool Registry::Write(const RegistryEntry& entry) const {
     const auto size = static_cast<DWORD>((entry.value.size() + 1) * sizeof(wchar_t));
     return RegSetKeyValueW(Root(), PathOf(entry.key).c_str(), entry.name.c_str(), REG_SZ, entry.value.c_str(),
                            size) == ERROR_SUCCESS;
+}
+
+std::optional<std::wstring> Registry::Read(const std::wstring& key) const {
+    const std::wstring path = PathOf(key);
+    DWORD size = 0;
+    if (RegGetValueW(Root(), path.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, nullptr, &size) != ERROR_SUCCESS)
+        return std::nullopt;
+    std::wstring value(size / sizeof(wchar_t), L'\0');
+    if (RegGetValueW(Root(), path.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, value.data(), &size) !=
+        ERROR_SUCCESS)
+        return std::nullopt;
+    value.resize(size / sizeof(wchar_t) - 1);  // without the end
+    return value;
+}
+
+bool Registry::IsInOtherView(const std::wstring& key) const {
+    HKEY found = nullptr;
+    if (RegOpenKeyExW(Root(), PathOf(key).c_str(), 0, KEY_READ | OtherView, &found) != ERROR_SUCCESS)
+        return false;
+    RegCloseKey(found);
+    return true;
 }
 
 bool Registry::Remove(const std::wstring& key) const {

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
 namespace tavrin::com {
@@ -23,6 +24,12 @@ class Registry {
     explicit Registry(Scope scope) : scope_(scope) {}
 
     bool Write(const RegistryEntry& entry) const;
+
+    /// The own value of a key, where it has one.
+    std::optional<std::wstring> Read(const std::wstring& key) const;
+
+    /// Whether the other bitness has the key, where 64-bit Windows keeps it for each apart.
+    bool IsInOtherView(const std::wstring& key) const;
 
     /// Removes a key that holds no further keys. \return whether it is not there any more
     bool Remove(const std::wstring& key) const;

@@ -4,22 +4,16 @@
 #include <vector>
 
 #include "com/registry.h"
-#include "com/server.h"
 
 namespace tavrin::com {
 
-// What stands in the registry about the component. Keys stand before the keys below them.
+/// What is written into the registry, and removed, as one (registration.list).
+enum class Part { Program, Class, File, Library };
 
-/// The class and its ProgID.
-std::vector<RegistryEntry> ClassEntries(Server& server);
+/// The entries of a part for a component that lies in that file. A key stands before the keys below it.
+std::vector<RegistryEntry> EntriesOf(Part part, const std::wstring& file);
 
-/// The interfaces, by which other apartments reach an object.
-std::vector<RegistryEntry> InterfaceEntries(Server& server);
-
-/// The type library: the 32-bit and the 64-bit component share all of it but the file.
-std::vector<RegistryEntry> TypeLibraryEntries(Server& server);
-
-/// The key of the type library's file, which is this bitness' own.
-std::wstring TypeLibraryFileKey(Server& server);
+/// The key whose own value names the component's file; the class and the type library's file have one.
+std::wstring FileKeyOf(Part part);
 
 }  // namespace tavrin::com

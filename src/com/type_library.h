@@ -19,9 +19,6 @@ class TypeLibrary {
     /// The whole library. \return null where it cannot be read
     win32::ComPtr<ITypeLib> Library();
 
-    /// Its id, version and platform. \throws data::Error where it cannot be read
-    TLIBATTR Attributes();
-
     /// Lets go of what was read.
     void Release() { library_.Reset(); }
 

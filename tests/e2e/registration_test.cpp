@@ -12,6 +12,7 @@ namespace {
 
 using testing::AllOf;
 using testing::Each;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
@@ -30,8 +31,48 @@ class RegistrationTest : public testing::Test {
     }
 
     /// Runs the system's own tool. \return its exit code
-    static unsigned long RegisterServer(const std::wstring& options) {
-        return RunProcess(L"regsvr32.exe /s " + options + L" \"" + Component::Path() + L"\"").exitCode;
+    static unsigned long RegisterServer(const std::wstring& options,
+                                        const std::wstring& file = Component::Path()) {
+        return RunProcess(L"regsvr32.exe /s " + options + L" \"" + file + L"\"").exitCode;
+    }
+
+    /// A second copy of the component, as an older version in another folder is one.
+    static std::wstring MakeCopy() {
+        std::wstring path = TemporaryPath(L"copy of Tavrin.dll");
+        EXPECT_TRUE(CopyFileW(Component::Path().c_str(), path.c_str(), FALSE));
+        return path;
+    }
+
+    /// The file that a key of the machine's names, or of the user's.
+    static std::wstring RegisteredFile(HKEY root, const std::wstring& key) {
+        std::array<wchar_t, 512> value{};
+        auto size = static_cast<DWORD>(sizeof value);
+        const LSTATUS result = RegGetValueW(root, (L"Software\\Classes\\" + key).c_str(), nullptr,
+                                            RRF_RT_REG_SZ, nullptr, value.data(), &size);
+        return result == ERROR_SUCCESS ? value.data() : L"(none)";
+    }
+
+    static std::wstring ClassFileKey() {
+        return L"CLSID\\" + TextOf(__uuidof(::Utile)) + L"\\InprocServer32";
+    }
+    static std::wstring LibraryFileKey(const wchar_t* platform = sizeof(void*) == 8 ? L"win64" : L"win32") {
+        return L"TypeLib\\" + TextOf(LIBID_Tavrin) + L"\\1.0\\0\\" + platform;
+    }
+
+    /// One copy is registered, and removing another changes nothing; then the other way round.
+    static void TwoCopies(HKEY root, const std::wstring& install, const std::wstring& remove) {
+        const std::wstring copy = MakeCopy();
+        ASSERT_EQ(RegisterServer(install), 0U);
+        const RegistrySnapshot with = TakeRegistrySnapshot();
+        EXPECT_EQ(RegisterServer(remove, copy), 0U);
+        EXPECT_EQ(TakeRegistrySnapshot(), with);
+
+        EXPECT_EQ(RegisterServer(install, copy), 0U);
+        EXPECT_EQ(RegisterServer(remove), 0U);
+        EXPECT_EQ(_wcsicmp(RegisteredFile(root, ClassFileKey()).c_str(), copy.c_str()), 0);
+        EXPECT_EQ(_wcsicmp(RegisteredFile(root, LibraryFileKey()).c_str(), copy.c_str()), 0);
+        EXPECT_EQ(RegisterServer(remove, copy), 0U);
+        EXPECT_TRUE(DeleteFileW(copy.c_str()));
     }
 
     static HRESULT CreateOnAThread() {
@@ -124,6 +165,55 @@ TEST_F(RegistrationTest, OneUserMayRegisterForHimselfAlone) {
     EXPECT_EQ(CreateOnAThread(), REGDB_E_CLASSNOTREG);
 }
 
+TEST_F(RegistrationTest, ACopyDoesNotRemoveWhatNamesAnother) {
+    ASSERT_EQ(component.Unregister(), S_OK);
+    const RegistrySnapshot before = TakeRegistrySnapshot();
+    TwoCopies(HKEY_LOCAL_MACHINE, L"", L"/u");
+    TwoCopies(HKEY_CURRENT_USER, L"/n /i:user", L"/u /n /i:user");
+    EXPECT_EQ(TakeRegistrySnapshot(), before);
+}
+
+TEST_F(RegistrationTest, ATypeLibraryOfAnotherFileStaysAlone) {
+    const std::wstring key = L"Software\\Classes\\" + LibraryFileKey();
+    ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, key.c_str(), L"", REG_SZ, L"x", 4), ERROR_SUCCESS);
+    EXPECT_EQ(component.Unregister(), S_OK);
+    EXPECT_EQ(RegisteredFile(HKEY_LOCAL_MACHINE, LibraryFileKey()), L"x");
+    EXPECT_EQ(RegisteredFile(HKEY_LOCAL_MACHINE, ClassFileKey()), L"(none)");
+}
+
+TEST_F(RegistrationTest, AShortNameIsTheSameFile) {
+    std::array<wchar_t, MAX_PATH> path{};
+    ASSERT_GT(GetShortPathNameW(Component::Path().c_str(), path.data(), MAX_PATH), 0U);
+    ASSERT_STRNE(path.data(), Component::Path().c_str());
+    const std::wstring key = L"Software\\Classes\\" + ClassFileKey();
+    const auto size = static_cast<DWORD>((wcslen(path.data()) + 1) * sizeof(wchar_t));
+    ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, key.c_str(), L"", REG_SZ, path.data(), size),
+              ERROR_SUCCESS);
+    EXPECT_EQ(component.Unregister(), S_OK);
+    EXPECT_EQ(RegisteredFile(HKEY_LOCAL_MACHINE, ClassFileKey()), L"(none)");
+}
+
+// A 32-bit system has no other bitness.
+#ifdef _WIN64
+TEST_F(RegistrationTest, TheOtherBitnessKeepsItsProgramId) {
+    const std::wstring key = L"Software\\Classes\\" + ClassFileKey();
+    HKEY other = nullptr;
+    ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, key.c_str(), 0, nullptr, 0,
+                              KEY_ALL_ACCESS | KEY_WOW64_32KEY, nullptr, &other, nullptr),
+              ERROR_SUCCESS);
+    EXPECT_EQ(component.Unregister(), S_OK);
+    EXPECT_EQ(RegisteredFile(HKEY_LOCAL_MACHINE, ClassFileKey()), L"(none)");
+    EXPECT_EQ(DefaultValue(ProgramId), ProgramId);
+
+    EXPECT_EQ(RegDeleteKeyExW(other, L"", KEY_WOW64_32KEY, 0), ERROR_SUCCESS);
+    EXPECT_EQ(RegCloseKey(other), ERROR_SUCCESS);
+    const std::wstring parent = key.substr(0, key.find_last_of(L'\\'));
+    EXPECT_EQ(RegDeleteKeyExW(HKEY_LOCAL_MACHINE, parent.c_str(), KEY_WOW64_32KEY, 0), ERROR_SUCCESS);
+    EXPECT_EQ(component.Unregister(), S_OK);
+    EXPECT_EQ(DefaultValue(ProgramId), L"(none)");
+}
+#endif
+
 TEST_F(RegistrationTest, TheTypeLibraryIsFound) {
     EXPECT_EQ(LoadRegisteredLibrary(), S_OK);
     ASSERT_EQ(component.Unregister(), S_OK);
@@ -156,18 +246,58 @@ TEST_F(RegistrationTest, AnUnregisteredClassCannotBeCreated) {
     EXPECT_EQ(CreateOnAThread(), REGDB_E_CLASSNOTREG);
 }
 
-TEST_F(RegistrationTest, TheFileNamesItsVersion) {
-    DWORD ignored = 0;
-    const DWORD size = GetFileVersionInfoSizeW(Component::Path().c_str(), &ignored);
-    ASSERT_GT(size, 0U);
-    std::vector<char> block(size);
-    ASSERT_TRUE(GetFileVersionInfoW(Component::Path().c_str(), 0, size, block.data()));
-    void* found = nullptr;
-    UINT length = 0;
-    ASSERT_TRUE(VerQueryValueW(block.data(), L"\\", &found, &length));
-    const auto& version = *static_cast<const VS_FIXEDFILEINFO*>(found);
-    EXPECT_EQ(HIWORD(version.dwFileVersionMS), 1);
-    EXPECT_EQ(version.dwFileType, static_cast<DWORD>(VFT_DLL));
+/// What the version resource of the component says.
+class VersionResourceTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        DWORD ignored = 0;
+        const DWORD size = GetFileVersionInfoSizeW(Component::Path().c_str(), &ignored);
+        ASSERT_GT(size, 0U);
+        block_.resize(size);
+        ASSERT_TRUE(GetFileVersionInfoW(Component::Path().c_str(), 0, size, block_.data()));
+    }
+
+    template <class Value>
+    const Value* Find(const std::wstring& path) {
+        void* found = nullptr;
+        UINT length = 0;
+        return VerQueryValueW(block_.data(), path.c_str(), &found, &length) ? static_cast<Value*>(found)
+                                                                            : nullptr;
+    }
+
+    std::wstring TextIn(const wchar_t* language, const std::wstring& name) {
+        const auto* text = Find<wchar_t>(L"\\StringFileInfo\\" + std::wstring(language) + L"\\" + name);
+        return text == nullptr ? L"(none)" : text;
+    }
+
+  private:
+    std::vector<char> block_;
+};
+
+TEST_F(VersionResourceTest, NumbersAndTextsAgree) {
+    const auto* version = Find<VS_FIXEDFILEINFO>(L"\\");
+    ASSERT_NE(version, nullptr);
+    EXPECT_EQ(version->dwFileType, static_cast<DWORD>(VFT_DLL));
+    EXPECT_EQ(HIWORD(version->dwFileVersionMS), 1);
+    const std::wstring number = std::to_wstring(HIWORD(version->dwFileVersionMS)) + L"." +
+                                std::to_wstring(LOWORD(version->dwFileVersionMS)) + L"." +
+                                std::to_wstring(HIWORD(version->dwFileVersionLS));
+    for (const wchar_t* language : {L"041804B0", L"040904B0"}) {
+        EXPECT_EQ(TextIn(language, L"ProductVersion"), number);
+        EXPECT_EQ(TextIn(language, L"FileVersion"),
+                  number + L"." + std::to_wstring(LOWORD(version->dwFileVersionLS)));
+        EXPECT_EQ(TextIn(language, L"CompanyName"), L"Tavrin");
+        EXPECT_THAT(TextIn(language, L"LegalCopyright"), StartsWith(L"Copyright \u00a9"));
+    }
+}
+
+TEST_F(VersionResourceTest, SpeaksTwoLanguages) {
+    EXPECT_THAT(TextIn(L"041804B0", L"FileDescription"), HasSubstr(L"utilitare"));
+    EXPECT_THAT(TextIn(L"040904B0", L"FileDescription"), HasSubstr(L"utilities"));
+    const auto* translations = Find<DWORD>(L"\\VarFileInfo\\Translation");
+    ASSERT_NE(translations, nullptr);
+    EXPECT_EQ(translations[0], 0x04B00418U);
+    EXPECT_EQ(translations[1], 0x04B00409U);
 }
 
 }  // namespace
