@@ -10,6 +10,9 @@ if(WIN32)
     # quick where it matters asks for it with tavrin_optimize_for_speed.
     add_compile_options("$<$<CONFIG:Release>:-Os;-ffunction-sections;-fdata-sections>")
     add_link_options("$<$<CONFIG:Release>:-Wl,--gc-sections>")
+    # Lines and functions for whoever reads a crash report; the packages have them apart from the DLL. They name files
+    # by their place in the clone, wherever that lies.
+    add_compile_options("$<$<CONFIG:Release>:-g1;-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.;-ffile-prefix-map=${CMAKE_BINARY_DIR}=build>")
     # No time of building goes in: one commit always gives the same bytes.
     add_link_options(-Wl,--no-insert-timestamp)
   endif()

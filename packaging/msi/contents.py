@@ -94,7 +94,8 @@ class Contents:
             name = pathlib.PurePath(path)
             versioned = path == DLL
             version = version_of(self.stage / path) if versioned else None
-            self.component.add(key, self.identify(path), self.folders[name.parent.as_posix()], self.attributes, None, key)
+            folder = self.folders[name.parent.as_posix()]
+            self.component.add(key, self.identify(path), folder, self.attributes, None, key)
             self.file.add(key, key, f"F{number}{name.suffix[:4]}|{name.name}", (self.stage / path).stat().st_size,
                           version, "1033" if versioned else None, 0, number)
         # Emptied folders go, and the chosen one with them.
