@@ -75,7 +75,11 @@ class Contents:
         else:
             self.directory.add("LocalAppDataFolder", "TARGETDIR", ".")
             self.directory.add("INSTALLDIR", "LocalAppDataFolder", "Programs")
-        self.directory.add("ProductFolder", "INSTALLDIR", f"TAVRIN~1|Tavrin-{self.product['arch']}")
+        # Another one for each package, so that all may be put into one place.
+        user = self.product["scope"] == "user"
+        own = f"Tavrin-{self.product['arch']}" + ("-user" if user else "")
+        short = f"TAVR{self.product['arch'][1:]}{'U' if user else 'M'}"
+        self.directory.add("ProductFolder", "INSTALLDIR", f"{short}|{own}")
         self.folders = {".": "ProductFolder"}
         for path in self.paths:
             for parent in reversed(pathlib.PurePath(path).parents):

@@ -15,7 +15,7 @@ class='CLSID\{03822644-1FCA-429D-A547-70C08FCDDAEC}'
 steps() {
     printf '@echo off\r\nset packages=Z:%s\r\n' "${work//\//\\}" >"$work/$1.cmd"
     { cat && echo exit 0; } | sed 's/$/\r/' >>"$work/$1.cmd"
-    (cd "$work" && "$scripts/wine-run" --timeout 120 --keep "$prefix_name" "$arch" cmd /c "$1.cmd") \
+    (cd "$work" && "$scripts/wine-run" --timeout 300 --keep "$prefix_name" "$arch" cmd /c "$1.cmd") \
         >"$work/$1.raw" </dev/null || die "$1: the steps ended with $?"
     sed 's/\r//; s/[[:space:]]*$//; /^$/d' "$work/$1.raw" >"$work/$1.output"
 }
