@@ -56,7 +56,7 @@ class RegistrationTest : public testing::Test {
         return L"CLSID\\" + TextOf(__uuidof(::Utile)) + L"\\InprocServer32";
     }
     static std::wstring LibraryFileKey(const wchar_t* platform = sizeof(void*) == 8 ? L"win64" : L"win32") {
-        return L"TypeLib\\" + TextOf(LIBID_Tavrin) + L"\\1.0\\0\\" + platform;
+        return L"TypeLib\\" + TextOf(LIBID_Tavrin) + LR"(\1.0\0\)" + platform;
     }
 
     /// One copy is registered, and removing another changes nothing; then the other way round.
