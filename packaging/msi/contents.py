@@ -5,7 +5,7 @@ import struct
 from idt import Table
 
 # Opened by the link in the start menu and in the list of programs.
-GUIDE = "docs/using.md"
+GUIDE = "docs/using.html"
 DLL = "Tavrin.dll"
 LINK = "Tavrin - ghidul utilizatorului"
 
