@@ -1,6 +1,9 @@
 -- The tables that the utilities rely on, with a few rows to try them on. Transact-SQL, SQL Server 2000 or later.
 -- Run it once in the database that the host's connection opens, under a login that may create databases.
 --
+-- The statements of the utilities give texts without N, so they pass through the code page of the database's collation:
+-- choose Romanian_CI_AS, or from SQL Server 2019 on Romanian_100_CI_AS_SC_UTF8, which keeps ș and ț with a comma as well.
+--
 -- Names are read by exact text in places: keep their case. The utilities write currency columns as [EUR] float and
 -- create nothing else.
 

@@ -35,8 +35,8 @@ void CreateDemoData(EmbeddedDatabase& database) {
     transaction.Commit();
 }
 
-std::shared_ptr<EmbeddedDatabase> OpenDemoDatabase(const std::string& path) {
-    auto database = std::make_shared<EmbeddedDatabase>(path);
+std::shared_ptr<EmbeddedDatabase> OpenDemoDatabase(const std::string& path, CodePage codePage) {
+    auto database = std::make_shared<EmbeddedDatabase>(path, codePage);
     if (database->IsBlank()) CreateDemoData(*database);
     return database;
 }

@@ -13,6 +13,7 @@ namespace tavrin::host {
 void CreateDemoData(EmbeddedDatabase& database);
 
 /// Opens the file; a new one is filled with demo data. \throws data::Error
-std::shared_ptr<EmbeddedDatabase> OpenDemoDatabase(const std::string& path);
+std::shared_ptr<EmbeddedDatabase> OpenDemoDatabase(const std::string& path,
+                                                   CodePage codePage = CodePage::CentralEuropean);
 
 }  // namespace tavrin::host

@@ -10,16 +10,18 @@
 namespace tavrin::host {
 namespace {
 
+// The letters are those of code page 1250, which a server with a Romanian collation keeps: ş and ţ have a
+// cedilla.
 constexpr auto Families = std::to_array<std::string_view>(
     {"Albu",  "Anghel",  "Barbu",  "Călinescu", "Ciobanu",   "Constantin", "Cristea", "Dima",
      "Dobre", "Dumitru", "Enache", "Florea",    "Georgescu", "Grigore",    "Ilie",    "Ionescu",
      "Lazăr", "Lungu",   "Manole", "Marin",     "Matei",     "Munteanu",   "Neagu",   "Nistor",
-     "Pop",   "Popescu", "Rusu",   "Sandu",     "Șerban",    "Țurcanu"});
+     "Pop",   "Popescu", "Rusu",   "Sandu",     "Şerban",    "Ţurcanu"});
 
 constexpr auto GivenNames = std::to_array<std::string_view>(
     {"Adrian", "Alina",   "Ana",   "Andrei", "Bogdan",   "Carmen", "Cătălin", "Cristina",
      "Dan",    "Daniela", "Elena", "Florin", "Gabriela", "Ioana",  "Ion",     "Irina",
-     "Laura",  "Maria",   "Mihai", "Radu",   "Ștefan",   "Tudor",  "Vasile",  "Viorica"});
+     "Laura",  "Maria",   "Mihai", "Radu",   "Ştefan",   "Tudor",  "Vasile",  "Viorica"});
 
 struct Town {
     std::string_view name;
@@ -27,23 +29,23 @@ struct Town {
     std::string_view prefix;  ///< of telephone numbers
 };
 
-constexpr auto Towns = std::to_array<Town>({{"București", "București", "021"},
+constexpr auto Towns = std::to_array<Town>({{"Bucureşti", "Bucureşti", "021"},
                                             {"Cluj-Napoca", "Cluj", "0264"},
-                                            {"Iași", "Iași", "0232"},
-                                            {"Timișoara", "Timiș", "0256"},
-                                            {"Constanța", "Constanța", "0241"},
+                                            {"Iaşi", "Iaşi", "0232"},
+                                            {"Timişoara", "Timiş", "0256"},
+                                            {"Constanţa", "Constanţa", "0241"},
                                             {"Craiova", "Dolj", "0251"},
-                                            {"Brașov", "Brașov", "0268"},
-                                            {"Galați", "Galați", "0236"},
+                                            {"Braşov", "Braşov", "0268"},
+                                            {"Galaţi", "Galaţi", "0236"},
                                             {"Oradea", "Bihor", "0259"},
                                             {"Suceava", "Suceava", "0230"},
-                                            {"Târgu Mureș", "Mureș", "0265"}});
+                                            {"Târgu Mureş", "Mureş", "0265"}});
 
 constexpr auto Streets = std::to_array<std::string_view>(
     {"Florilor", "Lungă", "Morii", "Păcii", "Primăverii", "Teilor", "Viilor"});
 
 constexpr auto Trades = std::to_array<std::string_view>(
-    {"Agro", "Birotică", "Construct", "Mobilă", "Panificație", "Textil", "Transport", "Turism"});
+    {"Agro", "Birotică", "Construct", "Mobilă", "Panificaţie", "Textil", "Transport", "Turism"});
 
 constexpr auto Departments =
     std::to_array<std::pair<std::string_view, std::string_view>>({{"Contabilitate", "Contabil"},
@@ -65,7 +67,7 @@ std::string Pick(const List& list, std::size_t number) {
 
 std::string WithoutAccents(std::string text) {
     static constexpr auto Plain = std::to_array<std::pair<std::string_view, char>>(
-        {{"ă", 'a'}, {"â", 'a'}, {"î", 'i'}, {"ș", 's'}, {"ț", 't'}});
+        {{"ă", 'a'}, {"â", 'a'}, {"î", 'i'}, {"ş", 's'}, {"ţ", 't'}});
     text = FoldCase(text);
     for (const auto& [accented, letter] : Plain) {
         for (std::size_t at = text.find(accented); at != std::string::npos; at = text.find(accented)) {

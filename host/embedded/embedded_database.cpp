@@ -47,7 +47,8 @@ std::shared_ptr<data::MemoryTable> MakeTable(const std::vector<FieldInfo>& field
 // The type as it stands in the table's declaration: "float", "nvarchar(50)".
 dialect::SqlType DeclaredType(const std::string& declaration) {
     dialect::TokenStream tokens(dialect::Tokenize(declaration));
-    return dialect::ResolveType(dialect::ExpressionParser(tokens).ParseType(), dialect::TypeUse::Column);
+    return dialect::ResolveType(dialect::ExpressionParser(tokens, CodePage::Utf8).ParseType(),
+                                dialect::TypeUse::Column);
 }
 
 // The engine says "NOT NULL constraint failed: TABLE.COLUMN".
@@ -59,7 +60,7 @@ std::string ColumnOfMessage(const std::string& message, const std::string& table
 
 }  // namespace
 
-EmbeddedDatabase::EmbeddedDatabase(const std::string& path) {
+EmbeddedDatabase::EmbeddedDatabase(const std::string& path, CodePage codePage) : codePage_(codePage) {
     sqlite3* opened = nullptr;
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
     const int result = sqlite3_open_v2(path.c_str(), &opened, flags, nullptr);
@@ -73,7 +74,7 @@ EmbeddedDatabase::EmbeddedDatabase(const std::string& path) {
 }
 
 EmbeddedDatabase::Answer EmbeddedDatabase::Run(std::string_view statement) {
-    const dialect::Translation translation = dialect::Translate(dialect::Parse(statement), *this);
+    const dialect::Translation translation = dialect::Translate(dialect::Parse(statement, codePage_), *this);
     pendingError_.reset();
     SqliteStatement prepared(database_.get(), translation.sql);
     Answer answer;

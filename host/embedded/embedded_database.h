@@ -7,6 +7,7 @@
 
 #include "data/error.h"
 #include "data/memory_table.h"
+#include "host/embedded/code_page.h"
 #include "host/embedded/dialect/schema.h"
 #include "host/embedded/dialect/translator.h"
 #include "host/embedded/sqlite_functions.h"
@@ -20,7 +21,7 @@ class EmbeddedDatabase : public dialect::Schema {
   public:
     /// Opens the file, or creates it; ":memory:" lives as long as the object. The path is UTF-8.
     /// \throws data::Error
-    explicit EmbeddedDatabase(const std::string& path);
+    explicit EmbeddedDatabase(const std::string& path, CodePage codePage = CodePage::CentralEuropean);
 
     /// What a statement gave.
     struct Answer {
@@ -60,6 +61,7 @@ class EmbeddedDatabase : public dialect::Schema {
     struct Closer {
         void operator()(sqlite3* database) const { sqlite3_close_v2(database); }
     };
+    CodePage codePage_;
     PendingError pendingError_;  // before the handle, whose functions write to it
     std::unique_ptr<sqlite3, Closer> database_;
 

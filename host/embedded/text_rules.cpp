@@ -25,7 +25,8 @@ std::size_t SequenceLength(unsigned char lead) {
     return lead >= 0xC2 ? 2 : 1;
 }
 
-// Takes one character off the front. A byte that begins no valid sequence counts as a character by itself.
+}  // namespace
+
 char32_t TakeCharacter(std::string_view& text) {
     const auto lead = static_cast<unsigned char>(text.front());
     const std::size_t length = SequenceLength(lead);
@@ -45,6 +46,8 @@ char32_t TakeCharacter(std::string_view& text) {
     text.remove_prefix(length);
     return character;
 }
+
+namespace {
 
 char32_t Folded(char32_t character) {
     if (character >= 'A' && character <= 'Z') return character + ('a' - 'A');

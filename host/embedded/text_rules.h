@@ -11,6 +11,10 @@ namespace tavrin::host {
 // the cedilla forms); other scripts compare by code point. A Romanian accent decides the order only between
 // texts that are alike without it.
 
+/// Takes one character off the front. A byte that begins no valid sequence counts as a character by itself.
+/// \pre !text.empty()
+char32_t TakeCharacter(std::string_view& text);
+
 /// The lower-case form; invalid UTF-8 passes through byte by byte.
 std::string FoldCase(std::string_view text);
 

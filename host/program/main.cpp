@@ -116,7 +116,8 @@ void RunHost(const Options& options) {
     ComPtr<IDispatch> connection;
     if (options.adoConnection.empty()) {
         recordsets.emplace();
-        connection = win32::MakeObject<ConnectionObject>(OpenDemoDatabase(options.database));
+        connection =
+            win32::MakeObject<ConnectionObject>(OpenDemoDatabase(options.database, options.codePage));
     } else {
         connection = OpenSystemAdo(options.adoConnection);
     }

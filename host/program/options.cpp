@@ -18,6 +18,7 @@ const char* const UsageText =
     "A stand-in for an accounting program: hands its database to Tavrin.dll and opens the utilities.\n"
     "\n"
     "  --database PATH    the embedded database (tavrin.db); a new one is filled with demo data\n"
+    "  --code-page PAGE   what its texts pass through: 1250, 1252, or utf8 to keep every letter (1250)\n"
     "  --ado STRING       use the system's ADO with this connection string instead\n"
     "  --company N        the current company's Id (1)\n"
     "  --date YYYY-MM-DD  the working date (2003-11-28)\n"
@@ -45,6 +46,13 @@ data::OleDate ParseDate(const std::string& text) {
     return *date;
 }
 
+CodePage ParseCodePage(const std::string& text) {
+    if (text == "1250") return CodePage::CentralEuropean;
+    if (text == "1252") return CodePage::Western;
+    if (text == "utf8") return CodePage::Utf8;
+    throw std::invalid_argument("not a known code page: " + text);
+}
+
 struct OptionRow {
     std::string_view name;
     void (*read)(Options& options, const std::string& value);
@@ -52,6 +60,8 @@ struct OptionRow {
 
 constexpr std::array Rows{
     OptionRow{"--database", [](Options& options, const std::string& value) { options.database = value; }},
+    OptionRow{"--code-page",
+              [](Options& options, const std::string& value) { options.codePage = ParseCodePage(value); }},
     OptionRow{"--ado", [](Options& options, const std::string& value) { options.adoConnection = value; }},
     OptionRow{"--company",
               [](Options& options, const std::string& value) {

@@ -6,12 +6,14 @@
 #include <vector>
 
 #include "data/value.h"
+#include "host/embedded/code_page.h"
 
 namespace tavrin::host {
 
 /// What the program was started with. Texts are UTF-8.
 struct Options {
     std::string database = "tavrin.db";
+    CodePage codePage = CodePage::CentralEuropean;
     std::string adoConnection;  ///< empty: the embedded database
     std::int32_t company = 1;
     data::OleDate date;

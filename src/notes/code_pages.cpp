@@ -4,7 +4,7 @@
 #include <iterator>
 #include <utility>
 
-#include "notes/code_page_tables.h"
+#include "data/code_page_tables.h"
 
 namespace tavrin::notes {
 
@@ -46,9 +46,9 @@ bool Leads(CodePage page, unsigned char byte) {
     return byte > 0x80 && byte != 0xFF && !(page == 932 && (byte == 0xA0 || (byte >= 0xA1 && byte <= 0xDF)));
 }
 
-const CodePageTable* TableOf(CodePage page) {
-    const auto* const table = std::ranges::find(CodePageTables, page, &CodePageTable::number);
-    return table != std::end(CodePageTables) ? table : TableOf(code_page::Western);
+const data::CodePageTable* TableOf(CodePage page) {
+    const auto* const table = std::ranges::find(data::CodePageTables, page, &data::CodePageTable::number);
+    return table != std::end(data::CodePageTables) ? table : TableOf(code_page::Western);
 }
 
 }  // namespace

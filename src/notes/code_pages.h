@@ -3,6 +3,10 @@
 #include <cstdint>
 #include <optional>
 
+namespace tavrin::data {
+struct CodePageTable;
+}
+
 namespace tavrin::notes {
 
 /// What stands where a text cannot be read.
@@ -19,8 +23,6 @@ inline constexpr CodePage Utf8 = 65001;
 
 /// The code page of a font's character set. None where the set leaves it to the document.
 std::optional<CodePage> CodePageOfCharacterSet(int characterSet);
-
-struct CodePageTable;
 
 /// Makes characters of bytes, as many at a time as one of them takes. Pages with one byte for a letter and
 /// UTF-8 are read; of the pages of East Asia it is only known which bytes belong together, and each character
@@ -41,8 +43,8 @@ class CodePageDecoder {
     std::optional<char32_t> PutUtf8(unsigned char byte);
     std::optional<char32_t> PutDoubleByte(CodePage page, unsigned char byte);
 
-    CodePage page_ = 0;                     ///< of the last byte
-    const CodePageTable* table_ = nullptr;  ///< that of page_, where it has one
+    CodePage page_ = 0;                           ///< of the last byte
+    const data::CodePageTable* table_ = nullptr;  ///< that of page_, where it has one
     char32_t character_ = 0;
     int missing_ = 0;  ///< bytes that the begun character lacks
 };

@@ -138,6 +138,8 @@ ExpressionPtr ExpressionParser::ParseExpression() {
     const Nesting nesting(depth_);
     switch (tokens_.Peek().kind) {
         case TokenKind::Text:
+            return MakeExpression(TextLiteral{ThroughCodePage(tokens_.Take().text, page_)});
+        case TokenKind::NationalText:
             return MakeExpression(TextLiteral{tokens_.Take().text});
         case TokenKind::Number:
             return MakeExpression(NumberLiteral{tokens_.Take().text});

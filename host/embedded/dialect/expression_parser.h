@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/embedded/code_page.h"
 #include "host/embedded/dialect/syntax.h"
 #include "host/embedded/dialect/token_stream.h"
 
@@ -8,7 +9,8 @@ namespace tavrin::host::dialect {
 /// Reads scalar expressions and search conditions off a statement's tokens.
 class ExpressionParser {
   public:
-    explicit ExpressionParser(TokenStream& tokens) : tokens_(tokens) {}
+    /// Texts without N pass through the code page; names and texts with N are Unicode.
+    ExpressionParser(TokenStream& tokens, CodePage page) : tokens_(tokens), page_(page) {}
 
     ExpressionPtr ParseExpression();
     ConditionPtr ParseCondition();
@@ -33,6 +35,7 @@ class ExpressionParser {
     int ParseSmallNumber();
 
     TokenStream& tokens_;
+    CodePage page_;
     int depth_ = 0;
 };
 

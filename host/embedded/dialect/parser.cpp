@@ -9,7 +9,8 @@ namespace {
 
 class Parser {
   public:
-    explicit Parser(std::string_view statement) : tokens_(Tokenize(statement)), expressions_(tokens_) {}
+    Parser(std::string_view statement, CodePage page)
+        : tokens_(Tokenize(statement)), expressions_(tokens_, page) {}
 
     Statement Run() {
         if (tokens_.AtEnd()) throw NoCommandText();
@@ -60,7 +61,7 @@ class Parser {
         if (tokens_.AcceptSymbol("*")) return {nullptr, {}};
         SelectItem item{expressions_.ParseExpression(), {}};
         if (tokens_.Accept("AS")) {
-            item.alias = tokens_.Peek().kind == TokenKind::Text ? tokens_.Take().text : tokens_.ExpectName();
+            item.alias = tokens_.AtText() ? tokens_.Take().text : tokens_.ExpectName();
         } else if (tokens_.AtName()) {
             item.alias = tokens_.Take().text;
         }
@@ -232,8 +233,8 @@ class Parser {
 
 }  // namespace
 
-Statement Parse(std::string_view statement) {
-    return Parser(statement).Run();
+Statement Parse(std::string_view statement, CodePage page) {
+    return Parser(statement, page).Run();
 }
 
 }  // namespace tavrin::host::dialect

@@ -57,7 +57,7 @@ class Tokenizer {
 
     Token TakeNationalText() {
         rest_.remove_prefix(1);
-        return {TokenKind::Text, TakeQuoted('\'')};
+        return {TokenKind::NationalText, TakeQuoted('\'')};
     }
 
     // From the opening quote to the closing one; a doubled closing quote stands for itself.

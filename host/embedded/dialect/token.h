@@ -6,7 +6,7 @@
 
 namespace tavrin::host::dialect {
 
-enum class TokenKind { Word, QuotedName, Text, Number, Symbol, End };
+enum class TokenKind { Word, QuotedName, Text, NationalText, Number, Symbol, End };
 
 struct Token {
     TokenKind kind = TokenKind::End;

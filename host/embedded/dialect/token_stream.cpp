@@ -49,6 +49,10 @@ bool TokenStream::AtName() const {
     return token.kind == TokenKind::QuotedName || (token.kind == TokenKind::Word && !IsReserved(token.text));
 }
 
+bool TokenStream::AtText() const {
+    return Peek().kind == TokenKind::Text || Peek().kind == TokenKind::NationalText;
+}
+
 bool TokenStream::Accept(std::string_view keyword) {
     if (!AtKeyword(keyword)) return false;
     Take();

@@ -22,6 +22,7 @@ class TokenStream {
     bool AtKeyword(std::string_view upper, std::size_t ahead = 0) const;
     bool AtSymbol(std::string_view symbol, std::size_t ahead = 0) const;
     bool AtName() const;
+    bool AtText() const;
 
     bool Accept(std::string_view keyword);
     bool AcceptSymbol(std::string_view symbol);

@@ -87,7 +87,8 @@ TEST_F(DemoData, AddressBookIsFullOfInventedPeople) {
     EXPECT_EQ(Count("SELECT Count(*) FROM Agenda"), DemoPeople);
     EXPECT_EQ(Count("SELECT Count(*) FROM Agenda WHERE Email LIKE '%@example.ro'"), DemoPeople);
     EXPECT_EQ(Count("SELECT Count(*) FROM Agenda WHERE Email LIKE '%[^a-z.@]%'"), 0);
-    EXPECT_GT(Count("SELECT Count(*) FROM Agenda WHERE Nume = 'șerban'"), 0);
+    EXPECT_GT(Count("SELECT Count(*) FROM Agenda WHERE Nume = 'şerban'"), 0);
+    EXPECT_EQ(Count("SELECT Count(*) FROM Agenda WHERE Nume LIKE '%?%' OR OrasHome LIKE '%?%'"), 0);
 }
 
 TEST(DemoDataFileThorough, IsMadeOnceAndKept) {

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace tavrin::notes {
+namespace tavrin::data {
 
 /// The upper half of a code page with one byte for a character.
 struct CodePageTable {
@@ -14,4 +14,4 @@ struct CodePageTable {
 inline constexpr std::size_t CodePageCount = 18;
 extern const CodePageTable CodePageTables[CodePageCount];
 
-}  // namespace tavrin::notes
+}  // namespace tavrin::data

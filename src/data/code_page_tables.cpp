@@ -1,6 +1,6 @@
-#include "notes/code_page_tables.h"
+#include "data/code_page_tables.h"
 
-namespace tavrin::notes {
+namespace tavrin::data {
 
 // Made from the Unicode Consortium's mappings of the code pages. A byte that a page does not define stands
 // for the replacement character.
@@ -243,4 +243,4 @@ const CodePageTable CodePageTables[CodePageCount] = {
     // clang-format on
 };
 
-}  // namespace tavrin::notes
+}  // namespace tavrin::data
