@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "doctor/window_statements.h"
+#include "doctor/core/window_statements.h"
 
 int main() {
     using namespace tavrin::doctor;

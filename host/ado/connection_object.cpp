@@ -38,6 +38,9 @@ std::span<const Member> ConnectionObject::Members() const {
         Member{L"Version", 4, Access::Get, 0, Run<&Self::Version>},
         Member{L"Close", 5, Access::Call, 0, Run<&Self::Close>},
         Member{L"Execute", 6, Access::Call, 3, Run<&Self::Execute>},
+        Member{L"BeginTrans", 7, Access::Call, 0, Run<&Self::BeginTrans>},
+        Member{L"CommitTrans", 8, Access::Call, 0, Run<&Self::CommitTrans>},
+        Member{L"RollbackTrans", 9, Access::Call, 0, Run<&Self::RollbackTrans>},
         Member{L"Open", 10, Access::Call, 4, Run<&Self::Open>},
         Member{L"Errors", 11, Access::Get, 0, Run<&Self::Errors>},
         Member{L"CursorLocation", 15, Access::Get, 0, Run<&Self::GetCursorLocation>},
@@ -64,7 +67,28 @@ Variant ConnectionObject::Open(const CallArguments& arguments) {
 
 Variant ConnectionObject::Close(const CallArguments&) {
     if (!session_->isOpen) ado_error::ThrowClosed();
+    transaction_.reset();  // what is not committed is lost
     session_->isOpen = false;
+    return {};
+}
+
+Variant ConnectionObject::BeginTrans(const CallArguments&) {
+    if (!session_->isOpen) ado_error::ThrowInvalidConnection();
+    if (transaction_) ado_error::ThrowOneTransactionAlone();
+    transaction_.emplace(session_->connection->Database());
+    return Variant(std::int32_t{1});  // how many are open
+}
+
+Variant ConnectionObject::CommitTrans(const CallArguments&) {
+    if (!transaction_) ado_error::ThrowNoTransaction();
+    transaction_->Commit();
+    transaction_.reset();
+    return {};
+}
+
+Variant ConnectionObject::RollbackTrans(const CallArguments&) {
+    if (!transaction_) ado_error::ThrowNoTransaction();
+    transaction_.reset();
     return {};
 }
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "host/ado/live_objects.h"
 #include "host/ado/session.h"
@@ -30,6 +31,9 @@ class ConnectionObject : public ScriptObject {
     win32::Variant Execute(const CallArguments& arguments);
     win32::Variant Open(const CallArguments& arguments);
     win32::Variant Close(const CallArguments&);
+    win32::Variant BeginTrans(const CallArguments&);
+    win32::Variant CommitTrans(const CallArguments&);
+    win32::Variant RollbackTrans(const CallArguments&);
     win32::Variant State(const CallArguments&);
     win32::Variant Errors(const CallArguments&);
     win32::Variant Version(const CallArguments&);
@@ -43,6 +47,7 @@ class ConnectionObject : public ScriptObject {
 
     win32::ObjectCount::Ticket ticket_{LiveObjects::Get().connections};
     std::shared_ptr<Session> session_ = std::make_shared<Session>();
+    std::optional<EmbeddedDatabase::Transaction> transaction_;  // before the session goes
     Opener opener_;
     std::string connectionString_;
     std::int32_t cursorLocation_ = 2;   // on the server

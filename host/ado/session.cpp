@@ -45,5 +45,13 @@ void ThrowInvalidConnection() {
                       "invalid in this context.");
 }
 
+void ThrowNoTransaction() {
+    throw data::Error(-2147168242, "No transaction is active.");
+}
+
+void ThrowOneTransactionAlone() {
+    throw data::Error(-2147168237, "Cannot start more transactions on this session.");
+}
+
 }  // namespace ado_error
 }  // namespace tavrin::host

@@ -30,12 +30,14 @@ struct Session {
 
 /// ADO's own errors, as it words them.
 namespace ado_error {
-[[noreturn]] void ThrowWrongArguments();     ///< 3001
-[[noreturn]] void ThrowNotThisCursor();      ///< 3219
-[[noreturn]] void ThrowItemNotFound();       ///< 3265
-[[noreturn]] void ThrowClosed();             ///< 3704
-[[noreturn]] void ThrowOpen();               ///< 3705
-[[noreturn]] void ThrowInvalidConnection();  ///< 3709
+[[noreturn]] void ThrowWrongArguments();       ///< 3001
+[[noreturn]] void ThrowNotThisCursor();        ///< 3219
+[[noreturn]] void ThrowItemNotFound();         ///< 3265
+[[noreturn]] void ThrowClosed();               ///< 3704
+[[noreturn]] void ThrowOpen();                 ///< 3705
+[[noreturn]] void ThrowInvalidConnection();    ///< 3709
+[[noreturn]] void ThrowNoTransaction();        ///< 8004D00E
+[[noreturn]] void ThrowOneTransactionAlone();  ///< 8004D013, of providers that nest none
 }  // namespace ado_error
 
 }  // namespace tavrin::host

@@ -3,6 +3,7 @@
 #include "host/embedded/dialect/expression_parser.h"
 #include "host/embedded/dialect/parser.h"
 #include "host/embedded/dialect/provider_error.h"
+#include "host/embedded/information_schema.h"
 #include "host/embedded/sqlite_statement.h"
 #include "host/embedded/text_rules.h"
 
@@ -129,6 +130,10 @@ const std::vector<dialect::TableSchema>& EmbeddedDatabase::Tables() const {
 }
 
 std::optional<dialect::TableSchema> EmbeddedDatabase::FindTable(std::string_view storedName) const {
+    if (const auto columns = FindInformationSchema(storedName)) {
+        RunEngineStatement(columns->definition);
+        return columns->table;
+    }
     for (const dialect::TableSchema& table : Tables()) {
         if (SameName(table.name, storedName)) return table;
     }
@@ -146,7 +151,7 @@ dialect::TableSchema EmbeddedDatabase::ReadTable(const std::string& name) const 
     return table;
 }
 
-void EmbeddedDatabase::RunEngineStatement(const char* text) {
+void EmbeddedDatabase::RunEngineStatement(const std::string& text) const {
     SqliteStatement statement(database_.get(), {text, {}});
     statement.Step();
     if (statement.Result() != SQLITE_DONE) throw EngineError(database_.get());

@@ -52,7 +52,7 @@ class EmbeddedDatabase : public dialect::Schema {
     };
 
   private:
-    void RunEngineStatement(const char* text);
+    void RunEngineStatement(const std::string& text) const;
     const std::vector<dialect::TableSchema>& Tables() const;
     dialect::TableSchema ReadTable(const std::string& name) const;
     std::int64_t SchemaVersion() const;

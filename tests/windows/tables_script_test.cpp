@@ -7,7 +7,7 @@
 #include <regex>
 
 #include "addressbook/addressbook_statements.h"
-#include "doctor/window_statements.h"
+#include "doctor/core/window_statements.h"
 #include "host/embedded/embedded_connection.h"
 #include "rates/rate_statements.h"
 

@@ -1,5 +1,5 @@
 // The doctor's list of statements against what the windows send when users do everything that they can.
-#include "doctor/window_statements.h"
+#include "doctor/core/window_statements.h"
 
 #include <gmock/gmock.h>
 

@@ -9,6 +9,12 @@ namespace {
 constexpr std::string_view OwnerSchema = "dbo";
 constexpr std::string_view OwnerInfix = ".dbo.";
 
+bool IsInformationSchema(const ObjectName& name) {
+    const std::size_t count = name.parts.size();
+    return count > 1 &&
+           SameName(name.parts[count - 2] + "." + name.parts[count - 1], InformationSchemaColumnsName);
+}
+
 }  // namespace
 
 const ColumnSchema* TableSchema::Find(std::string_view column) const {
@@ -21,6 +27,10 @@ const ColumnSchema* TableSchema::Find(std::string_view column) const {
 std::optional<std::string> StoredName(const ObjectName& name) {
     const std::vector<std::string>& parts = name.parts;
     if (parts.empty() || parts.size() > 3) return std::nullopt;
+    if (IsInformationSchema(name)) {
+        const std::string view(InformationSchemaColumnsName);
+        return parts.size() == 2 ? view : parts.front() + "." + view;
+    }
     if (parts.size() > 1 && !SameName(parts[parts.size() - 2], OwnerSchema)) return std::nullopt;
     // A single name that merely looks like one of three parts must not reach the other database's table.
     if (FoldCase(parts.back()).find(OwnerInfix) != std::string::npos) return std::nullopt;

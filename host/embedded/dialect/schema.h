@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/embedded/dialect/sql_type.h"
@@ -28,6 +29,9 @@ class Schema {
     virtual ~Schema() = default;
     virtual std::optional<TableSchema> FindTable(std::string_view storedName) const = 0;
 };
+
+/// The one view of a server's own that is known, of the connection's database or behind another one's name.
+inline constexpr std::string_view InformationSchemaColumnsName = "INFORMATION_SCHEMA.COLUMNS";
 
 /// The name under which a table is kept: its own, or all three parts for a table of another database. Nothing
 /// for a name that can be no table's here.

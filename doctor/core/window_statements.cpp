@@ -1,4 +1,4 @@
-#include "doctor/window_statements.h"
+#include "doctor/core/window_statements.h"
 
 #include "data/date.h"
 #include "rates/chooser_statements.h"

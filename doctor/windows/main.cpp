@@ -1,0 +1,112 @@
+// The doctor for a customer's machine.
+
+#include <windows.h>
+
+#include <objbase.h>
+#include <shellapi.h>
+
+#include <memory>
+
+#include "doctor/core/connection_string.h"
+#include "doctor/core/database_examination.h"
+#include "doctor/core/program.h"
+#include "doctor/windows/ado_examination.h"
+#include "doctor/windows/this_machine.h"
+#include "win32/text.h"
+
+namespace tavrin::doctor {
+namespace {
+
+constexpr SourceOption Source{
+    "--connection",
+    "  --connection TEXT  open this database through ADO and try what the windows need of it; passwords\n"
+    "                     are not repeated\n"};
+
+class ComScope {
+  public:
+    ComScope() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
+    ~ComScope() { CoUninitialize(); }
+    ComScope(const ComScope&) = delete;
+    ComScope& operator=(const ComScope&) = delete;
+};
+
+void Append(Report& report, Report more) {
+    for (Section& section : more)
+        report.push_back(std::move(section));
+}
+
+/// The connection, and everything behind it where it opens.
+Report ExamineConnection(const Options& options) {
+    Section section{{"Conexiunea", "The connection"}, {}};
+    section.Good(Same(WithoutPasswords(options.source)));
+    Report behind;
+    try {
+        AdoExamination database(options.source);
+        section.Good(Same(WithoutPasswordsOf(options.source, database.Description())));
+        behind = ExamineDatabase(database, options.company);
+    } catch (const data::Error& error) {
+        const std::string words = WithoutPasswordsOf(options.source, error.Description());
+        section.Fail({"nu se deschide: " + words, "does not open: " + words},
+                     {"verificati serverul, baza de date, contul si furnizorul din sirul de conectare",
+                      "look at server, database, login and provider in the connection string"});
+    }
+    Report report{section};
+    Append(report, std::move(behind));
+    return report;
+}
+
+Report Examine(const Options& options) {
+    const ComScope com;
+    Report report = ExamineMachine(ThisMachine());
+    if (!options.source.empty()) Append(report, ExamineConnection(options));
+    return report;
+}
+
+/// A console takes UTF-16; a file or a pipe gets UTF-8.
+void Print(DWORD where, const std::string& text) {
+    const HANDLE output = GetStdHandle(where);
+    DWORD mode = 0;
+    DWORD written = 0;
+    if (GetConsoleMode(output, &mode) != FALSE) {
+        const std::wstring wide = win32::ToWide(text);
+        WriteConsoleW(output, wide.data(), static_cast<DWORD>(wide.size()), &written, nullptr);
+    } else {
+        WriteFile(output, text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
+    }
+}
+
+bool Write(const std::string& file, const std::string& content) {
+    const HANDLE opened = CreateFileW(win32::ToWide(file).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (opened == INVALID_HANDLE_VALUE) return false;
+    DWORD written = 0;
+    const bool done =
+        WriteFile(opened, content.data(), static_cast<DWORD>(content.size()), &written, nullptr) != FALSE;
+    CloseHandle(opened);
+    return done && written == content.size();
+}
+
+Language SystemLanguage() {
+    return PRIMARYLANGID(GetUserDefaultUILanguage()) == LANG_ROMANIAN ? Language::Romanian
+                                                                      : Language::English;
+}
+
+std::vector<std::string> Arguments() {
+    int count = 0;
+    const std::unique_ptr<LPWSTR, decltype(&LocalFree)> texts(CommandLineToArgvW(GetCommandLineW(), &count),
+                                                              LocalFree);
+    std::vector<std::string> arguments;
+    for (int i = 1; i < count; ++i)
+        arguments.push_back(win32::ToUtf8(texts.get()[i]));
+    return arguments;
+}
+
+}  // namespace
+}  // namespace tavrin::doctor
+
+int main() {
+    using namespace tavrin::doctor;
+    return RunProgram(Arguments(), {Source, SystemLanguage(), Examine,
+                                    [](const std::string& text) { Print(STD_OUTPUT_HANDLE, text); },
+                                    [](const std::string& text) { Print(STD_ERROR_HANDLE, text); }, Write});
+}

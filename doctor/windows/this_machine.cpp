@@ -1,0 +1,53 @@
+#include "doctor/windows/this_machine.h"
+
+#include <windows.h>
+
+#include "doctor/windows/file_facts.h"
+#include "doctor/windows/registrations.h"
+#include "win32/text.h"
+
+namespace tavrin::doctor {
+namespace {
+
+/// Windows' own version; GetVersionEx tells programs without a manifest an old one.
+std::string SystemVersion() {
+    using Function = LONG WINAPI(OSVERSIONINFOW*);
+    const FARPROC address = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlGetVersion");
+    OSVERSIONINFOW version{};
+    version.dwOSVersionInfoSize = sizeof version;
+    if (address == nullptr ||
+        reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(address))(&version) != 0)
+        return "Windows";
+    return "Windows " + std::to_string(version.dwMajorVersion) + "." +
+           std::to_string(version.dwMinorVersion) + "." + std::to_string(version.dwBuildNumber);
+}
+
+int SystemBits() {
+    SYSTEM_INFO system{};
+    GetNativeSystemInfo(&system);
+    return system.wProcessorArchitecture == PROCESSOR_ARCHITECTURE_INTEL ? 32 : 64;
+}
+
+Provider FindProvider(const wchar_t* programId) {
+    const std::wstring path = FileOfClass(programId);
+    return {win32::ToUtf8(programId), win32::ToUtf8(path), FileVersion(path)};
+}
+
+}  // namespace
+
+Machine ThisMachine() {
+    constexpr int Bits = static_cast<int>(sizeof(void*) * 8);
+    Machine machine{SystemVersion(),
+                    SystemBits(),
+                    Bits,
+                    FindRegistrations(),
+                    TryToCreate(),
+                    FindProvider(L"ADODB.Connection"),
+                    {}};
+    for (const wchar_t* const name :
+         {L"SQLOLEDB", L"SQLNCLI10", L"SQLNCLI11", L"MSOLEDBSQL", L"MSOLEDBSQL19"})
+        machine.providers.push_back(FindProvider(name));
+    return machine;
+}
+
+}  // namespace tavrin::doctor
