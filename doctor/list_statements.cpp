@@ -6,8 +6,9 @@
 
 int main() {
     using namespace tavrin::doctor;
-    for (const StatementGroup& group : WindowStatements(UnlikelySample()))
+    for (const StatementGroup& group : WindowStatements(UnlikelySample())) {
         for (const std::string& statement : group.statements)
             std::printf("%s\n", statement.c_str());
+    }
     return 0;
 }

@@ -145,11 +145,12 @@ Section ExamineSystem(const Machine& machine) {
         any = true;
         section.Good(Same(provider.name + ": " + provider.path + " " + provider.version));
     }
-    if (!any)
+    if (!any) {
         section.Warn({"nici un furnizor cunoscut pentru SQL Server in " + bits.romanian,
                       "no known provider for SQL Server in " + bits.english},
                      {"instalati MSOLEDBSQL, daca programul nu foloseste altul",
                       "install MSOLEDBSQL, unless the program uses another one"});
+    }
     return section;
 }
 

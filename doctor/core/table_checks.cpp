@@ -101,10 +101,11 @@ void ExamineOrder(Section& section, const std::vector<FoundColumn>& columns) {
     const Text advice{
         "refaceti tabela: Data, Validat, apoi monedele; numele se compara literal",
         "make the table anew: Data, Validat, then the currencies; names count letter for letter"};
-    if (columns[0].name != "Data")
+    if (columns[0].name != "Data") {
         section.Fail({"[Curs Valutar]: prima coloana este " + columns[0].name + ", nu Data",
                       "[Curs Valutar]: the first column is " + columns[0].name + ", not Data"},
                      advice);
+    }
     if (columns.size() < ColumnsBeforeCurrencies || columns[1].name == "Validat") return;
     const std::string& second = columns[1].name;
     section.Fail({"[Curs Valutar]: a doua coloana este " + second +
@@ -134,11 +135,12 @@ void ExamineCurrencies(Section& section, const std::vector<FoundColumn>& columns
         ExamineCurrency(section, columns[column]);
     if (columns.size() <= ColumnsBeforeCurrencies)
         section.Fail({"[Curs Valutar] nu are nici o moneda", "[Curs Valutar] has no currency"}, RunTheScript);
-    if (Find(columns, FirstCurrencyOfCalculator) == nullptr)
+    if (Find(columns, FirstCurrencyOfCalculator) == nullptr) {
         section.Fail(
             {"[Curs Valutar] nu are coloana $, pe care calculatorul o cere intai",
              "[Curs Valutar] has no column $, which the calculator asks for first"},
             {"ALTER TABLE [Curs Valutar] ADD [$] float", "ALTER TABLE [Curs Valutar] ADD [$] float"});
+    }
 }
 
 void ExamineTable(Section& section, const ExpectedTable& table, data::Connection& connection) {
@@ -158,9 +160,10 @@ void ExamineTable(Section& section, const ExpectedTable& table, data::Connection
         ExamineCurrencies(section, columns);
     }
     const std::string count = std::to_string(columns.size());
-    if (section.findings.size() == before)
+    if (section.findings.size() == before) {
         section.Good(
             {name + ": cum trebuie, coloane: " + count, name + ": as it must be, columns: " + count});
+    }
 }
 
 ExpectedTable AddressBookTable() {

@@ -137,18 +137,20 @@ void TryKeys(Section& section, ExaminedDatabase& database, const StatementSample
     const Second secondDay = TryTwice(database, day);
     if (secondDay == Second::Refused)
         section.Good({"o zi nu se poate introduce de doua ori", "a day cannot be entered twice"});
-    if (secondDay == Second::Taken)
+    if (secondDay == Second::Taken) {
         section.Warn({"[Curs Valutar] ia o zi de doua ori", "[Curs Valutar] takes a day twice"},
                      {"declarati cheia: ALTER TABLE [Curs Valutar] ADD UNIQUE (Data)",
                       "declare the key: ALTER TABLE [Curs Valutar] ADD UNIQUE (Data)"});
+    }
     const Second secondPerson = TryTwice(database, addressbook::InsertStatement(sample.person));
     if (secondPerson == Second::Refused)
         section.Good({"o persoana nu se poate introduce de doua ori", "a person cannot be entered twice"});
-    if (secondPerson == Second::Taken)
+    if (secondPerson == Second::Taken) {
         section.Warn({"Agenda ia o persoana de doua ori; s-ar modifica si sterge impreuna",
                       "Agenda takes a person twice; both would be changed and deleted together"},
                      {"declarati cheia: ALTER TABLE Agenda ADD UNIQUE (Nume, Prenume)",
                       "declare the key: ALTER TABLE Agenda ADD UNIQUE (Nume, Prenume)"});
+    }
 }
 
 void TryLetters(Section& section, ExaminedDatabase& database, StatementSample sample) {

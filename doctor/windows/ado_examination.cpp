@@ -18,9 +18,10 @@ DispatchObject MakeConnection() {
     CLSID id;
     win32::ComPtr<IDispatch> connection;
     HRESULT result = CLSIDFromProgID(L"ADODB.Connection", &id);
-    if (SUCCEEDED(result))
+    if (SUCCEEDED(result)) {
         result = CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IDispatch),
                                   connection.ReceiveVoid());
+    }
     if (FAILED(result)) throw data::Error(result, "ADODB.Connection: " + win32::SystemMessage(result));
     return DispatchObject(connection);
 }

@@ -4,6 +4,8 @@
 
 #include <oleauto.h>
 
+#include <algorithm>
+
 #include "doctor/windows/file_facts.h"
 #include "win32/com_ptr.h"
 #include "win32/module_path.h"
@@ -33,7 +35,7 @@ struct Classes {
             if (RegGetValueW(opened, nullptr, name, RRF_RT_REG_SZ, nullptr, text.data(), &size) !=
                 ERROR_SUCCESS)
                 text.clear();
-            text = text.c_str();
+            text.resize(std::min(text.size(), text.find(L'\0')));
         }
         RegCloseKey(opened);
         return text;
@@ -58,7 +60,7 @@ std::wstring TypeLibraryOf(const Classes& classes, const std::wstring& classKey,
     const std::wstring key = L"TypeLib\\" + id + L"\\" + classes.Read(classKey + L"\\Version") + L"\\0\\" +
                              (bits == 64 ? L"win64" : L"win32");
     for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
-        const std::wstring file = Classes{root, classes.path, classes.view}.Read(key);
+        std::wstring file = Classes{root, classes.path, classes.view}.Read(key);
         if (!file.empty()) return file;
     }
     return {};
@@ -102,9 +104,10 @@ Creation TryToCreate() {
     CLSID id;
     win32::ComPtr<IDispatch> object;
     HRESULT result = CLSIDFromProgID(ProgramId, &id);
-    if (SUCCEEDED(result))
+    if (SUCCEEDED(result)) {
         result =
             CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IDispatch), object.ReceiveVoid());
+    }
     if (FAILED(result)) return {false, win32::SystemMessage(result), {}};
     return {true, {}, win32::ToUtf8(win32::ModulePath(GetModuleHandleW(Dll)))};
 }

@@ -33,6 +33,9 @@ class EmbeddedDatabase : public dialect::Schema {
     /// Runs one statement, wholly or not at all. \throws data::Error
     Answer Run(std::string_view statement);
 
+    /// What texts of the statements from now on pass through, as after a change of the database's collation.
+    void SetCodePage(CodePage page) { codePage_ = page; }
+
     /// No table has been created yet.
     bool IsBlank() const;
 

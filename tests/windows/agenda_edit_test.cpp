@@ -341,6 +341,7 @@ TEST_F(AgendaEditTest, TextOfAnyScriptComesBackUnharmed) {
     const std::vector<std::string> texts = {
         "\u0218tef\u0103ni\u021B\u0103", "\u015Eerban \u0163ara", "\u0391\u03B8\u03AE\u03BD\u03B1",
         "\u0418\u0432\u0430\u043D",      "\u4E2D\u6587",          "\U0001F600 vesel"};
+    database->SetCodePage(host::CodePage::Utf8);
     Agenda& window = OpenOnThree();
     for (const std::string& text : texts) {
         window.cmdAction[Agenda::Add].Click();
@@ -352,6 +353,18 @@ TEST_F(AgendaEditTest, TextOfAnyScriptComesBackUnharmed) {
         EXPECT_EQ(Stored("OrasHome", text), data::Value(text));
     }
     EXPECT_THAT(desktop.reports, IsEmpty());
+}
+
+TEST_F(AgendaEditTest, ALetterThatTheServerLosesIsShownAsItWasKept) {
+    Agenda& window = OpenOnThree();
+    window.cmdAction[Agenda::Add].Click();
+    TypeNames(window, "\u0218tef\u0103ni\u021B\u0103", "Ana");
+    window.cmdAction[Agenda::Accept].Click();
+    EXPECT_THAT(desktop.reports, IsEmpty());
+    std::vector<std::string> shown;
+    for (int row = 1; row < window.Grid.Rows(); ++row)
+        shown.push_back(window.Grid.TextMatrix(row, 0));
+    EXPECT_THAT(shown, testing::Contains("?tef\u0103ni?\u0103"));
 }
 
 }  // namespace

@@ -41,9 +41,10 @@ std::vector<std::string> StatementsForOneDatabase(const char* name) {
 class TablesScript : public testing::Test {
   protected:
     TablesScript() {
-        for (const char* const script : {"examples/database/tables.sql", "examples/database/rows.sql"})
+        for (const char* const script : {"examples/database/tables.sql", "examples/database/rows.sql"}) {
             for (const std::string& statement : StatementsForOneDatabase(script))
                 connection_.Execute(statement);
+        }
     }
 
     void Run(std::string_view statement) { connection_.Execute(std::string(statement)); }
@@ -93,9 +94,10 @@ TEST_F(TablesScript, ACurrencyIsAdded) {
 }
 
 TEST_F(TablesScript, CarriesEveryStatementOfTheWindows) {
-    for (const doctor::StatementGroup& group : doctor::WindowStatements(doctor::UnlikelySample()))
+    for (const doctor::StatementGroup& group : doctor::WindowStatements(doctor::UnlikelySample())) {
         for (const std::string& statement : group.statements)
             EXPECT_NO_THROW(Run(statement)) << group.window << ": " << statement;
+    }
 }
 
 TEST_F(TablesScript, PersonsAreReadAndWritten) {

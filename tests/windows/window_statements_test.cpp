@@ -29,9 +29,10 @@ std::string Shape(std::string statement) {
 
 std::set<std::string> ListedShapes() {
     std::set<std::string> shapes;
-    for (const doctor::StatementGroup& group : doctor::WindowStatements(doctor::UnlikelySample()))
+    for (const doctor::StatementGroup& group : doctor::WindowStatements(doctor::UnlikelySample())) {
         for (const std::string& statement : group.statements)
             shapes.insert(Shape(statement));
+    }
     return shapes;
 }
 

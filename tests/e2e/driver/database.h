@@ -28,6 +28,8 @@ class Database {
     /// Runs a statement of its own, past the connection. \throws data::Error
     void Run(const std::string& statement);
 
+    void SetCodePage(host::CodePage page) { database_->SetCodePage(page); }
+
     /// The columns of a table in their order.
     std::vector<std::string> Columns(const std::string& table) const;
 

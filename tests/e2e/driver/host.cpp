@@ -119,6 +119,10 @@ std::vector<std::vector<std::string>> Host::Rows(const std::string& query) {
     return Call([&] { return database_->Rows(query); });
 }
 
+void Host::SetCodePage(host::CodePage page) {
+    Call([&] { database_->SetCodePage(page); });
+}
+
 void Host::Run(const std::string& statement) {
     Call([&] { database_->Run(statement); });
 }

@@ -73,6 +73,7 @@ class Host {
     // From outside, for tests.
     std::vector<std::vector<std::string>> Rows(const std::string& query);
     void Run(const std::string& statement);
+    void SetCodePage(host::CodePage page);
     int ReferencesToConnection();
 
   private:

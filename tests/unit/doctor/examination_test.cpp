@@ -252,7 +252,12 @@ class OddServer : public ExaminedDatabase {
         explicit Connection(OddServer& server) : server_(server) {}
         std::unique_ptr<data::Recordset> Execute(std::string_view statement) override {
             server_.Meet(statement);
-            return server_.database_.Statements().Execute(server_.Rewritten(statement));
+            try {
+                return server_.database_.Statements().Execute(server_.Rewritten(statement));
+            } catch (const data::Error&) {
+                server_.hasRefused = true;
+                throw;
+            }
         }
         std::unique_ptr<data::Recordset> CreateRecordset() override {
             return std::make_unique<Rows>(server_);
@@ -279,6 +284,7 @@ class OddServer : public ExaminedDatabase {
     void Begin() override {
         if (!hasTransactions) throw data::Error(-2147168242, "no transactions");
         ++open;
+        hasRefused = false;
         if (rollsBack) database_.Begin();
     }
     void RollBack() override {
@@ -290,6 +296,8 @@ class OddServer : public ExaminedDatabase {
     bool rollsBack = true;
     int open = 0;
     int writesOutside = 0;
+    bool hasRefused = false;  ///< a statement of this transaction, which a server may have ended then
+    int writesAfterARefusal = 0;
     std::string denied;     ///< statements that begin so
     bool dayFirst = false;  ///< as under a language that reads 03-04 as 3 April
 
@@ -297,8 +305,10 @@ class OddServer : public ExaminedDatabase {
     void Meet(std::string_view statement) {
         const bool write = !statement.starts_with("SELECT") && !statement.starts_with("Select");
         if (write && open == 0) ++writesOutside;
-        if (!denied.empty() && statement.starts_with(denied))
-            throw data::Error(-2147217911, "permission was denied");
+        if (write && hasRefused) ++writesAfterARefusal;
+        if (denied.empty() || !statement.starts_with(denied)) return;
+        hasRefused = true;
+        throw data::Error(-2147217911, "permission was denied");
     }
     std::string Rewritten(std::string_view statement) const {
         std::string text(statement);
@@ -331,6 +341,7 @@ TEST_F(Examination, NamesEachStatementThatALoginMayNotRun) {
                                                           HasSubstr("80040E09 permission was denied")));
         EXPECT_THAT(PlainReport(report, Language::English), HasSubstr("give the login the right (GRANT)"));
         EXPECT_EQ(server.writesOutside, 0);
+        EXPECT_EQ(server.writesAfterARefusal, 0);
     }
 }
 
