@@ -17,7 +17,7 @@ class EmbeddedRecordset : public data::SnapshotRecordset {
     const std::vector<FieldInfo>& Fields() const { return fields_; }
 
     /// How many rows the statement wrote.
-    std::int64_t AffectedRows() const { return affectedRows_; }
+    std::int64_t AffectedRows() const override { return affectedRows_; }
 
   protected:
     data::TablePtr Fetch(const std::string& source) override;

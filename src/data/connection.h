@@ -29,6 +29,8 @@ class Recordset {
     virtual void MoveNext() = 0;
     virtual void Move(std::int64_t rows) = 0;  ///< forward from the current row; stops at EOF
     virtual std::int64_t RecordCount() const = 0;
+    /// How many rows the statement changed that this came from; -1 where the provider does not say.
+    virtual std::int64_t AffectedRows() const { return -1; }
 
     virtual std::size_t FieldCount() const = 0;
     virtual std::string FieldName(std::size_t field) const = 0;

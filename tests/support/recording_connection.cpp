@@ -108,6 +108,7 @@ class RecordingRecordset : public data::Recordset {
     void MoveNext() override { rows_->MoveNext(); }
     void Move(std::int64_t rows) override { rows_->Move(rows); }
     std::int64_t RecordCount() const override { return rows_->RecordCount(); }
+    std::int64_t AffectedRows() const override { return rows_->AffectedRows(); }
     std::size_t FieldCount() const override { return rows_->FieldCount(); }
     std::string FieldName(std::size_t field) const override { return rows_->FieldName(field); }
     data::Value Field(std::size_t field) const override { return rows_->Field(field); }

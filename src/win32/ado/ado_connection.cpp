@@ -1,5 +1,7 @@
 #include "win32/ado/ado_connection.h"
 
+#include <utility>
+
 #include "win32/ado/ado_recordset.h"
 #include "win32/ado/provider_errors.h"
 
@@ -7,12 +9,13 @@ namespace tavrin::win32 {
 
 std::unique_ptr<data::Recordset> AdoConnection::Execute(std::string_view statement) {
     constexpr std::int32_t optionsUnspecified = -1;
-    Variant recordsAffected;
+    Variant affectedRows;
     const Variant answer = WithProviderErrors(connection_, [&] {
-        return connection_.Call(L"Execute", Variant(statement), Variant::Reference(recordsAffected),
+        return connection_.Call(L"Execute", Variant(statement), Variant::Reference(affectedRows),
                                 Variant(optionsUnspecified));
     });
-    return std::make_unique<AdoRecordset>(connection_, DispatchObject(answer.ToObject()));
+    return std::make_unique<AdoRecordset>(connection_, DispatchObject(answer.ToObject()),
+                                          std::move(affectedRows));
 }
 
 std::unique_ptr<data::Recordset> AdoConnection::CreateRecordset() {

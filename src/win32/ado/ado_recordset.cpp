@@ -44,8 +44,10 @@ bool SameName(std::string_view one, std::string_view other) {
 
 }  // namespace
 
-AdoRecordset::AdoRecordset(DispatchObject connection, DispatchObject recordset)
-    : connection_(std::move(connection)), recordset_(std::move(recordset)) {}
+AdoRecordset::AdoRecordset(DispatchObject connection, DispatchObject recordset, Variant affectedRows)
+    : connection_(std::move(connection)),
+      recordset_(std::move(recordset)),
+      affectedRows_(std::move(affectedRows)) {}
 
 AdoRecordset::AdoRecordset(DispatchObject connection)
     : AdoRecordset(std::move(connection), CreateRecordsetObject()) {}
@@ -98,6 +100,10 @@ void AdoRecordset::Move(std::int64_t rows) {
 
 std::int64_t AdoRecordset::RecordCount() const {
     return OpenRecordset().Get(L"RecordCount").ToLong();
+}
+
+std::int64_t AdoRecordset::AffectedRows() const {
+    return affectedRows_.Type() != VT_EMPTY ? affectedRows_.ToLong() : -1;
 }
 
 std::size_t AdoRecordset::FieldCount() const {

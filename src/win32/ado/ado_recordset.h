@@ -13,7 +13,8 @@ namespace tavrin::win32 {
 class AdoRecordset : public data::Recordset {
   public:
     /// A recordset that a statement gave; null where the statement gave none.
-    AdoRecordset(DispatchObject connection, DispatchObject recordset);
+    /// \param affectedRows what the provider said of the rows that the statement changed
+    AdoRecordset(DispatchObject connection, DispatchObject recordset, Variant affectedRows = {});
     /// A new, closed one.
     explicit AdoRecordset(DispatchObject connection);
 
@@ -32,6 +33,7 @@ class AdoRecordset : public data::Recordset {
     void MoveNext() override;
     void Move(std::int64_t rows) override;
     std::int64_t RecordCount() const override;
+    std::int64_t AffectedRows() const override;
 
     std::size_t FieldCount() const override;
     std::string FieldName(std::size_t field) const override;
@@ -54,6 +56,7 @@ class AdoRecordset : public data::Recordset {
 
     DispatchObject connection_;
     DispatchObject recordset_;
+    Variant affectedRows_;
     mutable std::vector<FieldEntry> fields_;
 };
 
