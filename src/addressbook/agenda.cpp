@@ -65,7 +65,7 @@ void Agenda::OnLoad() {
     SetPictures();
     Mode = "V";
     // A list that cannot be read is reported, and the rest of the window is made all the same.
-    OwnerDesktop().Guard([this] { LoadList(); });
+    OwnerDesktop().Guard({this, nullptr, forms::event::Load}, [this] { LoadList(); });
     module_.CreateMessageService();
 }
 

@@ -10,6 +10,7 @@
 #include "com/connection_point.h"
 #include "com/enumerator.h"
 #include "win32/ado/ado_connection.h"
+#include "win32/debug_output.h"
 #include "win32/translation.h"
 
 namespace tavrin::com {
@@ -51,6 +52,7 @@ win32::Failure Utile::OpenUtilities(ApelArguments arguments) noexcept try {
     context.connection = ConnectionOf(std::move(arguments.connection), context.connection);
     context.workYear = arguments.workYear;
     context.caller = events_;
+    module.SetListener(win32::FindDebugListener());
     OpenPalette(module);
     return {};
 } catch (...) {

@@ -42,13 +42,13 @@ void ComboBox::SetListIndex(int index) {
     if (index < 0 || index >= ListCount()) index = -1;
     if (index == listIndex_) return;
     TakeEntry(index);
-    Raise(onClick);
+    Raise(event::Click, onClick);
 }
 
 void ComboBox::HandleChosen(int index) {
     if (index < 0 || index >= ListCount() || !AcceptsInput()) return;
     TakeEntry(index);
-    Raise(onClick);
+    Raise(event::Click, onClick);
 }
 
 void ComboBox::TakeEntry(int index) {
@@ -73,7 +73,7 @@ void ComboBox::SetText(std::string text) {
     selStart_ = 0;
     Notify(Aspect::List);
     Notify(Aspect::Text);
-    Raise(onChange);
+    Raise(event::Change, onChange);
 }
 
 void ComboBox::HandleTyped(std::string text) {
@@ -84,7 +84,7 @@ void ComboBox::HandleTyped(std::string text) {
     }
     TakeText(std::move(text));
     selStart_ = CountCharacters(text_);
-    Raise(onChange);
+    Raise(event::Change, onChange);
 }
 
 void ComboBox::TakeText(std::string text) {

@@ -94,7 +94,7 @@ bool Control::HandleMouseDown(const MouseInput& input) {
         pressed_ = true;
         Repaint();
     }
-    Raise(onMouseDown, input);
+    Raise(event::MouseDown, onMouseDown, input);
     if (!GoesOnSince(messages)) return false;
     DefaultMouseDown(input);
     return GoesOnSince(messages);
@@ -104,14 +104,14 @@ void Control::HandleMouseMove(const MouseInput& input) {
     const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
     if (!AcceptsInput()) return;
     TrackHot(Rect{0, 0, bounds_.width, bounds_.height}.Contains(input.at));
-    Raise(onMouseMove, input);
+    Raise(event::MouseMove, onMouseMove, input);
     if (OwnerForm().IsLoaded()) DefaultMouseMove(input);
 }
 
 void Control::HandleMouseUp(const MouseInput& input) {
     const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
     if (!AcceptsInput()) return;
-    Raise(onMouseUp, input);
+    Raise(event::MouseUp, onMouseUp, input);
     if (OwnerForm().IsLoaded()) DefaultMouseUp(input);
 }
 
@@ -126,7 +126,7 @@ void Control::DefaultMouseUp(const MouseInput& input) {
 void Control::HandleMouseLeave() {
     const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
     TrackHot(false);
-    Raise(onMouseLeave);
+    Raise(event::MouseLeave, onMouseLeave);
 }
 
 void Control::HandleCaptureLost() {
@@ -137,12 +137,12 @@ void Control::HandleCaptureLost() {
 
 void Control::HandleDblClick(const MouseInput& input) {
     const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
-    if (AcceptsInput() && input.button == MouseButton::Left) Raise(onDblClick);
+    if (AcceptsInput() && input.button == MouseButton::Left) Raise(event::DblClick, onDblClick);
 }
 
 void Control::Click() {
     const Desktop::DispatchScope scope(OwnerForm().OwnerDesktop());
-    if (AcceptsInput() && OwnerForm().IsLoaded()) Raise(onClick);
+    if (AcceptsInput() && OwnerForm().IsLoaded()) Raise(event::Click, onClick);
 }
 
 void Control::TrackHot(bool hot) {
@@ -177,14 +177,14 @@ void Control::Notify(Aspect aspect) {
 
 void Control::RaiseGotFocus() {
     Repaint();
-    Raise(onGotFocus);
+    Raise(event::GotFocus, onGotFocus);
 }
 
 void Control::RaiseLostFocus() {
     pressed_ = false;
     CompleteInput(0);
     Repaint();
-    Raise(onLostFocus);
+    Raise(event::LostFocus, onLostFocus);
 }
 
 }  // namespace tavrin::forms

@@ -11,6 +11,7 @@
 #include "forms/font.h"
 #include "forms/geometry.h"
 #include "forms/keys.h"
+#include "forms/origin.h"
 #include "forms/peer.h"
 #include "forms/surface.h"
 
@@ -153,9 +154,9 @@ class Control {
     virtual void Notify(Aspect aspect);
     void Repaint() { Notify(Aspect::Look); }
 
-    /// Runs a handler; what it throws is reported and stays here.
+    /// Runs the handler of an event; what it throws is reported and stays here.
     template <class Handler, class... Arguments>
-    void Raise(const Handler& handler, Arguments&&... arguments);
+    void Raise(const Event& event, const Handler& handler, Arguments&&... arguments);
 
   private:
     friend class Form;

@@ -78,7 +78,7 @@ void DatePicker::Take(data::OleDate date) {
     const bool differs = day != value_;
     value_ = day;
     Repaint();
-    if (differs) Raise(onChange);
+    if (differs) Raise(event::Change, onChange);
 }
 
 std::string DatePicker::Text() const {

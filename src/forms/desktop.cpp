@@ -11,10 +11,12 @@ Desktop::~Desktop() = default;
 
 void Desktop::Add(Form& form) {
     forms_.push_back(&form);
+    TellOf(form, " opened");
 }
 
 void Desktop::Remove(Form& form) {
     std::erase(forms_, &form);
+    TellOf(form, " closed");
     if (activeForm_ == &form) activeForm_ = nullptr;
     // Its destructor removes a form that was never unloaded; then there is nothing left to keep alive.
     if (auto self = form.weak_from_this().lock()) unloaded_.push_back(std::move(self));
@@ -48,11 +50,20 @@ void Desktop::ReconcileForms() noexcept {
         forms_[i]->Reconcile();
 }
 
-void Desktop::ReportCurrentException() noexcept try {
+void Desktop::ReportCurrentException(const Origin& origin) noexcept try {
     const data::Error error = data::CurrentError();
-    ReportError(error.Number(), error.Description());
+    // A provider's description may quote what was typed.
+    data::Tell(listener_.get(), [&] {
+        const std::string line = "error " + std::to_string(error.Number());
+        return origin.form != nullptr ? line + " in " + origin.HandlerName() : line;
+    });
+    ReportError({error.Number(), error.Description(), origin.Window(), origin.Action()});
 } catch (...) {
-    ReportError(data::error_number::OutOfMemory, {});  // no memory for the words either
+    ReportError({data::error_number::OutOfMemory, {}});  // no memory for the words either
+}
+
+void Desktop::TellOf(const Form& form, std::string_view happening) const noexcept {
+    data::Tell(listener_.get(), [&] { return ("window " + form.Name()).append(happening); });
 }
 
 void Desktop::ReleaseUnloaded() noexcept {

@@ -8,17 +8,27 @@
 #include <utility>
 #include <vector>
 
+#include "data/diagnosis.h"
 #include "forms/common_dialog.h"
 #include "forms/files.h"
 #include "forms/geometry.h"
 #include "forms/locale.h"
 #include "forms/number_format.h"
+#include "forms/origin.h"
 #include "forms/peer.h"
 
 namespace tavrin::forms {
 
 class Form;
 enum class BorderStyle;
+
+/// What the user is told of an error that a handler did not expect.
+struct ErrorReport {
+    std::int32_t number = 0;
+    std::string description;
+    std::string window{};  ///< in which it happened, by its caption; empty where no handler ran
+    std::string action{};  ///< upon what; empty where no handler ran
+};
 
 /// The screen that forms stand on, the list of open forms, and the one place where events are dispatched: an
 /// error that leaves a handler is reported here, once, and goes no further.
@@ -50,7 +60,10 @@ class Desktop {
     virtual Dialogs& PlatformDialogs() = 0;
     virtual Files& PlatformFiles() = 0;
     /// The platform's report of an error that a handler did not expect.
-    virtual void ReportError(std::int32_t number, const std::string& description) noexcept = 0;
+    virtual void ReportError(const ErrorReport& report) noexcept = 0;
+
+    /// Who is told of windows and errors from now on, null for nobody.
+    void SetListener(std::shared_ptr<data::Diagnosis> listener) { listener_ = std::move(listener); }
 
     /// The loaded forms, in the order in which they were loaded.
     const std::vector<Form*>& Forms() const { return forms_; }
@@ -59,13 +72,18 @@ class Desktop {
 
     /// Runs a handler as part of a dispatch. Nothing that it throws comes out.
     template <class Handler>
-    void Guard(Handler&& handler) noexcept {
+    void Guard(const Origin& origin, Handler&& handler) noexcept {
         const DispatchScope scope(*this);
         try {
             std::forward<Handler>(handler)();
         } catch (...) {
-            ReportCurrentException();
+            ReportCurrentException(origin);
         }
+    }
+    /// The same for what a platform's window does by itself.
+    template <class Work>
+    void Guard(Work&& work) noexcept {
+        Guard(Origin{}, std::forward<Work>(work));
     }
 
     /// While a scope lasts, unloaded forms are kept alive: their code may still be on the stack. Peers open
@@ -133,7 +151,8 @@ class Desktop {
     friend class Form;
     void Add(Form& form);
     void Remove(Form& form);
-    void ReportCurrentException() noexcept;
+    void ReportCurrentException(const Origin& origin) noexcept;
+    void TellOf(const Form& form, std::string_view happening) const noexcept;
     void ReleaseUnloaded() noexcept;
     void BeginMessage();
     void EndMessage() noexcept;
@@ -146,6 +165,7 @@ class Desktop {
     int messageDepth_ = 0;
     int popupDepth_ = 0;
     std::size_t messageCount_ = 0;
+    std::shared_ptr<data::Diagnosis> listener_;
 };
 
 }  // namespace tavrin::forms

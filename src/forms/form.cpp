@@ -84,7 +84,7 @@ void Form::Load() {
     locale_ = desktop_.UserLocale();
     loaded_ = true;
     desktop_.Add(*this);
-    desktop_.Guard([this] { OnLoad(); });
+    desktop_.Guard({this, nullptr, event::Load}, [this] { OnLoad(); });
 }
 
 void Form::Show() {
@@ -110,7 +110,7 @@ void Form::MakeWindow() {
 void Form::Unload() {
     if (!loaded_ || unloading_) return;
     unloading_ = true;
-    desktop_.Guard([this] { OnUnload(); });
+    desktop_.Guard({this, nullptr, event::Unload}, [this] { OnUnload(); });
     loaded_ = false;
     isOver_ = true;
     visible_ = false;
@@ -225,10 +225,10 @@ KeyOutcome Form::HandleKeyDown(int keyCode, Modifiers modifiers) {
     if (!AcceptsInput()) return KeyOutcome::Done;
     Control* const target = activeControl_;
     if (target != nullptr) target->CompleteInput(keyCode);
-    desktop_.Guard([&] { OnKeyDown(keyCode, modifiers); });
+    desktop_.Guard({this, nullptr, event::KeyDown}, [&] { OnKeyDown(keyCode, modifiers); });
     // A key that the preview let pass reaches its control even when the preview has closed the window.
     if (keyCode != key::Swallowed && target != nullptr && target->onKeyDown) {
-        desktop_.Guard([&] { target->onKeyDown(keyCode, modifiers); });
+        desktop_.Guard({this, target, event::KeyDown}, [&] { target->onKeyDown(keyCode, modifiers); });
     }
     if (keyCode == key::Swallowed || !loaded_ || activeControl_ != target) return KeyOutcome::Done;
     if (keyCode == key::Tab && TabLeaves(target, modifiers)) {
@@ -243,7 +243,8 @@ KeyOutcome Form::HandleKeyPress(char32_t character) {
     if (!AcceptsInput()) return KeyOutcome::Done;
     Control* const target = activeControl_;
     if (target == nullptr) return KeyOutcome::Default;
-    if (target->onKeyPress) desktop_.Guard([&] { target->onKeyPress(character); });
+    if (target->onKeyPress)
+        desktop_.Guard({this, target, event::KeyPress}, [&] { target->onKeyPress(character); });
     if (character == 0 || !loaded_ || activeControl_ != target) return KeyOutcome::Done;
     return target->DefaultKeyPress(character);
 }
@@ -266,7 +267,7 @@ void Form::HandleActivate() {
     if (!loaded_ || unloading_ || active_) return;
     active_ = true;
     desktop_.activeForm_ = this;
-    if (!desktop_.IsCovered()) desktop_.Guard([this] { OnActivate(); });
+    if (!desktop_.IsCovered()) desktop_.Guard({this, nullptr, event::Activate}, [this] { OnActivate(); });
     if (!loaded_ || !active_) return;
     if (activeControl_ == nullptr) {
         FocusFirst();
@@ -281,7 +282,8 @@ void Form::HandleDeactivate() {
     active_ = false;
     if (desktop_.activeForm_ == this) desktop_.activeForm_ = nullptr;
     if (activeControl_ != nullptr) activeControl_->Repaint();
-    if (!unloading_ && !desktop_.IsCovered()) desktop_.Guard([this] { OnDeactivate(); });
+    if (!unloading_ && !desktop_.IsCovered())
+        desktop_.Guard({this, nullptr, event::Deactivate}, [this] { OnDeactivate(); });
 }
 
 void Form::HandleFocus(Control& control) {
@@ -290,11 +292,11 @@ void Form::HandleFocus(Control& control) {
 }
 
 void Form::HandleMouseDown(const MouseInput& input) {
-    if (AcceptsInput()) desktop_.Guard([&] { OnMouseDown(input); });
+    if (AcceptsInput()) desktop_.Guard({this, nullptr, event::MouseDown}, [&] { OnMouseDown(input); });
 }
 
 void Form::HandleMouseMove(const MouseInput& input) {
-    if (AcceptsInput()) desktop_.Guard([&] { OnMouseMove(input); });
+    if (AcceptsInput()) desktop_.Guard({this, nullptr, event::MouseMove}, [&] { OnMouseMove(input); });
 }
 
 void Form::HandleMoved(Point topLeft) {

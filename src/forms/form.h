@@ -158,9 +158,10 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
 };
 
 template <class Handler, class... Arguments>
-void Control::Raise(const Handler& handler, Arguments&&... arguments) {
+void Control::Raise(const Event& event, const Handler& handler, Arguments&&... arguments) {
     if (!handler || OwnerForm().IsOver()) return;
-    OwnerForm().OwnerDesktop().Guard([&] { handler(std::forward<Arguments>(arguments)...); });
+    OwnerForm().OwnerDesktop().Guard({&OwnerForm(), this, event},
+                                     [&] { handler(std::forward<Arguments>(arguments)...); });
 }
 
 }  // namespace tavrin::forms

@@ -27,7 +27,7 @@ int Grid::Columns() const {
 }
 
 void Grid::SetDataSource(data::TablePtr table) {
-    Raise(onContent);
+    Raise(event::Content, onContent);
     table_ = std::move(table);
     cells_.clear();
     if (table_) {
@@ -40,7 +40,7 @@ void Grid::SetDataSource(data::TablePtr table) {
 }
 
 void Grid::Clear() {
-    Raise(onContent);
+    Raise(event::Content, onContent);
     table_ = nullptr;
     for (Column& column : columns_) {
         column.header.clear();
@@ -87,7 +87,7 @@ void Grid::SetTitle(int column, std::string title) {
 }
 
 void Grid::SetSize(int rows, int columns) {
-    Raise(onContent);
+    Raise(event::Content, onContent);
     table_ = nullptr;
     columns_.resize(static_cast<std::size_t>(std::max(0, columns)));
     cells_.resize(static_cast<std::size_t>(std::max(0, rows - 1)));
@@ -168,7 +168,7 @@ void Grid::MoveByUser(int row, int column) {
     MoveTo(row, column);
     // A list whose rows are marked as a whole keeps them so while the user walks up and down.
     if (wholeRow && column_ == oldColumn) columnSel_ = Columns() - 1;
-    if (row_ != oldRow || column_ != oldColumn) Raise(onChange);
+    if (row_ != oldRow || column_ != oldColumn) Raise(event::Change, onChange);
 }
 
 int Grid::NeighbourColumn(int column, int step) const {
@@ -253,7 +253,7 @@ void Grid::HandleDblClick(const MouseInput& input) {
 
 void Grid::Notify(Aspect aspect) {
     Control::Notify(aspect);
-    Raise(onLayout);
+    Raise(event::Layout, onLayout);
 }
 
 // Assistive tools.

@@ -52,7 +52,7 @@ bool RichTextBox::ExchangesIndents() const {
 }
 
 void RichTextBox::HandleSelectionChange() {
-    Raise(onSelChange);
+    Raise(event::SelChange, onSelChange);
 }
 
 AccessibleNode RichTextBox::Accessible() const {

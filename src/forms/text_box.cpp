@@ -20,7 +20,7 @@ void TextBox::SetText(std::string text) {
     selStart_ = 0;
     selLength_ = 0;
     Notify(Aspect::Text);
-    Raise(onChange);
+    Raise(event::Change, onChange);
 }
 
 int TextBox::TextLength() const {
@@ -69,7 +69,7 @@ void TextBox::HandleEdited(std::string text, int selStart, int selLength) {
     const bool differs = text_ != text;
     text_ = std::move(text);
     HandleSelection(selStart, selLength);
-    if (differs) Raise(onChange);
+    if (differs) Raise(event::Change, onChange);
 }
 
 void TextBox::ReplaceSelection(const std::string& text) {
@@ -83,11 +83,11 @@ void TextBox::ReplaceSelection(const std::string& text) {
     HandleSelection(selStart_ + CountCharacters(text), 0);
     Notify(Aspect::Text);
     Notify(Aspect::Selection);
-    if (differs) Raise(onChange);
+    if (differs) Raise(event::Change, onChange);
 }
 
 void TextBox::HandleWheel(int notches) {
-    Raise(onWheel, notches);
+    Raise(event::Wheel, onWheel, notches);
 }
 
 AccessibleNode TextBox::Accessible() const {

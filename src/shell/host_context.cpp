@@ -6,7 +6,9 @@ namespace tavrin::shell {
 
 data::Connection& HostContext::Database() const {
     if (!connection) throw data::ObjectNotSet();
-    return *connection;
+    if (!trace) return *connection;
+    trace->Follow(connection);
+    return *trace;
 }
 
 bool ConnectionMark::IsCurrent(const HostContext& context) const {

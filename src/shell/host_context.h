@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "data/connection.h"
+#include "data/traced_connection.h"
 #include "data/value.h"
 
 namespace tavrin::shell {
@@ -25,6 +26,8 @@ struct HostContext {
     std::int16_t workYear = 0;  ///< a year number, although the host calls the argument bExercitiuInCurs
     std::int32_t companyId = 0;
     std::shared_ptr<CallingObject> caller;
+    /// Stands before the connection while somebody is told of statements, else null.
+    std::shared_ptr<data::TracedConnection> trace;
 
     /// The connection that every query runs on. \throws Error 91 when the host passed none.
     data::Connection& Database() const;

@@ -3,10 +3,28 @@
 #include <algorithm>
 #include <utility>
 
+#include "data/date.h"
+#include "data/traced_connection.h"
+
 namespace tavrin::shell {
+namespace {
+
+std::string Describe(const HostContext& context) {
+    return "date " + data::FormatYearMonthDay(context.workDate) + ", year " +
+           std::to_string(context.workYear) + ", company " + std::to_string(context.companyId) +
+           (context.connection ? ", a connection" : ", no connection");
+}
+
+}  // namespace
 
 Module::Module(forms::Desktop& desktop, MessageServiceFactory createMessageService)
     : desktop_(desktop), createMessageService_(std::move(createMessageService)) {}
+
+void Module::SetListener(std::shared_ptr<data::Diagnosis> listener) {
+    data::Tell(listener.get(), [&] { return "Apel with " + Describe(context); });
+    context.trace = listener ? std::make_shared<data::TracedConnection>(listener) : nullptr;
+    desktop_.SetListener(std::move(listener));
+}
 
 Module::~Module() {
     desktop_.UnloadAll();

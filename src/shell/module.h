@@ -7,6 +7,7 @@
 #include <typeindex>
 #include <vector>
 
+#include "data/diagnosis.h"
 #include "forms/desktop.h"
 #include "forms/form.h"
 #include "shell/host_context.h"
@@ -30,6 +31,10 @@ class Module {
     HostContext context;
 
     forms::Desktop& Desktop() { return desktop_; }
+
+    /// Who is told from now on what happens here, null for nobody; he hears of the host's values first.
+    /// Whoever listened before is told nothing more.
+    void SetListener(std::shared_ptr<data::Diagnosis> listener);
 
     /// The text of the last question that a window put together, kept from before it is asked.
     std::string lastQuestion;

@@ -16,10 +16,12 @@ namespace {
 /// Reports that wait while one is up; more are not worth the user's patience.
 constexpr std::size_t MaximumReports = 8;
 
-std::wstring TextOf(std::int32_t number, const std::string& description) {
-    std::string heading = "Eroare " + std::to_string(number);
-    if (number < 0) heading += " (" + HexText(static_cast<std::uint32_t>(number)) + ")";
-    return ToWide(heading + "\n\n" + description);
+std::wstring TextOf(const forms::ErrorReport& report) {
+    std::string text = "Eroare " + std::to_string(report.number);
+    if (report.number < 0) text += " (" + HexText(static_cast<std::uint32_t>(report.number)) + ")";
+    text += "\n\n" + report.description;
+    if (!report.window.empty()) text += "\n\nFereastra: " + report.window + "\nActiunea: " + report.action;
+    return ToWide(text);
 }
 
 }  // namespace
@@ -82,9 +84,9 @@ void Desktop::Beep() {
     MessageBeep(MB_OK);
 }
 
-void Desktop::ReportError(std::int32_t number, const std::string& description) noexcept {
+void Desktop::ReportError(const forms::ErrorReport& report) noexcept {
     try {
-        if (reports_.size() < MaximumReports) reports_.push_back({number, description});
+        if (reports_.size() < MaximumReports) reports_.push_back(report);
         // A report's own message loop may bring further errors: they wait for their turn.
         if (!isReporting_) ShowReports();
     } catch (...) {
@@ -96,16 +98,16 @@ void Desktop::ReportError(std::int32_t number, const std::string& description) n
 void Desktop::ShowReports() {
     isReporting_ = true;
     while (!reports_.empty()) {
-        const Report report = std::move(reports_.front());
+        const forms::ErrorReport report = std::move(reports_.front());
         reports_.pop_front();
         Show(report);
     }
     isReporting_ = false;
 }
 
-void Desktop::Show(const Report& report) {
+void Desktop::Show(const forms::ErrorReport& report) {
     const MessageScope scope(*this);
-    const std::wstring text = TextOf(report.number, report.description);
+    const std::wstring text = TextOf(report);
     MessageBoxW(OwnerOfMessage(*this, GetActiveWindow()), text.c_str(), L"Eroare",
                 MB_OK | MB_ICONERROR | MB_TOPMOST | MB_SETFOREGROUND);
 }

@@ -36,7 +36,7 @@ class Desktop final : public forms::Desktop {
     void Beep() override;
     forms::Dialogs& PlatformDialogs() override { return dialogs_; }
     forms::Files& PlatformFiles() override { return files_; }
-    void ReportError(std::int32_t number, const std::string& description) noexcept override;
+    void ReportError(const forms::ErrorReport& report) noexcept override;
 
     /// Whether a window is there, or another process still looks at one: the module must not be unloaded
     /// then.
@@ -53,14 +53,9 @@ class Desktop final : public forms::Desktop {
     void ReleaseWindows() noexcept override;
 
   private:
-    struct Report {
-        std::int32_t number;
-        std::string description;
-    };
-
     std::shared_ptr<Toolkit> SharedToolkit();
     void ShowReports();
-    void Show(const Report& report);
+    void Show(const forms::ErrorReport& report);
 
     HINSTANCE module_;
     win32::PlatformDialogs dialogs_;
@@ -68,7 +63,7 @@ class Desktop final : public forms::Desktop {
     std::shared_ptr<const void> inUse_;
     std::weak_ptr<Toolkit> toolkit_;
     HeldWindows heldWindows_;
-    std::deque<Report> reports_;
+    std::deque<forms::ErrorReport> reports_;
     bool isReporting_ = false;
 };
 

@@ -60,9 +60,10 @@ forms::Size HeadlessDesktop::FrameSize(forms::BorderStyle border) const {
     return border == forms::BorderStyle::Borderless ? forms::Size{} : forms::Size{90, 435};
 }
 
-void HeadlessDesktop::ReportError(std::int32_t number, const std::string& description) noexcept {
+void HeadlessDesktop::ReportError(const forms::ErrorReport& report) noexcept {
     const MessageScope scope(*this);
-    reports.push_back({number, description});
+    reports.push_back({report.number, report.description});
+    reportedPlace = report.window + ": " + report.action;
     if (whileReporting) whileReporting();
 }
 

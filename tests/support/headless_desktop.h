@@ -39,7 +39,7 @@ class HeadlessDesktop : public forms::Desktop {
     void Beep() override { ++beeps; }
     forms::Dialogs& PlatformDialogs() override { return dialogs; }
     forms::Files& PlatformFiles() override { return files; }
-    void ReportError(std::int32_t number, const std::string& description) noexcept override;
+    void ReportError(const forms::ErrorReport& report) noexcept override;
 
     /// Whether the platform's window of a form takes input and is in sight, as the user finds it.
     bool IsWindowEnabled(const forms::Form& form) const;
@@ -57,6 +57,8 @@ class HeadlessDesktop : public forms::Desktop {
     RecordingDialogs dialogs;
     MemoryFiles files;
     std::vector<Report> reports;
+    /// Of the last report: "Curs Valutar: Sterge Curs (clic)".
+    std::string reportedPlace;
     int beeps = 0;
     /// Before the window of a form is made. May throw, as a platform does that has no more windows to give.
     std::function<void(forms::Form& form)> whenCreating;

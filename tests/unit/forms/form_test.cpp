@@ -352,7 +352,7 @@ TEST_F(FormTest, AWindowThatTheModelDisabledIsStillSoAfterAMessage) {
     const auto form = Make();
     form->Show();
     form->SetEnabled(false);
-    desktop.ReportError(13, "Type mismatch");
+    desktop.ReportError({13, "Type mismatch"});
     EXPECT_FALSE(desktop.IsWindowEnabled(*form)) << "the platform enables what the message stood before";
 }
 
@@ -361,7 +361,7 @@ TEST_F(FormTest, AMessageEndsAPress) {
     form->Show();
     int clicks = 0;
     form->button.onClick = [&] { ++clicks; };
-    form->button.onMouseDown = [&](const forms::MouseInput&) { desktop.ReportError(13, "Type mismatch"); };
+    form->button.onMouseDown = [&](const forms::MouseInput&) { desktop.ReportError({13, "Type mismatch"}); };
     const forms::MouseInput inside{forms::MouseButton::Left, {15, 15}, {}};
     EXPECT_FALSE(form->button.HandleMouseDown(inside));
     EXPECT_FALSE(form->button.Accessible().pressed);
@@ -388,7 +388,7 @@ TEST_F(FormTest, AMessageInTheControlThatWasLeftEndsThePress) {
     form->Show();
     int clicks = 0;
     form->button.onClick = [&] { ++clicks; };
-    form->first.onLostFocus = [&] { desktop.ReportError(13, "Type mismatch"); };
+    form->first.onLostFocus = [&] { desktop.ReportError({13, "Type mismatch"}); };
     ClickWithMouse(form->button);
     EXPECT_EQ(form->ActiveControl(), &form->button);
     EXPECT_EQ(clicks, 0) << "its button came up over the message";
