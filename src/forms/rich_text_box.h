@@ -24,7 +24,7 @@ class RichTextEditor {
     virtual void FormatSelection(const CharacterFormat& format) = 0;
 
     /// Puts a document in place of everything. \throws data::Error where the editor cannot read it to its
-    /// end; everything is as before then.
+    /// end; it may hold a part of it then.
     virtual void Load(std::string_view rtf) = 0;
     /// The document in RTF, in the editor's own words. \throws data::Error
     virtual std::string Save() const = 0;

@@ -17,11 +17,14 @@ inline constexpr char NoNote[] = "Fisierul ales nu este o nota RTF !";
 inline constexpr char NothingLeft[] = "Fisierul ales este incomplet si nu mai poate fi citit !";
 inline constexpr char TooLarge[] = "Nota este prea mare !";
 inline constexpr char EditorFailed[] = "Textul nu a putut fi citit in intregime din fereastra !";
+inline constexpr char NotKept[] = "Nici textul din fereastra nu a putut fi pastrat in intregime !";
 
 // What a note has lost that is shown all the same.
 inline constexpr char CutNote[] = "Fisierul ales este incomplet. S-a incarcat numai inceputul notei !";
 inline constexpr char PicturesNotShown[] =
     "Unele imagini din fisier nu pot fi pastrate si lipsesc din nota !";
+inline constexpr char PicturesUnknown[] =
+    "Nota a fost incarcata, dar nu s-a putut afla daca imaginile ei pot fi pastrate !";
 inline constexpr char PicturesNotSaved[] =
     "Nota a fost salvata fara unele imagini, care nu pot fi pastrate !";
 

@@ -1,5 +1,6 @@
 #include "notes/notes.h"
 
+#include <exception>
 #include <new>
 #include <optional>
 #include <string>
@@ -194,7 +195,7 @@ void Notes::Perform(int index) {
         case NewOrOpen:
             return NewOrOpenNote();
         case Save:
-            return TellingOfFailure(text::NotSaved, [this] { SaveNote(); });
+            return TellingOfFailure(text::NotSaved, [this] { return SaveNote(); });
         case ChooseFont:
             return Quietly([this] { ChooseSelectionFont(); });
         case ChooseColor:
@@ -217,47 +218,76 @@ void Notes::NewOrOpenNote() {
         case Answer::Yes:
             return txtNota.SetText({});
         case Answer::No:
-            return TellingOfFailure(text::NotLoaded, [this] { OpenNote(); });
+            return TellingOfFailure(text::NotLoaded, [this] { return OpenNote(); });
         case Answer::Withdrawn:
             break;
     }
 }
 
-void Notes::OpenNote() {
+Notes::Notices Notes::OpenNote() {
     dlgCommonDialog.flags = FileFlags;
     dlgCommonDialog.dialogTitle = text::OpenTitle;
     dlgCommonDialog.filter = text::NoteFilter;
-    if (!dlgCommonDialog.ShowOpen()) return;
-    LoadNote(OwnerDesktop().PlatformFiles().Read(dlgCommonDialog.fileName, LongestFile));
+    if (!dlgCommonDialog.ShowOpen()) return {};
+    return LoadNote(OwnerDesktop().PlatformFiles().Read(dlgCommonDialog.fileName, LongestFile));
 }
 
-void Notes::LoadNote(const std::string& file) {
+Notes::Notices Notes::LoadNote(const std::string& file) {
     const RtfReading reading = ReadRtf(file);
-    if (const char* const problem = ProblemOf(reading.outcome)) return Tell(problem, message::Error);
-    txtNota.Load(WriteRtf(reading.note));
-    // Not every editor keeps pictures of every kind, and what it does not keep is not saved again.
-    const std::size_t pictures = reading.note.pictures.size();
-    const bool lacksPictures = pictures > 0 && ReadEditor().note.pictures.size() < pictures;
-    if (reading.outcome == RtfOutcome::Cut) Tell(text::CutNote, message::Exclamation);
-    if (reading.picturesLeftOut || lacksPictures) Tell(text::PicturesNotShown, message::Exclamation);
+    if (const char* const problem = ProblemOf(reading.outcome)) return {{{problem, message::Error}}};
+    const std::string before = txtNota.Save();
+    try {
+        txtNota.Load(WriteRtf(reading.note));
+    } catch (const std::exception&) {
+        PutBack(before);
+        throw;
+    }
+    const bool cut = reading.outcome == RtfOutcome::Cut;
+    return {{{cut ? text::CutNote : nullptr}, {ProblemOfPictures(reading)}}};
 }
 
-RtfReading Notes::ReadEditor() const {
-    return ReadRtf(txtNota.Save(), txtNota.ExchangesIndents() ? RtfIndents::Exchanged : RtfIndents::Standard);
+/// The text that the editor has written before, in place of what it could not read to its end.
+void Notes::PutBack(const std::string& written) {
+    try {
+        const RtfReading reading = ReadWritten(written);
+        txtNota.Load(reading.outcome == RtfOutcome::Whole ? WriteRtf(reading.note) : written);
+    } catch (const std::exception&) {
+        throw data::Error(data::error_number::InvalidFile, text::NotKept);
+    }
 }
 
-void Notes::SaveNote() {
+/// Not every editor keeps pictures of every kind, and what it does not keep is not saved again. The note
+/// stands by now, whatever happens here.
+const char* Notes::ProblemOfPictures(const RtfReading& reading) const {
+    if (reading.picturesLeftOut) return text::PicturesNotShown;
+    if (reading.note.pictures.empty()) return nullptr;
+    try {
+        const RtfReading kept = ReadWritten(txtNota.Save());
+        if (kept.outcome == RtfOutcome::Whole)
+            return kept.note.pictures.size() < reading.note.pictures.size() ? text::PicturesNotShown
+                                                                            : nullptr;
+    } catch (const std::exception&) {
+        // Nobody knows, then.
+    }
+    return text::PicturesUnknown;
+}
+
+RtfReading Notes::ReadWritten(const std::string& written) const {
+    return ReadRtf(written, txtNota.ExchangesIndents() ? RtfIndents::Exchanged : RtfIndents::Standard);
+}
+
+Notes::Notices Notes::SaveNote() {
     dlgCommonDialog.flags = FileFlags;
     dlgCommonDialog.dialogTitle = text::SaveTitle;
     dlgCommonDialog.filter = text::NoteFilter;
-    if (!dlgCommonDialog.ShowSave()) return;
-    const RtfReading reading = ReadEditor();
+    if (!dlgCommonDialog.ShowSave()) return {};
+    const RtfReading reading = ReadWritten(txtNota.Save());
     if (reading.outcome != RtfOutcome::Whole) {
         const bool tooLarge = reading.outcome == RtfOutcome::TooLarge;
         throw data::Error(data::error_number::InvalidFile, tooLarge ? text::TooLarge : text::EditorFailed);
     }
     OwnerDesktop().PlatformFiles().Replace(dlgCommonDialog.fileName, WriteRtf(reading.note));
-    if (reading.picturesLeftOut) Tell(text::PicturesNotSaved, message::Exclamation);
+    return {{{reading.picturesLeftOut ? text::PicturesNotSaved : nullptr}}};
 }
 
 /// A window that was closed while an earlier message was up has no more to say.
@@ -266,17 +296,24 @@ void Notes::Tell(const std::string& prompt, int icon) {
 }
 
 /// Runs an action that loads or saves. Where it fails the user is told so, and of what the platform says.
+/// What there is to tell is told once the action has ended: a message that fails makes no failure of it.
 template <class Action>
 void Notes::TellingOfFailure(const char* failure, const Action& action) {
+    Notices notices;
     std::string reason;
     try {
-        return action();
+        notices = action();
     } catch (const data::Error& error) {
         reason = error.Description();
+        notices[0] = {failure, message::Error};
     } catch (const std::bad_alloc&) {
         reason = data::CurrentError().Description();
+        notices[0] = {failure, message::Error};
     }
-    Tell(std::string(failure) + "\r\n" + reason, message::Error);
+    if (!reason.empty()) reason.insert(0, "\r\n");
+    for (const Notice& each : notices) {
+        if (each.prompt != nullptr) Tell(each.prompt + reason, each.icon);
+    }
 }
 
 void Notes::ChooseSelectionFont() {

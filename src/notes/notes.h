@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 
@@ -38,14 +39,23 @@ class Notes : public NotesDesign {
     void ImgBouton_MouseLeave(int index);
     void RestTools();
 
+    /// What a file's action has to tell. It takes no memory, as what is told must not be what telling lacked.
+    struct Notice {
+        const char* prompt = nullptr;  ///< null for nothing
+        int icon = shell::message::Exclamation;
+    };
+    using Notices = std::array<Notice, 2>;
+
     // The actions.
     void ImgBouton_Click(int index);
     void Perform(int index);
     void NewOrOpenNote();
-    void OpenNote();
-    void LoadNote(const std::string& file);
-    void SaveNote();
-    RtfReading ReadEditor() const;
+    Notices OpenNote();
+    Notices LoadNote(const std::string& file);
+    void PutBack(const std::string& written);
+    const char* ProblemOfPictures(const RtfReading& reading) const;
+    Notices SaveNote();
+    RtfReading ReadWritten(const std::string& written) const;
     void Tell(const std::string& prompt, int icon);
     template <class Action>
     void TellingOfFailure(const char* failure, const Action& action);

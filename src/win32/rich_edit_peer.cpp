@@ -103,10 +103,7 @@ void RichEditPeer::FormatSelection(const forms::CharacterFormat& format) {
 }
 
 void RichEditPeer::Load(std::string_view rtf) {
-    const std::string before = Save();
-    if (StreamRtfIn(Handle(), rtf)) return;
-    StreamRtfIn(Handle(), before);
-    throw data::RuntimeError(data::error_number::InvalidFile);
+    if (!StreamRtfIn(Handle(), rtf)) throw data::RuntimeError(data::error_number::InvalidFile);
 }
 
 std::string RichEditPeer::Save() const {

@@ -122,9 +122,14 @@ void FakeRichText::Load(std::string_view rtf) {
     ++loads;
     if (whenStreaming) whenStreaming();
     const notes::RtfReading reading = notes::ReadRtf(rtf);
-    if (failsToLoad || reading.outcome != notes::RtfOutcome::Whole)
-        throw data::Error(321, "no document of this editor");
     characters_.clear();
+    start_ = length_ = 0;
+    const bool fails = loadsToFail > 0;
+    loadsToFail -= fails ? 1 : 0;
+    if (fails || reading.outcome != notes::RtfOutcome::Whole) {
+        characters_.push_back({reading.note.text.empty() ? '?' : reading.note.text.front(), Standard()});
+        throw data::Error(321, "no document of this editor");
+    }
     std::size_t begin = 0;
     for (const notes::NoteRun& run : reading.note.runs) {
         for (; begin < run.end; ++begin) {
@@ -133,7 +138,6 @@ void FakeRichText::Load(std::string_view rtf) {
         }
     }
     characters_.pop_back();  // the last paragraph's end is not to be seen
-    start_ = length_ = 0;
     typing_ = Standard();
 }
 

@@ -13,8 +13,8 @@ namespace tavrin::tests {
 
 /// An editor for formatted text without a platform. It behaves as the platform's does: what is typed takes
 /// the format set for the caret, else that of the text before it; a selection's properties that differ have
-/// no value; a document that cannot be read leaves everything alone. Pictures and paragraphs' looks are lost
-/// in it.
+/// no value; of a document that it cannot read it holds a part. Pictures and paragraphs' looks are lost in
+/// it.
 class FakeRichText : public forms::ControlPeer, public forms::RichTextEditor {
   public:
     /// Gives a rich text box such an editor, which the box owns from then on.
@@ -44,7 +44,7 @@ class FakeRichText : public forms::ControlPeer, public forms::RichTextEditor {
     bool ExchangesIndents() const override { return exchangesIndents; }
 
     bool exchangesIndents = false;
-    bool failsToLoad = false;
+    int loadsToFail = 0;  ///< the next ones
     bool failsToSave = false;
     std::string written;                  ///< what is saved whatever the text is, unless it is empty
     std::function<void()> whenStreaming;  ///< before a document comes or goes; may throw

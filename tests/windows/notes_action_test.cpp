@@ -197,14 +197,72 @@ TEST_F(NotesActionTest, AFileThatIsNotThereOrThatTheEditorRefusesIsToldAndKeepsT
     EXPECT_EQ(editor->loads, 0);
     messages.shown.clear();
     desktop.files.contents[File] = "{\\rtf1 def}";
-    editor->failsToLoad = true;
+    editor->SelectAll();
+    editor->FormatSelection({.bold = true});
+    editor->loadsToFail = 1;
     OpenNote(window);
-    EXPECT_EQ(editor->loads, 1);
+    EXPECT_EQ(editor->loads, 2);
     EXPECT_EQ(editor->Text(), "abc");
+    EXPECT_EQ(editor->FormatAt(2).bold, true);
     EXPECT_THAT(messages.shown,
                 ElementsAre(Question, Failure("Nota nu a putut fi incarcata !\r\nno document of "
                                               "this editor")));
     ExpectUsable(window);
+}
+
+TEST_F(NotesActionTest, AnEditorThatDoesNotTakeTheOldTextBackEitherIsTold) {
+    Notes& window = Open();
+    keyboard.Type("abc");
+    desktop.dialogs.chosenFile = File;
+    desktop.files.contents[File] = "{\\rtf1 def}";
+    editor->loadsToFail = 2;
+    OpenNote(window);
+    EXPECT_THAT(messages.shown,
+                ElementsAre(Question, Failure("Nota nu a putut fi incarcata !\r\nNici textul din "
+                                              "fereastra nu a putut fi pastrat in intregime !")));
+    ExpectUsable(window);
+}
+
+TEST_F(NotesActionTest, ANoteThatIsThereIsNotToldAsNotLoadedWhateverTheEditorSaysAfterwards) {
+    Notes& window = Open();
+    desktop.dialogs.chosenFile = File;
+    desktop.files.contents[File] = R"({\rtf1 def{\pict\jpegblip ffd8ffc0000b08000100010101ffd9}})";
+    const std::function<void()> failures[] = {[] { throw data::Error(-1, "the editor fails"); },
+                                              [] { throw std::bad_alloc(); },
+                                              [&] { editor->written = "{\\rtf1 d"; }};
+    for (const auto& fail : failures) {
+        messages.shown.clear();
+        editor->SetText("abc");
+        int streams = 0;  // the old text goes, the new one comes, and is asked for
+        editor->whenStreaming = [&] {
+            if (++streams == 3) fail();
+        };
+        OpenNote(window);
+        EXPECT_EQ(streams, 3);
+        EXPECT_EQ(editor->Text().substr(0, 3), "def");
+        EXPECT_THAT(
+            messages.shown,
+            ElementsAre(Question, Warning("Nota a fost incarcata, dar nu s-a putut afla daca imaginile "
+                                          "ei pot fi pastrate !")));
+        ExpectUsable(window);
+    }
+}
+
+TEST_F(NotesActionTest, AMessageThatFailsMakesNoFailureOfWhatItTells) {
+    Notes& window = Open();
+    desktop.dialogs.chosenFile = File;
+    desktop.files.contents[File] = "{\\rtf1 unu";
+    messages.whileShowing = [&] {
+        if (messages.shown.back() != Question) throw data::Error(-5, "no message");
+    };
+    OpenNote(window);
+    EXPECT_THAT(messages.shown, ElementsAre(Question, CutNote));
+    EXPECT_EQ(desktop.reports.size(), 1U);
+    messages.shown.clear();
+    editor->written = R"({\rtf1 a{\pict\wmetafile8 01}b})";
+    SaveAs(window, File);
+    EXPECT_EQ(messages.shown.size(), 1U) << "what the file lacks, and not that it was not written";
+    EXPECT_EQ(desktop.reports.size(), 2U);
 }
 
 TEST_F(NotesActionTest, AWindowThatGoesWhileItTellsSomethingSaysNoMore) {
