@@ -145,7 +145,8 @@ class NotePad {
     void Save(const std::string& name) {
         const bool exchanged = form_->note.ExchangesIndents();
         const RtfReading reading =
-            ReadRtf(form_->note.Save(), exchanged ? RtfIndents::Exchanged : RtfIndents::Standard);
+            ReadRtf(form_->note.Save(), exchanged ? RtfIndents::Exchanged : RtfIndents::Standard,
+                    LongParagraphs::Kept);
         files_.Replace(name, WriteRtf(reading.note));
     }
 

@@ -19,8 +19,10 @@ inline constexpr char TooLarge[] = "Nota este prea mare !";
 inline constexpr char EditorFailed[] = "Textul nu a putut fi citit in intregime din fereastra !";
 inline constexpr char NotKept[] = "Nici textul din fereastra nu a putut fi pastrat in intregime !";
 
-// What a note has lost that is shown all the same.
+// What a note that is shown all the same has lost, or has otherwise than its file.
 inline constexpr char CutNote[] = "Fisierul ales este incomplet. S-a incarcat numai inceputul notei !";
+inline constexpr char ParagraphsDivided[] =
+    "Paragrafele foarte lungi din fisier au fost impartite in mai multe !";
 inline constexpr char PicturesNotShown[] =
     "Unele imagini din fisier nu pot fi pastrate si lipsesc din nota !";
 inline constexpr char PicturesUnknown[] =

@@ -107,16 +107,19 @@ struct Note {
     bool operator==(const Note&) const = default;
 };
 
-// What a note may have at most. Platform editors take some hundred bytes for a character, and for a
-// paragraph's lines a time that grows with the paragraph's length.
+// What a note may have at most. Platform editors take some hundred bytes for a character.
 inline constexpr std::size_t MaximumCharacters = std::size_t{2} << 20;
 inline constexpr std::size_t MaximumParagraphs = 200'000;
 inline constexpr std::size_t MaximumRuns = 400'000;
 inline constexpr std::size_t MaximumFonts = 1'000;
-/// A longer paragraph goes on in another one: where a line ends in its second half, else behind a blank where
-/// there is one before LongestWord.
-inline constexpr std::size_t LongestParagraph = 2'000;
-inline constexpr std::size_t LongestWord = 200;
+// For a paragraph an editor takes a time that grows with its length at every key, and for a word one that
+// grows with the square.
+/// A longer paragraph of a file goes on in another one: where a line ends, or behind a blank where none does
+/// for a while.
+inline constexpr std::size_t LongestParagraph = 10'000;
+inline constexpr std::size_t LongestWayToLineEnd = 1'000;
+/// So does a paragraph with a longer word, in the word.
+inline constexpr std::size_t LongestWord = 2'000;
 inline constexpr std::size_t MaximumPictureBytes = std::size_t{32} << 20;  ///< of all pictures
 inline constexpr std::size_t MaximumPixels = std::size_t{16} << 20;        ///< of one picture
 inline constexpr std::size_t LongestFontName = 31;  ///< in UTF-16, as platforms keep it

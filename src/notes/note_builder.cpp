@@ -13,6 +13,11 @@ bool BeginsCharacter(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
 }
 
+/// Whether an editor's line may end behind it.
+bool EndsWord(char32_t character) {
+    return character == ' ' || character == character::Tab || character == character::LineBreak;
+}
+
 std::string_view WithoutBlanksAround(std::string_view text) {
     while (text.starts_with(' '))
         text.remove_prefix(1);
@@ -83,17 +88,21 @@ bool NoteBuilder::TakesMore(std::size_t characters) {
 }
 
 /// What has been put behind the text looks like that.
-void NoteBuilder::EndText(const RunFormat& format, bool endsWithBlank) {
+void NoteBuilder::EndText(const RunFormat& format) {
     if (note_.runs.empty() || note_.runs.back().format != format) note_.runs.push_back({0, format});
     note_.runs.back().end = note_.text.size();
-    endsWithBlank_ = endsWithBlank;
 }
 
 void NoteBuilder::AddAscii(std::string_view text, const RunFormat& format, const ParagraphFormat& paragraph) {
-    if (paragraphCharacters_ + text.size() > LongestParagraph) return AddLong(text, format, paragraph);
+    const bool mayBeLong =
+        paragraphCharacters_ + text.size() > LongestParagraph || wordCharacters_ + text.size() > LongestWord;
+    if (divides_ && mayBeLong) return AddLong(text, format, paragraph);
     if (!TakesMore(text.size())) return;
     note_.text += text;
-    EndText(format, text.ends_with(' '));
+    EndText(format);
+    const std::size_t blank = text.rfind(' ');
+    wordCharacters_ =
+        blank != std::string_view::npos ? text.size() - blank - 1 : wordCharacters_ + text.size();
     paragraphCharacters_ += text.size();
 }
 
@@ -105,19 +114,22 @@ void NoteBuilder::AddLong(std::string_view text, const RunFormat& format, const 
 void NoteBuilder::Add(char32_t character, const RunFormat& format, const ParagraphFormat& paragraph) {
     if (!IsText(character)) return;
     // Where a line ends anyway a break is not to be seen.
-    const bool endsLine = character == character::LineBreak && paragraphCharacters_ > LongestParagraph / 2;
-    if (endsLine) return GoOnInAnother(paragraph);
+    const bool endsLine = character == character::LineBreak && paragraphCharacters_ >= LongestParagraph;
+    if (divides_ && endsLine) return GoOnInAnother(paragraph);
     if (!TakesMore(1)) return;
-    BreakWhereTooLong(paragraph);
+    // Where a word ends it gets no longer.
+    if (wordCharacters_ == 0 || !EndsWord(character)) BreakWhereTooLong(paragraph);
     AppendUtf8(note_.text, character);
-    EndText(format, character == ' ');
+    EndText(format);
+    wordCharacters_ = EndsWord(character) ? 0 : wordCharacters_ + 1;
     ++paragraphCharacters_;
 }
 
 void NoteBuilder::BreakWhereTooLong(const ParagraphFormat& paragraph) {
-    if (paragraphCharacters_ < LongestParagraph) return;
-    if (!endsWithBlank_ && paragraphCharacters_ < LongestParagraph + LongestWord) return;
-    GoOnInAnother(paragraph);
+    if (!divides_) return;
+    const bool betweenWords = wordCharacters_ == 0;
+    const bool isLong = paragraphCharacters_ >= LongestParagraph + LongestWayToLineEnd;
+    if ((betweenWords && isLong) || wordCharacters_ >= LongestWord) GoOnInAnother(paragraph);
 }
 
 void NoteBuilder::GoOnInAnother(const ParagraphFormat& paragraph) {
@@ -125,6 +137,7 @@ void NoteBuilder::GoOnInAnother(const ParagraphFormat& paragraph) {
     part.spaceAfter = 0;
     EndParagraph(note_.runs.back().format, part);
     goesOn_ = true;
+    divided_ = true;
 }
 
 void NoteBuilder::AddPicture(NotePicture picture, const RunFormat& format, const ParagraphFormat& paragraph) {
@@ -132,7 +145,8 @@ void NoteBuilder::AddPicture(NotePicture picture, const RunFormat& format, const
     BreakWhereTooLong(paragraph);
     pictureBytes_ += picture.bytes.size();
     AppendUtf8(note_.text, character::Picture);
-    EndText(format, false);
+    EndText(format);
+    ++wordCharacters_;
     ++paragraphCharacters_;
     note_.pictures.push_back(std::move(picture));
 }
@@ -141,12 +155,13 @@ void NoteBuilder::EndParagraph(const RunFormat& format, const ParagraphFormat& p
     if (!TakesMore(1)) return;
     const RunFormat shown = IsParagraphEmpty() ? format : note_.runs.back().format;
     note_.text += '\n';
-    EndText(shown, false);
+    EndText(shown);
     note_.paragraphs.push_back(paragraph);
     MakeSound(note_.paragraphs.back());
     if (goesOn_) Continue(note_.paragraphs.back());
     paragraphStart_ = note_.text.size();
     paragraphCharacters_ = 0;
+    wordCharacters_ = 0;
     goesOn_ = false;
 }
 

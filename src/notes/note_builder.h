@@ -7,10 +7,18 @@
 
 namespace tavrin::notes {
 
+enum class LongParagraphs {
+    Divided,  ///< so that an editor stays quick
+    Kept,
+};
+
 /// Puts a note together from front to back, within the bounds of note.h: of equal documents it makes equal
 /// notes. What goes beyond a bound is left out, and told by IsTooLarge.
 class NoteBuilder {
   public:
+    explicit NoteBuilder(LongParagraphs longParagraphs = LongParagraphs::Divided)
+        : divides_(longParagraphs == LongParagraphs::Divided) {}
+
     /// Makes room for so many bytes of text, for speed.
     void Expect(std::size_t bytes) { note_.text.reserve(bytes); }
 
@@ -31,6 +39,8 @@ class NoteBuilder {
 
     bool IsParagraphEmpty() const { return paragraphStart_ == note_.text.size(); }
     bool IsTooLarge() const { return tooLarge_; }
+    /// Whether a paragraph was too long, and goes on in another.
+    bool HasDivided() const { return divided_; }
 
     /// Whether a paragraph's end is due, as the last one is not empty, or there is none.
     bool LacksEnd() const { return !IsParagraphEmpty() || note_.paragraphs.empty(); }
@@ -38,7 +48,7 @@ class NoteBuilder {
 
   private:
     void AddLong(std::string_view text, const RunFormat& format, const ParagraphFormat& paragraph);
-    void EndText(const RunFormat& format, bool endsWithBlank);
+    void EndText(const RunFormat& format);
     bool TakesMore(std::size_t characters);
     void BreakWhereTooLong(const ParagraphFormat& paragraph);
     void GoOnInAnother(const ParagraphFormat& paragraph);
@@ -48,7 +58,9 @@ class NoteBuilder {
     std::size_t paragraphStart_ = 0;
     std::size_t paragraphCharacters_ = 0;
     std::size_t pictureBytes_ = 0;
-    bool endsWithBlank_ = false;
+    std::size_t wordCharacters_ = 0;  ///< since the last blank
+    bool divides_;
+    bool divided_ = false;
     bool goesOn_ = false;  ///< the paragraph is the rest of one that was too long
     bool tooLarge_ = false;
 };

@@ -243,7 +243,9 @@ Notes::Notices Notes::LoadNote(const std::string& file) {
         throw;
     }
     const bool cut = reading.outcome == RtfOutcome::Cut;
-    return {{{cut ? text::CutNote : nullptr}, {ProblemOfPictures(reading)}}};
+    return {{{cut ? text::CutNote : nullptr},
+             {reading.paragraphsDivided ? text::ParagraphsDivided : nullptr},
+             {ProblemOfPictures(reading)}}};
 }
 
 /// The text that the editor has written before, in place of what it could not read to its end.
@@ -272,8 +274,10 @@ const char* Notes::ProblemOfPictures(const RtfReading& reading) const {
     return text::PicturesUnknown;
 }
 
+/// What is in the editor already is as long as the user has made it.
 RtfReading Notes::ReadWritten(const std::string& written) const {
-    return ReadRtf(written, txtNota.ExchangesIndents() ? RtfIndents::Exchanged : RtfIndents::Standard);
+    return ReadRtf(written, txtNota.ExchangesIndents() ? RtfIndents::Exchanged : RtfIndents::Standard,
+                   LongParagraphs::Kept);
 }
 
 Notes::Notices Notes::SaveNote() {

@@ -44,7 +44,7 @@ class Notes : public NotesDesign {
         const char* prompt = nullptr;  ///< null for nothing
         int icon = shell::message::Exclamation;
     };
-    using Notices = std::array<Notice, 2>;
+    using Notices = std::array<Notice, 3>;
 
     // The actions.
     void ImgBouton_Click(int index);

@@ -47,6 +47,7 @@ RtfReading RtfDocumentReader::Run() {
     reading.note = builder_.Finish();
     if (builder_.IsTooLarge()) return Failed(RtfOutcome::TooLarge);
     reading.picturesLeftOut = picturesLeftOut_;
+    reading.paragraphsDivided = builder_.HasDivided();
     return reading;
 }
 

@@ -21,8 +21,9 @@ namespace tavrin::notes {
 class RtfDocumentReader {
   public:
     /// `document` begins inside the outermost group.
-    RtfDocumentReader(std::string_view document, RtfIndents indents, bool rawIsUtf8)
-        : tokens_(document), indents_(indents), rawIsUtf8_(rawIsUtf8) {
+    RtfDocumentReader(std::string_view document, RtfIndents indents, LongParagraphs longParagraphs,
+                      bool rawIsUtf8)
+        : tokens_(document), indents_(indents), builder_(longParagraphs), rawIsUtf8_(rawIsUtf8) {
         builder_.Expect(std::min(document.size(), MaximumCharacters));
     }
 

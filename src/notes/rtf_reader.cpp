@@ -31,10 +31,10 @@ std::optional<std::string_view> FindDocument(std::string_view file) {
 
 }  // namespace
 
-RtfReading ReadRtf(std::string_view file, RtfIndents indents) {
+RtfReading ReadRtf(std::string_view file, RtfIndents indents, LongParagraphs longParagraphs) {
     const auto document = FindDocument(file);
     if (!document) return {};
-    return RtfDocumentReader(*document, indents, file.starts_with(Utf8Mark)).Run();
+    return RtfDocumentReader(*document, indents, longParagraphs, file.starts_with(Utf8Mark)).Run();
 }
 
 }  // namespace tavrin::notes

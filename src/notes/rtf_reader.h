@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "notes/note.h"
+#include "notes/note_builder.h"
 #include "notes/rtf_state.h"
 
 namespace tavrin::notes {
@@ -19,6 +20,7 @@ struct RtfReading {
     RtfOutcome outcome = RtfOutcome::NoNote;
     Note note;  ///< an empty one but for Whole and Cut
     bool picturesLeftOut = false;
+    bool paragraphsDivided = false;
 };
 
 /// Reads any bytes as RTF, in time and memory that grow with their number and with nothing else. What says
@@ -27,6 +29,7 @@ struct RtfReading {
 /// Of what a note has no place for, the text is kept: results of fields and objects, text boxes, numbers of
 /// lists; tables as lines with tabs, footnotes in brackets. Left out is what is not to be seen on the page or
 /// does not belong to its text: what is hidden or has been deleted, headers and footers, comments.
-RtfReading ReadRtf(std::string_view file, RtfIndents indents = RtfIndents::Standard);
+RtfReading ReadRtf(std::string_view file, RtfIndents indents = RtfIndents::Standard,
+                   LongParagraphs longParagraphs = LongParagraphs::Divided);
 
 }  // namespace tavrin::notes

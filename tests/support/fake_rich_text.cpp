@@ -121,7 +121,8 @@ void FakeRichText::FormatSelection(const CharacterFormat& format) {
 void FakeRichText::Load(std::string_view rtf) {
     ++loads;
     if (whenStreaming) whenStreaming();
-    const notes::RtfReading reading = notes::ReadRtf(rtf);
+    const notes::RtfReading reading =
+        notes::ReadRtf(rtf, notes::RtfIndents::Standard, notes::LongParagraphs::Kept);
     characters_.clear();
     start_ = length_ = 0;
     const bool fails = loadsToFail > 0;
@@ -145,7 +146,7 @@ std::string FakeRichText::Save() const {
     if (whenStreaming) whenStreaming();
     if (failsToSave) throw data::Error(-2147467259, "the editor fails");
     if (!written.empty()) return written;
-    notes::NoteBuilder builder;
+    notes::NoteBuilder builder(notes::LongParagraphs::Kept);
     notes::CodePageDecoder decoder;
     for (const Character& character : characters_) {
         const notes::RunFormat look = ToNote(character.format, builder);

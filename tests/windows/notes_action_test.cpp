@@ -176,6 +176,25 @@ TEST_F(NotesActionTest, PicturesThatCannotBeShownAreTold) {
     ExpectUsable(window);
 }
 
+TEST_F(NotesActionTest, ParagraphsThatWereDividedAreToldAndThoseOfTheUserAreSavedAsTheyAre) {
+    Notes& window = Open();
+    std::string words;
+    while (words.size() < 12'000)
+        words += "cuvant ";
+    editor->Type(words);
+    SaveAs(window, File);
+    const std::string saved = desktop.files.contents[File];
+    EXPECT_EQ(saved.find("\\par\r"), saved.rfind("\\par\r")) << "one paragraph";
+    EXPECT_THAT(messages.shown, IsEmpty());
+    desktop.dialogs.chosenFile = File;
+    OpenNote(window);
+    EXPECT_THAT(messages.shown,
+                ElementsAre(Question,
+                            Warning("Paragrafele foarte lungi din fisier au fost impartite in mai multe !")));
+    EXPECT_NE(editor->Text().find("\r\n"), std::string::npos);
+    ExpectUsable(window);
+}
+
 TEST_F(NotesActionTest, WhatTheEditorGetsIsWrittenAnew) {
     Notes& window = Open();
     desktop.dialogs.chosenFile = File;

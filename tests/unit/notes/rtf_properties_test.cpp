@@ -121,15 +121,16 @@ TEST(RtfPropertiesTest, PicturesThatANoteDoesNotTakeAreTold) {
 }
 
 TEST(RtfPropertiesTest, ALongParagraphGoesOnInAnother) {
-    const std::string words = Repeated("cuvant ", 1000);
+    const std::string words = Repeated("cuvant ", 5000);
     const RtfReading reading = ReadRtf(R"({\rtf1\pard\qc\li500\fi-200\sb100\sa100 )" + words + "\\par}");
     std::string text = reading.note.text;
+    EXPECT_TRUE(reading.paragraphsDivided);
     EXPECT_EQ(reading.note.paragraphs.size(), 4U);
     std::erase(text, '\n');
     EXPECT_EQ(text, words);
     for (std::size_t begin = 0, end = 0; (end = reading.note.text.find('\n', begin)) != std::string::npos;
          begin = end + 1) {
-        EXPECT_LE(end - begin, 2007U);
+        EXPECT_LE(end - begin, 11'007U);
         EXPECT_EQ(reading.note.text[end - 1], ' ');
     }
     const std::string dump = Dump(reading.note);
@@ -137,19 +138,39 @@ TEST(RtfPropertiesTest, ALongParagraphGoesOnInAnother) {
     EXPECT_NE(dump.find("\n<center left500>cuvant"), std::string::npos);
     EXPECT_NE(dump.find("\n<center left500 after100>cuvant"), std::string::npos);
     ExpectNote(reading, "words");
-    const RtfReading letters = ReadRtf("{\\rtf1 " + std::string(6000, 'a') + "}");
+}
+
+TEST(RtfPropertiesTest, AParagraphWithALongWordGoesOnInTheWord) {
+    const RtfReading letters = ReadRtf("{\\rtf1 unu " + std::string(6000, 'a') + "}");
+    EXPECT_TRUE(letters.paragraphsDivided);
     EXPECT_EQ(letters.note.paragraphs.size(), 3U);
-    EXPECT_EQ(letters.note.text.find('\n'), 2200U);
+    EXPECT_EQ(letters.note.text.find('\n'), 2004U);
     ExpectNote(letters, "letters");
+    EXPECT_FALSE(ReadRtf("{\\rtf1 unu " + std::string(2000, 'a') + " doi}").paragraphsDivided);
+    // Words that formats divide are words all the same.
+    EXPECT_TRUE(ReadRtf("{\\rtf1 " + Repeated("\\b ab\\b0 cd\\'e3", 500) + "}").paragraphsDivided);
+    EXPECT_FALSE(ReadRtf("{\\rtf1 " + Repeated("\\b ab\\b0 cd\\tab ", 500) + "}").paragraphsDivided);
 }
 
 TEST(RtfPropertiesTest, ALongParagraphGoesOnWhereALineEnds) {
-    const RtfReading reading = ReadRtf("{\\rtf1 " + Repeated("Un rand al scrisorii\\line ", 400) + "}");
-    EXPECT_GT(reading.note.paragraphs.size(), 4U);
+    const RtfReading reading = ReadRtf("{\\rtf1 " + Repeated("Un rand al scrisorii\\line ", 2000) + "}");
+    EXPECT_TRUE(reading.paragraphsDivided);
+    EXPECT_EQ(reading.note.paragraphs.size(), 5U);
     std::string text = reading.note.text;
     std::ranges::replace(text, '\v', '\n');
-    EXPECT_TRUE(text == Repeated("Un rand al scrisorii\n", 400) + "\n");
+    EXPECT_TRUE(text == Repeated("Un rand al scrisorii\n", 2000) + "\n");
     ExpectNote(reading, "lines");
+    EXPECT_FALSE(ReadRtf("{\\rtf1 " + Repeated("Un rand\\line ", 1000) + "}").paragraphsDivided);
+}
+
+TEST(RtfPropertiesTest, AParagraphMayBeKeptAsLongAsItIs) {
+    for (const std::string& piece :
+         {std::string("cuvant "), std::string("litere"), std::string("rand\\line ")}) {
+        const std::string file = "{\\rtf1 " + Repeated(piece, 5000) + "}";
+        const RtfReading reading = ReadRtf(file, notes::RtfIndents::Standard, notes::LongParagraphs::Kept);
+        EXPECT_FALSE(reading.paragraphsDivided);
+        EXPECT_EQ(reading.note.paragraphs.size(), 1U) << piece;
+    }
 }
 
 TEST(RtfPropertiesTest, WhatIsNotToBeSeenIsNotAtAnyDepth) {
