@@ -243,7 +243,7 @@ void RtfDocumentReader::InsertAll(std::string_view ascii) {
 }
 
 void RtfDocumentReader::EndListText() {
-    if (!IsBody()) return;
+    if (!IsBody() || listText_.IsBlank()) return;
     if (listText_.IsBullet()) {
         bullet_ = true;
         return;

@@ -20,15 +20,19 @@ class RtfListText {
     const char32_t* begin() const { return characters_.data(); }
     const char32_t* end() const { return characters_.data() + length_; }
 
+    /// Whether nothing is to be seen of it, as at a level of a list that has no numbers.
+    bool IsBlank() const { return std::none_of(begin(), end(), IsSign); }
+
     bool IsBullet() const {
-        const auto isSign = [](char32_t each) { return each != '\t' && each != ' '; };
-        if (std::count_if(begin(), end(), isSign) != 1) return false;
-        const char32_t sign = *std::find_if(begin(), end(), isSign);
+        if (std::count_if(begin(), end(), IsSign) != 1) return false;
+        const char32_t sign = *std::find_if(begin(), end(), IsSign);
         const bool letter = (sign >= 'a' && sign <= 'z') || (sign >= 'A' && sign <= 'Z');
         return sign == 'o' || !(letter || (sign >= '0' && sign <= '9'));
     }
 
   private:
+    static bool IsSign(char32_t character) { return character != '\t' && character != ' '; }
+
     std::array<char32_t, 64> characters_{};
     std::size_t length_ = 0;
 };

@@ -113,6 +113,10 @@ RtfToken RtfTokens::Binary(int length) {
 }
 
 RtfToken RtfTokens::HexByte() {
+    // A file that was cut within a byte has none there, and no letter either.
+    const bool cut = rest_.size() == 1 || (rest_.size() == 2 && ValueOfHexDigit(rest_[1]) >= 0);
+    if (cut) rest_ = {};
+    if (rest_.empty()) return {};
     if (rest_.size() >= 3) {
         const int high = ValueOfHexDigit(rest_[1]);
         const int low = ValueOfHexDigit(rest_[2]);

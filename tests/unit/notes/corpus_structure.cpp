@@ -95,6 +95,8 @@ std::vector<NoteSample> StructureSamples() {
         {"a dash for a bullet", R"({\rtf1{\listtext -\tab}\pard\li360 unu\par})", "<bullet left360>unu"},
         {"a letter for a bullet", R"({\rtf1{\listtext o\tab}unu\par{\listtext a\tab}doi\par})",
          "<bullet>unu\na\\tdoi"},
+        {"a list's level without numbers", R"({\rtf1{\listtext\tab}\pard\fi-360\li720\ls3 unu\par})",
+         "<left720 first-360>unu"},
         {"numbers of a list stay text",
          R"({\rtf1{\listtext 1.\tab}\pard\ls2 unu\par{\listtext 2.\tab}doi\par})", "1.\\tunu\n2.\\tdoi"},
         {"numbers of an editor's list",

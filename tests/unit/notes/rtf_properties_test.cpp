@@ -100,6 +100,10 @@ TEST(RtfPropertiesTest, AFileThatLostItsEndIsReadAsFarAsItGoes) {
     const RtfReading cut = ReadRtf(R"({\rtf1{\fonttbl{\f0 Arial;}}\b unu\par doi)");
     EXPECT_EQ(cut.outcome, RtfOutcome::Cut);
     EXPECT_EQ(Dump(cut.note), "{b|unu}\n{b|doi}");
+    for (const char* file : {"{\\rtf1 a\\'", "{\\rtf1 a\\'e", "{\\rtf1 a\\"})
+        EXPECT_EQ(Dump(ReadRtf(file).note), "a") << file;
+    EXPECT_EQ(Dump(ReadRtf("{\\rtf1 a\\'}").note), "a");
+    EXPECT_EQ(ReadRtf("{\\rtf1 a\\'}").outcome, RtfOutcome::Whole);
     for (const char* file :
          {"{\\rtf1", R"({\rtf1{\fonttbl{\f0 Ar)", R"({\rtf1{\info{\title Titlu)", R"({\rtf1{\*\x\bin99 a)"})
         EXPECT_EQ(ReadRtf(file).outcome, RtfOutcome::NothingLeft) << file;
