@@ -112,14 +112,16 @@ inline constexpr std::size_t MaximumCharacters = std::size_t{2} << 20;
 inline constexpr std::size_t MaximumParagraphs = 200'000;
 inline constexpr std::size_t MaximumRuns = 400'000;
 inline constexpr std::size_t MaximumFonts = 1'000;
-// For a paragraph an editor takes a time that grows with its length at every key, and for a word one that
-// grows with the square.
+// An editor takes a time at every key that grows with the paragraph, and one that grows with the square of a
+// stretch of letters and blanks alone, which it measures as one.
 /// A longer paragraph of a file goes on in another one: where a line ends, or behind a blank where none does
 /// for a while.
 inline constexpr std::size_t LongestParagraph = 10'000;
 inline constexpr std::size_t LongestWayToLineEnd = 1'000;
-/// So does a paragraph with a longer word, in the word.
-inline constexpr std::size_t LongestWord = 2'000;
+/// So does a paragraph with a longer stretch, behind a blank.
+inline constexpr std::size_t LongestStretch = 2'000;
+/// Where no blank comes for so long it goes on anywhere.
+inline constexpr std::size_t LongestWord = 200;
 inline constexpr std::size_t MaximumPictureBytes = std::size_t{32} << 20;  ///< of all pictures
 inline constexpr std::size_t MaximumPixels = std::size_t{16} << 20;        ///< of one picture
 inline constexpr std::size_t LongestFontName = 31;  ///< in UTF-16, as platforms keep it

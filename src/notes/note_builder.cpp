@@ -13,9 +13,10 @@ bool BeginsCharacter(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
 }
 
-/// Whether an editor's line may end behind it.
-bool EndsWord(char32_t character) {
-    return character == ' ' || character == character::Tab || character == character::LineBreak;
+/// Whether an editor measures what follows by itself. Of other characters it is not known.
+bool EndsStretch(char32_t character) {
+    const bool letter = (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
+    return character < 0x7F && !letter && character != ' ';
 }
 
 std::string_view WithoutBlanksAround(std::string_view text) {
@@ -94,15 +95,16 @@ void NoteBuilder::EndText(const RunFormat& format) {
 }
 
 void NoteBuilder::AddAscii(std::string_view text, const RunFormat& format, const ParagraphFormat& paragraph) {
-    const bool mayBeLong =
-        paragraphCharacters_ + text.size() > LongestParagraph || wordCharacters_ + text.size() > LongestWord;
+    const bool mayBeLong = paragraphCharacters_ + text.size() > LongestParagraph ||
+                           stretchCharacters_ + text.size() > LongestStretch;
     if (divides_ && mayBeLong) return AddLong(text, format, paragraph);
     if (!TakesMore(text.size())) return;
     note_.text += text;
     EndText(format);
-    const std::size_t blank = text.rfind(' ');
-    wordCharacters_ =
-        blank != std::string_view::npos ? text.size() - blank - 1 : wordCharacters_ + text.size();
+    endsWithBlank_ = text.ends_with(' ');
+    stretchCharacters_ += text.size();
+    const auto end = std::find_if(text.rbegin(), text.rend(), EndsStretch);
+    if (end != text.rend()) stretchCharacters_ = static_cast<std::size_t>(end - text.rbegin());
     paragraphCharacters_ += text.size();
 }
 
@@ -117,19 +119,20 @@ void NoteBuilder::Add(char32_t character, const RunFormat& format, const Paragra
     const bool endsLine = character == character::LineBreak && paragraphCharacters_ >= LongestParagraph;
     if (divides_ && endsLine) return GoOnInAnother(paragraph);
     if (!TakesMore(1)) return;
-    // Where a word ends it gets no longer.
-    if (wordCharacters_ == 0 || !EndsWord(character)) BreakWhereTooLong(paragraph);
+    BreakWhereTooLong(paragraph);
     AppendUtf8(note_.text, character);
     EndText(format);
-    wordCharacters_ = EndsWord(character) ? 0 : wordCharacters_ + 1;
+    endsWithBlank_ = character == ' ';
+    stretchCharacters_ = EndsStretch(character) ? 0 : stretchCharacters_ + 1;
     ++paragraphCharacters_;
 }
 
 void NoteBuilder::BreakWhereTooLong(const ParagraphFormat& paragraph) {
     if (!divides_) return;
-    const bool betweenWords = wordCharacters_ == 0;
-    const bool isLong = paragraphCharacters_ >= LongestParagraph + LongestWayToLineEnd;
-    if ((betweenWords && isLong) || wordCharacters_ >= LongestWord) GoOnInAnother(paragraph);
+    const std::size_t longestWord = endsWithBlank_ ? 0 : LongestWord;
+    if (paragraphCharacters_ >= LongestParagraph + LongestWayToLineEnd + longestWord ||
+        stretchCharacters_ >= LongestStretch + longestWord)
+        GoOnInAnother(paragraph);
 }
 
 void NoteBuilder::GoOnInAnother(const ParagraphFormat& paragraph) {
@@ -146,7 +149,8 @@ void NoteBuilder::AddPicture(NotePicture picture, const RunFormat& format, const
     pictureBytes_ += picture.bytes.size();
     AppendUtf8(note_.text, character::Picture);
     EndText(format);
-    ++wordCharacters_;
+    endsWithBlank_ = false;
+    stretchCharacters_ = 0;
     ++paragraphCharacters_;
     note_.pictures.push_back(std::move(picture));
 }
@@ -161,7 +165,8 @@ void NoteBuilder::EndParagraph(const RunFormat& format, const ParagraphFormat& p
     if (goesOn_) Continue(note_.paragraphs.back());
     paragraphStart_ = note_.text.size();
     paragraphCharacters_ = 0;
-    wordCharacters_ = 0;
+    stretchCharacters_ = 0;
+    endsWithBlank_ = false;
     goesOn_ = false;
 }
 

@@ -58,7 +58,8 @@ class NoteBuilder {
     std::size_t paragraphStart_ = 0;
     std::size_t paragraphCharacters_ = 0;
     std::size_t pictureBytes_ = 0;
-    std::size_t wordCharacters_ = 0;  ///< since the last blank
+    std::size_t stretchCharacters_ = 0;  ///< letters and blanks, since anything else
+    bool endsWithBlank_ = false;
     bool divides_;
     bool divided_ = false;
     bool goesOn_ = false;  ///< the paragraph is the rest of one that was too long

@@ -78,6 +78,21 @@ void Quietly(const Action& action) {
     }
 }
 
+/// What an action has to tell, or that it failed, with the reason on a line of its own. It stands in a
+/// function by itself as GCC 12 otherwise takes the notices of a failure for overwritten by those of the
+/// action that never came to return any.
+template <class Action>
+Notices NoticesOf(const char* failure, std::string& reason, const Action& action) {
+    try {
+        return action();
+    } catch (const data::Error& error) {
+        reason = "\r\n" + error.Description();
+    } catch (const std::bad_alloc&) {
+        reason = "\r\n" + data::CurrentError().Description();
+    }
+    return {{{failure, message::Error}}};
+}
+
 /// What is said of a file that gives no note.
 const char* ProblemOf(RtfOutcome outcome) {
     switch (outcome) {
@@ -224,7 +239,7 @@ void Notes::NewOrOpenNote() {
     }
 }
 
-Notes::Notices Notes::OpenNote() {
+Notices Notes::OpenNote() {
     dlgCommonDialog.flags = FileFlags;
     dlgCommonDialog.dialogTitle = text::OpenTitle;
     dlgCommonDialog.filter = text::NoteFilter;
@@ -232,7 +247,7 @@ Notes::Notices Notes::OpenNote() {
     return LoadNote(OwnerDesktop().PlatformFiles().Read(dlgCommonDialog.fileName, LongestFile));
 }
 
-Notes::Notices Notes::LoadNote(const std::string& file) {
+Notices Notes::LoadNote(const std::string& file) {
     const RtfReading reading = ReadRtf(file);
     if (const char* const problem = ProblemOf(reading.outcome)) return {{{problem, message::Error}}};
     const std::string before = txtNota.Save();
@@ -280,7 +295,7 @@ RtfReading Notes::ReadWritten(const std::string& written) const {
                    LongParagraphs::Kept);
 }
 
-Notes::Notices Notes::SaveNote() {
+Notices Notes::SaveNote() {
     dlgCommonDialog.flags = FileFlags;
     dlgCommonDialog.dialogTitle = text::SaveTitle;
     dlgCommonDialog.filter = text::NoteFilter;
@@ -303,18 +318,8 @@ void Notes::Tell(const std::string& prompt, int icon) {
 /// What there is to tell is told once the action has ended: a message that fails makes no failure of it.
 template <class Action>
 void Notes::TellingOfFailure(const char* failure, const Action& action) {
-    Notices notices;
     std::string reason;
-    try {
-        notices = action();
-    } catch (const data::Error& error) {
-        reason = error.Description();
-        notices[0] = {failure, message::Error};
-    } catch (const std::bad_alloc&) {
-        reason = data::CurrentError().Description();
-        notices[0] = {failure, message::Error};
-    }
-    if (!reason.empty()) reason.insert(0, "\r\n");
+    const Notices notices = NoticesOf(failure, reason, action);
     for (const Notice& each : notices) {
         if (each.prompt != nullptr) Tell(each.prompt + reason, each.icon);
     }

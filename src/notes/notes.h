@@ -10,6 +10,13 @@
 
 namespace tavrin::notes {
 
+/// What a file's action has to tell. It takes no memory, as what is told must not be what telling lacked.
+struct Notice {
+    const char* prompt = nullptr;  ///< null for nothing
+    int icon = shell::message::Exclamation;
+};
+using Notices = std::array<Notice, 3>;
+
 /// The note pad: one formatted text, kept in an RTF file where the user saves it. What goes into the editor
 /// and what goes into the file is written by the note pad itself, from what it could read. Nothing asks about
 /// unsaved text. A dialog that is cancelled ends the action without a word; a file that cannot be read or
@@ -38,13 +45,6 @@ class Notes : public NotesDesign {
     void ImgBouton_MouseMove(int index);
     void ImgBouton_MouseLeave(int index);
     void RestTools();
-
-    /// What a file's action has to tell. It takes no memory, as what is told must not be what telling lacked.
-    struct Notice {
-        const char* prompt = nullptr;  ///< null for nothing
-        int icon = shell::message::Exclamation;
-    };
-    using Notices = std::array<Notice, 3>;
 
     // The actions.
     void ImgBouton_Click(int index);

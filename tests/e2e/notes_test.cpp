@@ -741,8 +741,11 @@ TEST_F(NotesTest, ALongParagraphIsBrokenUp) {
     std::wstring words;
     for (int i = 0; i < 4286; ++i)
         words += L"cuvant ";
+    const std::wstring file = folder.File(L"proba.rtf");
+    WriteFile(file, "{\\rtf1 " + win32::ToUtf8(words) + "}");
     const DWORD start = GetTickCount();
-    LoadText("{\\rtf1 " + win32::ToUtf8(words) + "}");
+    EXPECT_EQ(LoadTold(file, MessageIcon::Exclamation),
+              "Paragrafele foarte lungi din fisier au fost impartite in mai multe !");
     EXPECT_LT(GetTickCount() - start, 10000U) << "more where it stays one paragraph";
     std::wstring text = Text();
     EXPECT_GT(std::ranges::count(text, L'\n'), 12);

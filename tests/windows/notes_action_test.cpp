@@ -180,7 +180,7 @@ TEST_F(NotesActionTest, ParagraphsThatWereDividedAreToldAndThoseOfTheUserAreSave
     Notes& window = Open();
     std::string words;
     while (words.size() < 12'000)
-        words += "cuvant ";
+        words += "cuvant, ";
     editor->Type(words);
     SaveAs(window, File);
     const std::string saved = desktop.files.contents[File];

@@ -124,36 +124,50 @@ TEST(RtfPropertiesTest, PicturesThatANoteDoesNotTakeAreTold) {
                      .picturesLeftOut);
 }
 
+/// The lengths of the paragraphs of a note whose characters are ASCII.
+std::vector<std::size_t> Lengths(const Note& note) {
+    std::vector<std::size_t> lengths;
+    for (std::size_t begin = 0, end = 0; (end = note.text.find('\n', begin)) != std::string::npos;
+         begin = end + 1)
+        lengths.push_back(end - begin);
+    return lengths;
+}
+
 TEST(RtfPropertiesTest, ALongParagraphGoesOnInAnother) {
-    const std::string words = Repeated("cuvant ", 5000);
+    const std::string words = Repeated("cuvant, ", 4000);
     const RtfReading reading = ReadRtf(R"({\rtf1\pard\qc\li500\fi-200\sb100\sa100 )" + words + "\\par}");
-    std::string text = reading.note.text;
     EXPECT_TRUE(reading.paragraphsDivided);
-    EXPECT_EQ(reading.note.paragraphs.size(), 4U);
+    EXPECT_EQ(Lengths(reading.note), (std::vector<std::size_t>{11'000, 11'000, 10'000}));
+    std::string text = reading.note.text;
     std::erase(text, '\n');
     EXPECT_EQ(text, words);
-    for (std::size_t begin = 0, end = 0; (end = reading.note.text.find('\n', begin)) != std::string::npos;
-         begin = end + 1) {
-        EXPECT_LE(end - begin, 11'007U);
-        EXPECT_EQ(reading.note.text[end - 1], ' ');
-    }
     const std::string dump = Dump(reading.note);
     EXPECT_TRUE(dump.starts_with("<center left500 first-200 before100>cuvant"));
     EXPECT_NE(dump.find("\n<center left500>cuvant"), std::string::npos);
     EXPECT_NE(dump.find("\n<center left500 after100>cuvant"), std::string::npos);
     ExpectNote(reading, "words");
+    EXPECT_FALSE(ReadRtf("{\\rtf1 " + Repeated("cuvant, ", 1375) + "}").paragraphsDivided);
+    const RtfReading digits = ReadRtf("{\\rtf1 " + std::string(12'000, '1') + "}");
+    EXPECT_EQ(Lengths(digits.note), (std::vector<std::size_t>{11'200, 800}));
+    ExpectNote(digits, "digits");
 }
 
-TEST(RtfPropertiesTest, AParagraphWithALongWordGoesOnInTheWord) {
-    const RtfReading letters = ReadRtf("{\\rtf1 unu " + std::string(6000, 'a') + "}");
-    EXPECT_TRUE(letters.paragraphsDivided);
-    EXPECT_EQ(letters.note.paragraphs.size(), 3U);
-    EXPECT_EQ(letters.note.text.find('\n'), 2004U);
+TEST(RtfPropertiesTest, ALongStretchOfLettersAndBlanksGoesOnInAnother) {
+    const RtfReading words = ReadRtf("{\\rtf1 1" + Repeated("cuvant ", 600) + "}");
+    EXPECT_TRUE(words.paragraphsDivided);
+    EXPECT_EQ(Lengths(words.note), (std::vector<std::size_t>{2003, 2002, 196}));
+    ExpectNote(words, "words");
+    const RtfReading letters = ReadRtf("{\\rtf1 " + std::string(6000, 'a') + "}");
+    EXPECT_EQ(Lengths(letters.note), (std::vector<std::size_t>{2200, 2200, 1600}));
     ExpectNote(letters, "letters");
-    EXPECT_FALSE(ReadRtf("{\\rtf1 unu " + std::string(2000, 'a') + " doi}").paragraphsDivided);
-    // Words that formats divide are words all the same.
-    EXPECT_TRUE(ReadRtf("{\\rtf1 " + Repeated("\\b ab\\b0 cd\\'e3", 500) + "}").paragraphsDivided);
-    EXPECT_FALSE(ReadRtf("{\\rtf1 " + Repeated("\\b ab\\b0 cd\\tab ", 500) + "}").paragraphsDivided);
+    // Formats and other letters do not end it; signs and digits do.
+    EXPECT_TRUE(ReadRtf("{\\rtf1 " + Repeated("\\b ab\\b0 cd\\'e3 ", 400) + "}").paragraphsDivided);
+    EXPECT_TRUE(ReadRtf("{\\rtf1 " + Repeated("unu doi trei patru \r\n", 400) + "}").paragraphsDivided);
+    EXPECT_FALSE(ReadRtf("{\\rtf1 " + Repeated("unu doi trei patru,\r\n", 400) + "}").paragraphsDivided);
+    for (const char* end : {".", "7", "\\tab ", "\\line "}) {
+        const std::string file = "{\\rtf1 " + Repeated("cuvant ", 250) + end + Repeated("cuvant ", 250) + "}";
+        EXPECT_FALSE(ReadRtf(file).paragraphsDivided) << end;
+    }
 }
 
 TEST(RtfPropertiesTest, ALongParagraphGoesOnWhereALineEnds) {
