@@ -10,8 +10,8 @@ namespace {
 /// Registers the component for the whole run.
 class Registration : public testing::Environment {
   public:
-    void SetUp() override { ASSERT_EQ(Component().Register(), S_OK); }
-    void TearDown() override { EXPECT_EQ(Component().Unregister(), S_OK); }
+    void SetUp() override { ASSERT_EQ(Component().RegisterAsAllowed(), S_OK); }
+    void TearDown() override { EXPECT_EQ(Component().UnregisterAsAllowed(), S_OK); }
 };
 
 // Owned by GoogleTest.
@@ -29,9 +29,16 @@ bool NothingIsOpen() {
 
 }  // namespace
 
-HostTest::HostTest(LoopKind loop) {
-    MovePointer(PointerAtRest);
-    host = std::make_unique<Host>(loop);
+POINT PointerAtRest() {
+    constexpr LONG AboveTheEdge = 124;
+    RECT area{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    return {area.right / 2, area.bottom - AboveTheEdge};
+}
+
+HostTest::HostTest(LoopKind loop, HostData data) {
+    MovePointer(PointerAtRest());
+    host = std::make_unique<Host>(loop, data);
 }
 
 void HostTest::TearDown() {
@@ -50,7 +57,10 @@ void HostTest::CloseEverything() {
 }
 
 Window HostTest::OpenPalette(const HostValues& values) {
-    const HRESULT result = host->Apel(values);
+    return AwaitPalette(host->Apel(values));
+}
+
+Window HostTest::AwaitPalette(HRESULT result) {
     if (result != S_OK) throw DriverError("Apel failed with " + std::to_string(result));
     const Window palette = AwaitForm("Utilitati");
     Require("the focus on the calculator's button", [] { return FocusedName() == "cmdAction(2)"; });

@@ -18,11 +18,13 @@ namespace tavrin::e2e {
 /// connection and of itself: each test checks that along with what it is about.
 class HostTest : public testing::Test {
   protected:
-    explicit HostTest(LoopKind loop = LoopKind::Plain);
+    explicit HostTest(LoopKind loop = LoopKind::Plain, HostData data = HostData::Embedded);
     void TearDown() override;
 
     /// Calls Apel and waits for the palette as the call leaves it.
     Window OpenPalette(const HostValues& values = {});
+    /// The same when Apel has been called. \param result its answer
+    Window AwaitPalette(HRESULT result);
     /// Opens the rate list by a click on the palette's button.
     Window OpenRateList(const HostValues& values = {});
 
@@ -39,7 +41,8 @@ class HostTest : public testing::Test {
     std::unique_ptr<Host> host;
 };
 
-/// Where the pointer rests between actions: over no window.
-inline constexpr POINT PointerAtRest{640, 900};
+/// Where the pointer rests between actions: over none of the host's windows, near the lower edge of the
+/// screen.
+POINT PointerAtRest();
 
 }  // namespace tavrin::e2e

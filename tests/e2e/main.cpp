@@ -4,7 +4,9 @@
 // else from the root of the build folder that this program lies in. The screen is saved as FOLDER/TEST.png
 // where a test first fails, and the path is printed.
 // With --leave HOW it is a host that leaves at a bad moment instead, for the test of those.
-// Under Wine all tests together are too many for one process: ./test deals them with GTEST_TOTAL_SHARDS.
+// With TAVRIN_CONNECTION and TAVRIN_DATABASE in the environment the tests of the windows on that server are
+// there too. Under Wine all tests together are too many for one process: ./test deals them with
+// GTEST_TOTAL_SHARDS.
 
 #include <windows.h>
 
@@ -21,6 +23,7 @@
 #include "e2e/driver/program_path.h"
 #include "e2e/driver/screen.h"
 #include "e2e/leaving_host.h"
+#include "e2e/server_variables.h"
 #include "win32/text.h"
 
 namespace {
@@ -44,10 +47,11 @@ class ScreenshotOfFailure : public testing::EmptyTestEventListener {
     std::atomic<bool> isTaken_ = false;  ///< later failures follow from the first
 };
 
-std::wstring FromEnvironment(const wchar_t* name) {
-    std::array<wchar_t, 1024> value{};
-    const DWORD length = GetEnvironmentVariableW(name, value.data(), static_cast<DWORD>(value.size()));
-    return {value.data(), length};
+/// Without a server there is nothing to test on it.
+void LeaveOutServerTests() {
+    const std::string filter = testing::GTEST_FLAG(filter);
+    testing::GTEST_FLAG(filter) =
+        filter + (filter.find('-') == std::string::npos ? "-" : ":") + "ServerTest.*";
 }
 
 /// The word after the option, null where it is not given.
@@ -64,9 +68,16 @@ std::wstring PathOr(const char* option, std::wstring otherwise) {
 
 }  // namespace
 
+std::wstring tavrin::e2e::Variable(const wchar_t* name) {
+    std::array<wchar_t, 4096> value{};
+    const DWORD length = GetEnvironmentVariableW(name, value.data(), static_cast<DWORD>(value.size()));
+    return length < value.size() ? std::wstring(value.data(), length) : std::wstring();
+}
+
 int main(int count, char** arguments) {
     testing::InitGoogleTest(&count, arguments);
-    const std::wstring fromEnvironment = FromEnvironment(L"TAVRIN_DLL");
+    const std::wstring fromEnvironment = tavrin::e2e::Variable(L"TAVRIN_DLL");
+    if (tavrin::e2e::Variable(tavrin::e2e::DatabaseVariable).empty()) LeaveOutServerTests();
     tavrin::e2e::Component::SetPath(PathOr(
         Option(count, arguments, "--dll"),
         fromEnvironment.empty() ? BesideThisProgram(L"..\\..\\Tavrin.dll") : FullPath(fromEnvironment)));

@@ -6,6 +6,7 @@
 #include <commdlg.h>
 #include <dlgs.h>
 #include <richedit.h>
+#include <sddl.h>
 
 #include <algorithm>
 #include <array>
@@ -13,7 +14,9 @@
 #include <fstream>
 
 #include "e2e/driver/accessible_reader.h"
+#include "e2e/driver/platform.h"
 #include "e2e/driver/platform_dialog.h"
+#include "e2e/driver/process.h"
 #include "e2e/driver/screen.h"
 #include "e2e/driver/shown_message.h"
 #include "e2e/host_test.h"
@@ -327,7 +330,7 @@ TEST_F(NotesTest, TheBarShowsWhatTheMouseIsOver) {
     MovePointer(ButtonOf(Save).Center());
     EXPECT_TRUE(WaitUntil([&] { return !ShowsColor(button, FaceHot); }));
     EXPECT_TRUE(WaitUntil([&] { return ShowsColor(ButtonOf(Save), FaceHot); }));
-    MovePointer(PointerAtRest);
+    MovePointer(PointerAtRest());
     EXPECT_TRUE(WaitUntil([&] { return !ShowsColor(ButtonOf(Save), FaceHot); }));
     EXPECT_FALSE(ShowsColor(button, FacePressed));
 }
@@ -540,11 +543,18 @@ TEST_F(NotesTest, SavingReplacesTheOldNoteAtOnce) {
     EXPECT_THAT(folder.Names(), ElementsAre(L"nota.rtf"));
 }
 
-/// A drive that stands for a system folder in which nobody can make a file.
+/// A drive that stands for a folder in which nobody can make a file: one of the system beneath Wine, where
+/// rights do not bind an administrator; on Windows one of this test, whose rights refuse everybody.
 class UnwritableDrive {
   public:
-    UnwritableDrive() { DefineDosDeviceW(0, Name, Folder); }
-    ~UnwritableDrive() { DefineDosDeviceW(DDD_REMOVE_DEFINITION, Name, Folder); }
+    UnwritableDrive() : folder_(IsWine() ? Beneath : TemporaryPath(L"tavrin_e2e unwritable")) {
+        if (!IsWine()) MakeRefusing(folder_);
+        DefineDosDeviceW(0, Name, folder_.c_str());
+    }
+    ~UnwritableDrive() {
+        DefineDosDeviceW(DDD_REMOVE_DEFINITION, Name, folder_.c_str());
+        if (!IsWine()) RemoveDirectoryW(folder_.c_str());
+    }
     UnwritableDrive(const UnwritableDrive&) = delete;
     UnwritableDrive& operator=(const UnwritableDrive&) = delete;
 
@@ -552,7 +562,18 @@ class UnwritableDrive {
 
   private:
     static constexpr const wchar_t* Name = L"Q:";
-    static constexpr const wchar_t* Folder = L"Z:\\proc\\sys";
+    static constexpr const wchar_t* Beneath = L"Z:\\proc\\sys";
+
+    /// Nobody may add a file (2); all else is allowed.
+    static void MakeRefusing(const std::wstring& folder) {
+        SECURITY_ATTRIBUTES security{sizeof security, nullptr, FALSE};
+        ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:P(D;;0x2;;;WD)(A;;FA;;;WD)", SDDL_REVISION_1,
+                                                             &security.lpSecurityDescriptor, nullptr);
+        CreateDirectoryW(folder.c_str(), &security);
+        LocalFree(security.lpSecurityDescriptor);
+    }
+
+    std::wstring folder_;
 };
 
 TEST_F(NotesTest, AFolderThatTakesNothingIsTold) {

@@ -42,13 +42,13 @@ class ManifestScope {
 class SideBySideTest : public testing::Test {
   protected:
     void SetUp() override {
-        ASSERT_EQ(Component().Unregister(), S_OK);
+        ASSERT_EQ(Component().UnregisterAsAllowed(), S_OK);
         registry_ = TakeRegistrySnapshot();
     }
     void TearDown() override {
         const RegistrySnapshot written = Missing(TakeRegistrySnapshot(), registry_);
         EXPECT_TRUE(systemMayWrite || written.empty()) << "something was written";
-        EXPECT_EQ(Component().Register(), S_OK);
+        EXPECT_EQ(Component().RegisterAsAllowed(), S_OK);
     }
 
     template <class Body>

@@ -1,5 +1,6 @@
 #include "e2e/driver/component.h"
 
+#include "e2e/driver/platform.h"
 #include "e2e/driver/wait.h"
 #include "win32/text.h"
 
@@ -34,6 +35,14 @@ HRESULT Component::GetClassObject(REFCLSID classId, REFIID interfaceId, void** o
 HRESULT Component::Install(BOOL install, const wchar_t* forWhom) const {
     using Function = HRESULT STDAPICALLTYPE(BOOL, LPCWSTR);
     return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(Export("DllInstall")))(install, forWhom);
+}
+
+HRESULT Component::RegisterAsAllowed() const {
+    return MayRegisterForMachine() ? Register() : Install(TRUE, L"user");
+}
+
+HRESULT Component::UnregisterAsAllowed() const {
+    return MayRegisterForMachine() ? Unregister() : Install(FALSE, L"user");
 }
 
 HRESULT Component::Call(const char* name) const {

@@ -28,6 +28,9 @@ class Component {
     HRESULT Unregister() const { return Call("DllUnregisterServer"); }
     /// What an installer calls: "user" registers for the user alone.
     HRESULT Install(BOOL install, const wchar_t* forWhom) const;
+    /// For the machine where this process may, else for the user: so that the tests find the class.
+    HRESULT RegisterAsAllowed() const;
+    HRESULT UnregisterAsAllowed() const;
     HRESULT CanUnloadNow() const { return Call("DllCanUnloadNow"); }
     HRESULT GetClassObject(REFCLSID classId, REFIID interfaceId, void** object) const;
 

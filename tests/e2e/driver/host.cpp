@@ -3,6 +3,7 @@
 #include <ocidl.h>
 
 #include "data/date.h"
+#include "e2e/driver/input.h"
 #include "e2e/driver/wait.h"
 
 namespace tavrin::e2e {
@@ -27,10 +28,34 @@ ComPtr<_Utile> CreateThroughCom() {
     return object;
 }
 
-// Away from the corner in which the palette opens and from the middle of the screen.
+// Away from the corner in which the palette opens and from the middle of the screen, whatever its size.
 HWND CreateMainWindow() {
-    return CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE | SS_NOTIFY, 820, 760, 400,
-                           220, nullptr, nullptr, nullptr, nullptr);
+    constexpr int Width = 400;
+    constexpr int Height = 220;
+    constexpr int FromRight = 60;
+    constexpr int FromBottom = 44;
+    RECT area{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    return CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE | SS_NOTIFY,
+                           area.right - FromRight - Width, area.bottom - FromBottom - Height, Width, Height,
+                           nullptr, nullptr, nullptr, nullptr);
+}
+
+bool IsInForeground() {
+    DWORD process = 0;
+    GetWindowThreadProcessId(GetForegroundWindow(), &process);
+    return process == GetCurrentProcessId();
+}
+
+/// Windows gives the foreground to no program that the user was not working with: a click is what it always
+/// follows. Above all others for a moment, the window is there to be clicked.
+void TakeForeground(const Window& window) {
+    if (IsInForeground()) return;
+    constexpr UINT InPlace = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
+    SetWindowPos(window.Handle(), HWND_TOPMOST, 0, 0, 0, 0, InPlace);
+    Click(window);
+    Require("the host in the foreground", IsInForeground);
+    SetWindowPos(window.Handle(), HWND_NOTOPMOST, 0, 0, 0, 0, InPlace);
 }
 
 }  // namespace
@@ -39,13 +64,14 @@ DATE OleDay(const HostValues& values) {
     return data::ToOleDate({values.year, values.month, values.day}).days;
 }
 
-Host::Host(LoopKind loop) : ui_(loop) {
+Host::Host(LoopKind loop, HostData data) : ui_(loop) {
     Call([&] {
         mainWindow_ = Window(CreateMainWindow());
-        database_ = std::make_unique<Database>();
+        if (data == HostData::Embedded) database_ = std::make_unique<Database>();
         sink_ = win32::MakeObject<EventSink>();
         CreateObject();
     });
+    TakeForeground(mainWindow_);
 }
 
 Host::~Host() {
@@ -128,7 +154,7 @@ void Host::Run(const std::string& statement) {
 }
 
 int Host::ReferencesToConnection() {
-    return Call([&] { return database_->ReferencesToConnection(); });
+    return Call([&] { return database_ ? database_->ReferencesToConnection() : 0; });
 }
 
 }  // namespace tavrin::e2e

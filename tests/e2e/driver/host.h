@@ -27,13 +27,16 @@ struct HostValues {
 /// A day in the month that company 1 has frozen.
 inline constexpr HostValues FrozenMarch{.year = 2003, .month = 3, .day = 20, .company = 1};
 
+/// Whether the host has the database of its own, with the objects that stand for ADO's in its process.
+enum class HostData { Embedded, None };
+
 /// An accounting program: a window, a database, and the component's object with a listener to its event, all
 /// on one user-interface thread. Its members may be used from the test's thread; what they give back that
 /// belongs to the host's thread is to be used inside Ui().Call alone.
 class Host {
   public:
     /// Creates the object through COM by its ProgID and listens to it. \throws DriverError
-    explicit Host(LoopKind loop = LoopKind::Plain);
+    explicit Host(LoopKind loop = LoopKind::Plain, HostData data = HostData::Embedded);
     ~Host();
     Host(const Host&) = delete;
     Host& operator=(const Host&) = delete;
@@ -45,6 +48,7 @@ class Host {
         return ui_.Call(std::forward<Function>(function));
     }
 
+    /// Hands the host's own database over. \pre it has one
     HRESULT Apel(const HostValues& values = {});
     HRESULT ApelWith(IDispatch* connection, const HostValues& values = {});
 
@@ -74,7 +78,7 @@ class Host {
     std::vector<std::vector<std::string>> Rows(const std::string& query);
     void Run(const std::string& statement);
     void SetCodePage(host::CodePage page);
-    int ReferencesToConnection();
+    int ReferencesToConnection();  ///< besides the host's own; 0 where it has no database
 
   private:
     void Use(win32::ComPtr<_Utile> object);

@@ -1,7 +1,10 @@
 #include "e2e/driver/input.h"
 
+#include <functional>
+#include <string>
 #include <vector>
 
+#include "e2e/driver/platform.h"
 #include "e2e/driver/screen.h"
 #include "e2e/driver/wait.h"
 
@@ -60,11 +63,33 @@ void SendChord(std::vector<INPUT> inputs) {
     UiThread::HoldAll([&] { Send(std::move(inputs)); });
 }
 
+/// Windows has a thread of its own bring the mouse's events to the windows, so what is done next could
+/// overtake them; under Wine they are there when SendInput returns. A display that is scaled may round the
+/// place, so this gives up.
+void AwaitMouse(const std::function<bool()>& hasArrived) {
+    constexpr unsigned long TimeToArrive = 250;
+    if (!IsWine()) WaitUntil(hasArrived, TimeToArrive);
+}
+
+/// Presses a button of the mouse, or lets it go.
+void SendButton(Button button, Stroke stroke) {
+    const bool left = button == Button::Left;
+    const bool down = stroke == Stroke::Down;
+    const DWORD pressed = left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN;
+    const DWORD released = left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP;
+    Send({MouseInput(down ? pressed : released)});
+    AwaitMouse([&] { return (GetAsyncKeyState(left ? VK_LBUTTON : VK_RBUTTON) < 0) == down; });
+}
+
 /// Moves the pointer and waits until the windows' threads know. The display tells them in its own time of
 /// where the pointer has been put; a button pressed before that would go down at the place before.
 void Point(POINT place) {
     constexpr int RoundTrips = 3;  // a display that serves several clients has then come round to each
     Send({MoveInput(place)});
+    AwaitMouse([&] {
+        const POINT now = PointerPlace();
+        return now.x == place.x && now.y == place.y;
+    });
     for (int trip = 0; trip < RoundTrips; ++trip)
         AskDisplay();
     UiThread::SettleAll();
@@ -86,7 +111,13 @@ void PressKey(WORD key, std::initializer_list<WORD> held) {
 void TypeText(std::string_view text) {
     for (const char character : text) {
         const SHORT key = VkKeyScanW(static_cast<wchar_t>(character));
-        const bool shifted = (HIBYTE(key) & 1) != 0;
+        const int held = HIBYTE(key);
+        if (held > 1) {
+            // Not every keyboard has the character, or has it without AltGr.
+            TypeUnicode(std::wstring(1, static_cast<wchar_t>(character)));
+            continue;
+        }
+        const bool shifted = held == 1;
         shifted ? PressKey(LOBYTE(key), {VK_SHIFT}) : PressKey(LOBYTE(key));
     }
 }
@@ -116,10 +147,9 @@ POINT PointerPlace() {
 }
 
 void ClickAt(POINT place, Button button) {
-    const bool left = button == Button::Left;
     Point(place);
-    Send({MouseInput(left ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_RIGHTDOWN),
-          MouseInput(left ? MOUSEEVENTF_LEFTUP : MOUSEEVENTF_RIGHTUP)});
+    SendButton(button, Stroke::Down);
+    SendButton(button, Stroke::Up);
 }
 
 void Click(const Window& target, Button button) {
@@ -141,11 +171,11 @@ void Click(const Window& target, Button button) {
 void Drag(UiThread& thread, POINT from, POINT to) {
     constexpr int Steps = 4;
     Point(from);
-    Send({MouseInput(MOUSEEVENTF_LEFTDOWN)});
+    SendButton(Button::Left, Stroke::Down);
     thread.Settle();
     for (int step = 1; step <= Steps; ++step)
         Point({from.x + (to.x - from.x) * step / Steps, from.y + (to.y - from.y) * step / Steps});
-    Send({MouseInput(MOUSEEVENTF_LEFTUP)});
+    SendButton(Button::Left, Stroke::Up);
     thread.Settle();
 }
 

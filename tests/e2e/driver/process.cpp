@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <array>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -40,7 +41,7 @@ void OpenOutput(const std::wstring& path, OwnedHandle& file) {
 }
 
 std::string ReadFile(const std::wstring& path) {
-    std::ifstream file(win32::ToUtf8(path), std::ios::binary);
+    std::ifstream file(std::filesystem::path(path), std::ios::binary);
     std::string text{std::istreambuf_iterator<char>(file), {}};
     std::erase(text, '\r');
     return text;

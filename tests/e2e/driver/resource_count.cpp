@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 
+#include "e2e/driver/platform.h"
 #include "win32/handles.h"
 #include "win32/text.h"
 
@@ -69,9 +70,22 @@ std::size_t BytesInUse(HANDLE heap) {
     return bytes;
 }
 
+/// Wine counts none; Windows counts them itself, and its tables are others than Wine's.
+bool DoesSystemCount() {
+    return !IsWine();
+}
+
+int CountedBySystem(DWORD kind) {
+    return static_cast<int>(GetGuiResources(GetCurrentProcess(), kind));
+}
+
 std::map<std::string, int> CountGdiObjects() {
     GdiFlush();
     std::map<std::string, int> counts;
+    if (DoesSystemCount()) {
+        return {{"GDI objects", CountedBySystem(GR_GDIOBJECTS)},
+                {"user objects", CountedBySystem(GR_USEROBJECTS)}};
+    }
     const GdiEntry* table = GdiTable();
     for (int i = 0; i < GdiTableSize; ++i) {
         if (table[i].type != 0) ++counts[GdiKind(table[i].type)];
@@ -166,8 +180,10 @@ std::multiset<std::string> NamesOfGlobalAtoms() {
 ResourceCount ResourceCount::Take() {
     ResourceCount count;
     count.windows = CountWindows();
-    count.menus = DescribeUserHandles(DescriptionOfMenu);
-    count.icons = DescribeUserHandles(DescriptionOfIcon);
+    if (!DoesSystemCount()) {
+        count.menus = DescribeUserHandles(DescriptionOfMenu);
+        count.icons = DescribeUserHandles(DescriptionOfIcon);
+    }
     count.globalAtoms = NamesOfGlobalAtoms();
     count.gdiObjects = CountGdiObjects();
     return count;

@@ -14,11 +14,11 @@ namespace tavrin::e2e {
 /// How much of the system's shared goods this process holds, by kind. Two counts can be compared; the order
 /// of counting does not matter, since counting itself leaves nothing behind.
 struct ResourceCount {
-    std::map<std::string, int>
-        gdiObjects;                    ///< by kind, from the table that the process shares with the system
-    int windows = 0;                   ///< hidden and message-only ones too
-    std::multiset<std::string> menus;  ///< by the texts of their entries
-    std::multiset<std::string> icons;  ///< cursors too, by where they come from
+    std::map<std::string, int> gdiObjects;  ///< by kind, from the table that the process shares with the
+                                            ///< system; on Windows its own sums
+    int windows = 0;                        ///< hidden and message-only ones too
+    std::multiset<std::string> menus;       ///< by the texts of their entries; under Wine
+    std::multiset<std::string> icons;       ///< cursors too, by where they come from; under Wine
     std::multiset<std::string> globalAtoms;
 
     static ResourceCount Take();

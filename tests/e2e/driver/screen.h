@@ -18,7 +18,8 @@ std::string SaveScreenshot(const std::string& name);
 /// Where screenshots go: a Windows path, empty for none. Set once, before the tests run.
 void SetScreenshotFolder(std::wstring folder);
 
-/// Waits for the display's answer to a question; whatever it had to tell this thread before has come with it.
+/// Where the display is a server of its own, as under Wine: waits for the display's answer to a question;
+/// whatever it had to tell this thread before has come with it.
 void AskDisplay();
 
 }  // namespace tavrin::e2e

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <filesystem>
 #include <fstream>
 
 #include "e2e/driver/wait.h"
@@ -12,7 +13,7 @@ namespace tavrin::e2e {
 namespace {
 
 void WriteFile(const std::wstring& path, const std::string& text) {
-    std::ofstream file(win32::ToUtf8(path), std::ios::binary);
+    std::ofstream file(std::filesystem::path(path), std::ios::binary);
     file << text;
     if (!file.flush()) throw DriverError("cannot write " + win32::ToUtf8(path));
 }

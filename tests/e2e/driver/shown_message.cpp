@@ -22,6 +22,24 @@ HICON ShownIcon(HWND message) {
     return nullptr;
 }
 
+bool HasButton(HWND message, int id) {
+    const HWND button = GetDlgItem(message, id);
+    return button != nullptr && IsWindowVisible(button);
+}
+
+/// Windows gives a sole OK the number of Cancel, so that Escape presses it, and answers IDOK; Wine does not.
+bool IsSoleOkNumberedCancel(HWND message) {
+    return std::ranges::all_of(AllButtons,
+                               [&](int id) { return HasButton(message, id) == (id == IDCANCEL); });
+}
+
+/// The button by the answer that it gives, null where there is none.
+HWND ButtonOf(HWND message, int answer) {
+    if (answer != IDOK && answer != IDCANCEL) return GetDlgItem(message, answer);
+    if (!IsSoleOkNumberedCancel(message)) return GetDlgItem(message, answer);
+    return answer == IDOK ? GetDlgItem(message, IDCANCEL) : nullptr;
+}
+
 }  // namespace
 
 std::optional<ShownMessage> ShownMessage::Find() {
@@ -63,23 +81,24 @@ MessageIcon ShownMessage::Icon() const {
 std::vector<int> ShownMessage::Buttons() const {
     std::vector<int> buttons;
     for (const int id : AllButtons) {
-        const HWND button = GetDlgItem(window_.Handle(), id);
+        const HWND button = ButtonOf(window_.Handle(), id);
         if (button != nullptr && IsWindowVisible(button)) buttons.push_back(id);
     }
     std::ranges::sort(buttons, {},
-                      [&](int id) { return Window(GetDlgItem(window_.Handle(), id)).ScreenBounds().left; });
+                      [&](int id) { return Window(ButtonOf(window_.Handle(), id)).ScreenBounds().left; });
     return buttons;
 }
 
 void ShownMessage::Press(int button) const {
-    const Window target(GetDlgItem(window_.Handle(), button));
+    const Window target(ButtonOf(window_.Handle(), button));
     if (!target.Exists()) throw DriverError("the message has no button " + std::to_string(button));
     Click(target);
     Require("the message to close", [&] { return !window_.IsVisible(); });
 }
 
 void ShownMessage::Dismiss() const {
-    PostMessageW(window_.Handle(), WM_COMMAND, static_cast<WPARAM>(Buttons().back()), 0);
+    PostMessageW(window_.Handle(), WM_COMMAND,
+                 static_cast<WPARAM>(GetDlgCtrlID(ButtonOf(window_.Handle(), Buttons().back()))), 0);
 }
 
 }  // namespace tavrin::e2e

@@ -121,7 +121,7 @@ int main(int count, char** arguments) {
         SetScreenshotFolder(BesideThisProgram(L"."));
         // Notes that are typed into being are to lie there and nowhere else.
         SetCurrentDirectoryW(TemporaryPath(L"").c_str());
-        if (Component().Register() != S_OK) throw DriverError("the component cannot be registered");
+        if (Component().RegisterAsAllowed() != S_OK) throw DriverError("the component cannot be registered");
         const int result = Run(options);
         Component().Unregister();
         return result;

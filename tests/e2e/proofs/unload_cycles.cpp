@@ -87,7 +87,7 @@ int main(int count, char** arguments) {
     }
     try {
         Component::SetPath(BesideThisProgram(L"..\\..\\..\\Tavrin.dll"));
-        if (Component().Register() != S_OK) throw DriverError("the component cannot be registered");
+        if (Component().RegisterAsAllowed() != S_OK) throw DriverError("the component cannot be registered");
         const int result = Run(options);
         Component().Unregister();
         return result;

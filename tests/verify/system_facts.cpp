@@ -1,0 +1,122 @@
+#include "verify/system_facts.h"
+
+#include <windows.h>
+
+#include <winternl.h>
+
+#include <array>
+
+#include "verify/kit_files.h"
+#include "win32/text.h"
+
+namespace tavrin::verify {
+
+namespace {
+
+/// A function of a system library, null where it lacks it.
+template <class Function>
+Function* Find(const wchar_t* library, const char* name) {
+    return reinterpret_cast<Function*>(
+        reinterpret_cast<void (*)()>(GetProcAddress(GetModuleHandleW(library), name)));
+}
+
+std::string RegistryText(const wchar_t* name) {
+    std::array<wchar_t, 128> value{};
+    auto size = static_cast<DWORD>(sizeof value);
+    const LSTATUS read = RegGetValueW(HKEY_LOCAL_MACHINE, L"Software\\Microsoft\\Windows NT\\CurrentVersion",
+                                      name, RRF_RT_REG_SZ, nullptr, value.data(), &size);
+    return read == ERROR_SUCCESS ? win32::ToUtf8(value.data()) : "";
+}
+
+/// What the kernel says, whatever the program's manifest claims to know.
+std::string WindowsVersion() {
+    RTL_OSVERSIONINFOW version{};
+    version.dwOSVersionInfoSize = sizeof version;
+    if (auto* const ask = Find<LONG WINAPI(RTL_OSVERSIONINFOW*)>(L"ntdll.dll", "RtlGetVersion"))
+        ask(&version);
+    return RegistryText(L"ProductName") + " " + RegistryText(L"DisplayVersion") + ", " +
+           std::to_string(version.dwMajorVersion) + "." + std::to_string(version.dwMinorVersion) + "." +
+           std::to_string(version.dwBuildNumber);
+}
+
+std::string WineVersion() {
+    auto* const ask = Find<const char * CDECL()>(L"ntdll.dll", "wine_get_version");
+    return ask == nullptr ? "no" : ask();
+}
+
+std::string Bitness() {
+    SYSTEM_INFO info{};
+    GetNativeSystemInfo(&info);
+    const bool is32 = info.wProcessorArchitecture == PROCESSOR_ARCHITECTURE_INTEL;
+    const bool isArm = info.wProcessorArchitecture == PROCESSOR_ARCHITECTURE_ARM64;
+    return std::string(is32 ? "32-bit" : "64-bit") + (isArm ? " (ARM)" : "") + " system, " +
+           std::to_string(8 * sizeof(void*)) + "-bit programs";
+}
+
+/// This program knows nothing of resolutions, so the system may tell it smaller sizes than there are.
+std::string Display() {
+    const HDC screen = GetDC(nullptr);
+    const int told = GetDeviceCaps(screen, HORZRES);
+    const int real = GetDeviceCaps(screen, DESKTOPHORZRES);
+    const std::string sizes = std::to_string(real) + " by " +
+                              std::to_string(GetDeviceCaps(screen, DESKTOPVERTRES)) + " pixels, told " +
+                              std::to_string(told) + " by " + std::to_string(GetDeviceCaps(screen, VERTRES)) +
+                              " at " + std::to_string(GetDeviceCaps(screen, LOGPIXELSX)) + " DPI, " +
+                              std::to_string(GetDeviceCaps(screen, BITSPIXEL)) +
+                              " bits; displays: " + std::to_string(GetSystemMetrics(SM_CMONITORS));
+    ReleaseDC(nullptr, screen);
+    return sizes + (GetSystemMetrics(SM_REMOTESESSION) != 0 ? "; a remote session" : "");
+}
+
+std::string Locale() {
+    std::array<wchar_t, LOCALE_NAME_MAX_LENGTH> name{};
+    GetUserDefaultLocaleName(name.data(), static_cast<int>(name.size()));
+    std::array<wchar_t, KL_NAMELENGTH> keyboard{};
+    GetKeyboardLayoutNameW(keyboard.data());
+    std::array<wchar_t, 8> decimal{};
+    GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_SDECIMAL, decimal.data(),
+                    static_cast<int>(decimal.size()));
+    return win32::ToUtf8(name.data()) + ", decimal sign " + win32::ToUtf8(decimal.data()) + ", code pages " +
+           std::to_string(GetACP()) + " and " + std::to_string(GetOEMCP()) + ", keyboard " +
+           win32::ToUtf8(keyboard.data()) + ", Windows in language " +
+           std::to_string(GetUserDefaultUILanguage());
+}
+
+std::string Elevation() {
+    HANDLE token = nullptr;
+    TOKEN_ELEVATION elevation{};
+    DWORD size = 0;
+    if (OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token) != FALSE) {
+        GetTokenInformation(token, TokenElevation, &elevation, sizeof elevation, &size);
+        CloseHandle(token);
+    }
+    return elevation.TokenIsElevated != 0 ? "yes" : "no";
+}
+
+std::string Now() {
+    SYSTEMTIME now{};
+    GetSystemTime(&now);
+    char text[32];
+    std::snprintf(text, sizeof text, "%04u-%02u-%02u %02u:%02u UTC", now.wYear, now.wMonth, now.wDay,
+                  now.wHour, now.wMinute);
+    return text;
+}
+
+}  // namespace
+
+bool IsWine() {
+    return WineVersion() != "no";
+}
+
+std::vector<Fact> ReadSystemFacts() {
+    return {{"Time", Now()},
+            {"Windows", WindowsVersion()},
+            {"Wine", WineVersion()},
+            {"Bitness", Bitness()},
+            {"Display", Display()},
+            {"Locale", Locale()},
+            {"Administrator", Elevation()},
+            {"Tavrin.dll", FileVersion(L"Tavrin.dll")}};
+}
+
+}  // namespace tavrin::verify
