@@ -19,7 +19,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// Frees nothing of the test's rows, and lies in their month.
+/// In the month of the rows below, none of which is frozen.
 constexpr HostValues JuneOnServer{.year = 2003, .month = 6, .day = 16, .company = 2};
 
 constexpr std::array RowsOnServer{
@@ -57,10 +57,12 @@ class ServerTest : public HostTest {
         HostTest::TearDown();
     }
 
+    Window OpenThePalette() {
+        return AwaitPalette(host->ApelWith(host->Call([&] { return ado_.Object().Get(); }), JuneOnServer));
+    }
+
     Window Open(const char* button, const char* name) {
-        const Window palette =
-            AwaitPalette(host->ApelWith(host->Call([&] { return ado_.Object().Get(); }), JuneOnServer));
-        Click(palette.Control(button));
+        Click(OpenThePalette().Control(button));
         const Window window = AwaitForm(name);
         Require("the window's focus", [&] { return window.HasFocus(); });
         host->Ui().Settle();
@@ -105,7 +107,7 @@ class ServerTest : public HostTest {
 };
 
 TEST_F(ServerTest, ThePaletteOpens) {
-    EXPECT_TRUE(AwaitPalette(host->ApelWith(nullptr, JuneOnServer)).IsTopmost());
+    EXPECT_TRUE(OpenThePalette().IsTopmost());
 }
 
 TEST_F(ServerTest, TheRateListShowsWhatIsStored) {
@@ -167,7 +169,7 @@ TEST_F(ServerTest, WhatTheServerRefusesIsTold) {
     Click(list.Control("cmdAction(3)"));
     AwaitForm("CereMoneda");
     ASSERT_TRUE(AwaitFocus("txtMoneda"));
-    TypeText("GBP");
+    TypeText("ZZZ");
     PressKey(VK_RETURN);
     PressKey(VK_RETURN);
     const ShownMessage message = ShownMessage::Await();

@@ -5,7 +5,7 @@
 namespace tavrin::verify {
 
 const char* const UsageText =
-    "Usage: verify.cmd [--quick | --filter PATTERN] [CONNECTION STRING]\n"
+    "Usage: .\\verify.cmd [--quick | --filter PATTERN] [CONNECTION STRING]\n"
     "\n"
     "Runs the end-to-end tests of the Tavrin.dll in this folder on this desktop and writes report.txt here,\n"
     "with pictures of what failed in pictures. Leave mouse and keyboard alone meanwhile.\n"
@@ -22,7 +22,7 @@ const char* const UsageText =
     "3 when the scratch database could not be made or removed.\n";
 
 const char* const QuickFilter =
-    "DriverTest.*:*PaletteTest.*:RegistrationTest.*:ScriptTest.*:VersionResourceTest.*";
+    "DriverTest.*:*PaletteTest.*/Plain:RegistrationTest.*:ScriptTest.*:VersionResourceTest.*";
 
 Options ParseOptions(const std::vector<std::string>& arguments) {
     Options options;

@@ -72,7 +72,7 @@ void AddRun(std::string& text, const TestRun& run) {
     for (const TestResult& test : run.tests)
         if (test.outcome != Outcome::Passed) AddTest(text, test);
     for (const std::string& problem : run.problems)
-        text += "  " + problem + "\n";
+        text += Indented(problem);
     text += "  Passed:\n";
     for (const TestResult& test : run.tests)
         if (test.outcome == Outcome::Passed) text += "    " + test.name + "\n";

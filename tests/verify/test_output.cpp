@@ -40,6 +40,9 @@ void TestOutput::Add(std::string_view line) {
         if (line.starts_with("[  SKIPPED ] ")) return End(Outcome::Skipped);
         if (line.starts_with(Picture)) test.picture = FileName(After(Picture, line));
         if (test.said.size() < LongestSaying) test.said.append(line).append("\n");
+    } else {
+        lastWords_.append(line).append("\n");
+        if (lastWords_.size() > LongestSaying) lastWords_.erase(0, lastWords_.size() - LongestSaying);
     }
 }
 

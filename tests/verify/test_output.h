@@ -26,6 +26,8 @@ class TestOutput {
     const std::vector<TestResult>& Results() const { return results_; }
     /// How many tests the program said it would run; 0 before it has.
     int Announced() const { return announced_; }
+    /// The last of what it said outside of tests: why it ended where no test tells.
+    const std::string& LastWords() const { return lastWords_; }
 
   private:
     void End(Outcome outcome);
@@ -33,6 +35,7 @@ class TestOutput {
     std::vector<TestResult> results_;
     bool isRunning_ = false;
     int announced_ = 0;
+    std::string lastWords_;
 };
 
 }  // namespace tavrin::verify

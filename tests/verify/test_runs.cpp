@@ -51,7 +51,8 @@ void RunShard(TestRun& run, const std::string& filter, const Variables& variable
     const bool isExplained = std::ranges::any_of(results, [](const TestResult& test) {
         return test.outcome == Outcome::Failed || test.outcome == Outcome::Unfinished;
     });
-    if (end.wasEnded || (end.exitCode != 0 && !isExplained)) run.problems.push_back(EndingOf(end));
+    if (end.wasEnded || (end.exitCode != 0 && !isExplained))
+        run.problems.push_back(EndingOf(end) + "; its last words:\n" + output.LastWords());
 }
 
 }  // namespace

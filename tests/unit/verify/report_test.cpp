@@ -55,6 +55,12 @@ TEST(TestOutputTest, TheListAtTheEndIsNoTest) {
     EXPECT_EQ(output.Announced(), 1);
 }
 
+TEST(TestOutputTest, WhatIsSaidOutsideOfTestsIsKept) {
+    const auto output =
+        Heard({"cannot load it", "[ RUN      ] A.Good", "in the test", "[       OK ] A.Good (1 ms)", "end"});
+    EXPECT_EQ(output.LastWords(), "cannot load it\nend\n");
+}
+
 TEST(ReportTest, TheVerdictIsThatOfTheWorstTest) {
     EXPECT_EQ(VerdictOf(ReportOf({{.name = "A", .outcome = Outcome::Passed}})), Verdict::Passed);
     for (const Outcome bad : {Outcome::Failed, Outcome::Unfinished}) {
