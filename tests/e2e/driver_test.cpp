@@ -157,6 +157,30 @@ TEST_F(DriverTest, ReadsAndAnswersMessages) {
     EXPECT_EQ(answer.get(), IDNO);
 }
 
+TEST_F(DriverTest, ASoleOkIsOneWhateverItsNumber) {
+    Open();
+    auto answer = std::async(std::launch::async, [&] {
+        return thread.Call([] { return MessageBoxW(nullptr, L"So.", L"", MB_OK); });
+    });
+    const ShownMessage message = ShownMessage::Await();
+    EXPECT_THAT(message.Buttons(), ElementsAre(IDOK));
+    // As Windows numbers it. The system's answer to that is its own.
+    const HWND ok = FindWindowExW(GetForegroundWindow(), nullptr, L"Button", nullptr);
+    SetWindowLongPtrW(ok, GWLP_ID, IDCANCEL);
+    EXPECT_THAT(message.Buttons(), ElementsAre(IDOK));
+    message.Press(IDOK);
+    answer.wait();
+}
+
+TEST_F(DriverTest, TypesWhatNoKeyGives) {
+    Open();
+    const Window edit = AwaitForm("Sample").Control("txtField(1)");
+    Click(edit);
+    ASSERT_TRUE(AwaitFocus("txtField(1)"));
+    TypeText("a\xA7z");
+    EXPECT_TRUE(WaitUntil([&] { return edit.Text() == "a\u00A7z"; })) << edit.Text();
+}
+
 TEST_F(DriverTest, CallsPassFailuresOn) {
     EXPECT_THROW(thread.Call([] { throw DriverError("inside"); }), DriverError);
     EXPECT_EQ(thread.Call([] { return 3; }), 3);

@@ -110,11 +110,11 @@ void PressKey(WORD key, std::initializer_list<WORD> held) {
 
 void TypeText(std::string_view text) {
     for (const char character : text) {
-        const SHORT key = VkKeyScanW(static_cast<wchar_t>(character));
+        const SHORT key = VkKeyScanW(static_cast<unsigned char>(character));
         const int held = HIBYTE(key);
         if (held > 1) {
             // Not every keyboard has the character, or has it without AltGr.
-            TypeUnicode(std::wstring(1, static_cast<wchar_t>(character)));
+            TypeUnicode(std::wstring(1, static_cast<unsigned char>(character)));
             continue;
         }
         const bool shifted = held == 1;

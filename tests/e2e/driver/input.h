@@ -17,7 +17,7 @@ namespace tavrin::e2e {
 /// Presses and releases a key by its virtual-key code, the given ones held.
 void PressKey(WORD key, std::initializer_list<WORD> held = {});
 
-/// Digits, letters and blanks.
+/// Characters of Latin-1: by their keys, or as TypeUnicode where the layout has no key for one without AltGr.
 void TypeText(std::string_view text);
 
 /// Characters that no key of the layout gives, as an input method sends them.

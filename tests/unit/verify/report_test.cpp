@@ -30,7 +30,7 @@ TEST(TestOutputTest, TellsHowEachTestEnded) {
     const auto results =
         Heard({"[==========] Running 4 tests from 1 test suite.", "[ RUN      ] A.Good",
                "[       OK ] A.Good (1 ms)\r", "[ RUN      ] A.Bad", "a.cpp:3: Failure",
-               "Its picture: Z:\\kit\\pictures\\A.Bad.png", "[  FAILED  ] A.Bad (2 ms)", "[ RUN      ] A.Not",
+               R"(Its picture: Z:\kit\pictures\A.Bad.png)", "[  FAILED  ] A.Bad (2 ms)", "[ RUN      ] A.Not",
                "[  SKIPPED ] A.Not (0 ms)", "[ RUN      ] A.Crash", "[  FAILED  ] 1 test, listed below:"})
             .Results();
     ASSERT_EQ(results.size(), 4U);
@@ -101,7 +101,7 @@ TEST(ReportTest, SaysWhatFailedAndWhereItsPictureIs) {
 
 TEST(SecretsTest, AreWithheldWhereverTheyAppear) {
     const std::string connection =
-        "Provider=X; User ID = boss ;Password=\"a;b\";Data Source=SRV\\ONE;Timeout=15";
+        R"(Provider=X; User ID = boss ;Password="a;b";Data Source=SRV\ONE;Timeout=15)";
     const std::string text = Secrets(connection)
                                  .Withheld("Login failed for 'BOSS' at srv\\one with a;b, " + connection +
                                            "; Provider=X after 15");
