@@ -24,4 +24,6 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 foreach(kind EXE SHARED MODULE)
   set(CMAKE_${kind}_LINKER_FLAGS_INIT "-static -fuse-ld=lld -L${gcc} -lpthread")
   set(CMAKE_${kind}_LINKER_FLAGS_RELEASE_INIT "-s")
+  # An inline function of <typeinfo> is in GCC's library once more; unoptimised code calls it.
+  set(CMAKE_${kind}_LINKER_FLAGS_DEBUG_INIT "-Wl,--allow-multiple-definition")
 endforeach()

@@ -2,10 +2,14 @@
 
 #include <exception>  // tells which runtime this is
 
+#ifdef __clang__
+#pragma clang diagnostic ignored "-Wreserved-identifier"  // the runtime's own names
+#endif
+
 #ifdef __GLIBCXX__
 namespace __gnu_cxx {
 // The runtime's own name, which no header of it declares.
-void __freeres();  // NOLINT(bugprone-reserved-identifier,readability-identifier-naming)
+void __freeres();  // NOLINT(readability-identifier-naming)
 }  // namespace __gnu_cxx
 #endif
 

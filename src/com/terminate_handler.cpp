@@ -5,9 +5,13 @@
 #include <cstdlib>
 #include <exception>
 
-namespace __gnu_cxx {  // NOLINT(bugprone-reserved-identifier): the runtime's own name for it
+#ifdef __clang__
+#pragma clang diagnostic ignored "-Wreserved-identifier"  // the runtime's own names
+#endif
 
-void __verbose_terminate_handler() {  // NOLINT(bugprone-reserved-identifier,readability-identifier-naming)
+namespace __gnu_cxx {
+
+void __verbose_terminate_handler() {  // NOLINT(readability-identifier-naming)
     std::abort();
 }
 
