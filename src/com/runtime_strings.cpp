@@ -5,5 +5,9 @@
 // all it leaves out little, as the tables for exceptions refer to every function. runtime_old_strings.cpp
 // does the same for another file.
 
+#ifndef __clang__  // as in the other file
+
 template std::string::pointer std::string::_M_create(std::string::size_type&, std::string::size_type);
 template void std::string::_M_assign(const std::string&);
+
+#endif

@@ -280,9 +280,8 @@ const char* Notes::ProblemOfPictures(const RtfReading& reading) const {
     if (reading.note.pictures.empty()) return nullptr;
     try {
         const RtfReading kept = ReadWritten(txtNota.Save());
-        if (kept.outcome == RtfOutcome::Whole)
-            return kept.note.pictures.size() < reading.note.pictures.size() ? text::PicturesNotShown
-                                                                            : nullptr;
+        const bool lacksSome = kept.note.pictures.size() < reading.note.pictures.size();
+        if (kept.outcome == RtfOutcome::Whole) return lacksSome ? text::PicturesNotShown : nullptr;
     } catch (const std::exception&) {
         // Nobody knows, then.
     }
