@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "data/error.h"
+#include "data/pass_through_recordset.h"
 #include "data/statement_without_texts.h"
 
 namespace tavrin::data {
@@ -53,46 +54,30 @@ void Trace(const std::shared_ptr<Diagnosis> listener, std::string_view statement
     });
 }
 
-/// Tells what it is opened with and what a requery takes; all else passes through.
-class TracedRecordset : public Recordset {
+/// Tells what it is opened with and what a requery takes.
+class TracedRecordset : public PassThroughRecordset {
   public:
     TracedRecordset(std::shared_ptr<Diagnosis> listener, std::unique_ptr<Recordset> rows)
-        : listener_(std::move(listener)), rows_(std::move(rows)) {}
+        : PassThroughRecordset(std::move(rows)), listener_(std::move(listener)) {}
 
-    std::unique_ptr<Recordset> Release() { return std::move(rows_); }
+    std::unique_ptr<Recordset> Release() { return TakeRows(); }
 
     void Open(std::string_view source) override {
         source_ = source;
         Trace(listener_, source, [&] {
-            rows_->Open(source);
-            return rows_.get();
+            Rows().Open(source);
+            return &Rows();
         });
     }
     void Requery() override {
         Trace(listener_, source_, [&] {
-            rows_->Requery();
-            return rows_.get();
+            Rows().Requery();
+            return &Rows();
         });
     }
 
-    bool IsOpen() const override { return rows_->IsOpen(); }
-    void Close() override { rows_->Close(); }
-    bool AtBeginning() const override { return rows_->AtBeginning(); }
-    bool AtEnd() const override { return rows_->AtEnd(); }
-    void MoveFirst() override { rows_->MoveFirst(); }
-    void MoveNext() override { rows_->MoveNext(); }
-    void Move(std::int64_t rows) override { rows_->Move(rows); }
-    std::int64_t RecordCount() const override { return rows_->RecordCount(); }
-    std::int64_t AffectedRows() const override { return rows_->AffectedRows(); }
-    std::size_t FieldCount() const override { return rows_->FieldCount(); }
-    std::string FieldName(std::size_t field) const override { return rows_->FieldName(field); }
-    Value Field(std::size_t field) const override { return rows_->Field(field); }
-    Value Field(std::string_view name) const override { return rows_->Field(name); }
-    TablePtr ReadAll() override { return rows_->ReadAll(); }
-
   private:
     std::shared_ptr<Diagnosis> listener_;
-    std::unique_ptr<Recordset> rows_;
     std::string source_;
 };
 

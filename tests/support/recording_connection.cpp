@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "data/pass_through_recordset.h"
+
 namespace tavrin::tests {
 namespace {
 
@@ -81,42 +83,28 @@ namespace {
 using State = RecordingConnection::State;
 
 /// Records what a window does with one recordset; moves and field reads pass through unrecorded.
-class RecordingRecordset : public data::Recordset {
+class RecordingRecordset : public data::PassThroughRecordset {
   public:
     RecordingRecordset(std::shared_ptr<State> state, std::unique_ptr<data::Recordset> rows,
                        std::string source)
-        : state_(std::move(state)), rows_(std::move(rows)), source_(std::move(source)) {}
+        : PassThroughRecordset(std::move(rows)), state_(std::move(state)), source_(std::move(source)) {}
 
     void Open(std::string_view source) override {
         source_ = source;
-        state_->Perform(Operation::Open, source_, [&] { rows_->Open(source); });
+        state_->Perform(Operation::Open, source_, [&] { Rows().Open(source); });
     }
     void Close() override {
-        state_->Perform(Operation::Close, source_, [&] { rows_->Close(); });
+        state_->Perform(Operation::Close, source_, [&] { Rows().Close(); });
     }
     void Requery() override {
-        state_->Perform(Operation::Requery, source_, [&] { rows_->Requery(); });
+        state_->Perform(Operation::Requery, source_, [&] { Rows().Requery(); });
     }
     data::TablePtr ReadAll() override {
-        return state_->Perform(Operation::ReadAll, source_, [&] { return rows_->ReadAll(); });
+        return state_->Perform(Operation::ReadAll, source_, [&] { return Rows().ReadAll(); });
     }
-
-    bool IsOpen() const override { return rows_->IsOpen(); }
-    bool AtBeginning() const override { return rows_->AtBeginning(); }
-    bool AtEnd() const override { return rows_->AtEnd(); }
-    void MoveFirst() override { rows_->MoveFirst(); }
-    void MoveNext() override { rows_->MoveNext(); }
-    void Move(std::int64_t rows) override { rows_->Move(rows); }
-    std::int64_t RecordCount() const override { return rows_->RecordCount(); }
-    std::int64_t AffectedRows() const override { return rows_->AffectedRows(); }
-    std::size_t FieldCount() const override { return rows_->FieldCount(); }
-    std::string FieldName(std::size_t field) const override { return rows_->FieldName(field); }
-    data::Value Field(std::size_t field) const override { return rows_->Field(field); }
-    data::Value Field(std::string_view name) const override { return rows_->Field(name); }
 
   private:
     std::shared_ptr<State> state_;
-    std::unique_ptr<data::Recordset> rows_;
     std::string source_;
 };
 

@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "data/error.h"
-#include "support/pass_through_recordset.h"
+#include "support/pass_through_connection.h"
 #include "windows/agenda_fixture.h"
 
 namespace tavrin::tests {

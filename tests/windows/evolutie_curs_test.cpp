@@ -4,7 +4,7 @@
 
 #include "data/error.h"
 #include "support/counting_peer.h"
-#include "support/pass_through_recordset.h"
+#include "support/pass_through_connection.h"
 #include "support/rates_test.h"
 #include "support/scripted_connection.h"
 

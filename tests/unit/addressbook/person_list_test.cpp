@@ -6,7 +6,7 @@
 #include <limits>
 
 #include "data/error.h"
-#include "support/pass_through_recordset.h"
+#include "support/pass_through_connection.h"
 #include "support/recording_connection.h"
 
 namespace tavrin::addressbook {

@@ -9,7 +9,7 @@
 #include "doctor/core/report.h"
 #include "doctor/core/table_checks.h"
 #include "doctor/embedded/embedded_examination.h"
-#include "support/pass_through_recordset.h"
+#include "support/pass_through_connection.h"
 
 namespace tavrin::doctor {
 namespace {
