@@ -17,7 +17,8 @@ function(tavrin_collect_targets out folder)
 endfunction()
 
 # Target "headers": compiles every header of the given folders, and of those below, alone, with the settings of
-# everything else. Where nothing is precompiled, a source that begins with its own header has done that already.
+# everything else. Where nothing is precompiled and each source is compiled alone, one that begins with its own header
+# has done that already.
 function(tavrin_add_header_check)
   set(sources)
   set(targets)
@@ -25,7 +26,7 @@ function(tavrin_add_header_check)
     file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/${folder}/*.h)
     foreach(header ${headers})
       string(REGEX REPLACE "h$" "cpp" own_source ${header})
-      if(NOT TAVRIN_PRECOMPILE AND EXISTS ${PROJECT_SOURCE_DIR}/${own_source})
+      if(NOT TAVRIN_PRECOMPILE AND NOT CMAKE_UNITY_BUILD AND EXISTS ${PROJECT_SOURCE_DIR}/${own_source})
         file(STRINGS ${PROJECT_SOURCE_DIR}/${own_source} first_include REGEX "^#include" LIMIT_COUNT 1)
         get_filename_component(name ${header} NAME)
         if(first_include MATCHES "[\"/]${name}\"")
@@ -43,6 +44,7 @@ function(tavrin_add_header_check)
   endforeach()
   list(REMOVE_DUPLICATES sources)
   add_library(headers OBJECT EXCLUDE_FROM_ALL ${sources})
+  set_target_properties(headers PROPERTIES UNITY_BUILD OFF)
   target_include_directories(headers PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/src
                                              ${PROJECT_SOURCE_DIR}/tests)
   if(NOT TAVRIN_COMPONENT_ONLY)

@@ -7,14 +7,6 @@
 namespace tavrin::tests {
 namespace {
 
-struct Fault {
-    std::string containing;      // empty: any statement
-    std::size_t operationsToGo;  // 1: the next matching operation fails
-    data::Error error;
-    Repeat repeat;
-    bool done = false;
-};
-
 const char* Name(Operation operation) {
     switch (operation) {
         case Operation::Execute:
@@ -38,6 +30,14 @@ bool CarriesStatement(Operation operation) {
 }  // namespace
 
 struct RecordingConnection::State {
+    struct Fault {
+        std::string containing;      // empty: any statement
+        std::size_t operationsToGo;  // 1: the next matching operation fails
+        data::Error error;
+        Repeat repeat;
+        bool done = false;
+    };
+
     std::vector<RecordedOperation> recorded;
     std::vector<Fault> faults;
 

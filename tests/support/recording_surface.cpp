@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "forms/utf8.h"
+#include "support/text_metrics.h"
 
 namespace tavrin::tests {
 
@@ -14,9 +15,6 @@ using forms::PointF;
 using forms::Rect;
 
 constexpr int Far = 1 << 28;
-constexpr double CharacterWidth = 0.55;
-constexpr double BoldCharacterWidth = 0.6;
-constexpr double LineHeight = 1.2;
 
 Rect Intersection(const Rect& a, const Rect& b) {
     const int left = std::max(a.left, b.left);

@@ -5,6 +5,7 @@
 
 #include "forms/utf8.h"
 #include "support/png_file.h"
+#include "support/text_metrics.h"
 
 namespace tavrin::tests {
 
@@ -12,9 +13,6 @@ namespace {
 
 using forms::PixelBox;
 using forms::Rect;
-
-constexpr double CharacterWidth = 0.55;  ///< em
-constexpr double LineHeight = 1.2;
 
 PixelBox Intersection(const PixelBox& a, const PixelBox& b) {
     return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
