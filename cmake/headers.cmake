@@ -18,7 +18,7 @@ endfunction()
 
 # Target "headers": compiles every header of the given folders, and of those below, alone, with the settings of
 # everything else. Where nothing is precompiled and each source is compiled alone, one that begins with its own header
-# has done that already.
+# has done that already. Where they are precompiled, the headers of others are found even where they are not included.
 function(tavrin_add_header_check)
   set(sources)
   set(targets)
@@ -45,6 +45,9 @@ function(tavrin_add_header_check)
   list(REMOVE_DUPLICATES sources)
   add_library(headers OBJECT EXCLUDE_FROM_ALL ${sources})
   set_target_properties(headers PROPERTIES UNITY_BUILD OFF)
+  if(TARGET tavrin_precompiled_windows)
+    target_precompile_headers(headers REUSE_FROM tavrin_precompiled_windows)
+  endif()
   target_include_directories(headers PRIVATE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/src
                                              ${PROJECT_SOURCE_DIR}/tests)
   if(NOT TAVRIN_COMPONENT_ONLY)
