@@ -10,7 +10,7 @@
 #include "host/ado/connection_object.h"
 #include "host/ado/recordset_factory.h"
 #include "host/embedded/embedded_database.h"
-#include "win32/com_ptr.h"
+#include "win32/base/com_ptr.h"
 
 namespace tavrin::bench {
 

@@ -5,7 +5,7 @@
 
 #include "forms/chart.h"
 #include "forms/form.h"
-#include "win32/desktop.h"
+#include "win32/desktop/desktop.h"
 #include "windows/costs.h"
 #include "windows/gdiplus_chart.h"
 #include "windows/message_loop.h"

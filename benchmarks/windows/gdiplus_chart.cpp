@@ -9,7 +9,7 @@ using std::min;
 
 #include <gdiplus.h>
 
-#include "win32/text.h"
+#include "win32/base/text.h"
 #include "windows/message_loop.h"
 
 namespace tavrin::bench {

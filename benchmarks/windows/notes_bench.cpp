@@ -19,8 +19,8 @@
 #include "notes/rtf_reader.h"
 #include "notes/rtf_writer.h"
 #include "sample_note.h"
-#include "win32/desktop.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
+#include "win32/desktop/desktop.h"
 
 namespace {
 

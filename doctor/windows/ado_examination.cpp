@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "win32/ado/provider_errors.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::doctor {
 namespace {

@@ -12,7 +12,7 @@
 #include "doctor/core/program.h"
 #include "doctor/windows/ado_examination.h"
 #include "doctor/windows/this_machine.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::doctor {
 namespace {

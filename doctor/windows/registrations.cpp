@@ -7,9 +7,9 @@
 #include <algorithm>
 
 #include "doctor/windows/file_facts.h"
-#include "win32/com_ptr.h"
-#include "win32/module_path.h"
-#include "win32/text.h"
+#include "win32/base/com_ptr.h"
+#include "win32/base/module_path.h"
+#include "win32/base/text.h"
 
 namespace tavrin::doctor {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "doctor/windows/file_facts.h"
 #include "doctor/windows/registrations.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::doctor {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "host/ado/session.h"
 #include "host/ado/value_variant.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::host {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "win32/unknown_object.h"
+#include "win32/base/unknown_object.h"
 
 namespace tavrin::host {
 

@@ -7,8 +7,8 @@
 #include <functional>
 #include <utility>
 
-#include "win32/com_ptr.h"
-#include "win32/unknown_object.h"
+#include "win32/base/com_ptr.h"
+#include "win32/base/unknown_object.h"
 
 namespace tavrin::host {
 

@@ -5,7 +5,7 @@
 #include "data/error.h"
 #include "host/ado/object_factory.h"
 #include "host/ado/recordset_object.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::host {
 

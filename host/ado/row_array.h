@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/embedded/embedded_recordset.h"
-#include "win32/variant.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::host {
 

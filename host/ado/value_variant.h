@@ -2,7 +2,7 @@
 
 #include "data/value.h"
 #include "host/embedded/field_type.h"
-#include "win32/variant.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::host {
 

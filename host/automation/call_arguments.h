@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string>
 
-#include "win32/variant.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::host {
 

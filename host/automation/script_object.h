@@ -10,9 +10,9 @@
 
 #include "data/error.h"
 #include "host/automation/call_arguments.h"
-#include "win32/com_ptr.h"
-#include "win32/unknown_object.h"
-#include "win32/variant.h"
+#include "win32/base/com_ptr.h"
+#include "win32/base/unknown_object.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::host {
 

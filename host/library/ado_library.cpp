@@ -15,7 +15,7 @@
 #include "host/ado/recordset_object.h"
 #include "host/embedded/demo_data.h"
 #include "host/library/ado_registration.h"
-#include "win32/module_path.h"
+#include "win32/base/module_path.h"
 
 namespace tavrin::host {
 namespace {

@@ -13,7 +13,7 @@ using std::min;
 #include <gdiplus.h>
 
 #include "data/error.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::host {
 namespace {

@@ -1,6 +1,6 @@
 #include "host/pictures/screen_picture.h"
 
-#include "win32/handles.h"
+#include "win32/base/handles.h"
 
 namespace tavrin::host {
 namespace {

@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::host {
 namespace {

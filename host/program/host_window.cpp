@@ -5,7 +5,7 @@
 #include "data/error.h"
 #include "host/program/form_finder.h"
 #include "host/program/screen_scale.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::host {
 namespace {

@@ -24,9 +24,9 @@
 #include "host/program/utilities.h"
 #include "host/program/window_thread.h"
 #include "win32/ado/dispatch_object.h"
-#include "win32/module_path.h"
-#include "win32/text.h"
-#include "win32/variant.h"
+#include "win32/base/module_path.h"
+#include "win32/base/text.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::host {
 namespace {

@@ -7,7 +7,7 @@
 #include "host/pictures/screen_picture.h"
 #include "host/program/tour_steps.h"
 #include "host/program/tour_user.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::host {
 namespace {

@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "data/error.h"
-#include "win32/text.h"
-#include "win32/unknown_object.h"
-#include "win32/variant.h"
+#include "win32/base/text.h"
+#include "win32/base/unknown_object.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::host {
 namespace {

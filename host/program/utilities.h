@@ -11,8 +11,8 @@
 #include <string>
 
 #include "data/value.h"
-#include "win32/com_ptr.h"
-#include "win32/handles.h"
+#include "win32/base/com_ptr.h"
+#include "win32/base/handles.h"
 
 namespace tavrin::host {
 

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "data/error.h"
-#include "win32/variant.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::com {
 namespace {

@@ -7,7 +7,7 @@
 #include <cstdint>
 
 #include "data/value.h"
-#include "win32/com_ptr.h"
+#include "win32/base/com_ptr.h"
 
 namespace tavrin::com {
 

@@ -1,7 +1,7 @@
 #include "com/class_factory.h"
 
 #include "com/utile.h"
-#include "win32/translation.h"
+#include "win32/base/translation.h"
 
 namespace tavrin::com {
 

@@ -5,7 +5,7 @@
 #include <unknwn.h>
 
 #include "com/server.h"
-#include "win32/unknown_object.h"
+#include "win32/base/unknown_object.h"
 
 namespace tavrin::com {
 

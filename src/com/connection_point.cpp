@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "com/enumerator.h"
-#include "win32/translation.h"
+#include "win32/base/translation.h"
 
 namespace tavrin::com {
 namespace {

@@ -8,8 +8,8 @@
 
 #include "com/event_source.h"
 #include "com/server.h"
-#include "win32/com_ptr.h"
-#include "win32/unknown_object.h"
+#include "win32/base/com_ptr.h"
+#include "win32/base/unknown_object.h"
 
 namespace tavrin::com {
 

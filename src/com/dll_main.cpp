@@ -14,8 +14,8 @@
 #include "com/registration.h"
 #include "com/runtime_memory.h"
 #include "com/server.h"
-#include "win32/module_path.h"
-#include "win32/translation.h"
+#include "win32/base/module_path.h"
+#include "win32/base/translation.h"
 
 namespace tavrin::com {
 namespace {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "shell/host_context.h"
-#include "win32/com_ptr.h"
+#include "win32/base/com_ptr.h"
 
 namespace tavrin::com {
 

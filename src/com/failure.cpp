@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "win32/com_ptr.h"
-#include "win32/text.h"
-#include "win32/variant.h"
+#include "win32/base/com_ptr.h"
+#include "win32/base/text.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::com {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <oaidl.h>
 
-#include "win32/translation.h"
+#include "win32/base/translation.h"
 
 namespace tavrin::com {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "com/registry_entries.h"
-#include "win32/module_path.h"
+#include "win32/base/module_path.h"
 
 namespace tavrin::com {
 namespace {

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "com/composition.h"
-#include "win32/message_service.h"
+#include "win32/desktop/message_service.h"
 
 namespace tavrin::com {
 

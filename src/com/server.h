@@ -7,8 +7,8 @@
 
 #include "com/type_library.h"
 #include "shell/module.h"
-#include "win32/desktop.h"
-#include "win32/unknown_object.h"
+#include "win32/base/unknown_object.h"
+#include "win32/desktop/desktop.h"
 
 namespace tavrin::com {
 

@@ -2,7 +2,7 @@
 
 #include <oleauto.h>
 
-#include "win32/module_path.h"
+#include "win32/base/module_path.h"
 
 namespace tavrin::com {
 

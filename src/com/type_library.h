@@ -4,7 +4,7 @@
 
 #include <oaidl.h>
 
-#include "win32/com_ptr.h"
+#include "win32/base/com_ptr.h"
 
 namespace tavrin::com {
 

@@ -10,8 +10,8 @@
 #include "com/connection_point.h"
 #include "com/enumerator.h"
 #include "win32/ado/ado_connection.h"
-#include "win32/debug_output.h"
-#include "win32/translation.h"
+#include "win32/base/debug_output.h"
+#include "win32/base/translation.h"
 
 namespace tavrin::com {
 namespace {

@@ -11,7 +11,7 @@
 #include "com/event_source.h"
 #include "com/failure.h"
 #include "com/server.h"
-#include "win32/unknown_object.h"
+#include "win32/base/unknown_object.h"
 
 namespace tavrin::com {
 

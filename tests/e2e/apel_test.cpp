@@ -4,7 +4,7 @@
 #include "e2e/driver/late_call.h"
 #include "e2e/driver/screen.h"
 #include "e2e/host_test.h"
-#include "win32/variant.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::e2e {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "host/embedded/code_page.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 namespace {

@@ -10,8 +10,8 @@
 
 #include "e2e/driver/component.h"
 #include "e2e/driver/ui_thread.h"
-#include "win32/com_ptr.h"
-#include "win32/text.h"
+#include "win32/base/com_ptr.h"
+#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 

@@ -5,8 +5,8 @@
 #include "e2e/driver/debug_output.h"
 #include "e2e/driver/shown_message.h"
 #include "e2e/host_test.h"
-#include "win32/debug_output.h"
-#include "win32/module_path.h"
+#include "win32/base/debug_output.h"
+#include "win32/base/module_path.h"
 
 namespace tavrin::e2e {
 namespace {

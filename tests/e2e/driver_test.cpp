@@ -12,8 +12,8 @@
 #include "e2e/driver/shown_message.h"
 #include "e2e/driver/ui_thread.h"
 #include "e2e/driver/wait.h"
-#include "win32/name_property.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
+#include "win32/window/name_property.h"
 
 namespace tavrin::e2e {
 namespace {

@@ -7,7 +7,7 @@
 #include "e2e/driver/process_settings.h"
 #include "e2e/driver/shown_message.h"
 #include "e2e/host_test.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "e2e/driver/component.h"
 #include "e2e/driver/process.h"
-#include "win32/module_path.h"
-#include "win32/text.h"
+#include "win32/base/module_path.h"
+#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 namespace {

@@ -8,8 +8,8 @@
 
 #include "data/error.h"
 #include "e2e/driver/component.h"
-#include "win32/library.h"
-#include "win32/module_path.h"
+#include "win32/base/library.h"
+#include "win32/base/module_path.h"
 
 namespace tavrin::e2e {
 namespace {

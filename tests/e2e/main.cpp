@@ -24,7 +24,7 @@
 #include "e2e/driver/screen.h"
 #include "e2e/leaving_host.h"
 #include "e2e/server_variables.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace {
 

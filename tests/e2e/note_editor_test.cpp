@@ -16,7 +16,7 @@
 #include "notes/rtf_writer.h"
 #include "support/note_dump.h"
 #include "unit/notes/corpus.h"
-#include "win32/desktop.h"
+#include "win32/desktop/desktop.h"
 
 namespace tavrin::e2e {
 namespace {

@@ -20,8 +20,8 @@
 #include "e2e/driver/screen.h"
 #include "e2e/driver/shown_message.h"
 #include "e2e/host_test.h"
-#include "win32/rich_edit_stream.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
+#include "win32/peers/rich_edit_stream.h"
 
 namespace tavrin::e2e {
 namespace {

@@ -15,7 +15,7 @@
 #include "e2e/driver/event_sink.h"
 #include "e2e/memory_shortage.h"
 #include "e2e/peers_test.h"
-#include "win32/variant.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::e2e {
 namespace {

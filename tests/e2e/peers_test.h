@@ -20,7 +20,7 @@
 #include "forms/frame.h"
 #include "forms/grid.h"
 #include "forms/text_box.h"
-#include "win32/desktop.h"
+#include "win32/desktop/desktop.h"
 
 namespace tavrin::e2e {
 

@@ -10,7 +10,7 @@
 #include "e2e/driver/random.h"
 #include "e2e/driver/resource_count.h"
 #include "e2e/host_test.h"
-#include "win32/variant.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::e2e {
 namespace {

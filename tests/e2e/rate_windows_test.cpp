@@ -6,7 +6,7 @@
 #include "e2e/driver/accessible_reader.h"
 #include "e2e/driver/clipboard.h"
 #include "e2e/host_test.h"
-#include "win32/number_format.h"
+#include "win32/system/number_format.h"
 
 namespace tavrin::e2e {
 namespace {

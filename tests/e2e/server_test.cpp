@@ -12,7 +12,7 @@
 #include "e2e/host_test.h"
 #include "e2e/server_variables.h"
 #include "win32/ado/ado_connection.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 namespace {

@@ -9,7 +9,7 @@
 #include "e2e/driver/accessible_reader.h"
 #include "e2e/driver/shown_message.h"
 #include "e2e/host_test.h"
-#include "win32/rich_edit_stream.h"
+#include "win32/peers/rich_edit_stream.h"
 
 namespace tavrin::e2e {
 namespace {

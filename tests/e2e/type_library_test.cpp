@@ -7,7 +7,7 @@
 #include <map>
 
 #include "e2e/com_test.h"
-#include "win32/variant.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::e2e {
 namespace {

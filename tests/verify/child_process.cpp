@@ -6,7 +6,7 @@
 #include <memory>
 #include <stdexcept>
 
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::verify {
 

@@ -8,8 +8,8 @@
 #include <stdexcept>
 #include <vector>
 
-#include "win32/module_path.h"
-#include "win32/text.h"
+#include "win32/base/module_path.h"
+#include "win32/base/text.h"
 
 namespace tavrin::verify {
 

@@ -25,7 +25,7 @@
 #include "verify/secrets.h"
 #include "verify/system_facts.h"
 #include "verify/test_runs.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::verify {
 namespace {

@@ -7,7 +7,7 @@
 #include <array>
 
 #include "verify/kit_files.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::verify {
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::verify {
 

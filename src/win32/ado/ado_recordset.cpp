@@ -9,7 +9,7 @@
 #include "win32/ado/ado_table.h"
 #include "win32/ado/provider_errors.h"
 #include "win32/ado/variant_value.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::win32 {
 namespace {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "data/table.h"
-#include "win32/variant.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::win32 {
 

@@ -1,6 +1,6 @@
 #include "win32/ado/dispatch_object.h"
 
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::win32 {
 namespace {

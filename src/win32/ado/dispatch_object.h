@@ -12,8 +12,8 @@
 #include <string_view>
 
 #include "data/error.h"
-#include "win32/com_ptr.h"
-#include "win32/variant.h"
+#include "win32/base/com_ptr.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::win32 {
 

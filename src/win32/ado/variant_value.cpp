@@ -7,8 +7,8 @@
 #include <cstdint>
 
 #include "data/error.h"
-#include "win32/text.h"
-#include "win32/variant.h"
+#include "win32/base/text.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::win32 {
 namespace {

@@ -1,9 +1,9 @@
 #include "e2e/driver/accessible_reader.h"
 
 #include "e2e/driver/wait.h"
-#include "win32/com_ptr.h"
-#include "win32/text.h"
-#include "win32/variant.h"
+#include "win32/base/com_ptr.h"
+#include "win32/base/text.h"
+#include "win32/base/variant.h"
 
 namespace tavrin::e2e {
 

@@ -2,7 +2,7 @@
 
 #include "e2e/driver/platform.h"
 #include "e2e/driver/wait.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "win32/handles.h"
+#include "win32/base/handles.h"
 
 namespace tavrin::e2e {
 

@@ -6,7 +6,7 @@
 
 #include <functional>
 
-#include "win32/unknown_object.h"
+#include "win32/base/unknown_object.h"
 
 namespace tavrin::e2e {
 

@@ -12,7 +12,7 @@
 #include "e2e/driver/event_sink.h"
 #include "e2e/driver/ui_thread.h"
 #include "e2e/driver/window.h"
-#include "win32/com_ptr.h"
+#include "win32/base/com_ptr.h"
 
 namespace tavrin::e2e {
 

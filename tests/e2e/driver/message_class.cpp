@@ -5,9 +5,9 @@
 
 #include "e2e/driver/component.h"
 #include "e2e/driver/wait.h"
-#include "win32/com_ptr.h"
-#include "win32/text.h"
-#include "win32/unknown_object.h"
+#include "win32/base/com_ptr.h"
+#include "win32/base/text.h"
+#include "win32/base/unknown_object.h"
 
 namespace tavrin::e2e {
 

@@ -7,7 +7,7 @@
 
 #include <array>
 
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 

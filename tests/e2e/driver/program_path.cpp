@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "win32/module_path.h"
+#include "win32/base/module_path.h"
 
 namespace tavrin::e2e {
 

@@ -5,7 +5,7 @@
 #include <array>
 #include <vector>
 
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 

@@ -9,8 +9,8 @@
 #include <string>
 
 #include "e2e/driver/platform.h"
-#include "win32/handles.h"
-#include "win32/text.h"
+#include "win32/base/handles.h"
+#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 

@@ -9,7 +9,7 @@
 #include "e2e/driver/platform.h"
 #include "host/pictures/png.h"
 #include "host/pictures/screen_picture.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 

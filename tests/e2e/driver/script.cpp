@@ -6,7 +6,7 @@
 #include <fstream>
 
 #include "e2e/driver/wait.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 

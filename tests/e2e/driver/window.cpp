@@ -4,7 +4,7 @@
 #include <array>
 
 #include "e2e/driver/wait.h"
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 

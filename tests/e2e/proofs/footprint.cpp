@@ -8,7 +8,7 @@
 #include <sstream>
 #include <vector>
 
-#include "win32/text.h"
+#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 

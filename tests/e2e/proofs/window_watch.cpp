@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "support/window_holders.h"
-#include "win32/disagreement.h"
+#include "win32/peers/disagreement.h"
 
 namespace tavrin::e2e {
 

@@ -1,0 +1,281 @@
+#include "win32/peers/form_peer.h"
+
+#include <utility>
+
+#include "forms/decoration.h"
+#include "win32/base/library.h"
+#include "win32/base/text.h"
+#include "win32/peers/control_window.h"
+#include "win32/peers/disagreement.h"
+#include "win32/peers/form_style.h"
+#include "win32/peers/peer_factory.h"
+#include "win32/system/dpi.h"
+#include "win32/system/monitors.h"
+#include "win32/window/mouse_message.h"
+#include "win32/window/reflection.h"
+#include "win32/window/window_painter.h"
+
+namespace tavrin::win32 {
+
+namespace {
+
+void CreateControlsOf(forms::Container& container, FormPeer& form) {
+    for (forms::Control* control : container.Controls()) {
+        control->SetPeer(CreateControlPeer(*control, form));
+        if (auto* inner = dynamic_cast<forms::Container*>(control)) CreateControlsOf(*inner, form);
+    }
+}
+
+}  // namespace
+
+FormPeer::FormPeer(forms::Desktop& desktop, forms::Form& form, std::shared_ptr<Toolkit> toolkit)
+    : Window(desktop), desktop_(desktop), form_(form), toolkit_(std::move(toolkit)), scale_(SystemScale()) {
+    const FormStyle kind = FormStyle::Of(form.Border());
+    Attach(toolkit_->CreateWindowWith({.className = WindowClasses::Form,
+                                       .text = form.Caption(),
+                                       .style = kind.style,
+                                       .extendedStyle = kind.extendedStyle}),
+           form.Name());
+    scale_ = Scale(DpiOf(Handle()));
+    tips_.emplace(*toolkit_, Handle());
+    DarkenTitleBar();
+    EnableOrDisable();
+    Place();
+}
+
+FormPeer::~FormPeer() {
+    // The window before the toolkit, which may take the window's class along.
+    tips_.reset();
+    Destroy();
+}
+
+void FormPeer::CreateControls() {
+    try {
+        CreateControlsOf(form_, *this);
+    } catch (...) {
+        for (forms::Control* control : form_.AllControls())
+            control->SetPeer(nullptr);
+        throw;
+    }
+}
+
+// What the model asks for.
+
+void FormPeer::Changed(forms::FormAspect aspect) {
+    if (Handle() == nullptr) return;
+    switch (aspect) {
+        case forms::FormAspect::Bounds:
+            return Place();
+        case forms::FormAspect::Visible:
+            return ShowOrHide();
+        case forms::FormAspect::Enabled:
+            return EnableOrDisable();
+        case forms::FormAspect::Caption:
+            return void(SetWindowTextW(Handle(), ToWide(form_.Caption()).c_str()));
+        case forms::FormAspect::Look:
+            RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+            return;
+    }
+}
+
+void FormPeer::ShowOrHide() {
+    ShowWindow(Handle(), form_.Visible() && !isClosed_ ? SW_SHOWNA : SW_HIDE);
+}
+
+void FormPeer::EnableOrDisable() {
+    EnableWindow(Handle(), form_.AcceptsInput());
+}
+
+void FormPeer::Reconcile() noexcept {
+    desktop_.Guard([this] {
+        if (Handle() == nullptr || isClosed_) return;
+        EnableOrDisable();
+        // Showing what is in sight would also put it above the others.
+        if ((IsWindowVisible(Handle()) != FALSE) != form_.Visible()) ShowOrHide();
+        for (forms::Control* control : form_.AllControls()) {
+            if (auto* peer = dynamic_cast<ControlWindow*>(control->Peer())) peer->Reconcile();
+        }
+        if (GetActiveWindow() == Handle()) RestoreFocus();
+    });
+}
+
+void FormPeer::Place() {
+    const Scale screen = SystemScale();
+    const forms::Size client = form_.ClientSize();
+    const FormStyle kind = FormStyle::Of(form_.Border());
+    const RECT outer = WindowAround({0, 0, scale_.ToPixels(client.width), scale_.ToPixels(client.height)},
+                                    kind.style, kind.extendedStyle, scale_.Dpi());
+    isPlacing_ = true;
+    SetWindowPos(Handle(), nullptr, screen.ToPixels(form_.Bounds().left), screen.ToPixels(form_.Bounds().top),
+                 Width(outer), Height(outer), SWP_NOZORDER | SWP_NOACTIVATE);
+    isPlacing_ = false;
+}
+
+void FormPeer::Activate() {
+    if (Handle() == nullptr || isClosed_) return;
+    SetForegroundWindow(Handle());
+    // A host in the background may not take the foreground; its own thread can still make the window active.
+    if (GetActiveWindow() != Handle()) SetActiveWindow(Handle());
+    if (GetActiveWindow() == Handle()) form_.HandleActivate();
+}
+
+void FormPeer::KeepOnTop() {
+    SetWindowPos(Handle(), HWND_TOPMOST, 0, 0, 0, 0,
+                 SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_SHOWWINDOW | SWP_NOOWNERZORDER);
+}
+
+void FormPeer::DragByCaption() {
+    ReleaseCapture();
+    SendMessageA(Handle(), WM_NCLBUTTONDOWN, HTCAPTION, 0);
+}
+
+void FormPeer::Close() {
+    isClosed_ = true;
+    if (Handle() != nullptr) ShowWindow(Handle(), SW_HIDE);
+}
+
+HWND FormPeer::WindowOf(forms::Container& container) const {
+    const forms::Control* control = container.AsControl();
+    const auto* peer = control != nullptr ? dynamic_cast<const ControlWindow*>(control->Peer()) : nullptr;
+    return peer != nullptr ? peer->Handle() : Handle();
+}
+
+void FormPeer::RestoreFocus() {
+    const forms::Control* control = form_.ActiveControl();
+    if (control != nullptr && control->CanTakeFocus() && control->Peer() != nullptr) {
+        control->Peer()->TakeFocus();
+    } else if (GetFocus() != Handle()) {
+        SetFocus(Handle());
+    }
+}
+
+void FormPeer::DarkenTitleBar() const {
+    using SetAttribute = HRESULT WINAPI(HWND, DWORD, const void*, DWORD);
+    constexpr DWORD UseImmersiveDarkMode = 20;
+    const Library library(L"dwmapi.dll");
+    const BOOL dark = TRUE;
+    if (auto* set = library.FindOptional<SetAttribute>("DwmSetWindowAttribute"))
+        set(Handle(), UseImmersiveDarkMode, &dark, sizeof dark);
+}
+
+// What the platform tells.
+
+LRESULT FormPeer::HandleMessage(const Message& message) {
+    static constexpr Route<FormPeer> routes[] = {
+        {WM_ACTIVATE, &FormPeer::OnActivate},
+        {WM_SETFOCUS, &FormPeer::OnSetFocus},
+        {WM_CLOSE, &FormPeer::OnClose},
+        {WM_DESTROY, &FormPeer::OnDestroy},
+        {WM_MOVE, &FormPeer::OnMove},
+        {WM_DPICHANGED, &FormPeer::OnDpiChanged},
+        {WM_DISPLAYCHANGE, &FormPeer::OnDisplayChange},
+        {WM_PAINT, &FormPeer::OnPaint},
+        {WM_PRINTCLIENT, &FormPeer::OnPaint},
+        {WM_ERASEBKGND, &FormPeer::OnEraseBackground},
+        {WM_LBUTTONDOWN, &FormPeer::OnMouseButton},
+        {WM_RBUTTONDOWN, &FormPeer::OnMouseButton},
+        {WM_MBUTTONDOWN, &FormPeer::OnMouseButton},
+        {WM_MOUSEMOVE, &FormPeer::OnMouseMove},
+        {DisagreementQuestion, &FormPeer::OnDisagreementQuestion},
+    };
+    if (isClosed_) return CallDefault(message);
+    if (KeyInput::IsKeyMessage(message.id)) return OnKey(message);
+    if (const auto answer = Follow<FormPeer>(routes, *this, message)) return *answer;
+    if (const auto answer = Reflect(message)) return *answer;
+    return CallDefault(message);
+}
+
+LRESULT FormPeer::OnActivate(const Message& message) {
+    if (LOWORD(message.wParam) == WA_INACTIVE) {
+        form_.HandleDeactivate();
+        return 0;
+    }
+    if (HIWORD(message.wParam) != 0) return 0;  // minimized
+    form_.HandleActivate();
+    // The platform's own answer would be to focus the form itself.
+    if (!isClosed_ && GetActiveWindow() == Handle() && !IsChild(Handle(), GetFocus())) RestoreFocus();
+    return 0;
+}
+
+LRESULT FormPeer::OnSetFocus(const Message&) {
+    RestoreFocus();
+    return 0;
+}
+
+LRESULT FormPeer::OnClose(const Message&) {
+    form_.HandleClose();
+    return 0;
+}
+
+LRESULT FormPeer::OnDestroy(const Message& message) {
+    // Somebody else destroys the window: the form goes with it.
+    form_.Unload();
+    return CallDefault(message);
+}
+
+LRESULT FormPeer::OnMove(const Message& message) {
+    if (isPlacing_ || IsIconic(Handle())) return 0;
+    const Scale screen = SystemScale();
+    RECT outer{};
+    GetWindowRect(Handle(), &outer);
+    form_.HandleMoved({screen.ToTwips(outer.left), screen.ToTwips(outer.top)});
+    return CallDefault(message);
+}
+
+LRESULT FormPeer::OnDpiChanged(const Message& message) {
+    const auto& suggested = *reinterpret_cast<const RECT*>(message.lParam);
+    const Scale screen = SystemScale();
+    scale_ = Scale(HIWORD(message.wParam));
+    form_.HandleMoved({screen.ToTwips(suggested.left), screen.ToTwips(suggested.top)});
+    Place();
+    for (forms::Control* control : form_.AllControls()) {
+        if (auto* peer = dynamic_cast<ControlWindow*>(control->Peer())) peer->Rescale();
+    }
+    Changed(forms::FormAspect::Look);
+    return 0;
+}
+
+/// A monitor may have gone, and this window with it.
+LRESULT FormPeer::OnDisplayChange(const Message& message) {
+    RECT outer{};
+    GetWindowRect(Handle(), &outer);
+    const POINT place = ReachablePlace(outer);
+    if (place.x != outer.left || place.y != outer.top)
+        SetWindowPos(Handle(), nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return CallDefault(message);
+}
+
+LRESULT FormPeer::OnPaint(const Message& message) {
+    WindowPainter painter(Handle(), message, *toolkit_, scale_, {0, 0});
+    const forms::Size client = form_.ClientSize();
+    painter.Surface().FillRectangle({0, 0, client.width, client.height}, form_.BackColor());
+    forms::DrawDecorations(form_, painter.Surface());
+    return 0;
+}
+
+LRESULT FormPeer::OnEraseBackground(const Message&) {
+    return 1;  // painting covers everything
+}
+
+LRESULT FormPeer::OnMouseButton(const Message& message) {
+    form_.HandleMouseDown(ToMouseInput(message, scale_));
+    return 0;
+}
+
+LRESULT FormPeer::OnMouseMove(const Message& message) {
+    form_.HandleMouseMove(ToMouseInput(message, scale_));
+    return 0;
+}
+
+LRESULT FormPeer::OnDisagreementQuestion(const Message&) {
+    LRESULT differs = disagreement::None;
+    if ((IsWindowEnabled(Handle()) != FALSE) != form_.AcceptsInput()) differs |= disagreement::Enabled;
+    if ((IsWindowVisible(Handle()) != FALSE) != form_.Visible()) differs |= disagreement::Visible;
+    return differs;
+}
+
+LRESULT FormPeer::OnKey(const Message& message) {
+    return toolkit_->Keys().Handle(form_, message) == KeyRoute::Dealt ? 0 : CallDefault(message);
+}
+
+}  // namespace tavrin::win32

@@ -1,0 +1,178 @@
+#include "win32/system/whole_files.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "data/error.h"
+#include "win32/base/system_error.h"
+#include "win32/base/text.h"
+
+namespace tavrin::win32 {
+
+namespace {
+
+constexpr std::size_t LargestPiece = std::size_t{1} << 20;
+constexpr int NamesTried = 100;
+constexpr DWORD Sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+struct CloseFile {
+    using pointer = HANDLE;
+    void operator()(HANDLE file) const { CloseHandle(file); }
+};
+using OwnedFile = std::unique_ptr<HANDLE, CloseFile>;
+
+OwnedFile Own(HANDLE file) {
+    return OwnedFile(file != INVALID_HANDLE_VALUE ? file : nullptr);
+}
+
+bool Exists(const std::wstring& name) {
+    return GetFileAttributesW(name.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+bool IsReadOnly(const std::wstring& name) {
+    return Exists(name) && (GetFileAttributesW(name.c_str()) & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
+/// Whether somebody has the file open who lets nobody take its name away.
+bool IsNameHeld(const std::wstring& name) {
+    const OwnedFile file = Own(
+        CreateFileW(name.c_str(), DELETE, Sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return !file && GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
+std::size_t SizeOf(HANDLE file) {
+    LARGE_INTEGER size{};
+    if (!GetFileSizeEx(file, &size)) ThrowLastError();
+    return static_cast<std::size_t>(size.QuadPart);
+}
+
+std::string ReadAll(HANDLE file) {
+    std::string content(SizeOf(file), '\0');
+    DWORD read = 0;
+    if (!ReadFile(file, content.data(), static_cast<DWORD>(content.size()), &read, nullptr)) ThrowLastError();
+    content.resize(read);
+    return content;
+}
+
+void WriteAll(HANDLE file, std::string_view content) {
+    while (!content.empty()) {
+        const auto piece = static_cast<DWORD>(std::min(content.size(), LargestPiece));
+        DWORD written = 0;
+        if (!WriteFile(file, content.data(), piece, &written, nullptr)) ThrowLastError();
+        // A full disk may take less without calling it an error.
+        if (written == 0) ThrowSystemError(HRESULT_FROM_WIN32(ERROR_DISK_FULL));
+        content.remove_prefix(written);
+    }
+    if (!FlushFileBuffers(file)) ThrowLastError();
+}
+
+void MoveTo(HANDLE file, std::size_t place) {
+    LARGE_INTEGER distance{};
+    distance.QuadPart = static_cast<LONGLONG>(place);
+    if (!SetFilePointerEx(file, distance, nullptr, FILE_BEGIN)) ThrowLastError();
+}
+
+/// A new file beside another, which is gone with this object unless it has taken the other's place.
+class FileBeside {
+  public:
+    explicit FileBeside(std::wstring target) : target_(std::move(target)) {
+        for (int i = 0; i < NamesTried && !file_; ++i) {
+            name_ = target_ +
+                    ToWide("." + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(i) + ".tmp");
+            file_ = Own(CreateFileW(name_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+            error_ = file_ ? ERROR_SUCCESS : GetLastError();
+            if (!file_ && error_ != ERROR_FILE_EXISTS) break;
+        }
+        if (!file_) name_.clear();
+    }
+    /// Why there is no such file, if there is none.
+    DWORD Error() const { return error_; }
+    ~FileBeside() {
+        if (name_.empty()) return;
+        file_.reset();
+        DeleteFileW(name_.c_str());
+    }
+    FileBeside(const FileBeside&) = delete;
+    FileBeside& operator=(const FileBeside&) = delete;
+
+    void Write(std::string_view content) { WriteAll(file_.get(), content); }
+
+    /// False where the other file is still there.
+    bool TakePlace() {
+        file_.reset();
+        const DWORD attributes = GetFileAttributesW(target_.c_str());
+        if (!Replace() && !Move()) return false;
+        name_.clear();
+        if (attributes != INVALID_FILE_ATTRIBUTES) SetFileAttributesW(target_.c_str(), attributes);
+        return true;
+    }
+
+  private:
+    /// Keeps what the old file was besides its content, its rights above all. It needs an old one, and not
+    /// every drive knows it.
+    bool Replace() const {
+        return ReplaceFileW(target_.c_str(), name_.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+                            nullptr) != FALSE;
+    }
+    bool Move() const {
+        const DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+        return MoveFileExW(name_.c_str(), target_.c_str(), how) != FALSE;
+    }
+
+    std::wstring target_;
+    std::wstring name_;
+    OwnedFile file_;
+    DWORD error_ = ERROR_SUCCESS;
+};
+
+/// The content of an open file in place of what was in it. Room is made before anything is overwritten.
+void Overwrite(HANDLE file, std::string_view content) {
+    MoveTo(file, content.size());
+    if (!SetEndOfFile(file)) ThrowLastError();
+    MoveTo(file, 0);
+    WriteAll(file, content);
+}
+
+/// Writes into a file that stays the one it is.
+void WriteInPlace(const std::wstring& target, std::string_view content) {
+    const OwnedFile file = Own(CreateFileW(target.c_str(), GENERIC_READ | GENERIC_WRITE, Sharing, nullptr,
+                                           OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file) ThrowLastError();
+    const std::string before = ReadAll(file.get());
+    try {
+        Overwrite(file.get(), content);
+    } catch (const data::Error&) {
+        Overwrite(file.get(), before);
+        throw;
+    }
+}
+
+}  // namespace
+
+std::string WholeFiles::Read(const std::string& name, std::size_t maximumSize) {
+    const OwnedFile file = Own(CreateFileW(ToWide(name).c_str(), GENERIC_READ, Sharing, nullptr,
+                                           OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    if (!file) ThrowLastError();
+    if (SizeOf(file.get()) > maximumSize) ThrowSystemError(HRESULT_FROM_WIN32(ERROR_FILE_TOO_LARGE));
+    return ReadAll(file.get());
+}
+
+void WholeFiles::Replace(const std::string& name, std::string_view content) {
+    const std::wstring target = ToWide(name);
+    if (IsReadOnly(target)) ThrowSystemError(HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED));
+    if (IsNameHeld(target)) return WriteInPlace(target, content);
+    FileBeside file(target);
+    if (file.Error() != ERROR_SUCCESS) {
+        if (!Exists(target)) ThrowSystemError(HRESULT_FROM_WIN32(file.Error()));
+        return WriteInPlace(target, content);
+    }
+    file.Write(content);
+    if (!file.TakePlace()) WriteInPlace(target, content);
+}
+
+}  // namespace tavrin::win32

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <windows.h>
+
+#include <vector>
+
+#include "forms/desktop.h"
+
+namespace tavrin::win32 {
+
+/// The windows of the thread, the host's included, that wait for the answer to a message.
+class HeldWindows {
+  public:
+    /// Disables every window that takes input but the active one, which what is shown before it disables.
+    void Hold();
+    /// Disables the active window too, where something is shown before another one.
+    void HoldActiveBut(HWND owner);
+    /// What a dialog of a form is to be shown before; the active window waits as well.
+    HWND OwnerOfDialog(const forms::Form& form);
+    /// Enables them again. Where the window before which the message stood has gone, the user goes on in the
+    /// next one.
+    void Release() noexcept;
+
+  private:
+    std::vector<HWND> windows_;  ///< the topmost first
+};
+
+/// What a message or a dialog is to be shown before: the window, or the form that a pop-up of ours belongs
+/// to. It is disabled by what is shown and gets the keyboard back from it, for which the platform must find
+/// it enabled; the model's own state comes back with the end of the message. Null for no window, and for one
+/// of others that is disabled or out of sight.
+HWND OwnerOfMessage(const forms::Desktop& desktop, HWND window);
+
+}  // namespace tavrin::win32

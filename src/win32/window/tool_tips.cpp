@@ -1,0 +1,48 @@
+#include "win32/window/tool_tips.h"
+
+#include <commctrl.h>
+
+#include "forms/color.h"
+#include "win32/base/text.h"
+
+namespace tavrin::win32 {
+
+namespace {
+
+TTTOOLINFOW Describe(HWND form, HWND control) {
+    TTTOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;  // accepted by every version of the common controls
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = form;
+    tool.uId = reinterpret_cast<UINT_PTR>(control);
+    return tool;
+}
+
+}  // namespace
+
+ToolTips::ToolTips(const Toolkit& toolkit, HWND form)
+    : window_(toolkit.CreateWindowWith({.className = TOOLTIPS_CLASSW,
+                                        .text = {},
+                                        .style = WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
+                                        .extendedStyle = WS_EX_TOPMOST,
+                                        .parent = form})),
+      form_(form) {
+    SendMessageW(window_.get(), TTM_SETTIPBKCOLOR, forms::scheme::Face, 0);
+    SendMessageW(window_.get(), TTM_SETTIPTEXTCOLOR, forms::scheme::Text, 0);
+}
+
+void ToolTips::Set(HWND control, const std::string& text) {
+    Remove(control);
+    if (text.empty()) return;
+    TTTOOLINFOW tool = Describe(form_, control);
+    std::wstring wide = ToWide(text);
+    tool.lpszText = wide.data();
+    SendMessageW(window_.get(), TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void ToolTips::Remove(HWND control) {
+    TTTOOLINFOW tool = Describe(form_, control);
+    SendMessageW(window_.get(), TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+}  // namespace tavrin::win32

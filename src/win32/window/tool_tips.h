@@ -1,0 +1,29 @@
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <string>
+
+#include "win32/window/toolkit.h"
+
+namespace tavrin::win32 {
+
+/// The tool tips of one form's controls, shown by one window of the platform.
+class ToolTips {
+  public:
+    ToolTips(const Toolkit& toolkit, HWND form);
+
+    /// Sets the text that a control shows, none when it is empty.
+    void Set(HWND control, const std::string& text);
+    void Remove(HWND control);
+
+  private:
+    struct Destroy {
+        void operator()(HWND window) const { DestroyWindow(window); }
+    };
+    std::unique_ptr<std::remove_pointer_t<HWND>, Destroy> window_;
+    HWND form_;
+};
+
+}  // namespace tavrin::win32

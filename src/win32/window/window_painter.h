@@ -1,0 +1,43 @@
+#pragma once
+
+#include <windows.h>
+
+#include "win32/paint/dib_surface.h"
+#include "win32/window/toolkit.h"
+#include "win32/window/window.h"
+
+namespace tavrin::win32 {
+
+/// One WM_PAINT or WM_PRINTCLIENT: what is drawn on the surface appears in the window at once, at the end, so
+/// that nothing flickers. While it lasts no other window may be painted.
+class WindowPainter {
+  public:
+    /// `origin` is the window's place in its parent, in twips.
+    WindowPainter(HWND window, const Message& message, Toolkit& toolkit, Scale scale, forms::Point origin);
+    ~WindowPainter();
+    WindowPainter(const WindowPainter&) = delete;
+    WindowPainter& operator=(const WindowPainter&) = delete;
+
+    forms::Surface& Surface() { return surface_; }
+
+  private:
+    /// Begins and ends the painting, or takes the device context that came along.
+    struct Target {
+        Target(HWND target, const Message& message);
+        ~Target();
+        Target(const Target&) = delete;
+        Target& operator=(const Target&) = delete;
+
+        HWND window;
+        bool begun;
+        PAINTSTRUCT paint{};
+    };
+
+    DibCanvas& Reserved(Toolkit& toolkit) const;
+
+    Target target_;
+    DibCanvas& canvas_;
+    DibSurface surface_;
+};
+
+}  // namespace tavrin::win32
