@@ -4,6 +4,7 @@
 
 #include "doctor/windows/file_facts.h"
 #include "doctor/windows/registrations.h"
+#include "win32/base/library.h"
 #include "win32/base/text.h"
 
 namespace tavrin::doctor {
@@ -11,13 +12,10 @@ namespace {
 
 /// Windows' own version; GetVersionEx tells programs without a manifest an old one.
 std::string SystemVersion() {
-    using Function = LONG WINAPI(OSVERSIONINFOW*);
-    const FARPROC address = GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "RtlGetVersion");
+    const win32::SystemFunction<LONG WINAPI(OSVERSIONINFOW*)> ask(L"ntdll.dll", "RtlGetVersion");
     OSVERSIONINFOW version{};
     version.dwOSVersionInfoSize = sizeof version;
-    if (address == nullptr ||
-        reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(address))(&version) != 0)
-        return "Windows";
+    if (!ask || ask(&version) != 0) return "Windows";
     return "Windows " + std::to_string(version.dwMajorVersion) + "." +
            std::to_string(version.dwMinorVersion) + "." + std::to_string(version.dwBuildNumber);
 }

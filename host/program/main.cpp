@@ -24,6 +24,7 @@
 #include "host/program/utilities.h"
 #include "host/program/window_thread.h"
 #include "win32/ado/dispatch_object.h"
+#include "win32/base/library.h"
 #include "win32/base/module_path.h"
 #include "win32/base/text.h"
 #include "win32/base/variant.h"
@@ -77,10 +78,9 @@ Utilities Connect(const Options& options, std::function<void()> whenLeft) {
 
 /// The component asks what the process is; a host that follows the screen's resolution says so itself.
 void FollowResolution() {
-    using Function = BOOL WINAPI(HANDLE);
     const HANDLE perMonitor = reinterpret_cast<HANDLE>(INT_PTR{-4});
-    const FARPROC set = GetProcAddress(GetModuleHandleW(L"user32.dll"), "SetProcessDpiAwarenessContext");
-    if (set != nullptr) reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(set))(perMonitor);
+    const win32::SystemFunction<BOOL WINAPI(HANDLE)> set(L"user32.dll", "SetProcessDpiAwarenessContext");
+    if (set) set(perMonitor);
 }
 
 std::string Summary(const Options& options) {

@@ -1,5 +1,7 @@
 #include "com/registry.h"
 
+#include "win32/base/handles.h"
+
 namespace tavrin::com {
 namespace {
 
@@ -10,14 +12,20 @@ bool IsGone(LSTATUS removed) {
     return removed == ERROR_SUCCESS || removed == ERROR_FILE_NOT_FOUND;
 }
 
-bool IsEmpty(HKEY root, const std::wstring& path) {
+/// Null where there is no such key, or none for us.
+win32::OwnedKey Open(HKEY root, const std::wstring& path, REGSAM access) {
     HKEY key = nullptr;
-    if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) return false;
+    RegOpenKeyExW(root, path.c_str(), 0, access, &key);
+    return win32::OwnedKey(key);
+}
+
+bool IsEmpty(HKEY root, const std::wstring& path) {
+    const win32::OwnedKey key = Open(root, path, KEY_READ);
+    if (!key) return false;
     DWORD keys = 0;
     DWORD values = 0;
-    const LSTATUS read = RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values,
-                                          nullptr, nullptr, nullptr, nullptr);
-    RegCloseKey(key);
+    const LSTATUS read = RegQueryInfoKeyW(key.get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr,
+                                          &values, nullptr, nullptr, nullptr, nullptr);
     return read == ERROR_SUCCESS && keys == 0 && values == 0;
 }
 
@@ -43,11 +51,7 @@ std::optional<std::wstring> Registry::Read(const std::wstring& key) const {
 }
 
 bool Registry::IsInOtherView(const std::wstring& key) const {
-    HKEY found = nullptr;
-    if (RegOpenKeyExW(Root(), PathOf(key).c_str(), 0, KEY_READ | OtherView, &found) != ERROR_SUCCESS)
-        return false;
-    RegCloseKey(found);
-    return true;
+    return Open(Root(), PathOf(key), KEY_READ | OtherView) != nullptr;
 }
 
 bool Registry::Remove(const std::wstring& key) const {

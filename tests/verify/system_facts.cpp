@@ -7,18 +7,12 @@
 #include <array>
 
 #include "verify/kit_files.h"
+#include "win32/base/library.h"
 #include "win32/base/text.h"
 
 namespace tavrin::verify {
 
 namespace {
-
-/// A function of a system library, null where it lacks it.
-template <class Function>
-Function* Find(const wchar_t* library, const char* name) {
-    return reinterpret_cast<Function*>(
-        reinterpret_cast<void (*)()>(GetProcAddress(GetModuleHandleW(library), name)));
-}
 
 std::string RegistryText(const wchar_t* name) {
     std::array<wchar_t, 128> value{};
@@ -32,16 +26,16 @@ std::string RegistryText(const wchar_t* name) {
 std::string WindowsVersion() {
     RTL_OSVERSIONINFOW version{};
     version.dwOSVersionInfoSize = sizeof version;
-    if (auto* const ask = Find<LONG WINAPI(RTL_OSVERSIONINFOW*)>(L"ntdll.dll", "RtlGetVersion"))
-        ask(&version);
+    const win32::SystemFunction<LONG WINAPI(RTL_OSVERSIONINFOW*)> ask(L"ntdll.dll", "RtlGetVersion");
+    if (ask) ask(&version);
     return RegistryText(L"ProductName") + " " + RegistryText(L"DisplayVersion") + ", " +
            std::to_string(version.dwMajorVersion) + "." + std::to_string(version.dwMinorVersion) + "." +
            std::to_string(version.dwBuildNumber);
 }
 
 std::string WineVersion() {
-    auto* const ask = Find<const char * CDECL()>(L"ntdll.dll", "wine_get_version");
-    return ask == nullptr ? "no" : ask();
+    const win32::SystemFunction<const char * CDECL()> ask(L"ntdll.dll", "wine_get_version");
+    return ask ? ask() : "no";
 }
 
 std::string Bitness() {

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "win32/base/handles.h"
 #include "win32/base/text.h"
 
 namespace tavrin::win32 {
@@ -12,10 +13,7 @@ namespace {
 /// OutputDebugString looks for the memory of that name, by the same right, and tells nobody where there is
 /// none.
 bool HasViewer() {
-    const HANDLE buffer = OpenFileMappingW(FILE_MAP_WRITE, FALSE, L"DBWIN_BUFFER");
-    if (buffer == nullptr) return false;
-    CloseHandle(buffer);
-    return true;
+    return OwnedHandle(OpenFileMappingW(FILE_MAP_WRITE, FALSE, L"DBWIN_BUFFER")) != nullptr;
 }
 
 class DebugOutput final : public data::Diagnosis {

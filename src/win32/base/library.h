@@ -39,4 +39,19 @@ class Library {
     OwnedModule module_;
 };
 
+/// A function of the platform that a system may lack: null then, and not to be called. Its library stays
+/// loaded as long as this object is there.
+template <class Function>
+class SystemFunction {
+  public:
+    SystemFunction(const wchar_t* library, const char* name)
+        : library_(library), function_(library_.FindOptional<Function>(name)) {}
+
+    operator Function*() const { return function_; }
+
+  private:
+    Library library_;
+    Function* function_;
+};
+
 }  // namespace tavrin::win32

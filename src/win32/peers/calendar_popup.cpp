@@ -65,8 +65,8 @@ void Require(bool isAsWanted) {
 /// The system's theme would paint over the dark colours.
 void RemoveTheme(HWND window) {
     using SetTheme = HRESULT WINAPI(HWND, const wchar_t*, const wchar_t*);
-    const Library library(L"uxtheme.dll");
-    if (auto* set = library.FindOptional<SetTheme>("SetWindowTheme")) set(window, L" ", L" ");
+    const SystemFunction<SetTheme> set(L"uxtheme.dll", "SetWindowTheme");
+    if (set) set(window, L" ", L" ");
 }
 
 void Darken(HWND calendar) {

@@ -9,8 +9,8 @@
 #include "forms/look.h"
 #include "win32/base/text.h"
 #include "win32/peers/disagreement.h"
-#include "win32/peers/edit_frame.h"
 #include "win32/peers/edit_text.h"
+#include "win32/peers/edit_window.h"
 #include "win32/window/mouse_message.h"
 #include "win32/window/window_painter.h"
 
@@ -351,9 +351,7 @@ LRESULT ComboPeer::OnKey(const Message& message) {
 }
 
 LRESULT ComboPeer::HandleInnerKey(const Message& message) {
-    if (RouteKey(message) == KeyRoute::Dealt) return 0;
-    const bool beeps = message.id == WM_CHAR && (message.wParam == VK_RETURN || message.wParam == VK_ESCAPE);
-    if (beeps) return 0;
+    if (RouteKey(message) == KeyRoute::Dealt || OnlyBeeps(message)) return 0;
     return SharedToolkit().Keys().PassOn(message, [this](const Message& each) { return edit_.PassOn(each); });
 }
 

@@ -48,6 +48,7 @@ class ControlWindow : public forms::ControlPeer, public Window {
     /// Pixels of the parent's client area.
     RECT PixelBounds() const;
 
+    forms::Control& OwnControl() const { return control_; }
     forms::Form& OwnerForm() const { return form_.Form(); }
     FormPeer& OwnerPeer() const { return form_; }
     Toolkit& SharedToolkit() const { return form_.SharedToolkit(); }

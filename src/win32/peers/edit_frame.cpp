@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "forms/look.h"
+#include "win32/base/handles.h"
 
 namespace tavrin::win32 {
 
@@ -41,12 +42,12 @@ void PaintEditFrame(HWND edit, forms::Color background, EditFrame frame) {
     GetWindowRect(edit, &outer);
     const RECT client = ClientWithin(edit, outer);
     RECT whole{0, 0, Width(outer), Height(outer)};
-    const HDC dc = GetWindowDC(edit);
+    const WindowDc frameDc(edit);
+    const HDC dc = frameDc.Get();
     ExcludeClipRect(dc, client.left, client.top, client.right, client.bottom);
     Fill(dc, whole, frame.color);
     InflateRect(&whole, -frame.thickness, -frame.thickness);
     Fill(dc, whole, background);
-    ReleaseDC(edit, dc);
 }
 
 void RedrawFrame(HWND edit) {

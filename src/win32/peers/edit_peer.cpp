@@ -4,13 +4,10 @@
 
 #include <algorithm>
 #include <string>
-#include <utility>
 
 #include "win32/base/text.h"
 #include "win32/peers/disagreement.h"
-#include "win32/peers/edit_frame.h"
 #include "win32/peers/edit_text.h"
-#include "win32/window/mouse_message.h"
 
 namespace tavrin::win32 {
 
@@ -35,15 +32,9 @@ LONG StartOf(forms::Align align, const RECT& line) {
     return align == forms::Align::Center ? (line.left + line.right) / 2 : line.left;
 }
 
-/// Characters that edit nothing in a single line and would only make the field beep.
-bool IsBeep(WPARAM character) {
-    return character == VK_RETURN || character == VK_ESCAPE || character == VK_TAB;
-}
-
 }  // namespace
 
-EditPeer::EditPeer(forms::TextBox& control, FormPeer& form)
-    : ControlWindow(control, form), control_(control) {
+EditPeer::EditPeer(forms::TextBox& control, FormPeer& form) : EditWindow(control, form), control_(control) {
     Create(WC_EDITW, StyleOf(control));
     ShowFont();
     ShowText();
@@ -69,8 +60,7 @@ void EditPeer::Changed(forms::Aspect aspect) {
         default:
             break;
     }
-    ControlWindow::Changed(aspect);
-    RedrawFrame(Handle());
+    EditWindow::Changed(aspect);
 }
 
 void EditPeer::TakeFocus() {
@@ -135,16 +125,9 @@ LRESULT EditPeer::HandleMessage(const Message& message) {
         {WM_PASTE, &EditPeer::OnEditing},
         {WM_SETTEXT, &EditPeer::OnEditing},
         {WM_CONTEXTMENU, &EditPeer::OnEditing},
-        {WM_CAPTURECHANGED, &EditPeer::OnCaptureChanged},
-        {WM_MOUSEMOVE, &EditPeer::OnMouse},
-        {WM_LBUTTONDOWN, &EditPeer::OnMouse},
-        {WM_LBUTTONUP, &EditPeer::OnMouse},
-        {WM_RBUTTONDOWN, &EditPeer::OnMouse},
-        {WM_RBUTTONUP, &EditPeer::OnMouse},
-        {WM_LBUTTONDBLCLK, &EditPeer::OnMouse},
     };
     if (const auto answer = Follow<EditPeer>(routes, *this, message)) return *answer;
-    return ControlWindow::HandleMessage(message);
+    return EditWindow::HandleMessage(message);
 }
 
 LRESULT EditPeer::OnKey(const Message& message) {
@@ -158,20 +141,7 @@ LRESULT EditPeer::OnKey(const Message& message) {
 LRESULT EditPeer::PassCharacter(const Message& message) {
     constexpr WPARAM ControlA = 1;
     if (message.wParam == ControlA) return SendMessageW(Handle(), EM_SETSEL, 0, -1);
-    if (IsBeep(message.wParam)) return 0;
-    return SharedToolkit().Keys().PassOn(message, [this](const Message& each) { return CallDefault(each); });
-}
-
-LRESULT EditPeer::OnSetFocus(const Message& message) {
-    const LRESULT answer = ControlWindow::OnSetFocus(message);
-    RedrawFrame(Handle());
-    return answer;
-}
-
-LRESULT EditPeer::OnKillFocus(const Message& message) {
-    const LRESULT answer = ControlWindow::OnKillFocus(message);
-    RedrawFrame(Handle());
-    return answer;
+    return OnlyBeeps(message) ? 0 : PassOn(message);
 }
 
 LRESULT EditPeer::OnColors(const Message& message) {
@@ -230,46 +200,6 @@ void EditPeer::ReportSelection() {
         control_.HandleSelection(selection.start, selection.length);
 }
 
-// The mouse: the model hears of it, the field acts on it.
-
-LRESULT EditPeer::OnMouse(const Message& message) {
-    if (IsButtonUp(message.id)) return OnRelease(message);
-    const bool goesOn = TellModelOfMouse(message);
-    if (message.id != WM_MOUSEMOVE) holdsPress_ = goesOn;
-    if (!goesOn) return 0;
-    const LRESULT answer = CallDefault(message);
-    ReportSelection();
-    return answer;
-}
-
-LRESULT EditPeer::OnRelease(const Message& message) {
-    // The model ends the press itself when the left button goes up. A menu that another button opens takes
-    // the mouse.
-    isReleasing_ = message.id == WM_LBUTTONUP;
-    // A press that came to nothing, as the field was not to have the focus, opens no menu either.
-    const LRESULT answer = std::exchange(holdsPress_, false) ? CallDefault(message) : 0;
-    isReleasing_ = false;
-    ReportSelection();
-    TellModelOfMouse(message);
-    return answer;
-}
-
-LRESULT EditPeer::OnCaptureChanged(const Message& message) {
-    const LRESULT answer = CallDefault(message);
-    holdsPress_ = false;
-    if (!isReleasing_) control_.HandleCaptureLost();
-    return answer;
-}
-
-bool EditPeer::TellModelOfMouse(const Message& message) {
-    const forms::MouseInput input = ToMouseInput(message, PixelScale());
-    if (IsButtonDown(message.id)) return control_.HandleMouseDown(input);
-    if (message.id == WM_MOUSEMOVE) control_.HandleMouseMove(input);
-    if (IsButtonUp(message.id)) control_.HandleMouseUp(input);
-    if (IsDoubleClick(message.id)) control_.HandleDblClick(input);
-    return OwnerForm().AcceptsInput() && OwnerForm().IsLoaded();
-}
-
 // The frame.
 
 LRESULT EditPeer::OnCalculateClientArea(const Message& message) {
@@ -287,10 +217,8 @@ LRESULT EditPeer::OnPaintFrame(const Message&) {
 }
 
 EditFrame EditPeer::Frame() const {
-    const int thickness = PlainFrameThickness(PixelScale());
-    if (!control_.Bordered()) return {control_.BackColor(), thickness};
-    if (HoldsFocus()) return {forms::scheme::Focus, FrameThickness(PixelScale())};
-    return {control_.IsEffectivelyEnabled() ? forms::scheme::Border : forms::scheme::GridLine, thickness};
+    return control_.Bordered() ? FocusFrame()
+                               : EditFrame{control_.BackColor(), PlainFrameThickness(PixelScale())};
 }
 
 LRESULT EditPeer::OnHitTest(const Message&) {

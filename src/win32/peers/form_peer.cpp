@@ -152,10 +152,9 @@ void FormPeer::RestoreFocus() {
 void FormPeer::DarkenTitleBar() const {
     using SetAttribute = HRESULT WINAPI(HWND, DWORD, const void*, DWORD);
     constexpr DWORD UseImmersiveDarkMode = 20;
-    const Library library(L"dwmapi.dll");
+    const SystemFunction<SetAttribute> set(L"dwmapi.dll", "DwmSetWindowAttribute");
     const BOOL dark = TRUE;
-    if (auto* set = library.FindOptional<SetAttribute>("DwmSetWindowAttribute"))
-        set(Handle(), UseImmersiveDarkMode, &dark, sizeof dark);
+    if (set) set(Handle(), UseImmersiveDarkMode, &dark, sizeof dark);
 }
 
 // What the platform tells.

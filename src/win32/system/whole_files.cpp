@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "data/error.h"
+#include "win32/base/handles.h"
 #include "win32/base/system_error.h"
 #include "win32/base/text.h"
 
@@ -19,16 +20,6 @@ constexpr std::size_t LargestPiece = std::size_t{1} << 20;
 constexpr int NamesTried = 100;
 constexpr DWORD Sharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-struct CloseFile {
-    using pointer = HANDLE;
-    void operator()(HANDLE file) const { CloseHandle(file); }
-};
-using OwnedFile = std::unique_ptr<HANDLE, CloseFile>;
-
-OwnedFile Own(HANDLE file) {
-    return OwnedFile(file != INVALID_HANDLE_VALUE ? file : nullptr);
-}
-
 bool Exists(const std::wstring& name) {
     return GetFileAttributesW(name.c_str()) != INVALID_FILE_ATTRIBUTES;
 }
@@ -39,7 +30,7 @@ bool IsReadOnly(const std::wstring& name) {
 
 /// Whether somebody has the file open who lets nobody take its name away.
 bool IsNameHeld(const std::wstring& name) {
-    const OwnedFile file = Own(
+    const OwnedHandle file = OwnFile(
         CreateFileW(name.c_str(), DELETE, Sharing, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     return !file && GetLastError() == ERROR_SHARING_VIOLATION;
 }
@@ -83,8 +74,8 @@ class FileBeside {
         for (int i = 0; i < NamesTried && !file_; ++i) {
             name_ = target_ +
                     ToWide("." + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(i) + ".tmp");
-            file_ = Own(CreateFileW(name_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr));
+            file_ = OwnFile(CreateFileW(name_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                        FILE_ATTRIBUTE_NORMAL, nullptr));
             error_ = file_ ? ERROR_SUCCESS : GetLastError();
             if (!file_ && error_ != ERROR_FILE_EXISTS) break;
         }
@@ -126,7 +117,7 @@ class FileBeside {
 
     std::wstring target_;
     std::wstring name_;
-    OwnedFile file_;
+    OwnedHandle file_;
     DWORD error_ = ERROR_SUCCESS;
 };
 
@@ -140,8 +131,8 @@ void Overwrite(HANDLE file, std::string_view content) {
 
 /// Writes into a file that stays the one it is.
 void WriteInPlace(const std::wstring& target, std::string_view content) {
-    const OwnedFile file = Own(CreateFileW(target.c_str(), GENERIC_READ | GENERIC_WRITE, Sharing, nullptr,
-                                           OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const OwnedHandle file = OwnFile(CreateFileW(target.c_str(), GENERIC_READ | GENERIC_WRITE, Sharing,
+                                                 nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file) ThrowLastError();
     const std::string before = ReadAll(file.get());
     try {
@@ -155,8 +146,8 @@ void WriteInPlace(const std::wstring& target, std::string_view content) {
 }  // namespace
 
 std::string WholeFiles::Read(const std::string& name, std::size_t maximumSize) {
-    const OwnedFile file = Own(CreateFileW(ToWide(name).c_str(), GENERIC_READ, Sharing, nullptr,
-                                           OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    const OwnedHandle file = OwnFile(CreateFileW(ToWide(name).c_str(), GENERIC_READ, Sharing, nullptr,
+                                                 OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!file) ThrowLastError();
     if (SizeOf(file.get()) > maximumSize) ThrowSystemError(HRESULT_FROM_WIN32(ERROR_FILE_TOO_LARGE));
     return ReadAll(file.get());

@@ -2,9 +2,9 @@
 
 #include <windows.h>
 
-#include <memory>
 #include <string>
 
+#include "win32/base/handles.h"
 #include "win32/window/toolkit.h"
 
 namespace tavrin::win32 {
@@ -19,10 +19,7 @@ class ToolTips {
     void Remove(HWND control);
 
   private:
-    struct Destroy {
-        void operator()(HWND window) const { DestroyWindow(window); }
-    };
-    std::unique_ptr<std::remove_pointer_t<HWND>, Destroy> window_;
+    OwnedWindow window_;
     HWND form_;
 };
 

@@ -7,6 +7,7 @@
 
 #include <array>
 
+#include "win32/base/library.h"
 #include "win32/base/text.h"
 
 namespace tavrin::e2e {
@@ -16,10 +17,8 @@ namespace {
 /// A function of user32 that gives one number; -1 where the system lacks it.
 template <class Result = INT_PTR>
 std::string UserNumber(const char* name) {
-    const FARPROC address = GetProcAddress(GetModuleHandleW(L"user32.dll"), name);
-    if (address == nullptr) return "-1";
-    using Function = Result WINAPI();
-    return std::to_string(reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(address))());
+    const win32::SystemFunction<Result WINAPI()> ask(L"user32.dll", name);
+    return ask ? std::to_string(ask()) : "-1";
 }
 
 std::string ActivationContextNumber() {

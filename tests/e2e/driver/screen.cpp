@@ -9,6 +9,7 @@
 #include "e2e/driver/platform.h"
 #include "host/pictures/png.h"
 #include "host/pictures/screen_picture.h"
+#include "win32/base/library.h"
 #include "win32/base/text.h"
 
 namespace tavrin::e2e {
@@ -27,10 +28,9 @@ std::wstring FileName(std::string name) {
 
 /// As the system beneath calls it, where there is one.
 std::string NativePath(const std::wstring& path) {
-    using Convert = char* CDECL(const wchar_t*);
-    const FARPROC convert = GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "wine_get_unix_file_name");
-    if (convert == nullptr) return win32::ToUtf8(path);
-    char* const native = reinterpret_cast<Convert*>(reinterpret_cast<void (*)()>(convert))(path.c_str());
+    const win32::SystemFunction<char * CDECL(const wchar_t*)> convert(L"kernel32.dll",
+                                                                      "wine_get_unix_file_name");
+    char* const native = convert ? convert(path.c_str()) : nullptr;
     if (native == nullptr) return win32::ToUtf8(path);
     std::string text = native;
     HeapFree(GetProcessHeap(), 0, native);
