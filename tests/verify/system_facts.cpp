@@ -7,6 +7,7 @@
 #include <array>
 
 #include "verify/kit_files.h"
+#include "win32/elevation.h"
 #include "win32/text.h"
 
 namespace tavrin::verify {
@@ -82,17 +83,6 @@ std::string Locale() {
            std::to_string(GetUserDefaultUILanguage());
 }
 
-std::string Elevation() {
-    HANDLE token = nullptr;
-    TOKEN_ELEVATION elevation{};
-    DWORD size = 0;
-    if (OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token) != FALSE) {
-        GetTokenInformation(token, TokenElevation, &elevation, sizeof elevation, &size);
-        CloseHandle(token);
-    }
-    return elevation.TokenIsElevated != 0 ? "yes" : "no";
-}
-
 std::string Now() {
     SYSTEMTIME now{};
     GetSystemTime(&now);
@@ -115,7 +105,7 @@ std::vector<Fact> ReadSystemFacts() {
             {"Bitness", Bitness()},
             {"Display", Display()},
             {"Locale", Locale()},
-            {"Administrator", Elevation()},
+            {"Administrator", win32::IsElevated() ? "yes" : "no"},
             {"Tavrin.dll", FileVersion(L"Tavrin.dll")}};
 }
 
