@@ -182,24 +182,27 @@ Text OwnerOf(const std::string& file, const Machine& machine, const Registration
            Text{": acest program este pornit ca administrator", ": this program runs as administrator"};
 }
 
-/// As administrator nothing of the user's is seen, which says nothing of his programs.
+/// As administrator nothing of the user's is seen, so that a failure says nothing of his programs.
 void JudgeFailure(Section& section, const Machine& machine, const Registrations& registrations) {
-    const Registration* const winner = Winner(registrations, machine.doctorBits);
-    if (winner == nullptr) return;
+    const Registration* const ofUser = Find(registrations, machine.doctorBits, true);
+    const Registration* const ofMachine = Find(registrations, machine.doctorBits, false);
+    const bool isUsersHidden = machine.doctorIsElevated && ofUser != nullptr;
+    const Registration* const met = isUsersHidden || ofUser == nullptr ? ofMachine : ofUser;
     const Text what =
         Text{"CreateObject(\"Tavrin.Utile\") nu reușește: ", "CreateObject(\"Tavrin.Utile\") fails: "} +
         machine.creation.failure;
-    const bool isUsersAlone = Find(registrations, machine.doctorBits, false) == nullptr;
-    if (!isUsersAlone || !machine.doctorIsElevated) {
-        section.Fail(what, RepairAdvice(*winner));
-        return;
-    }
     const Text advice{
         "un program pornit ca administrator, ca acesta, nu vede înregistrarea utilizatorului: porniți-l ca "
         "utilizator, sau instalați ",
         "a program that runs as administrator, as this one does, does not see what is registered for the "
         "user: run it as the user, or install "};
-    section.Warn(what, advice + Same(PackageName(machine.doctorBits, false)));
+    if (met == nullptr && isUsersHidden) {
+        section.Warn(what, advice + Same(PackageName(machine.doctorBits, false)));
+    } else if (isUsersHidden) {
+        section.Warn(what, RepairAdvice(*met));
+    } else if (met != nullptr) {
+        section.Fail(what, RepairAdvice(*met));
+    }
 }
 
 void JudgeCreation(Section& section, const Machine& machine, const Registrations& registrations) {

@@ -180,7 +180,7 @@ TEST_F(MachineExamination, FailsWhereNothingIsRegistered) {
 TEST_F(MachineExamination, SeesThatAnObjectCannotBeCreated) {
     machine.creation = {false, {"eroarea 0x1", "error 0x1"}, ""};
     EXPECT_EQ(Found(Verdict::Error), "CreateObject(\"Tavrin.Utile\") fails: error 0x1\n");
-    EXPECT_THAT(Advice(), Not(HasSubstr("administrator")));
+    EXPECT_THAT(Advice(), AllOf(Not(HasSubstr("administrator")), HasSubstr("-x64.msi")));
     machine.registrations = {Sound(64, true)};
     EXPECT_EQ(Found(Verdict::Error), "CreateObject(\"Tavrin.Utile\") fails: error 0x1\n");
     machine.doctorIsElevated = true;
@@ -188,6 +188,18 @@ TEST_F(MachineExamination, SeesThatAnObjectCannotBeCreated) {
     EXPECT_EQ(Found(Verdict::Warning), "CreateObject(\"Tavrin.Utile\") fails: error 0x1\n");
     EXPECT_THAT(Advice(), HasSubstr("does not see what is registered for the user: run it as the user, or "
                                     "install Tavrin-"));
+}
+
+TEST_F(MachineExamination, AsAdministratorMeetsTheMachinesAlone) {
+    machine.creation = {false, Same("Module not found"), ""};
+    machine.registrations.push_back(Sound(64, true));
+    machine.doctorIsElevated = true;
+    EXPECT_EQ(Found(Verdict::Error), "");
+    EXPECT_EQ(Found(Verdict::Warning), "CreateObject(\"Tavrin.Utile\") fails: Module not found\n");
+    EXPECT_THAT(Advice(), AllOf(HasSubstr("-x64.msi; without"), Not(HasSubstr("-x64-user.msi"))));
+    machine.doctorIsElevated = false;
+    EXPECT_EQ(Found(Verdict::Error), "CreateObject(\"Tavrin.Utile\") fails: Module not found\n");
+    EXPECT_THAT(Advice(), HasSubstr("-x64-user.msi; without"));
 }
 
 TEST_F(MachineExamination, SaysThatAFileHasNoVersion) {
