@@ -176,7 +176,7 @@ Text OwnerOf(const std::string& file, const Machine& machine, const Registration
     const bool isMachines = ofMachine != nullptr && IsSameFile(ofMachine->path, file);
     if (isUsers == isMachines) return {};
     if (isUsers) return {", a utilizatorului", ", the user's"};
-    const Text owner{", a calculatorului", ", the machine's"};
+    Text owner{", a calculatorului", ", the machine's"};
     if (ofUser == nullptr || !machine.doctorIsElevated) return owner;
     return owner +
            Text{": acest program este pornit ca administrator", ": this program runs as administrator"};

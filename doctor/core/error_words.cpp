@@ -41,9 +41,10 @@ std::string Replaced(std::string text, std::string_view words, std::string_view 
 Text WordsOf(const data::Error& error) {
     const std::string said = error.Description();
     for (const OwnError& own : OwnErrors) {
+        if (error.Number() != own.number) continue;
+        // ADO has some of these numbers too, with words of its own.
         const std::string words = data::RuntimeError(own.number).Description();
-        if (error.Number() == own.number && said.starts_with(words))
-            return {Replaced(said, words, own.romanian), Replaced(said, words, own.english)};
+        return {Replaced(said, words, own.romanian), Replaced(said, words, own.english)};
     }
     return {Replaced(said, data::NamelessResult, "eroarea 0x"),
             Replaced(said, data::NamelessResult, "error 0x")};

@@ -17,8 +17,8 @@ namespace {
 
 constexpr SourceOption Source{
     "--connection",
-    "  --connection TEXT  open this database through ADO and try what the windows need of it; of its\n"
-    "                     text the report repeats what is no secret alone\n"};
+    "  --connection TEXT  open this database through ADO and try what the windows need of it; the\n"
+    "                     report repeats none of its secrets\n"};
 
 void Append(Report& report, Report more) {
     for (Section& section : more)

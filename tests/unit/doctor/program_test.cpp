@@ -113,8 +113,9 @@ TEST_F(DoctorProgram, SaysWhereAndWhenItLooked) {
 
 TEST_F(DoctorProgram, LinesUpWhateverItsLettersTake) {
     report.front().Warn({"hm", "hm"}, {"da", "yes"});
-    Run({});
+    Run({"--report", "r.html"});
     EXPECT_THAT(printed, HasSubstr("\n  aten\u021bie  hm\n"));
+    EXPECT_THAT(page, AllOf(HasSubstr("<meta charset=\"utf-8\">"), HasSubstr("<th>aten\u021bie</th>")));
 }
 
 TEST_F(DoctorProgram, TakesACompanyWithoutADatabaseWhereThereIsOneAnyway) {
