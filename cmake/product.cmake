@@ -1,9 +1,12 @@
-# What the DLL's version resource and the packages say about the product. The build's number tells two builds of one
+# What version resources and packages say about the product. The build's number tells two builds of one
 # version apart: the count of commits up to this one, or 0 in a tree without its history.
 set(TAVRIN_PUBLISHER "Tavrin")
 set(TAVRIN_COPYRIGHT "Copyright © Tavrin")
+# Of the DLL, and of all of it.
 set(TAVRIN_DESCRIPTION "Tavrin - office utilities for accounting programs")
 set(TAVRIN_DESCRIPTION_RO "Tavrin - utilitare de birou pentru programe de contabilitate")
+set(TAVRIN_DOCTOR_DESCRIPTION "Tavrin - what is wrong on a machine or in a database")
+set(TAVRIN_DOCTOR_DESCRIPTION_RO "Tavrin - ce nu este în regulă pe un calculator sau într-o bază de date")
 
 # tavrin_git(<variable> <argument>...): what git answers about this folder, or nothing.
 function(tavrin_git variable)
@@ -29,3 +32,14 @@ if(top STREQUAL source_folder AND shallow STREQUAL "false")
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${log})
   endif()
 endif()
+
+# tavrin_version_info(<variable> <file> <type> <description in Romanian> <description>): the version resource of a file,
+# as text for a resource script.
+set(TAVRIN_VERSION_INFO_TEMPLATE ${CMAKE_CURRENT_LIST_DIR}/version_info.rc.in)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${TAVRIN_VERSION_INFO_TEMPLATE})
+function(tavrin_version_info variable TAVRIN_FILE TAVRIN_FILE_TYPE TAVRIN_FILE_DESCRIPTION_RO TAVRIN_FILE_DESCRIPTION)
+  get_filename_component(TAVRIN_FILE_STEM ${TAVRIN_FILE} NAME_WE)
+  file(READ ${TAVRIN_VERSION_INFO_TEMPLATE} text)
+  string(CONFIGURE "${text}" text @ONLY)
+  set(${variable} "${text}" PARENT_SCOPE)
+endfunction()

@@ -1,12 +1,71 @@
 #include "doctor/core/connection_string.h"
 
 #include <algorithm>
-#include <vector>
+#include <string>
 
 namespace tavrin::doctor {
 namespace {
 
-constexpr std::string_view Stars = "***";
+struct Keyword {
+    std::string_view name;
+    ValueKind kind = ValueKind::Setting;
+};
+
+// In small letters, without blanks and underlines: "trusted_connection" and "Trusted Connection" are one.
+constexpr Keyword Keywords[] = {
+    {"provider"},
+    {"driver"},
+    {"database"},
+    {"initialcatalog"},
+    {"integratedsecurity"},
+    {"trustedconnection"},
+    {"persistsecurityinfo"},
+    {"authentication"},
+    {"encrypt"},
+    {"useencryptionfordata"},
+    {"trustservercertificate"},
+    {"timeout"},
+    {"connecttimeout"},
+    {"connectiontimeout"},
+    {"generaltimeout"},
+    {"commandtimeout"},
+    {"querytimeout"},
+    {"logintimeout"},
+    {"packetsize"},
+    {"autotranslate"},
+    {"multipleactiveresultsets"},
+    {"marsconnection"},
+    {"multisubnetfailover"},
+    {"applicationintent"},
+    {"datatypecompatibility"},
+    {"oledbservices"},
+    {"localeidentifier"},
+    {"language"},
+    {"currentlanguage"},
+    {"mode"},
+    {"network"},
+    {"networklibrary"},
+    {"app"},
+    {"applicationname"},
+    {"datasource", ValueKind::Server},
+    {"server", ValueKind::Server},
+    {"addr", ValueKind::Server},
+    {"address", ValueKind::Server},
+    {"networkaddress", ValueKind::Server},
+    {"host", ValueKind::Server},
+    {"dsn", ValueKind::Server},
+    {"failoverpartner", ValueKind::Server},
+    {"wsid", ValueKind::Server},
+    {"workstationid", ValueKind::Server},
+    {"uid", ValueKind::User},
+    {"user", ValueKind::User},
+    {"userid", ValueKind::User},
+    {"username", ValueKind::User},
+    {"extendedproperties", ValueKind::Connection},
+};
+
+/// Words of keywords whose values are secrets, however short they are.
+constexpr std::string_view SecretWords[] = {"password", "pwd", "token", "secret", "key", "credential"};
 
 bool IsBlank(char character) {
     return character == ' ' || character == '\t' || character == '\r' || character == '\n';
@@ -20,20 +79,25 @@ std::string_view Trimmed(std::string_view text) {
     return text;
 }
 
-/// In lower case and without blanks, so that "Pass word" is one too.
-std::string Keyword(std::string_view text) {
-    std::string keyword;
-    for (const char character : text) {
-        if (IsBlank(character)) continue;
+std::string NameOf(std::string_view keyword) {
+    std::string name;
+    for (const char character : keyword) {
+        if (IsBlank(character) || character == '_') continue;
         const bool upper = character >= 'A' && character <= 'Z';
-        keyword += upper ? static_cast<char>(character - 'A' + 'a') : character;
+        name += upper ? static_cast<char>(character - 'A' + 'a') : character;
     }
-    return keyword;
+    return name;
 }
 
-bool NamesPassword(std::string_view text) {
-    const std::string keyword = Keyword(text);
-    return keyword.find("password") != std::string::npos || keyword.find("pwd") != std::string::npos;
+ValueKind KindOf(const Piece& piece) {
+    const std::string name = NameOf(piece.keyword);
+    const auto stands = [&](std::string_view word) { return name.find(word) != std::string::npos; };
+    if (std::ranges::any_of(SecretWords, stands)) return ValueKind::Secret;
+    const auto* const found = std::ranges::find(Keywords, name, &Keyword::name);
+    if (found == std::end(Keywords)) return ValueKind::Unknown;
+    // A value with a sign in it may be a whole connection string, wherever it stands.
+    const bool isPlain = piece.value.find('=') == std::string_view::npos;
+    return isPlain || found->kind == ValueKind::Connection ? found->kind : ValueKind::Secret;
 }
 
 /// The character that closes a value which begins so; 0 where none does.
@@ -42,96 +106,79 @@ char Closing(char opening) {
     return opening == '{' ? '}' : '\0';
 }
 
-/// Goes over a connection string and shows it without its passwords, which it collects.
-class Masker {
-  public:
-    explicit Masker(std::string_view rest) : rest_(rest) {}
-
-    std::string Run() {
-        while (!rest_.empty())
-            TakePair();
-        return std::move(shown_);
+/// Where a quoted value ends, behind its closing character; npos where that is missing.
+std::size_t EndOfQuoted(std::string_view text, char closing) {
+    for (std::size_t at = 1; at < text.size(); ++at) {
+        if (text[at] != closing) continue;
+        if (at + 1 == text.size() || text[at + 1] != closing) return at + 1;
+        ++at;  // doubled: it stands for itself
     }
-    std::vector<std::string> secrets;
+    return std::string_view::npos;
+}
+
+class Reader {
+  public:
+    explicit Reader(std::string_view rest) : rest_(rest) {}
+
+    std::vector<Piece> Read() {
+        while (!rest_.empty()) {
+            const Piece piece = TakePiece();
+            if (!piece.text.empty()) pieces_.push_back(piece);
+        }
+        return std::move(pieces_);
+    }
 
   private:
-    void TakePair() {
-        const std::size_t end = rest_.find_first_of("=;");
-        const std::string_view key = rest_.substr(0, end);
-        shown_ += key;
-        rest_.remove_prefix(key.size());
-        if (rest_.empty()) return;
-        const bool hasValue = rest_.front() == '=';
-        Show(1);
-        if (hasValue) TakeValue(NamesPassword(key));
-    }
-
-    void TakeValue(bool secret) {
-        while (!rest_.empty() && IsBlank(rest_.front()))
-            Show(1);
+    Piece TakePiece() {
         const std::string_view whole = rest_;
-        const char closing = rest_.empty() ? '\0' : Closing(rest_.front());
-        const bool open = closing != '\0' && !SkipQuoted(closing);
-        rest_.remove_prefix(std::min(rest_.find(';'), rest_.size()));
-        const std::string_view value = whole.substr(0, whole.size() - rest_.size());
-        if (secret || open) {
-            shown_ += Stars;
-            secrets.emplace_back(Trimmed(value));
-            if (value.size() > 2 && closing != '\0') secrets.emplace_back(value.substr(1, value.size() - 2));
-        } else if (closing != '\0') {
-            ShowQuoted(value);
+        const std::size_t end = rest_.find_first_of("=;");
+        Piece piece;
+        if (end == std::string_view::npos || rest_[end] == ';') {
+            piece.value = Trimmed(rest_.substr(0, end));
+            Skip(end);
         } else {
-            shown_ += value;
+            piece.keyword = Trimmed(rest_.substr(0, end));
+            Skip(end + 1);
+            if (TakeValue(piece)) piece.kind = KindOf(piece);
         }
+        const bool hasSign = end != std::string_view::npos && whole[end] == '=';
+        piece.isRemainder = !hasSign || (GoesOn() && IsHidden(piece.kind));
+        piece.text = Trimmed(whole.substr(0, whole.size() - rest_.size()));
+        Skip(1);
+        return piece;
     }
 
-    /// Past the closing character, which stands for itself where it is doubled. False where there is none.
-    bool SkipQuoted(char closing) {
-        rest_.remove_prefix(1);
-        while (!rest_.empty()) {
-            const bool closes = rest_.front() == closing;
-            rest_.remove_prefix(1);
-            if (!closes) continue;
-            if (rest_.empty() || rest_.front() != closing) return true;
-            rest_.remove_prefix(1);
-        }
-        return false;
+    /// False where the value's quote is not closed.
+    bool TakeValue(Piece& piece) {
+        while (!rest_.empty() && IsBlank(rest_.front()))
+            Skip(1);
+        const char closing = rest_.empty() ? '\0' : Closing(rest_.front());
+        const std::size_t close = closing == '\0' ? 0 : EndOfQuoted(rest_, closing);
+        const std::size_t end =
+            close == std::string_view::npos ? rest_.size() : std::min(rest_.find(';', close), rest_.size());
+        piece.value = Trimmed(rest_.substr(0, end));
+        piece.isQuoted = closing != '\0' && close == piece.value.size();
+        Skip(end);
+        return closing == '\0' || piece.isQuoted;
     }
 
-    /// A quoted value may be a connection string in its turn.
-    void ShowQuoted(std::string_view value) {
-        const std::size_t last = value.find_last_of("'\"}");
-        Masker inner(value.substr(1, last - 1));
-        shown_ += value.front() + inner.Run() + std::string(value.substr(last));
-        secrets.insert(secrets.end(), inner.secrets.begin(), inner.secrets.end());
+    static bool IsHidden(ValueKind kind) { return kind == ValueKind::Secret || kind == ValueKind::Unknown; }
+
+    /// Whether what may be a secret and stands in no quotes is the last that was read.
+    bool GoesOn() const {
+        return !pieces_.empty() && !pieces_.back().isQuoted && IsHidden(pieces_.back().kind);
     }
 
-    void Show(std::size_t count) {
-        shown_ += rest_.substr(0, count);
-        rest_.remove_prefix(count);
-    }
+    void Skip(std::size_t count) { rest_.remove_prefix(std::min(count, rest_.size())); }
 
     std::string_view rest_;
-    std::string shown_;
+    std::vector<Piece> pieces_;
 };
 
 }  // namespace
 
-std::string WithoutPasswords(std::string_view connection) {
-    return Masker(connection).Run();
-}
-
-std::string WithoutPasswordsOf(std::string_view connection, std::string text) {
-    Masker masker(connection);
-    masker.Run();
-    std::ranges::sort(masker.secrets, std::ranges::greater(), &std::string::size);
-    for (const std::string& secret : masker.secrets) {
-        if (secret.empty()) continue;
-        for (std::size_t at = text.find(secret); at != std::string::npos;
-             at = text.find(secret, at + Stars.size()))
-            text.replace(at, secret.size(), Stars);
-    }
-    return text;
+std::vector<Piece> ReadConnectionString(std::string_view text) {
+    return Reader(text).Read();
 }
 
 }  // namespace tavrin::doctor

@@ -26,14 +26,14 @@ std::int32_t ExamineCompany(Section& section, data::Connection& connection,
         const data::TablePtr frozen = Ask(connection, rates::FrozenDateStatement(company));
         const std::string id = std::to_string(company);
         if (frozen->RowCount() > 0) {
-            section.Good({"societatea " + id + ": cursuri validate pana la " + frozen->At(0, 0).ToText(),
+            section.Good({"societatea " + id + ": cursuri validate până la " + frozen->At(0, 0).ToText(),
                           "company " + id + ": rates validated up to " + frozen->At(0, 0).ToText()});
         } else {
             const std::string which = asked ? " Id " + id : "";
             section.Fail(
-                {"AdmQuadrel.dbo.Societati nu are nici un rand" + which,
+                {"AdmQuadrel.dbo.Societati nu are niciun rând" + which,
                  "AdmQuadrel.dbo.Societati has no row" + which},
-                {"adaugati societatea; fara ea nu se poate introduce, modifica sau sterge nici un curs",
+                {"adăugați societatea; fără ea nu se poate introduce, modifica sau șterge niciun curs",
                  "add the company; without it no rate can be entered, changed or deleted"});
         }
     } catch (const data::Error& error) {

@@ -8,7 +8,7 @@ namespace tavrin::doctor {
 
 enum class Language { Romanian, English };
 
-/// What is said, in both languages. Romanian stands without marks on its letters, as in the windows.
+/// What is said, in both languages.
 struct Text {
     std::string romanian;
     std::string english;
@@ -22,6 +22,10 @@ struct Text {
 /// Text that is the same in both: names, paths, what a provider says.
 inline Text Same(const std::string& text) {
     return {text, text};
+}
+
+inline Text operator+(const Text& one, const Text& other) {
+    return {one.romanian + other.romanian, one.english + other.english};
 }
 
 enum class Verdict {

@@ -13,7 +13,7 @@ struct Registration {
     bool ofUser = false;  ///< for the user rather than for the machine
     std::string path;     ///< of the DLL
     bool fileExists = false;
-    int fileBits = 0;  ///< of the DLL; 0 where it is none
+    int fileBits = 0;  ///< of the DLL; 0 where it is no program
     std::string fileVersion;
     std::string threadingModel;
     std::string typeLibrary;  ///< its file; empty where none is registered
@@ -23,27 +23,34 @@ struct Registration {
 /// A class that others bring: ADO, or a provider for it.
 struct Provider {
     std::string name;
-    std::string path;  ///< empty where it is not there
-    std::string version;
+    std::string path;     ///< empty where it is not there
+    std::string version;  ///< empty where the file does not tell
 };
 
 /// What COM answered to a program of the doctor's own bitness.
 struct Creation {
     bool succeeded = false;
-    std::string failure;  ///< in the system's words
-    std::string path;     ///< of the DLL that was loaded
+    Text failure;      ///< with the system's words, where it has any
+    std::string path;  ///< of the DLL that was loaded
 };
 
 /// What a machine says of itself.
 struct Machine {
-    std::string system;   ///< "Windows 10.0.19045"
-    int systemBits = 64;  ///< what it can run at most
-    int doctorBits = 64;  ///< Creation and providers are of this bitness alone
+    std::string system;             ///< "Windows 10.0.19045"
+    int systemBits = 64;            ///< what it can run at most
+    int doctorBits = 64;            ///< Creation and providers are of this bitness alone
+    bool doctorIsElevated = false;  ///< Creation is of such a program alone
     std::vector<Registration> registrations;
     Creation creation;
     Provider ado;
     std::vector<Provider> providers;  ///< those that are known for SQL Server
 };
+
+/// "64-bit"
+Text BitsText(int bits);
+
+/// A file with its version.
+Text FileText(const std::string& path, const std::string& version);
 
 /// What of it stands in the way of the component.
 Report ExamineMachine(const Machine& machine);

@@ -44,8 +44,12 @@ void Read(Options& options, const std::string& name, const std::string& value, c
 Options ParseOptions(const std::vector<std::string>& arguments, const SourceOption& source) {
     Options options;
     for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
-        if (*argument == "--help") {
+        if (*argument == "--help" || *argument == "/?") {
             options.help = true;
+            continue;
+        }
+        if (*argument == "--version") {
+            options.version = true;
             continue;
         }
         const bool known = *argument == source.name || *argument == "--company" ||
@@ -57,6 +61,8 @@ Options ParseOptions(const std::vector<std::string>& arguments, const SourceOpti
         Read(options, *argument, *value, source);
         argument = value;
     }
+    if (options.company && options.source.empty() && !source.hasDefault)
+        throw std::invalid_argument(std::string("--company needs ") + source.name);
     return options;
 }
 
@@ -68,12 +74,13 @@ std::string UsageText(const SourceOption& source) {
            "  --company N        the company's Id (without it: the lowest in AdmQuadrel.dbo.Societati)\n"
            "  --report FILE      write the report as a page of HTML as well\n"
            "  --language ro|en   Romanian or English (without it: Romanian on a Romanian system)\n"
-           "  --help             this text\n\n"
+           "  --version          the version of this program alone\n"
+           "  --help, /?         this text\n\n"
            "Everything that is tried in the database is rolled back. Ends with 0 where nothing is wrong, "
            "warnings\n"
-           "aside, with 1 where something is, with 2 when it is called wrongly, with 3 where it cannot write "
-           "the\n"
-           "report.\n";
+           "aside, with 1 where something is, as where nothing is registered, with 2 when it is called "
+           "wrongly,\n"
+           "with 3 where it cannot write the report.\n";
 }
 
 }  // namespace tavrin::doctor

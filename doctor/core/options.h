@@ -16,12 +16,15 @@ struct Options {
     std::optional<Language> language;  ///< none: the system's
     std::string reportFile;            ///< empty: none
     bool help = false;
+    bool version = false;
 };
 
 /// How this program calls the option for its database, and what the help says of it.
 struct SourceOption {
     const char* name;
     const char* help;
+    /// Whether a database is looked at where none is named.
+    bool hasDefault = false;
 };
 
 /// \throws std::invalid_argument with one line. It names options alone, never what was given with them.

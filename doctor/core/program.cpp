@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "doctor/core/report.h"
+#include "doctor/core/product.h"
 
 namespace tavrin::doctor {
 
@@ -12,11 +12,15 @@ int RunProgram(const std::vector<std::string>& arguments, const Surroundings& su
         surroundings.print(UsageText(surroundings.source));
         return exit_code::AllWell;
     }
+    if (options.version) {
+        surroundings.print(std::string("tavrin_doctor ") + BuildVersion + "\n");
+        return exit_code::AllWell;
+    }
     const Language language = options.language.value_or(surroundings.language);
     const Report report = surroundings.examine(options);
-    surroundings.print(PlainReport(report, language));
+    surroundings.print(PlainReport(report, surroundings.origin, language));
     if (!options.reportFile.empty() &&
-        !surroundings.write(options.reportFile, HtmlReport(report, language))) {
+        !surroundings.write(options.reportFile, HtmlReport(report, surroundings.origin, language))) {
         surroundings.complain("tavrin_doctor: cannot write " + options.reportFile + "\n");
         return exit_code::NoReport;
     }

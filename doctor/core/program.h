@@ -6,6 +6,7 @@
 
 #include "doctor/core/finding.h"
 #include "doctor/core/options.h"
+#include "doctor/core/report.h"
 
 namespace tavrin::doctor {
 
@@ -13,6 +14,7 @@ namespace tavrin::doctor {
 struct Surroundings {
     SourceOption source;
     Language language = Language::English;  ///< the system's
+    Origin origin;
     std::function<Report(const Options& options)> examine;
     std::function<void(const std::string& text)> print;     ///< UTF-8, on the console
     std::function<void(const std::string& text)> complain;  ///< the same, where errors go

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstdio>
 
+#include "doctor/core/error_words.h"
+
 namespace tavrin::doctor {
 namespace {
 
@@ -36,20 +38,19 @@ void Run(data::Connection& connection, const std::string& statement) {
 }
 
 Text Refused(const Text& what, const data::Error& error) {
-    const std::string words = ": " + NumberText(error.Number()) + " " + error.Description();
-    return {what.romanian + words, what.english + words};
+    return what + Same(": " + NumberText(error.Number()) + " ") + WordsOf(error);
 }
 
 Text AdviceOn(const data::Error& error) {
     switch (error.Number()) {
         case PermissionDenied:
-            return {"dati contului dreptul (GRANT); examples/database/tables.sql le are pe toate",
+            return {"dați contului dreptul (GRANT); examples/database/tables.sql le are pe toate",
                     "give the login the right (GRANT); examples/database/tables.sql has them all"};
         case NoTable:
-            return {"rulati examples/database/tables.sql, sau verificati baza de date din sirul de conectare",
+            return {"rulați examples/database/tables.sql, sau verificați baza de date din șirul de conectare",
                     "run examples/database/tables.sql, or look which database the connection string names"};
         default:
-            return {"comparati tabela cu examples/database/tables.sql",
+            return {"comparați tabela cu examples/database/tables.sql",
                     "compare the table with examples/database/tables.sql"};
     }
 }

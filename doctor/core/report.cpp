@@ -2,17 +2,19 @@
 
 #include <algorithm>
 
+#include "doctor/core/product.h"
+
 namespace tavrin::doctor {
 namespace {
 
-const Text Title{"Tavrin: starea calculatorului si a bazei de date", "Tavrin: state of machine and database"};
+const Text Title{"Tavrin: starea calculatorului și a bazei de date", "Tavrin: state of machine and database"};
 
 Text Mark(Verdict verdict) {
     switch (verdict) {
         case Verdict::Good:
             return {"bine", "good"};
         case Verdict::Warning:
-            return {"atentie", "warning"};
+            return {"atenție", "warning"};
         case Verdict::Error:
             break;
     }
@@ -38,10 +40,18 @@ Text Summary(const Report& report) {
             "errors: " + errors + ", warnings: " + warnings};
 }
 
-std::string Padded(std::string text) {
-    constexpr std::size_t Width = 9;
-    text.resize(std::max(text.size(), Width), ' ');
-    return text;
+/// What made the report, where and when.
+Text Head(const Origin& origin) {
+    return Same(std::string("tavrin_doctor ") + BuildVersion) + Text{", calculatorul ", ", machine "} +
+           Same(origin.machine + ", " + origin.time);
+}
+
+/// Filled up with blanks to the width of its column. Letters of two bytes take one place there.
+std::string Padded(const std::string& text) {
+    constexpr std::ptrdiff_t Width = 9;
+    const auto letters = std::ranges::count_if(
+        text, [](char character) { return (static_cast<unsigned char>(character) & 0xC0U) != 0x80U; });
+    return text + std::string(static_cast<std::size_t>(std::max(Width - letters, std::ptrdiff_t{0})), ' ');
 }
 
 std::string Escaped(const std::string& text) {
@@ -97,8 +107,8 @@ std::size_t Count(const Report& report, Verdict verdict) {
     return count;
 }
 
-std::string PlainReport(const Report& report, Language language) {
-    std::string text;
+std::string PlainReport(const Report& report, const Origin& origin, Language language) {
+    std::string text = Head(origin).In(language) + "\n\n";
     for (const Section& section : report) {
         text += section.title.In(language) + "\n";
         for (const Finding& finding : section.findings) {
@@ -111,12 +121,13 @@ std::string PlainReport(const Report& report, Language language) {
     return text + Summary(report).In(language) + "\n";
 }
 
-std::string HtmlReport(const Report& report, Language language) {
+std::string HtmlReport(const Report& report, const Origin& origin, Language language) {
     std::string page = language == Language::Romanian ? "<!DOCTYPE html>\n<html lang=\"ro\">"
                                                       : "<!DOCTYPE html>\n<html lang=\"en\">";
     page +=
         "<head><meta charset=\"utf-8\">" + Element("title", Title.In(language)) + Style + "</head>\n<body>";
-    page += Element("h1", Title.In(language)) + Element("p", Summary(report).In(language)) + "\n";
+    page += Element("h1", Title.In(language)) + Element("p", Head(origin).In(language));
+    page += Element("p", Summary(report).In(language)) + "\n";
     for (const Section& section : report) {
         page += Element("h2", section.title.In(language)) + "<table>\n";
         for (const Finding& finding : section.findings)

@@ -19,7 +19,7 @@ struct FoundColumn {
     std::string type;
 };
 
-const Text RunTheScript{"rulati examples/database/tables.sql, sau adaugati ce lipseste",
+const Text RunTheScript{"rulați examples/database/tables.sql, sau adăugați ce lipsește",
                         "run examples/database/tables.sql, or add what is missing"};
 
 std::string LowerAscii(std::string text) {
@@ -44,11 +44,11 @@ Text Meaning(ColumnKind kind) {
         case ColumnKind::Text:
             return {"text (nvarchar)", "text (nvarchar)"};
         case ColumnKind::Number:
-            return {"un numar", "a number"};
+            return {"un număr", "a number"};
         case ColumnKind::Date:
             break;
     }
-    return {"o data (datetime)", "a date (datetime)"};
+    return {"o dată (datetime)", "a date (datetime)"};
 }
 
 /// The names stand here in full, so no quote in them has to be doubled.
@@ -88,18 +88,18 @@ void ExamineColumn(Section& section, const ExpectedTable& table, const ExpectedC
     const std::string name = table.FullName() + ", " + expected.name;
     const FoundColumn* const found = Find(columns, expected.name);
     if (found == nullptr) {
-        section.Fail({name + ": coloana lipseste", name + ": the column is missing"}, RunTheScript);
+        section.Fail({name + ": coloana lipsește", name + ": the column is missing"}, RunTheScript);
     } else if (!Holds(expected.kind, found->type)) {
         const Text meaning = Meaning(expected.kind);
         section.Fail({name + " este " + found->type + ", nu " + meaning.romanian,
                       name + " is " + found->type + ", not " + meaning.english},
-                     {"schimbati tipul coloanei", "change the column's type"});
+                     {"schimbați tipul coloanei", "change the column's type"});
     }
 }
 
 void ExamineOrder(Section& section, const std::vector<FoundColumn>& columns) {
     const Text advice{
-        "refaceti tabela: Data, Validat, apoi monedele; numele se compara literal",
+        "refaceți tabela: Data, Validat, apoi monedele; numele se compară literal",
         "make the table anew: Data, Validat, then the currencies; names count letter for letter"};
     if (columns[0].name != "Data") {
         section.Fail({"[Curs Valutar]: prima coloana este " + columns[0].name + ", nu Data",
@@ -109,7 +109,7 @@ void ExamineOrder(Section& section, const std::vector<FoundColumn>& columns) {
     if (columns.size() < ColumnsBeforeCurrencies || columns[1].name == "Validat") return;
     const std::string& second = columns[1].name;
     section.Fail({"[Curs Valutar]: a doua coloana este " + second +
-                      ", nu Validat; lista o ia drept moneda, celelalte ferestre o trec peste",
+                      ", nu Validat; lista o ia drept monedă, celelalte ferestre o trec peste",
                   "[Curs Valutar]: the second column is " + second +
                       ", not Validat; the list takes it for a currency, other windows pass over it"},
                  advice);
@@ -120,12 +120,12 @@ void ExamineCurrency(Section& section, const FoundColumn& currency) {
     if (!Holds(ColumnKind::Number, currency.type)) {
         section.Fail(
             {name + " este " + currency.type + ", nu float", name + " is " + currency.type + ", not float"},
-            {"de la a treia coloana incolo stau numai monede; schimbati tipul, sau mutati coloana",
+            {"de la a treia coloană încolo stau numai monede; schimbați tipul, sau mutați coloana",
              "from the third column on there are only currencies; change the type, or move the column"});
     } else if (LowerAscii(currency.type) != "float") {
         section.Warn(
             {name + " este " + currency.type + ", nu float", name + " is " + currency.type + ", not float"},
-            {"cursurile se pot rotunji; schimbati tipul in float",
+            {"cursurile se pot rotunji; schimbați tipul în float",
              "rates may be rounded; change the type to float"});
     }
 }
@@ -134,10 +134,10 @@ void ExamineCurrencies(Section& section, const std::vector<FoundColumn>& columns
     for (std::size_t column = ColumnsBeforeCurrencies; column < columns.size(); ++column)
         ExamineCurrency(section, columns[column]);
     if (columns.size() <= ColumnsBeforeCurrencies)
-        section.Fail({"[Curs Valutar] nu are nici o moneda", "[Curs Valutar] has no currency"}, RunTheScript);
+        section.Fail({"[Curs Valutar] nu are nicio monedă", "[Curs Valutar] has no currency"}, RunTheScript);
     if (Find(columns, FirstCurrencyOfCalculator) == nullptr) {
         section.Fail(
-            {"[Curs Valutar] nu are coloana $, pe care calculatorul o cere intai",
+            {"[Curs Valutar] nu are coloana $, pe care calculatorul o cere întâi",
              "[Curs Valutar] has no column $, which the calculator asks for first"},
             {"ALTER TABLE [Curs Valutar] ADD [$] float", "ALTER TABLE [Curs Valutar] ADD [$] float"});
     }
@@ -147,7 +147,7 @@ void ExamineTable(Section& section, const ExpectedTable& table, data::Connection
     const std::vector<FoundColumn> columns = FindColumns(connection, table);
     const std::string name = table.FullName();
     if (columns.empty()) {
-        section.Fail({name + ": tabela lipseste, sau contul nu are nici un drept asupra ei",
+        section.Fail({name + ": tabela lipsește, sau contul nu are niciun drept asupra ei",
                       name + ": the table is missing, or the login has no right on it"},
                      RunTheScript);
         return;

@@ -109,7 +109,7 @@ void TryGroups(Section& section, ExaminedDatabase& database, const StatementSamp
         if (count == 0) continue;
         const std::string number = std::to_string(count);
         section.Good(
-            {window + ": instructiuni acceptate: " + number, window + ": statements taken: " + number});
+            {window + ": instrucțiuni acceptate: " + number, window + ": statements taken: " + number});
     }
 }
 
@@ -136,19 +136,19 @@ void TryKeys(Section& section, ExaminedDatabase& database, const StatementSample
         rates::InsertDayStatement(data::FormatDayMonthYear(sample.day), {{sample.currencies.front(), "1"}});
     const Second secondDay = TryTwice(database, day);
     if (secondDay == Second::Refused)
-        section.Good({"o zi nu se poate introduce de doua ori", "a day cannot be entered twice"});
+        section.Good({"o zi nu se poate introduce de două ori", "a day cannot be entered twice"});
     if (secondDay == Second::Taken) {
-        section.Warn({"[Curs Valutar] ia o zi de doua ori", "[Curs Valutar] takes a day twice"},
-                     {"declarati cheia: ALTER TABLE [Curs Valutar] ADD UNIQUE (Data)",
+        section.Warn({"[Curs Valutar] ia o zi de două ori", "[Curs Valutar] takes a day twice"},
+                     {"declarați cheia: ALTER TABLE [Curs Valutar] ADD UNIQUE (Data)",
                       "declare the key: ALTER TABLE [Curs Valutar] ADD UNIQUE (Data)"});
     }
     const Second secondPerson = TryTwice(database, addressbook::InsertStatement(sample.person));
     if (secondPerson == Second::Refused)
-        section.Good({"o persoana nu se poate introduce de doua ori", "a person cannot be entered twice"});
+        section.Good({"o persoană nu se poate introduce de două ori", "a person cannot be entered twice"});
     if (secondPerson == Second::Taken) {
-        section.Warn({"Agenda ia o persoana de doua ori; s-ar modifica si sterge impreuna",
+        section.Warn({"Agenda ia o persoană de două ori; s-ar modifica și șterge împreună",
                       "Agenda takes a person twice; both would be changed and deleted together"},
-                     {"declarati cheia: ALTER TABLE Agenda ADD UNIQUE (Nume, Prenume)",
+                     {"declarați cheia: ALTER TABLE Agenda ADD UNIQUE (Nume, Prenume)",
                       "declare the key: ALTER TABLE Agenda ADD UNIQUE (Nume, Prenume)"});
     }
 }
@@ -161,11 +161,11 @@ void TryLetters(Section& section, ExaminedDatabase& database, StatementSample sa
         Run(database.Statements(), addressbook::InsertStatement(sample.person));
         const data::TablePtr found = Ask(database.Statements(), addressbook::ListStatement(family, "%"));
         if (found->RowCount() == 1 && found->At(0, 0).ToText() == family) {
-            section.Good({"agenda pastreaza si gaseste numele " + family,
+            section.Good({"agenda păstrează și găsește numele " + family,
                           "the address book keeps and finds the name " + family});
             return;
         }
-        section.Fail({"agenda nu pastreaza sau nu gaseste numele " + family,
+        section.Fail({"agenda nu păstrează sau nu găsește numele " + family,
                       "the address book does not keep or does not find the name " + family},
                      {"coloanele agendei: nvarchar; baza de date: collation Romanian_CI_AS",
                       "the address book's columns: nvarchar; the database: collation Romanian_CI_AS"});
@@ -180,10 +180,10 @@ void Compare(Section& section, const State& before, const State& after) {
                       "all was rolled back: the database is as it was"});
         return;
     }
-    section.Fail({"baza de date nu mai este cum era: s-au schimbat randuri sau coloane in timpul verificarii",
+    section.Fail({"baza de date nu mai este cum era: s-au schimbat rânduri sau coloane în timpul verificării",
                   "the database is not as it was: rows or columns changed during the examination"},
-                 {"cautati ziua 31.12.2077, persoana Tavrin si moneda XTS si stergeti-le, daca nu au lucrat "
-                  "altii intre timp",
+                 {"căutați ziua 31.12.2077, persoana Tavrin și moneda XTS și ștergeți-le, dacă nu au lucrat "
+                  "alții între timp",
                   "look for the day 31/12/2077, the person Tavrin and the currency XTS and delete them, "
                   "unless others were "
                   "at work meanwhile"});
@@ -192,7 +192,7 @@ void Compare(Section& section, const State& before, const State& after) {
 }  // namespace
 
 Section TryStatements(ExaminedDatabase& database, std::int32_t company) {
-    Section section{{"Instructiunile ferestrelor", "The windows' statements"}, {}};
+    Section section{{"Instrucțiunile ferestrelor", "The windows' statements"}, {}};
     data::Connection& connection = database.Statements();
     try {
         const State before = StateOf(connection);
@@ -202,7 +202,7 @@ Section TryStatements(ExaminedDatabase& database, std::int32_t company) {
         TryLetters(section, database, sample);
         Compare(section, before, StateOf(connection));
     } catch (const data::Error& error) {
-        section.Fail(Refused({"nu se poate incepe o tranzactie", "no transaction can be begun"}, error),
+        section.Fail(Refused({"nu se poate începe o tranzacție", "no transaction can be begun"}, error),
                      AdviceOn(error));
     }
     return section;

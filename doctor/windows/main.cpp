@@ -2,52 +2,45 @@
 
 #include <windows.h>
 
-#include <objbase.h>
-#include <shellapi.h>
-
-#include <memory>
-
-#include "doctor/core/connection_string.h"
+#include "doctor/core/connection_secrets.h"
 #include "doctor/core/database_examination.h"
+#include "doctor/core/error_words.h"
 #include "doctor/core/program.h"
 #include "doctor/windows/ado_examination.h"
 #include "doctor/windows/this_machine.h"
 #include "win32/base/text.h"
+#include "win32/program/com_scope.h"
+#include "win32/program/program_arguments.h"
 
 namespace tavrin::doctor {
 namespace {
 
 constexpr SourceOption Source{
     "--connection",
-    "  --connection TEXT  open this database through ADO and try what the windows need of it; passwords\n"
-    "                     are not repeated\n"};
-
-class ComScope {
-  public:
-    ComScope() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
-    ~ComScope() { CoUninitialize(); }
-    ComScope(const ComScope&) = delete;
-    ComScope& operator=(const ComScope&) = delete;
-};
+    "  --connection TEXT  open this database through ADO and try what the windows need of it; the\n"
+    "                     report repeats none of its secrets\n"};
 
 void Append(Report& report, Report more) {
     for (Section& section : more)
         report.push_back(std::move(section));
 }
 
+Text WithoutSecrets(const Options& options, const Text& text) {
+    return {WithoutSecretsOf(options.source, text.romanian), WithoutSecretsOf(options.source, text.english)};
+}
+
 /// The connection, and everything behind it where it opens.
 Report ExamineConnection(const Options& options) {
     Section section{{"Conexiunea", "The connection"}, {}};
-    section.Good(Same(WithoutPasswords(options.source)));
+    section.Good(Same(ShownConnection(options.source)));
     Report behind;
     try {
         AdoExamination database(options.source);
-        section.Good(Same(WithoutPasswordsOf(options.source, database.Description())));
+        section.Good(WithoutSecrets(options, Same(database.Description())));
         behind = ExamineDatabase(database, options.company);
     } catch (const data::Error& error) {
-        const std::string words = WithoutPasswordsOf(options.source, error.Description());
-        section.Fail({"nu se deschide: " + words, "does not open: " + words},
-                     {"verificati serverul, baza de date, contul si furnizorul din sirul de conectare",
+        section.Fail(Text{"nu se deschide: ", "does not open: "} + WithoutSecrets(options, WordsOf(error)),
+                     {"verificați serverul, baza de date, contul și furnizorul din șirul de conectare",
                       "look at server, database, login and provider in the connection string"});
     }
     Report report{section};
@@ -56,7 +49,7 @@ Report ExamineConnection(const Options& options) {
 }
 
 Report Examine(const Options& options) {
-    const ComScope com;
+    const win32::ComScope com;
     Report report = ExamineMachine(ThisMachine());
     if (!options.source.empty()) Append(report, ExamineConnection(options));
     return report;
@@ -91,22 +84,13 @@ Language SystemLanguage() {
                                                                       : Language::English;
 }
 
-std::vector<std::string> Arguments() {
-    int count = 0;
-    const std::unique_ptr<LPWSTR, decltype(&LocalFree)> texts(CommandLineToArgvW(GetCommandLineW(), &count),
-                                                              LocalFree);
-    std::vector<std::string> arguments;
-    for (int i = 1; i < count; ++i)
-        arguments.push_back(win32::ToUtf8(texts.get()[i]));
-    return arguments;
-}
-
 }  // namespace
 }  // namespace tavrin::doctor
 
 int main() {
     using namespace tavrin::doctor;
-    return RunProgram(Arguments(), {Source, SystemLanguage(), Examine,
-                                    [](const std::string& text) { Print(STD_OUTPUT_HANDLE, text); },
-                                    [](const std::string& text) { Print(STD_ERROR_HANDLE, text); }, Write});
+    return RunProgram(tavrin::win32::Arguments(),
+                      {Source, SystemLanguage(), ThisOrigin(), Examine,
+                       [](const std::string& text) { Print(STD_OUTPUT_HANDLE, text); },
+                       [](const std::string& text) { Print(STD_ERROR_HANDLE, text); }, Write});
 }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "doctor/core/error_words.h"
 #include "doctor/windows/file_facts.h"
 #include "win32/base/com_ptr.h"
 #include "win32/base/module_path.h"
@@ -108,7 +109,7 @@ Creation TryToCreate() {
         result =
             CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, __uuidof(IDispatch), object.ReceiveVoid());
     }
-    if (FAILED(result)) return {false, win32::SystemMessage(result), {}};
+    if (FAILED(result)) return {false, WordsOf({result, win32::SystemMessage(result)}), {}};
     return {true, {}, win32::ToUtf8(win32::ModulePath(GetModuleHandleW(Dll)))};
 }
 

@@ -2,10 +2,14 @@
 
 #include <windows.h>
 
+#include <array>
+#include <cstdio>
+
 #include "doctor/windows/file_facts.h"
 #include "doctor/windows/registrations.h"
 #include "win32/base/library.h"
 #include "win32/base/text.h"
+#include "win32/program/elevation.h"
 
 namespace tavrin::doctor {
 namespace {
@@ -33,11 +37,24 @@ Provider FindProvider(const wchar_t* programId) {
 
 }  // namespace
 
+Origin ThisOrigin() {
+    SYSTEMTIME now{};
+    GetLocalTime(&now);
+    std::array<char, 32> time{};
+    std::snprintf(time.data(), time.size(), "%04u-%02u-%02u %02u:%02u:%02u", now.wYear, now.wMonth, now.wDay,
+                  now.wHour, now.wMinute, now.wSecond);
+    std::array<wchar_t, MAX_COMPUTERNAME_LENGTH + 1> name{};
+    DWORD size = static_cast<DWORD>(name.size());
+    GetComputerNameW(name.data(), &size);
+    return {time.data(), win32::ToUtf8(name.data())};
+}
+
 Machine ThisMachine() {
     constexpr int Bits = static_cast<int>(sizeof(void*) * 8);
     Machine machine{SystemVersion(),
                     SystemBits(),
                     Bits,
+                    win32::IsElevated(),
                     FindRegistrations(),
                     TryToCreate(),
                     FindProvider(L"ADODB.Connection"),

@@ -2,9 +2,6 @@
 
 #include <windows.h>
 
-#include <objbase.h>
-#include <shellapi.h>
-
 #include <chrono>
 #include <cstdio>
 #include <future>
@@ -28,30 +25,14 @@
 #include "win32/base/module_path.h"
 #include "win32/base/text.h"
 #include "win32/base/variant.h"
+#include "win32/program/com_scope.h"
+#include "win32/program/program_arguments.h"
 
 namespace tavrin::host {
 namespace {
 
 using win32::ComPtr;
 using win32::Variant;
-
-class ComScope {
-  public:
-    ComScope() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
-    ~ComScope() { CoUninitialize(); }
-    ComScope(const ComScope&) = delete;
-    ComScope& operator=(const ComScope&) = delete;
-};
-
-std::vector<std::string> Arguments() {
-    int count = 0;
-    const std::unique_ptr<LPWSTR, decltype(&LocalFree)> texts(CommandLineToArgvW(GetCommandLineW(), &count),
-                                                              LocalFree);
-    std::vector<std::string> arguments;
-    for (int i = 1; i < count; ++i)
-        arguments.push_back(win32::ToUtf8(texts.get()[i]));
-    return arguments;
-}
 
 std::wstring BesideThisProgram(const wchar_t* name) {
     const std::wstring path = win32::ModulePath(nullptr);
@@ -110,7 +91,7 @@ void RunMessageLoopDuringTour(const std::wstring& folder) {
 
 void RunHost(const Options& options) {
     if (options.followsResolution) FollowResolution();
-    const ComScope com;
+    const win32::ComScope com;
     // Registered in the process, so that the component finds the host's recordset; real ADO brings its own.
     std::optional<RecordsetRegistration> recordsets;
     ComPtr<IDispatch> connection;
@@ -136,7 +117,7 @@ void RunHost(const Options& options) {
 }
 
 int Main() try {
-    const Options options = ParseOptions(Arguments());
+    const Options options = ParseOptions(win32::Arguments());
     if (options.help) {
         std::fputs(UsageText, stdout);
         return 0;

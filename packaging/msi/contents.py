@@ -7,6 +7,8 @@ from idt import Table
 # Opened by the link in the start menu and in the list of programs.
 GUIDE = "docs/using.html"
 DLL = "Tavrin.dll"
+# A file on the disk that has a version stays before one of which the package tells none.
+VERSIONED = {DLL, "tavrin_doctor.exe"}
 LINK = "Tavrin - ghidul utilizatorului"
 
 REGISTRY_KEY_PATH = 4
@@ -15,9 +17,9 @@ ROOT_OF_THE_SCOPE = -1
 WHEN_REMOVED = 2
 
 
-def version_of(dll):
+def version_of(file):
     """The version that its resource has: the installer compares it with that of the file that lies there."""
-    content = dll.read_bytes()
+    content = file.read_bytes()
     start = content.index(struct.pack("<II", 0xFEEF04BD, 0x10000))
     high, low = struct.unpack_from("<II", content, start + 8)
     return f"{high >> 16}.{high & 0xFFFF}.{low >> 16}.{low & 0xFFFF}"
@@ -96,7 +98,7 @@ class Contents:
         for number, path in enumerate(self.paths, 1):
             key = self.key_of(path)
             name = pathlib.PurePath(path)
-            versioned = path == DLL
+            versioned = path in VERSIONED
             version = version_of(self.stage / path) if versioned else None
             folder = self.folders[name.parent.as_posix()]
             self.component.add(key, self.identify(path), folder, self.attributes, None, key)

@@ -45,6 +45,9 @@ inline constexpr std::int32_t IntegrityViolation = -2147217873;  ///< 80040E2F: 
 /// most cases, where there is one.
 Error RuntimeError(std::int32_t number, std::string_view detail = {});
 
+/// Before the eight digits of a result for which the system has no words.
+inline constexpr std::string_view NamelessResult = "Eroarea 0x";
+
 /// What the use of an object raises that there is none of.
 inline Error ObjectNotSet() {
     return RuntimeError(error_number::ObjectNotSet);

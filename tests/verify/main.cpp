@@ -4,8 +4,6 @@
 
 #include <windows.h>
 
-#include <objbase.h>
-
 #include <array>
 #include <cstdio>
 #include <cwchar>
@@ -26,6 +24,8 @@
 #include "verify/system_facts.h"
 #include "verify/test_runs.h"
 #include "win32/base/text.h"
+#include "win32/program/com_scope.h"
+#include "win32/program/program_arguments.h"
 
 namespace tavrin::verify {
 namespace {
@@ -42,11 +42,8 @@ std::string TakeConnectionVariable() {
     return length < value.size() ? win32::ToUtf8({value.data(), length}) : std::string();
 }
 
-Options ReadOptions(int count, wchar_t** arguments) {
-    std::vector<std::string> texts;
-    for (int i = 1; i < count; ++i)
-        texts.push_back(win32::ToUtf8(arguments[i]));
-    Options options = ParseOptions(texts);
+Options ReadOptions() {
+    Options options = ParseOptions(win32::Arguments());
     const std::string variable = TakeConnectionVariable();
     if (options.connectionString.empty()) options.connectionString = variable;
     return options;
@@ -86,13 +83,12 @@ void VerifyOnServer(const std::string& connectionString, const std::wstring& fol
 }
 
 void TryOnServer(const std::string& connectionString, const std::wstring& folder, Report& report) {
-    const HRESULT apartment = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    const win32::ComScope com;
     try {
         VerifyOnServer(connectionString, folder, report);
     } catch (const std::exception& error) {
         report.databaseProblems.emplace_back(error.what());
     }
-    if (SUCCEEDED(apartment)) CoUninitialize();
 }
 
 Report Verify(const Options& options, const std::wstring& folder) {
@@ -114,8 +110,8 @@ BOOL WINAPI GoOn(DWORD event) {
     return event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT ? TRUE : FALSE;
 }
 
-int Run(int count, wchar_t** arguments) {
-    const Options options = ReadOptions(count, arguments);
+int Run() {
+    const Options options = ReadOptions();
     if (options.help) {
         std::fputs(UsageText, stdout);
         return static_cast<int>(Verdict::Passed);
@@ -136,9 +132,7 @@ int Run(int count, wchar_t** arguments) {
 }  // namespace
 }  // namespace tavrin::verify
 
-int wmain(int count, wchar_t** arguments) try {
-    return tavrin::verify::Run(count, arguments);
-} catch (const std::exception& error) {
+int main() try { return tavrin::verify::Run(); } catch (const std::exception& error) {
     std::printf("%s\n", error.what());
     return static_cast<int>(tavrin::verify::Verdict::NotRun);
 }

@@ -6,7 +6,7 @@
 
 namespace tavrin::verify {
 
-/// What a connection string says that no report may repeat: itself, and in it passwords, users and servers.
+/// What a connection string says that no report may repeat: itself, and in it secrets, users and servers.
 /// What a provider or a test says may hold them.
 class Secrets {
   public:
@@ -17,7 +17,7 @@ class Secrets {
     std::string Withheld(std::string_view text) const;
 
   private:
-    std::vector<std::string> secrets_;  ///< the longest first, in small letters
+    std::vector<std::string> secrets_;
 };
 
 }  // namespace tavrin::verify

@@ -9,6 +9,7 @@
 #include "verify/kit_files.h"
 #include "win32/base/library.h"
 #include "win32/base/text.h"
+#include "win32/program/elevation.h"
 
 namespace tavrin::verify {
 
@@ -76,17 +77,6 @@ std::string Locale() {
            std::to_string(GetUserDefaultUILanguage());
 }
 
-std::string Elevation() {
-    HANDLE token = nullptr;
-    TOKEN_ELEVATION elevation{};
-    DWORD size = 0;
-    if (OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token) != FALSE) {
-        GetTokenInformation(token, TokenElevation, &elevation, sizeof elevation, &size);
-        CloseHandle(token);
-    }
-    return elevation.TokenIsElevated != 0 ? "yes" : "no";
-}
-
 std::string Now() {
     SYSTEMTIME now{};
     GetSystemTime(&now);
@@ -109,7 +99,7 @@ std::vector<Fact> ReadSystemFacts() {
             {"Bitness", Bitness()},
             {"Display", Display()},
             {"Locale", Locale()},
-            {"Administrator", Elevation()},
+            {"Administrator", win32::IsElevated() ? "yes" : "no"},
             {"Tavrin.dll", FileVersion(L"Tavrin.dll")}};
 }
 

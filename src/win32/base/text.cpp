@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "data/error.h"
+
 namespace tavrin::win32 {
 
 std::wstring ToWide(std::string_view text) {
@@ -39,7 +41,7 @@ std::string SystemMessage(HRESULT result) {
     while (length > 0 && buffer[length - 1] <= L' ')
         --length;
     if (length > 0) return ToUtf8({buffer.data(), length});
-    return "Eroarea 0x" + HexText(static_cast<std::uint32_t>(result));
+    return std::string(data::NamelessResult) + HexText(static_cast<std::uint32_t>(result));
 }
 
 }  // namespace tavrin::win32

@@ -116,6 +116,17 @@ TEST_F(Examination, FindsNothingWrongWhereAllIsThere) {
               HasSubstr("company 1: rates validated up to 31/03/2003")));
 }
 
+TEST_F(Examination, SpeaksRomanianWithItsLetters) {
+    Drop("An");
+    EmbeddedExamination database(Make());
+    const std::string text = PlainReport(ExamineDatabase(database, 9), {}, Language::Romanian);
+    EXPECT_THAT(text, AllOf(HasSubstr("tabela lipse\u0219te"), HasSubstr("niciun r\u00e2nd"),
+                            HasSubstr("rula\u021bi"), HasSubstr("instruc\u021biuni")));
+    for (const char* const bare : {"lipseste", "rand ", "rulati", "instructiuni", " si ", "doua", "citita",
+                                   "pastr", "gaseste", "persoana nu"})
+        EXPECT_THAT(text, testing::Not(HasSubstr(bare)));
+}
+
 TEST_F(Examination, MissesEachTable) {
     for (const char* const name : {"[Curs Valutar]", "LpVal", "An", "AdmQuadrel.dbo.Societati", "Agenda"}) {
         const std::vector<Table> all = tables;
@@ -341,7 +352,8 @@ TEST_F(Examination, NamesEachStatementThatALoginMayNotRun) {
         const Report report = ExamineDatabase(server, company);
         EXPECT_THAT(Listed(report, Verdict::Error), AllOf(HasSubstr(std::string(": ") + statement),
                                                           HasSubstr("80040E09 permission was denied")));
-        EXPECT_THAT(PlainReport(report, Language::English), HasSubstr("give the login the right (GRANT)"));
+        EXPECT_THAT(PlainReport(report, {}, Language::English),
+                    HasSubstr("give the login the right (GRANT)"));
         EXPECT_EQ(server.writesOutside, 0);
         EXPECT_EQ(server.writesAfterARefusal, 0);
     }

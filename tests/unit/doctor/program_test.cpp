@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "doctor/core/product.h"
 #include "doctor/core/report.h"
 
 namespace tavrin::doctor {
@@ -19,6 +20,7 @@ class DoctorProgram : public testing::Test {
     int Run(const std::vector<std::string>& arguments) {
         const auto examine = [this](const Options& options) {
             seen = options;
+            ++looks;
             return report;
         };
         const auto write = [this](const std::string&, const std::string& content) {
@@ -27,6 +29,7 @@ class DoctorProgram : public testing::Test {
         };
         return RunProgram(arguments, {{"--connection", "  --connection STRING\n"},
                                       Language::Romanian,
+                                      {"2026-03-04 05:06:07", "CONTAB-1"},
                                       examine,
                                       [this](const std::string& text) { printed += text; },
                                       [this](const std::string& text) { complaints += text; },
@@ -35,6 +38,7 @@ class DoctorProgram : public testing::Test {
 
     Report report{Section{{"Titlu", "Title"}, {}}};
     Options seen;
+    int looks = 0;
     std::string printed;
     std::string complaints;
     std::string page;
@@ -85,15 +89,45 @@ TEST_F(DoctorProgram, PassesItsOptionsOn) {
 }
 
 TEST_F(DoctorProgram, HelpsWithoutLooking) {
-    EXPECT_EQ(Run({"--help"}), exit_code::AllWell);
-    EXPECT_THAT(printed, AllOf(HasSubstr("Usage:"), HasSubstr("--connection STRING")));
+    for (const char* const option : {"--help", "/?"}) {
+        printed.clear();
+        EXPECT_EQ(Run({option}), exit_code::AllWell);
+        EXPECT_THAT(printed, AllOf(HasSubstr("Usage:"), HasSubstr("--connection STRING")));
+        EXPECT_EQ(looks, 0);
+    }
+}
+
+TEST_F(DoctorProgram, SaysItsVersionAlone) {
+    EXPECT_EQ(Run({"--version"}), exit_code::AllWell);
+    EXPECT_THAT(printed, testing::MatchesRegex("tavrin_doctor [0-9]+[.][0-9]+[.][0-9]+[.][0-9]+\n"));
+    EXPECT_EQ(looks, 0);
+}
+
+TEST_F(DoctorProgram, SaysWhereAndWhenItLooked) {
+    Run({"--report", "r.html"});
+    const std::string head =
+        std::string("tavrin_doctor ") + BuildVersion + ", calculatorul CONTAB-1, 2026-03-04 05:06:07";
+    EXPECT_THAT(printed, testing::StartsWith(head + "\n"));
+    EXPECT_THAT(page, HasSubstr("<p>" + head + "</p>"));
+}
+
+TEST_F(DoctorProgram, LinesUpWhateverItsLettersTake) {
+    report.front().Warn({"hm", "hm"}, {"da", "yes"});
+    Run({"--report", "r.html"});
+    EXPECT_THAT(printed, HasSubstr("\n  aten\u021bie  hm\n"));
+    EXPECT_THAT(page, AllOf(HasSubstr("<meta charset=\"utf-8\">"), HasSubstr("<th>aten\u021bie</th>")));
+}
+
+TEST_F(DoctorProgram, TakesACompanyWithoutADatabaseWhereThereIsOneAnyway) {
+    const SourceOption source{"--database", "", true};
+    EXPECT_EQ(ParseOptions({"--company", "7"}, source).company, 7);
 }
 
 TEST_F(DoctorProgram, RefusesWhatItDoesNotKnowInOneLine) {
     const std::vector<std::vector<std::string>> wrong{
-        {"--nonsense"}, {"nonsense"},           {"--connection"},          {"--connection", "--report"},
-        {"--report"},   {"--language", "fr"},   {"--company", "seven"},    {"--company", "7x"},
-        {"--database"}, {"--database", "demo"}, {"--report", "", "--help"}};
+        {"--nonsense"}, {"nonsense"},           {"--connection"},       {"--connection", "--report"},
+        {"--report"},   {"--language", "fr"},   {"--company", "seven"}, {"--company", "7x"},
+        {"--database"}, {"--database", "demo"}, {"--company", "7"},     {"--report", "", "--help"}};
     for (const std::vector<std::string>& arguments : wrong) {
         complaints.clear();
         EXPECT_EQ(Run(arguments), exit_code::WrongUse) << arguments.front();

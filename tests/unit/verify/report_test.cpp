@@ -115,7 +115,15 @@ TEST(SecretsTest, OdbcsWordsAndBracesAreKnown) {
     EXPECT_EQ(Secrets("Driver={SQL Server};Server=srv;UID=u1;PWD={p;w}").Withheld("srv u1 p;w {SQL Server}"),
               "(withheld) (withheld) (withheld) {SQL Server}");
     EXPECT_EQ(Secrets("PWD=last").Withheld("last"), "(withheld)");
+    EXPECT_EQ(Secrets("WSID=desk;Failover Partner=srv2").Withheld("desk srv2"), "(withheld) (withheld)");
     EXPECT_EQ(Secrets("").Withheld("text"), "text");
+    EXPECT_EQ(Secrets().Withheld("text"), "text");
+}
+
+TEST(SecretsTest, WhatNobodyKnowsToBeHarmlessIsOne) {
+    EXPECT_EQ(Secrets("Access Token=geheim;Server=srv").Withheld("geheim srv"), "(withheld) (withheld)");
+    EXPECT_EQ(Secrets("Password=ge;heim;Timeout=15").Withheld("ge and heim, 15"),
+              "(withheld) and (withheld), 15");
 }
 
 }  // namespace
