@@ -4,7 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <new>
+#include <string>
+#include <utility>
 
 #include "forms/files.h"
 
@@ -29,6 +33,7 @@ class FailingFile : public forms::OpenFile {
     void SetSize(std::size_t size) override {
         Step();
         content.resize(size, '?');
+        shortest = std::min(shortest, size);
     }
     void Write(std::string_view text) override {
         try {
@@ -43,6 +48,7 @@ class FailingFile : public forms::OpenFile {
 
     int steps = 0;
     std::string content;
+    std::size_t shortest = SIZE_MAX;  ///< what it was ever cut or stretched to
     bool lacksMemory = false;
 
   private:
@@ -130,9 +136,12 @@ TEST(OverwritingTest, AFileThatWasNotTouchedIsNotToldAsDamaged) {
 }
 
 TEST(OverwritingTest, ADiskThatIsFullNeedsNoRoomToTakeTheOldContentBack) {
-    FailingFile file("old and longer", 1, 2);
-    EXPECT_EQ(OutcomeOf(file, "new"), Outcome::Failed);
-    EXPECT_EQ(file.steps, 5);  // read, write in vain, write, size, flush: the file was never shorter
+    const std::string before = "old and longer";
+    for (const int step : {1, 2}) {  // writing, flushing
+        FailingFile file(before, step, step + 1);
+        EXPECT_EQ(OutcomeOf(file, "new"), Outcome::Failed);
+        EXPECT_EQ(file.shortest, before.size());
+    }
 }
 
 TEST(OverwritingTest, TheFirstFailureIsTheOneThatIsTold) {
