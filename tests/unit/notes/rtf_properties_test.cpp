@@ -267,6 +267,13 @@ TEST(RtfThorough, GroupsMayBeNestedToAnyDepth) {
     EXPECT_TRUE(reading.note.text.ends_with("bc\n"));
 }
 
+/// Not among the samples, as an editor may take the letter for the symbol's own number.
+TEST(RtfPropertiesTest, SymbolsAreNoLettersAndHaveNoCapitals) {
+    const RtfReading reading =
+        ReadRtf(R"({\rtf1{\fonttbl{\f0 Arial;}{\f1\fcharset2 Symbol;}}\f0\caps a\f1 b\f0 c})");
+    EXPECT_EQ(Dump(reading.note), "A{Symbol symbols|b}C");
+}
+
 TEST(RtfPropertiesTest, IndentsAreReadAsTheEditorMeansThem) {
     const auto dump = [](notes::RtfIndents indents) {
         return Dump(
