@@ -360,7 +360,7 @@ TEST_F(NotesActionTest, AFileThatASaveHasDamagedIsTold) {
     SaveAs(window, File);
     EXPECT_THAT(messages.shown,
                 ElementsAre(Failure("Nota nu a putut fi salvata !\r\nFisierul ales nu mai are nici vechiul "
-                                    " continut. Salvati nota intr-un alt fisier !\r\n"
+                                    "continut. Salvati nota intr-un alt fisier !\r\n"
                                     "The disk is full")));
     EXPECT_EQ(editor->Text(), "abc");
     ExpectUsable(window);
