@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <utility>
 
 #include "data/code_page_tables.h"
 
@@ -68,14 +67,6 @@ std::optional<char32_t> CodePageDecoder::Put(CodePage page, unsigned char byte) 
     if (byte < 0x80) return byte;
     if (page == code_page::Symbols) return 0xF000 + byte;
     return table_->upperHalf[byte - 0x80];
-}
-
-bool CodePageDecoder::Continues(CodePage page, unsigned char byte) const {
-    return missing_ > 0 && page == page_ && (page != code_page::Utf8 || (byte & 0xC0U) == 0x80U);
-}
-
-bool CodePageDecoder::Break() {
-    return std::exchange(missing_, 0) > 0;
 }
 
 std::optional<char32_t> CodePageDecoder::PutUtf8(unsigned char byte) {

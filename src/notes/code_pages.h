@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 namespace tavrin::data {
 struct CodePageTable;
@@ -35,9 +36,11 @@ class CodePageDecoder {
 
     bool IsInsideCharacter() const { return missing_ > 0; }
     /// Whether the byte may belong to the character that has begun.
-    bool Continues(CodePage page, unsigned char byte) const;
+    bool Continues(CodePage page, unsigned char byte) const {
+        return missing_ > 0 && page == page_ && (page != code_page::Utf8 || (byte & 0xC0U) == 0x80U);
+    }
     /// Forgets a character of which not every byte came. True where there was one.
-    bool Break();
+    bool Break() { return std::exchange(missing_, 0) > 0; }
 
   private:
     std::optional<char32_t> PutUtf8(unsigned char byte);

@@ -17,6 +17,8 @@ inline constexpr char NoNote[] = "Fisierul ales nu este o nota RTF !";
 inline constexpr char NothingLeft[] = "Fisierul ales este incomplet si nu mai poate fi citit !";
 inline constexpr char TooLarge[] = "Nota este prea mare !";
 inline constexpr char EditorFailed[] = "Textul nu a putut fi citit in intregime din fereastra !";
+inline constexpr char FileDamaged[] =
+    "Fisierul ales nu mai are nici vechiul continut. Salvati nota intr-un alt fisier !";
 inline constexpr char NotKept[] = "Nici textul din fereastra nu a putut fi pastrat in intregime !";
 
 // What a note that is shown all the same has lost, or has otherwise than its file.

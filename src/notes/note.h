@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -57,7 +58,10 @@ struct TabStop {
 struct TabStops {
     std::array<TabStop, 32> stops;
     std::uint8_t count = 0;
-    bool operator==(const TabStops&) const = default;
+    bool operator==(const TabStops& other) const {
+        return std::equal(stops.begin(), stops.begin() + count, other.stops.begin(),
+                          other.stops.begin() + other.count);
+    }
 };
 
 struct ParagraphFormat {

@@ -9,6 +9,10 @@ namespace {
 
 constexpr std::string_view StandardFont = "Arial";
 
+// In most notes there are more.
+constexpr std::size_t BytesOfARun = 64;
+constexpr std::size_t BytesOfAParagraph = 100;
+
 bool BeginsCharacter(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
 }
@@ -61,6 +65,12 @@ std::string_view SoundFontName(std::string_view name) {
         if (units > LongestFontName) return WithoutBlanksAround(name.substr(0, i));
     }
     return name;
+}
+
+void NoteBuilder::Expect(std::size_t bytes) {
+    note_.text.reserve(bytes);
+    note_.runs.reserve(bytes / BytesOfARun);
+    note_.paragraphs.reserve(bytes / BytesOfAParagraph);
 }
 
 std::uint16_t NoteBuilder::Font(std::string_view name, bool symbols) {

@@ -19,8 +19,9 @@ class NoteBuilder {
     explicit NoteBuilder(LongParagraphs longParagraphs = LongParagraphs::Divided)
         : divides_(longParagraphs == LongParagraphs::Divided) {}
 
-    /// Makes room for so many bytes of text, for speed.
-    void Expect(std::size_t bytes) { note_.text.reserve(bytes); }
+    /// Makes room for so many bytes of text and what they may take besides, for speed. What is not used of it
+    /// is no memory yet.
+    void Expect(std::size_t bytes);
 
     /// The number of that font, which is to be used next.
     std::uint16_t Font(std::string_view name, bool symbols);
@@ -37,6 +38,7 @@ class NoteBuilder {
     void AddPicture(NotePicture picture, const RunFormat& format, const ParagraphFormat& paragraph);
     void EndParagraph(const RunFormat& format, const ParagraphFormat& paragraph);
 
+    std::size_t BytesOfText() const { return note_.text.size(); }
     bool IsParagraphEmpty() const { return paragraphStart_ == note_.text.size(); }
     bool IsTooLarge() const { return tooLarge_; }
     /// Whether a paragraph was too long, and goes on in another.

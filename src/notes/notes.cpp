@@ -304,8 +304,18 @@ Notices Notes::SaveNote() {
         const bool tooLarge = reading.outcome == RtfOutcome::TooLarge;
         throw data::Error(data::error_number::InvalidFile, tooLarge ? text::TooLarge : text::EditorFailed);
     }
-    OwnerDesktop().PlatformFiles().Replace(dlgCommonDialog.fileName, WriteRtf(reading.note));
+    Replace(dlgCommonDialog.fileName, WriteRtf(reading.note));
     return {{{reading.picturesLeftOut ? text::PicturesNotSaved : nullptr}}};
+}
+
+/// Of a file that has lost its old content as well more is told than that nothing was saved.
+void Notes::Replace(const std::string& name, const std::string& file) {
+    try {
+        OwnerDesktop().PlatformFiles().Replace(name, file);
+    } catch (const forms::DamagedFile& error) {
+        const std::string reason = text::FileDamaged + ("\r\n" + error.Description());
+        throw data::Error(error.Number(), reason);
+    }
 }
 
 /// A window that was closed while an earlier message was up has no more to say.

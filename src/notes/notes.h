@@ -20,7 +20,7 @@ using Notices = std::array<Notice, 3>;
 /// The note pad: one formatted text, kept in an RTF file where the user saves it. What goes into the editor
 /// and what goes into the file is written by the note pad itself, from what it could read. Nothing asks about
 /// unsaved text. A dialog that is cancelled ends the action without a word; a file that cannot be read or
-/// written is told, with the text and the old file as they were.
+/// written is told, with the text and the old file as they were, or that the old file is not.
 class Notes : public NotesDesign {
   public:
     explicit Notes(shell::Module& module);
@@ -55,6 +55,7 @@ class Notes : public NotesDesign {
     void PutBack(const std::string& written);
     const char* ProblemOfPictures(const RtfReading& reading) const;
     Notices SaveNote();
+    void Replace(const std::string& name, const std::string& file);
     RtfReading ReadWritten(const std::string& written) const;
     void Tell(const std::string& prompt, int icon);
     template <class Action>

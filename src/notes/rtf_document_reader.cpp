@@ -96,6 +96,7 @@ void RtfDocumentReader::CloseGroup() {
     if (groups_.empty()) return;
     EndBrokenCharacters();
     if (groups_.size() <= depthOfFont_) fonts_.End();
+    if (groups_.size() <= depthOfSign_) EndField();
     const Destination begun = groups_.back().begun;
     if (begun == Destination::TextBox) EndParagraphIfAny();
     if (begun == Destination::Footnote) EndFootnote();
@@ -107,6 +108,7 @@ void RtfDocumentReader::CloseGroup() {
     groups_.pop_back();
     if (begun == Destination::ListText) EndListText();
     if (begun == Destination::Picture) EndPicture();
+    if (begun == Destination::FieldInstruction) EndInstruction();
 }
 
 /// What a word makes of its group. The outermost one is the note, whatever it says.
@@ -116,8 +118,16 @@ void RtfDocumentReader::BeginDestination(Destination destination) {
     if (destination == Destination::TextBox) EndParagraphIfAny();
     if (destination == Destination::ListText) listText_.Begin();
     if (destination == Destination::Picture) picture_ = {};
+    if (destination == Destination::FieldInstruction) field_.Begin();
+    if (destination == Destination::OldPicture) destination = OfOldPicture();
     state_.destination = destination;
     groups_.back().begun = destination;
+}
+
+/// Writers who know both give the picture a second time; it is passed over right behind the first.
+RtfDestination RtfDocumentReader::OfOldPicture() const {
+    const bool second = pictureEnd_ > 0 && pictureEnd_ == builder_.BytesOfText();
+    return second ? Destination::Nothing : Destination::Container;
 }
 
 /// Of groups that are too deep to be remembered only one thing is: that what they hold is not to be seen.
@@ -148,7 +158,6 @@ void RtfDocumentReader::OnWord(const RtfToken& token) {
     if (state_.destination == Destination::Nothing) return;
     const RtfWord* const word = FindRtfWord(token.text);
     if (TakesStar(word)) return;
-    if (token.text == "urtf") rawIsUtf8_ = true;
     if (toSkip_ > 0 && word != nullptr && word->action == Action::Character) {
         --toSkip_;
         return;
@@ -189,6 +198,8 @@ void RtfDocumentReader::OnSymbol(char symbol) {
 void RtfDocumentReader::Do(const RtfWord& word, const RtfToken& token) {
     if (word.action == Action::Destination) {
         const auto destination = static_cast<Destination>(word.value);
+        if (IsOfField() && destination != Destination::FormField)
+            return BeginDestination(Destination::Nothing);
         if (state_.destination == Destination::UprightOld) {
             if (token.text == "ud") BeginUpright();
             return;
@@ -196,6 +207,8 @@ void RtfDocumentReader::Do(const RtfWord& word, const RtfToken& token) {
         return BeginDestination(destination);
     }
     if (state_.destination == Destination::UprightOld) return;
+    if (IsOfField()) return DoOfField(word, token);
+    if (word.action < Action::Plain) return DoOfText(word, token);
     if (ApplyToCharacters(state_, word, token.number, token.hasNumber)) {
         if (word.action == Action::Font && state_.destination == Destination::Fonts) BeginFont(token.number);
         return;
@@ -203,7 +216,7 @@ void RtfDocumentReader::Do(const RtfWord& word, const RtfToken& token) {
     int number = token.number;
     if (word.action == Action::LineHeight && !token.hasNumber) tokens_.TakeNumberAfterDashes(number);
     if (ApplyToParagraphs(state_, word, number, indents_)) return;
-    if (word.action >= Action::DocumentPage) {
+    if (word.action >= Action::RawUtf8) {
         DoOfDocument(word, number);
     } else {
         DoOfText(word, token);
@@ -253,8 +266,26 @@ void RtfDocumentReader::DoOfText(const RtfWord& word, const RtfToken& token) {
     }
 }
 
+void RtfDocumentReader::DoOfField(const RtfWord& word, const RtfToken& token) {
+    switch (word.action) {
+        case Action::Character:
+        case Action::Unicode:
+        case Action::UnicodeSkip:
+            return DoOfText(word, token);
+        case Action::FormResult:
+            return field_.SetResult(token.number);
+        case Action::FormDefault:
+            return field_.SetDefault(token.number);
+        default:
+            break;
+    }
+}
+
 void RtfDocumentReader::DoOfDocument(const RtfWord& word, int number) {
     switch (word.action) {
+        case Action::RawUtf8:
+            rawIsUtf8_ = true;
+            return;
         case Action::DocumentPage:
             documentPage_ = static_cast<CodePage>(word.value);
             return;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "notes/note_builder.h"
+#include "notes/rtf_field.h"
 #include "notes/rtf_fonts.h"
 #include "notes/rtf_picture.h"
 #include "notes/rtf_reader.h"
@@ -43,6 +44,11 @@ class RtfDocumentReader {
     void CloseGroup();
     void BeginDestination(RtfDestination destination);
     void BeginUpright();
+    RtfDestination OfOldPicture() const;
+    bool IsOfField() const {
+        return state_.destination == RtfDestination::FieldInstruction ||
+               state_.destination == RtfDestination::FormField;
+    }
     void BeginSilence(RtfDestination destination);
     void EndSilence();
     void BeginFont(int number);
@@ -55,6 +61,7 @@ class RtfDocumentReader {
     void DoOfText(const RtfWord& word, const RtfToken& token);
     void DoOfDocument(const RtfWord& word, int number);
     void DoOfPicture(const RtfWord& word, int number);
+    void DoOfField(const RtfWord& word, const RtfToken& token);
 
     // From the file's bytes to characters.
     void OnText(std::string_view ascii);
@@ -73,10 +80,16 @@ class RtfDocumentReader {
     CodePage PageOfBytes();
     const RunFormat& LookOfText();
 
+    // Fields.
+    void EndInstruction();
+    void EndField();
+    void PutSign(const RtfFieldSign& sign);
+
     // From characters to the note.
     void Put(char32_t character);
     bool IsSeen() const { return !state_.hidden && !state_.deleted; }
     bool IsBody() const;
+    char32_t AsSeen(char32_t character);
     void Insert(char32_t character);
     void InsertAll(std::string_view ascii);
     void InsertOfFootnote(char32_t character);
@@ -104,6 +117,11 @@ class RtfDocumentReader {
     int defaultFont_ = -1;
     RtfColors colors_;
     RtfPicture picture_;
+    std::size_t pictureEnd_ = 0;  ///< of the text, with the last picture; 0 for none
+    RtfField field_;
+    std::optional<RtfFieldSign> sign_;  ///< what the field shows if its result shows nothing
+    std::size_t depthOfSign_ = 0;       ///< the groups that are open in the field
+    std::size_t textBeforeSign_ = 0;
     RtfListText listText_;
     CodePage documentPage_ = code_page::Western;
     bool rawIsUtf8_;  ///< bytes that stand for themselves are UTF-8, whatever page there is

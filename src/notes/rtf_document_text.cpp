@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "notes/capitals.h"
 #include "notes/rtf_document_reader.h"
 
 // What a document's text becomes; groups and words are in rtf_document_reader.cpp.
@@ -23,6 +24,18 @@ bool IsLowSurrogate(char32_t unit) {
     return unit >= 0xDC00 && unit < 0xE000;
 }
 
+/// What stands at a place of a font of symbols, or of Windows' Western page.
+char32_t CharacterOf(char32_t place, bool symbols) {
+    if (symbols) return place >= 0x20 ? 0xF000 + place : 0;
+    return CodePageDecoder().Put(code_page::Western, static_cast<unsigned char>(place)).value_or(0);
+}
+
+/// What is no blank, and divides nothing: a font is asked for only where it will be used.
+bool IsSign(char32_t character) {
+    return NoteBuilder::IsText(character) && character > ' ' && character != character::LineSeparator &&
+           character != character::ParagraphSeparator;
+}
+
 }  // namespace
 
 // From the file's bytes to characters.
@@ -33,13 +46,14 @@ void RtfDocumentReader::OnText(std::string_view ascii) {
     toSkip_ -= static_cast<int>(skipped);
     ascii.remove_prefix(skipped);
     if (state_.destination == Destination::Picture) return picture_.AddDigits(ascii);
-    if (!ascii.empty() && decoder_.Continues(PageOfBytes(), static_cast<unsigned char>(ascii.front()))) {
+    if (decoder_.IsInsideCharacter() && !ascii.empty() &&
+        decoder_.Continues(PageOfBytes(), static_cast<unsigned char>(ascii.front()))) {
         PutByte(PageOfBytes(), static_cast<unsigned char>(ascii.front()));
         ascii.remove_prefix(1);
     }
     if (ascii.empty()) return;
     EndBrokenCharacters();
-    if (IsBody()) {
+    if (IsBody() && !state_.capitals) {
         FlushTabs();
         builder_.AddAscii(ascii, LookOfText(), state_.paragraph);
         hasContent_ = true;
@@ -140,6 +154,40 @@ const RunFormat& RtfDocumentReader::LookOfText() {
     return state_.run;
 }
 
+// Fields.
+
+void RtfDocumentReader::EndInstruction() {
+    sign_ = field_.Sign();
+    depthOfSign_ = sign_ ? groups_.size() : 0;
+    textBeforeSign_ = builder_.BytesOfText();
+}
+
+/// A result says what is to be seen; most writers give signs none.
+void RtfDocumentReader::EndField() {
+    depthOfSign_ = 0;
+    if (textBeforeSign_ == builder_.BytesOfText() &&
+        (IsBody() || state_.destination == Destination::Footnote))
+        PutSign(*sign_);
+}
+
+void RtfDocumentReader::PutSign(const RtfFieldSign& sign) {
+    if (!IsSeen()) return;
+    const RtfState before = state_;
+    if (sign.points > 0)
+        ApplyToCharacters(state_, {.name = {}, .action = RtfAction::FontSize}, sign.points * 2, true);
+    RtfFont named = RtfFonts::Named(sign.font);
+    const RtfFont* const font = sign.font.empty() ? CurrentFont() : &named;
+    const bool symbols = font != nullptr && font->symbols;
+    const char32_t character = sign.unicode ? sign.character : CharacterOf(sign.character, symbols);
+    if (IsSign(character)) {
+        if (font == &named) state_.run.font = builder_.Font(named.name, named.symbols);
+        if (font == &named) state_.fontIsKnown = true;
+        state_.capitals = false;
+        Put(character);
+    }
+    state_ = before;
+}
+
 // From characters to the note.
 
 void RtfDocumentReader::Put(char32_t character) {
@@ -155,6 +203,8 @@ void RtfDocumentReader::Put(char32_t character) {
             return colors_.Add(character);
         case Destination::ListText:
             return listText_.Add(character);
+        case Destination::FieldInstruction:
+            return field_.Add(character);
         default:
             break;
     }
@@ -171,8 +221,15 @@ void RtfDocumentReader::Insert(char32_t character) {
     if (character == character::LineSeparator) character = character::LineBreak;
     if (!NoteBuilder::IsText(character)) return;
     FlushTabs();
-    builder_.Add(character, LookOfText(), state_.paragraph);
+    builder_.Add(AsSeen(character), LookOfText(), state_.paragraph);
     hasContent_ = true;
+}
+
+/// In a font of symbols no letter is one.
+char32_t RtfDocumentReader::AsSeen(char32_t character) {
+    if (!state_.capitals) return character;
+    const RtfFont* const font = CurrentFont();
+    return font != nullptr && font->symbols ? character : ToCapital(character);
 }
 
 /// A row is one line, which stands as its first cell does.
@@ -260,6 +317,7 @@ void RtfDocumentReader::EndPicture() {
         return;
     }
     builder_.AddPicture(std::move(*picture), LookOfText(), state_.paragraph);
+    pictureEnd_ = builder_.BytesOfText();
     hasContent_ = true;
 }
 

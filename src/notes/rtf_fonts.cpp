@@ -47,6 +47,16 @@ bool IsSymbolFont(std::string_view name) {
     return std::ranges::find(SymbolFonts, name) != std::end(SymbolFonts);
 }
 
+/// What a font is follows from its name where nothing else says so.
+void Complete(RtfFont& font) {
+    // Cutting may bring a suffix to the end, and a name that has been read once must stay the same.
+    do {
+        font.name = std::string(SoundFontName(font.name));
+    } while (TakeSuffixOff(font));
+    if (!font.page && IsSymbolFont(font.name)) font.page = code_page::Symbols;
+    font.symbols = font.page == code_page::Symbols;
+}
+
 }  // namespace
 
 void RtfFonts::Begin(int number) {
@@ -73,13 +83,15 @@ void RtfFonts::Add(char32_t character) {
 
 void RtfFonts::End() {
     if (!std::exchange(begun_, false)) return;
-    // Cutting may bring a suffix to the end, and a name that has been read once must stay the same.
-    do {
-        font_.name = std::string(SoundFontName(font_.name));
-    } while (TakeSuffixOff(font_));
-    if (!font_.page && IsSymbolFont(font_.name)) font_.page = code_page::Symbols;
-    font_.symbols = font_.page == code_page::Symbols;
+    Complete(font_);
     Keep();
+}
+
+RtfFont RtfFonts::Named(std::string_view name) {
+    RtfFont font;
+    font.name = name;
+    Complete(font);
+    return font;
 }
 
 void RtfFonts::Keep() {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "notes/code_pages.h"
@@ -29,6 +30,9 @@ class RtfFonts {
     std::optional<CodePage> Page() const { return begun_ ? font_.page : std::nullopt; }
     void Add(char32_t character);
     void End();
+
+    /// A font that stands in no table.
+    static RtfFont Named(std::string_view name);
 
     /// Null for one that is not in the table.
     RtfFont* Find(int number);

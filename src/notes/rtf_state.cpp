@@ -31,6 +31,7 @@ void SetFont(RtfState& state, int number) {
 void BePlain(RtfState& state) {
     state.run = {};
     SetFont(state, RtfState::DefaultFont);
+    state.capitals = false;
     state.hidden = false;
     state.deleted = false;
 }
@@ -110,6 +111,9 @@ bool ApplyToCharacters(RtfState& state, const RtfWord& word, int number, bool ha
         case RtfAction::Raised:
             // By how much does not matter; without a number it is a good deal.
             state.run.script = !on ? Script::Normal : word.value > 0 ? Script::Super : Script::Sub;
+            return true;
+        case RtfAction::Capitals:
+            state.capitals = on;
             return true;
         case RtfAction::Hidden:
             state.hidden = on;

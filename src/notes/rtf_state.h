@@ -16,6 +16,7 @@ struct RtfState {
     int fontNumber = DefaultFont;
     bool fontIsKnown = false;  ///< run.font is that of fontNumber
     CodePage page = 0;         ///< that of fontNumber; 0 where nobody has asked yet
+    bool capitals = false;
     bool hidden = false;
     bool deleted = false;
 

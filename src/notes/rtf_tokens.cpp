@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "notes/hex_digit.h"
+#include "notes/plain_ascii.h"
 
 namespace tavrin::notes {
 
@@ -20,7 +21,7 @@ enum class Class : unsigned char { Plain, Brace, Backslash, Nothing, Other };
 constexpr std::array<Class, 256> MakeClasses() {
     std::array<Class, 256> classes{};
     for (std::size_t i = 0; i < classes.size(); ++i)
-        classes[i] = i >= 0x20 && i < 0x7F ? Class::Plain : Class::Other;
+        classes[i] = PlainBytes[i] ? Class::Plain : Class::Other;
     classes['{'] = classes['}'] = Class::Brace;
     classes['\\'] = Class::Backslash;
     classes['\r'] = classes['\n'] = classes['\0'] = Class::Nothing;
@@ -68,8 +69,7 @@ RtfToken RtfTokens::Next() {
         case Class::Backslash:
             return Control();
         case Class::Plain:
-            return Take(Kind::Text,
-                        LengthWhile(rest_, 1, [](char each) { return ClassOf(each) == Class::Plain; }));
+            return Take(Kind::Text, LengthOfPlain(rest_));
         default:
             return OtherByte();
     }

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <iterator>
 
 #include "notes/note.h"
@@ -20,7 +21,7 @@ constexpr std::int16_t Of(Enumeration value) {
     return static_cast<std::int16_t>(value);
 }
 
-// In the order of their names, by which they are looked up.
+// In the order of their names, so that none stands there twice.
 constexpr RtfWord Words[] = {
     {"aftncn", Action::Destination, Of(Destination::Nothing)},
     {"aftnsep", Action::Destination, Of(Destination::Nothing)},
@@ -34,6 +35,7 @@ constexpr RtfWord Words[] = {
     {"bkmkstart", Action::Destination, Of(Destination::Nothing)},
     {"blue", Action::ColorPart, 16},
     {"bullet", Action::Character, 0x2022},
+    {"caps", Action::Capitals},
     {"category", Action::Destination, Of(Destination::Nothing)},
     {"cb", Action::Background},
     {"cell", Action::Cell},
@@ -62,10 +64,12 @@ constexpr RtfWord Words[] = {
     {"f", Action::Font},
     {"falt", Action::Destination, Of(Destination::Nothing)},
     {"fcharset", Action::FontCharacterSet},
+    {"ffdefres", Action::FormDefault},
     {"ffname", Action::Destination, Of(Destination::Nothing)},
+    {"ffres", Action::FormResult},
     {"fi", Action::FirstLineIndent},
     {"filetbl", Action::Destination, Of(Destination::Nothing)},
-    {"fldinst", Action::Destination, Of(Destination::Nothing)},
+    {"fldinst", Action::Destination, Of(Destination::FieldInstruction)},
     {"fldrslt", Action::Destination, Of(Destination::Body)},
     {"fonttbl", Action::Destination, Of(Destination::Fonts)},
     {"footer", Action::Destination, Of(Destination::Nothing)},
@@ -73,7 +77,7 @@ constexpr RtfWord Words[] = {
     {"footerl", Action::Destination, Of(Destination::Nothing)},
     {"footerr", Action::Destination, Of(Destination::Nothing)},
     {"footnote", Action::Destination, Of(Destination::Footnote)},
-    {"formfield", Action::Destination, Of(Destination::Nothing)},
+    {"formfield", Action::Destination, Of(Destination::FormField)},
     {"fs", Action::FontSize},
     {"ftncn", Action::Destination, Of(Destination::Nothing)},
     {"ftnsep", Action::Destination, Of(Destination::Nothing)},
@@ -107,7 +111,7 @@ constexpr RtfWord Words[] = {
     {"nestrow", Action::Row},
     {"nesttableprops", Action::Destination, Of(Destination::Body)},
     {"nonesttables", Action::Destination, Of(Destination::Nothing)},
-    {"nonshppict", Action::Destination, Of(Destination::Nothing)},
+    {"nonshppict", Action::Destination, Of(Destination::OldPicture)},
     {"nosupersub", Action::Script, Of(Script::Normal)},
     {"objalias", Action::Destination, Of(Destination::Nothing)},
     {"objclass", Action::Destination, Of(Destination::Nothing)},
@@ -209,6 +213,7 @@ constexpr RtfWord Words[] = {
     {"ulwave", Action::Underline},
     {"up", Action::Raised, 1},
     {"upr", Action::Destination, Of(Destination::Upright)},
+    {"urtf", Action::RawUtf8},
     {"userprops", Action::Destination, Of(Destination::Nothing)},
     {"v", Action::Hidden},
     {"xe", Action::Destination, Of(Destination::Nothing)},
@@ -218,33 +223,49 @@ constexpr RtfWord Words[] = {
     {"zwnj", Action::Character, 0x200C},
 };
 
-static_assert(std::ranges::is_sorted(Words, {}, &RtfWord::name));
+static_assert(std::ranges::adjacent_find(Words, std::ranges::greater_equal(), &RtfWord::name) ==
+              std::end(Words));
 
-constexpr std::size_t Letters = 26;
+constexpr std::size_t LongestName = 18;
+static_assert(std::ranges::max(Words, {}, [](const RtfWord& word) { return word.name.size(); }).name.size() ==
+              LongestName);
 
-/// Where the words of each letter begin; those of the last one end where one more would.
-constexpr std::array<std::uint8_t, Letters + 1> MakeStarts() {
-    std::array<std::uint8_t, Letters + 1> starts{};
-    for (const RtfWord& word : Words) {
-        for (auto letter = static_cast<std::size_t>(word.name.front() - 'a') + 1; letter <= Letters; ++letter)
-            ++starts[letter];
-    }
-    return starts;
+/// A power of two, and more than twice as many as there are words.
+constexpr std::size_t Places = 512;
+constexpr std::uint8_t NoWord = 0xFF;
+static_assert(std::size(Words) < NoWord);
+
+constexpr std::size_t PlaceOf(std::string_view name) {
+    std::uint32_t sum = 0;
+    for (const char each : name)
+        sum = sum * 33 + static_cast<unsigned char>(each);
+    return (sum ^ sum >> 9U) % Places;
 }
 
-static_assert(std::size(Words) <= 0xFF);
-constexpr std::array<std::uint8_t, Letters + 1> Starts = MakeStarts();
+/// Each word's number at the place of its name, or at the next one that was free.
+constexpr std::array<std::uint8_t, Places> MakeIndex() {
+    std::array<std::uint8_t, Places> index{};
+    index.fill(NoWord);
+    for (std::size_t i = 0; i < std::size(Words); ++i) {
+        std::size_t place = PlaceOf(Words[i].name);
+        while (index[place] != NoWord)
+            place = (place + 1) % Places;
+        index[place] = static_cast<std::uint8_t>(i);
+    }
+    return index;
+}
+
+constexpr std::array<std::uint8_t, Places> Index = MakeIndex();
 
 }  // namespace
 
 const RtfWord* FindRtfWord(std::string_view name) {
-    if (name.front() < 'a' || name.front() > 'z') return nullptr;
-    const auto letter = static_cast<std::size_t>(name.front() - 'a');
-    const RtfWord* const end = Words + Starts[letter + 1];
-    const RtfWord* const found =
-        std::lower_bound(Words + Starts[letter], end, name,
-                         [](const RtfWord& word, std::string_view wanted) { return word.name < wanted; });
-    return found != end && found->name == name ? found : nullptr;
+    if (name.size() > LongestName) return nullptr;
+    for (std::size_t place = PlaceOf(name); Index[place] != NoWord; place = (place + 1) % Places) {
+        const RtfWord& word = Words[Index[place]];
+        if (std::ranges::equal(word.name, name)) return &word;
+    }
+    return nullptr;
 }
 
 }  // namespace tavrin::notes

@@ -19,6 +19,9 @@ enum class RtfDestination : std::uint8_t {
     Numbering,
     Footnote,
     TextBox,
+    FieldInstruction,
+    FormField,   ///< what a field of a form is set to
+    OldPicture,  ///< a picture for readers who do not know the one before it
 };
 
 /// What a word does. Its value, or its number in the file, says to what.
@@ -43,6 +46,7 @@ enum class RtfAction : std::uint8_t {
     Underline,
     NoUnderline,
     StrikeThru,
+    Capitals,
     Script,
     Raised,
     Hidden,
@@ -61,6 +65,7 @@ enum class RtfAction : std::uint8_t {
     TabAlignment,
     Bullet,
     // The document.
+    RawUtf8,
     DocumentPage,
     AnsiPage,
     DefaultFont,
@@ -73,6 +78,9 @@ enum class RtfAction : std::uint8_t {
     PictureHeight,
     PictureScaleX,
     PictureScaleY,
+    // Forms.
+    FormResult,
+    FormDefault,
 };
 
 struct RtfWord {

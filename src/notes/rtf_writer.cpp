@@ -8,9 +8,13 @@
 #include <utility>
 #include <vector>
 
+#include "notes/plain_ascii.h"
+
 namespace tavrin::notes {
 
 namespace {
+
+using namespace std::string_view_literals;
 
 constexpr std::string_view Alignments[] = {"\\ql", "\\qc", "\\qr", "\\qj"};
 constexpr std::string_view TabAlignments[] = {"", "\\tqc", "\\tqr", "\\tqdec"};
@@ -20,15 +24,6 @@ constexpr std::string_view HexDigits = "0123456789abcdef";
 
 constexpr std::size_t BytesOfALine = 64;
 constexpr int PicturesUnit = 15;  // twips in a pixel
-
-/// Which bytes of a text are written as they are.
-constexpr std::array<bool, 256> MakePlain() {
-    std::array<bool, 256> plain{};
-    for (std::size_t i = 0x20; i < 0x7F; ++i)
-        plain[i] = i != '{' && i != '}' && i != '\\';
-    return plain;
-}
-constexpr std::array<bool, 256> Plain = MakePlain();
 
 /// Takes the character off the front of a text, which is UTF-8 without a fault.
 char32_t TakeCharacter(std::string_view& text) {
@@ -92,7 +87,7 @@ class RtfWriter {
     void WriteName(std::string_view name) {
         while (!name.empty()) {
             const char32_t character = TakeCharacter(name);
-            if (character < Plain.size() && Plain[character]) {
+            if (character < PlainBytes.size() && PlainBytes[character]) {
                 rtf_ += static_cast<char>(character);
             } else {
                 WriteUnicode(character);
@@ -119,23 +114,18 @@ class RtfWriter {
     // Text.
 
     void WriteText() {
-        std::size_t paragraph = 0;
         std::size_t begin = 0;
-        BeginParagraph(paragraph);
+        BeginParagraph(0);
         for (const NoteRun& run : note_.runs) {
-            std::string_view text = std::string_view(note_.text).substr(begin, run.end - begin);
+            ChangeLooks(run.format);
+            WriteCharacters(std::string_view(note_.text).substr(begin, run.end - begin));
             begin = run.end;
-            while (!text.empty()) {
-                ChangeLooks(run.format);
-                const std::size_t length = std::min(text.find('\n'), text.size());
-                WriteCharacters(text.substr(0, length));
-                text.remove_prefix(length);
-                if (text.empty()) break;
-                rtf_ += "\\par\r\n";
-                text.remove_prefix(1);
-                BeginParagraph(++paragraph);
-            }
         }
+    }
+
+    void EndParagraph() {
+        rtf_ += "\\par\r\n"sv;
+        BeginParagraph(++paragraph_);
     }
 
     void BeginParagraph(std::size_t number) {
@@ -190,15 +180,15 @@ class RtfWriter {
     void ChangeLooks(const RunFormat& format) {
         const std::size_t before = rtf_.size();
         const bool first = !looksAreKnown_;
-        if (first || format.font != looks_.font) Word("\\f", format.font);
-        if (first || format.halfPoints != looks_.halfPoints) Word("\\fs", format.halfPoints);
-        Switch("\\b", format.bold, looks_.bold);
-        Switch("\\i", format.italic, looks_.italic);
+        if (first || format.font != looks_.font) Word("\\f"sv, format.font);
+        if (first || format.halfPoints != looks_.halfPoints) Word("\\fs"sv, format.halfPoints);
+        Switch("\\b"sv, format.bold, looks_.bold);
+        Switch("\\i"sv, format.italic, looks_.italic);
         if (format.underline != looks_.underline) rtf_ += format.underline ? "\\ul" : "\\ulnone";
-        Switch("\\strike", format.strikeThru, looks_.strikeThru);
+        Switch("\\strike"sv, format.strikeThru, looks_.strikeThru);
         if (format.script != looks_.script) rtf_ += Scripts[static_cast<std::size_t>(format.script)];
-        if (format.color != looks_.color) Word("\\cf", NumberOf(format.color));
-        if (format.background != looks_.background) Word("\\highlight", NumberOf(format.background));
+        if (format.color != looks_.color) Word("\\cf"sv, NumberOf(format.color));
+        if (format.background != looks_.background) Word("\\highlight"sv, NumberOf(format.background));
         looks_ = format;
         looksAreKnown_ = true;
         if (rtf_.size() != before) rtf_ += ' ';
@@ -212,9 +202,7 @@ class RtfWriter {
 
     void WriteCharacters(std::string_view text) {
         while (!text.empty()) {
-            std::size_t plain = 0;
-            while (plain < text.size() && Plain[static_cast<unsigned char>(text[plain])])
-                ++plain;
+            const std::size_t plain = LengthOfPlain(text);
             rtf_ += text.substr(0, plain);
             text.remove_prefix(plain);
             if (!text.empty()) WriteCharacter(TakeCharacter(text));
@@ -229,8 +217,10 @@ class RtfWriter {
                 rtf_ += '\\';
                 rtf_ += static_cast<char>(character);
                 return;
+            case character::ParagraphEnd:
+                return EndParagraph();
             case character::Tab:
-                rtf_ += "\\tab ";
+                rtf_ += "\\tab "sv;
                 return;
             case character::LineBreak:
                 rtf_ += "\\line ";
@@ -251,7 +241,7 @@ class RtfWriter {
     /// A signed number of 16 bits, and what readers show that know none of these. A symbol's is its place in
     /// its font.
     void WriteUnit(char32_t unit) {
-        Word("\\u", static_cast<std::int16_t>(unit));
+        Word("\\u"sv, static_cast<std::int16_t>(unit));
         if (unit >= 0xF020 && unit <= 0xF0FF) {
             rtf_ += "\\'";
             WriteHexByte(static_cast<unsigned char>(unit));
@@ -295,6 +285,7 @@ class RtfWriter {
     std::vector<NoteColor> colors_;
     RunFormat looks_;
     bool looksAreKnown_ = false;
+    std::size_t paragraph_ = 0;
     std::size_t pictures_ = 0;
 };
 

@@ -24,11 +24,16 @@ class MemoryFiles : public forms::Files {
     void Replace(const std::string& name, std::string_view content) override {
         if (whenUsed) whenUsed();
         if (failsToWrite || name.empty()) throw data::Error(-2147024784, "The disk is full");
+        if (damages) {
+            contents[name] = content.substr(0, content.size() / 2);
+            throw forms::DamagedFile(data::Error(-2147024784, "The disk is full"));
+        }
         contents[name] = content;
     }
 
     std::map<std::string, std::string> contents;
     bool failsToWrite = false;
+    bool damages = false;            ///< fails to write half-way, and to put back what was there
     std::function<void()> whenUsed;  ///< before every reading and writing; may throw
 };
 

@@ -353,6 +353,19 @@ TEST_F(NotesActionTest, ASaveThatFailsIsToldAndKeepsTheOldFile) {
     ExpectUsable(window);
 }
 
+TEST_F(NotesActionTest, AFileThatASaveHasDamagedIsTold) {
+    Notes& window = Open();
+    keyboard.Type("abc");
+    desktop.files.damages = true;
+    SaveAs(window, File);
+    EXPECT_THAT(messages.shown,
+                ElementsAre(Failure("Nota nu a putut fi salvata !\r\nFisierul ales nu mai are nici vechiul "
+                                    "continut. Salvati nota intr-un alt fisier !\r\n"
+                                    "The disk is full")));
+    EXPECT_EQ(editor->Text(), "abc");
+    ExpectUsable(window);
+}
+
 TEST_F(NotesActionTest, AnEditorThatDoesNotGiveAllOfItsTextDoesNotReplaceAFile) {
     Notes& window = Open();
     keyboard.Type("abc");

@@ -41,6 +41,14 @@ bool StreamIn(HWND edit, UINT format, std::string_view bytes) {
     return stream.dwError == 0;
 }
 
+/// About as many bytes as the control writes of so much text. It writes them in some hundred pieces, and what
+/// must grow for them is copied as it grows.
+std::size_t ExpectedRtf(HWND edit) {
+    GETTEXTLENGTHEX measure{GTL_DEFAULT, Unicode};
+    const LRESULT length = SendMessageW(edit, EM_GETTEXTLENGTHEX, reinterpret_cast<WPARAM>(&measure), 0);
+    return static_cast<std::size_t>(std::max<LRESULT>(length, 0)) * 5 / 4 + 1024;
+}
+
 }  // namespace
 
 bool StreamRtfIn(HWND edit, std::string_view rtf) {
@@ -54,6 +62,7 @@ void StreamTextIn(HWND edit, std::wstring_view text) {
 
 std::string StreamRtfOut(HWND edit, RtfEncoding encoding) {
     std::string document;
+    document.reserve(ExpectedRtf(edit));
     EDITSTREAM stream{reinterpret_cast<DWORD_PTR>(&document), 0, Take};
     const UINT format = encoding == RtfEncoding::Utf8 ? SF_RTF | WriteUtf8 : UINT{SF_RTF};
     SendMessageW(edit, EM_STREAMOUT, format, reinterpret_cast<LPARAM>(&stream));

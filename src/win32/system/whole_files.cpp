@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "data/error.h"
+#include "forms/overwriting.h"
 #include "win32/base/handles.h"
 #include "win32/base/system_error.h"
 #include "win32/base/text.h"
@@ -43,9 +43,15 @@ std::size_t SizeOf(HANDLE file) {
 
 std::string ReadAll(HANDLE file) {
     std::string content(SizeOf(file), '\0');
-    DWORD read = 0;
-    if (!ReadFile(file, content.data(), static_cast<DWORD>(content.size()), &read, nullptr)) ThrowLastError();
-    content.resize(read);
+    std::size_t length = 0;
+    while (length < content.size()) {
+        const auto piece = static_cast<DWORD>(std::min(content.size() - length, LargestPiece));
+        DWORD read = 0;
+        if (!ReadFile(file, content.data() + length, piece, &read, nullptr)) ThrowLastError();
+        if (read == 0) break;  // somebody has made it shorter
+        length += read;
+    }
+    content.resize(length);
     return content;
 }
 
@@ -58,6 +64,9 @@ void WriteAll(HANDLE file, std::string_view content) {
         if (written == 0) ThrowSystemError(HRESULT_FROM_WIN32(ERROR_DISK_FULL));
         content.remove_prefix(written);
     }
+}
+
+void Flush(HANDLE file) {
     if (!FlushFileBuffers(file)) ThrowLastError();
 }
 
@@ -91,7 +100,10 @@ class FileBeside {
     FileBeside(const FileBeside&) = delete;
     FileBeside& operator=(const FileBeside&) = delete;
 
-    void Write(std::string_view content) { WriteAll(file_.get(), content); }
+    void Write(std::string_view content) {
+        WriteAll(file_.get(), content);
+        Flush(file_.get());
+    }
 
     /// False where the other file is still there.
     bool TakePlace() {
@@ -121,26 +133,35 @@ class FileBeside {
     DWORD error_ = ERROR_SUCCESS;
 };
 
-/// The content of an open file in place of what was in it. Room is made before anything is overwritten.
-void Overwrite(HANDLE file, std::string_view content) {
-    MoveTo(file, content.size());
-    if (!SetEndOfFile(file)) ThrowLastError();
-    MoveTo(file, 0);
-    WriteAll(file, content);
-}
-
-/// Writes into a file that stays the one it is.
-void WriteInPlace(const std::wstring& target, std::string_view content) {
-    const OwnedHandle file = OwnFile(CreateFileW(target.c_str(), GENERIC_READ | GENERIC_WRITE, Sharing,
-                                                 nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file) ThrowLastError();
-    const std::string before = ReadAll(file.get());
-    try {
-        Overwrite(file.get(), content);
-    } catch (const data::Error&) {
-        Overwrite(file.get(), before);
-        throw;
+class FileInPlace final : public forms::OpenFile {
+  public:
+    explicit FileInPlace(const std::wstring& name)
+        : file_(OwnFile(CreateFileW(name.c_str(), GENERIC_READ | GENERIC_WRITE, Sharing, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr))) {
+        if (!file_) ThrowLastError();
     }
+
+    std::string ReadAll() override {
+        MoveTo(file_.get(), 0);
+        return win32::ReadAll(file_.get());
+    }
+    void SetSize(std::size_t size) override {
+        MoveTo(file_.get(), size);
+        if (!SetEndOfFile(file_.get())) ThrowLastError();
+    }
+    void Write(std::string_view content) override {
+        MoveTo(file_.get(), 0);
+        WriteAll(file_.get(), content);
+    }
+    void Flush() override { win32::Flush(file_.get()); }
+
+  private:
+    OwnedHandle file_;
+};
+
+void WriteInPlace(const std::wstring& target, std::string_view content) {
+    FileInPlace file(target);
+    forms::Overwrite(file, content);
 }
 
 }  // namespace

@@ -19,6 +19,41 @@ std::vector<NoteSample> StructureSamples() {
         {"a field without a result", R"({\rtf1 a{\field{\*\fldinst PAGE}}b})", "ab"},
         {"an instruction without a star", R"({\rtf1 a{\field{\fldinst PAGE}{\fldrslt 3}}b})", "a3b"},
 
+        {"a symbol", R"({\rtf1 a{\field{\*\fldinst SYMBOL 183 \\f Symbol \\s 10}{\fldrslt\f3\fs20}}b})",
+         "a{Symbol symbols fs20|\uF0B7}b"},
+        {"a symbol of a text program",
+         R"({\rtf1 a{\field{\*\fldinst{\rtlch\fcs1\af0\f3 SYMBOL 0xFC \\f "Wingdings" \\h}}{\fldrslt{\b\f3}}}b})",
+         "a{Wingdings symbols|\uF0FC}b"},
+        {"a symbol with a result", R"({\rtf1 a{\field{\*\fldinst SYMBOL 183 \\f Symbol}{\fldrslt *}}b})",
+         "a*b"},
+        {"a symbol in its own font",
+         R"({\rtf1{\fonttbl{\f0 Arial;}{\f1\fcharset2 Webdings;}}\f0 a{\field\f1{\*\fldinst SYMBOL 97}}b})",
+         "a{Webdings symbols|\uF061}b"},
+        {"symbols of fonts with letters",
+         R"({\rtf1{\field{\*\fldinst SYMBOL 169 \\f "Times New Roman CE"}}{\field{\*\fldinst SYMBOL 8364 \\u}}})",
+         "{Times New Roman|\u00A9}\u20AC"},
+        {"symbols that are none",
+         R"({\rtf1 a{\field{\*\fldinst SYMBOL x}}{\field{\*\fldinst SYMBOL -5}}{\field{\*\fldinst SYMBOL 13 \\f Symbol}})"
+         R"({\field{\*\fldinst SYMBOL 8233}}{\field{\*\fldinst SYMBOL 32 \\f Verdana}}{\field{\*\fldinst SYMBOL}}b})",
+         "ab"},
+        {"symbols that are not to be seen",
+         R"({\rtf1 a{\v{\field{\*\fldinst SYMBOL 183 \\f Symbol}}}{\header{\field{\*\fldinst SYMBOL 183 \\f Symbol}}}b})",
+         "ab"},
+        {"a symbol in a footnote",
+         R"({\rtf1 a{\footnote{\field{\*\fldinst SYMBOL 169 \\f Arial}{\fldrslt}}}b})", "a [\u00A9]b"},
+        {"fields within an instruction",
+         R"({\rtf1 a{\field{\*\fldinst IF {\field{\*\fldinst PAGE}{\fldrslt 1}} = 2 \par}{\fldrslt nu}}b})",
+         "anub"},
+        {"boxes of a form",
+         R"({\rtf1{\field{\*\fldinst{ FORMCHECKBOX {\*\formfield{\fftype1\ffres25\ffdefres0{\*\ffname Bifat1}}}}}{\fldrslt}}da )"
+         R"({\field{\*\fldinst FORMCHECKBOX {\*\formfield{\fftype1\ffres25\ffdefres1}}}{\fldrslt}}nu )"
+         R"({\field{\*\fldinst FORMCHECKBOX {\*\formfield{\fftype1\ffres1\ffdefres0}}}}poate)"
+         R"({\field{\*\fldinst FORMCHECKBOX {\*\formfield{\fftype1\ffres0\ffdefres1}}}{\fldrslt}}})",
+         "\u2610da \u2612nu \u2612poate\u2610"},
+        {"a text field of a form",
+         R"({\rtf1{\field{\*\fldinst FORMTEXT {\*\formfield{\fftype0\ffres1{\*\ffdeftext gol}}}}{\fldrslt Ion}}})",
+         "Ion"},
+
         // Objects and pictures.
         {"an object's readable text",
          R"({\rtf1 a{\object\objemb\objw300{\*\objclass Package}{\*\objdata 0105}{\result vizibil}}b})",
@@ -43,6 +78,17 @@ std::vector<NoteSample> StructureSamples() {
          R"({\rtf1 a{\*\shppict{\pict\pngblip 89504e470d0a1a0a0000000d49484452000000010000000108020000000000000049454e44)"
          R"(}}{\nonshppict{\pict\wmetafile8 0100}}b})",
          "a(png 15x15)b"},
+        {"a picture for old readers alone",
+         R"({\rtf1 a{\nonshppict{\pict\pngblip 89504e470d0a1a0a0000000d49484452000000010000000108020000000000000049454e44)"
+         R"(}}b})",
+         "a(png 15x15)b"},
+        {"a picture for old readers, and one for new ones that no note may hold",
+         R"({\rtf1 a{\*\shppict{\pict\emfblip 0100}}{\nonshppict{\pict\jpegblip ffd8ffc0000b08000100010101ffd9}}b})",
+         "a(jpeg 15x15)b"},
+        {"the same picture for both twice",
+         R"({\rtf1{\*\shppict{\pict\jpegblip ffd8ffc0000b08000100010101ffd9}}{\nonshppict{\pict\jpegblip ffd8ffc0000b08000100010101ffd9}})"
+         R"({\*\shppict{\pict\jpegblip ffd8ffc0000b08000100010101ffd9}}{\nonshppict{\pict\jpegblip ffd8ffc0000b08000100010101ffd9}}})",
+         "(jpeg 15x15)(jpeg 15x15)"},
         {"a picture's own words",
          R"({\rtf1{\pict{\*\picprop\shplid1{\sp{\sn shapeType}{\sv 75}}}{\*\blipuid 00ff}\jpegblip ffd8ffc0000b08000100)"
          R"(010101ffd9}})",

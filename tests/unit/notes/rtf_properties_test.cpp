@@ -120,8 +120,7 @@ TEST(RtfPropertiesTest, PicturesThatANoteDoesNotTakeAreTold) {
         EXPECT_TRUE(reading.picturesLeftOut) << picture;
         EXPECT_EQ(Dump(reading.note), "ab") << picture;
     }
-    EXPECT_FALSE(ReadRtf(R"({\rtf1 a{\pict\wmetafile8}{\v{\pict\wmetafile8 01}}{\nonshppict{\pict 01}}b})")
-                     .picturesLeftOut);
+    EXPECT_FALSE(ReadRtf(R"({\rtf1 a{\pict\wmetafile8}{\v{\pict\wmetafile8 01}}b})").picturesLeftOut);
 }
 
 /// The lengths of the paragraphs of a note whose characters are ASCII.
@@ -236,6 +235,10 @@ TEST(RtfThorough, TimeGrowsWithTheFileAlone) {
                               "\xE3",
                               "\\uc9999\\u1",
                               "{\\footnote a}",
+                              R"({\field{\*\fldinst SYMBOL 183 \\f a}})",
+                              R"({\field{\*\fldinst FORMCHECKBOX}{\fldrslt}})",
+                              "{\\nonshppict{\\pict\\jpegblip 00}}",
+                              "\\caps\\'e3",
                               "\\cf1\\cf2",
                               R"(\fonttbl\f0;\f1;)"}) {
         const auto start = std::chrono::steady_clock::now();
@@ -262,6 +265,13 @@ TEST(RtfThorough, GroupsMayBeNestedToAnyDepth) {
     EXPECT_EQ(reading.outcome, RtfOutcome::Whole);
     EXPECT_TRUE(Dump(reading.note).starts_with("a{b|bbbb"));
     EXPECT_TRUE(reading.note.text.ends_with("bc\n"));
+}
+
+/// Not among the samples, as an editor may take the letter for the symbol's own number.
+TEST(RtfPropertiesTest, SymbolsAreNoLettersAndHaveNoCapitals) {
+    const RtfReading reading =
+        ReadRtf(R"({\rtf1{\fonttbl{\f0 Arial;}{\f1\fcharset2 Symbol;}}\f0\caps a\f1 b\f0 c})");
+    EXPECT_EQ(Dump(reading.note), "A{Symbol symbols|b}C");
 }
 
 TEST(RtfPropertiesTest, IndentsAreReadAsTheEditorMeansThem) {
