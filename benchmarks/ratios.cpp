@@ -32,8 +32,12 @@ constexpr int Rounds = 7;
 constexpr double GoalForLists = 1.15;
 constexpr double GoalForKey = 50;
 
+bool goalsAreMet = true;
+
 const char* Judged(double value, double goal) {
-    return value <= goal ? "" : "  over the goal";
+    if (value <= goal) return "";
+    goalsAreMet = false;
+    return "  over the goal";
 }
 
 /// The component on a database of its own.
@@ -285,5 +289,5 @@ int main(int argc, char** argv) {
     TimePrinting();
     std::printf("Notes: a file of 1 MB\n");
     bench::PrintNoteSpeed(Rounds);
-    return 0;
+    return goalsAreMet ? 0 : 1;
 }

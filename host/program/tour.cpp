@@ -5,8 +5,8 @@
 #include "data/error.h"
 #include "host/pictures/png.h"
 #include "host/pictures/screen_picture.h"
-#include "host/program/tour_steps.h"
 #include "host/program/tour_user.h"
+#include "host/windows/catalogue.h"
 #include "win32/base/text.h"
 
 namespace tavrin::host {
@@ -70,12 +70,13 @@ ScreenPicture TakePicture(const TourStep& step, const TourUser& user, const Wind
 void RunTour(const WindowThread& windows, const std::wstring& folder) {
     CreateDirectoryW(folder.c_str(), nullptr);
     const TourUser user(windows);
+    const std::vector<TourStep> steps = AllTourSteps();
     std::size_t number = 0;
-    for (const TourStep& step : TourSteps()) {
+    for (const TourStep& step : steps) {
         for (const TourAction& action : step.actions)
             user.Perform(action);
         SavePng(TakePicture(step, user, windows), folder + L"\\" + win32::ToWide(step.picture) + L".png");
-        std::printf("Window %zu of %zu: %s\n", ++number, TourSteps().size(), step.picture);
+        std::printf("Window %zu of %zu: %s\n", ++number, steps.size(), step.picture);
         std::fflush(stdout);
     }
     PostMessageW(user.Await("Utilitati"), WM_CLOSE, 0, 0);

@@ -3,6 +3,7 @@
 #include "data/error.h"
 #include "host/program/form_finder.h"
 #include "host/program/screen_scale.h"
+#include "win32/base/text.h"
 
 namespace tavrin::host {
 namespace {
@@ -115,7 +116,7 @@ void TourUser::Click(const TourAction& action) const {
     const POINT place = MiddleOf(control);
     Point(place);
     SendMouse(MOUSEEVENTF_LEFTDOWN);
-    if (action.drag.x != 0 || action.drag.y != 0) DragBy(place, action.drag);
+    if (action.drag.x != 0 || action.drag.y != 0) DragBy(place, {action.drag.x, action.drag.y});
     SendMouse(MOUSEEVENTF_LEFTUP);
     windows_.Settle();
 }
@@ -133,7 +134,7 @@ void TourUser::Perform(const TourAction& action) const {
         PressKey(key);
         windows_.Settle();
     }
-    for (const wchar_t unit : action.text)
+    for (const wchar_t unit : win32::ToWide(action.text))
         unit == L'\r' ? PressKey(VK_RETURN) : TypeUnit(unit);
     windows_.Settle();
 }

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "host/program/tour_steps.h"
 #include "host/program/window_thread.h"
+#include "host/windows/catalogue.h"
 
 namespace tavrin::host {
 

@@ -39,6 +39,11 @@ constexpr std::array<ButtonLook, NotesDesign::ButtonCount> Buttons = {{
     {"", "Inchide", 11, 0},
 }};
 
+/// Whole pixels only, so that what is placed by the window's size has sharp edges.
+int Floor(int twips, int twipsPerPixel) {
+    return twips - twips % twipsPerPixel;
+}
+
 const ButtonLook& LookOf(int button) {
     return Buttons[static_cast<std::size_t>(button)];
 }
@@ -63,14 +68,17 @@ void NotesDesign::Describe() {
         ImgBouton[i].SetBackColor(forms::scheme::Face);
     }
     PctBarreFond.SetBackColor(forms::scheme::Face);
+    PctBarreFond.SetAccessibleName("Bara de butoane");
     txtNota.SetFont({.face = "Arial", .points = 10});
     txtNota.SetAccessibleName("Nota");
 }
 
 void NotesDesign::PlaceOnScreen() {
     const forms::Size screen = OwnerDesktop().ScreenSize();
-    const int width = std::clamp(screen.width / 3, SmallestWidth, LargestWidth);
-    const int height = std::clamp(screen.height / 2, SmallestHeight, LargestHeight);
+    const int width =
+        Floor(std::clamp(screen.width / 3, SmallestWidth, LargestWidth), OwnerDesktop().TwipsPerPixelX());
+    const int height =
+        Floor(std::clamp(screen.height / 2, SmallestHeight, LargestHeight), OwnerDesktop().TwipsPerPixelY());
     const int left = screen.width - width - screen.width / 20;
     SetBounds({std::max(0, left), std::max(0, (screen.height - height) / 3), width, height});
 }

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "forms/utf8.h"
-#include "support/png_file.h"
 #include "support/text_metrics.h"
 
 namespace tavrin::tests {
@@ -116,15 +115,6 @@ void SoftwareSurface::PushClip(const Rect& area) {
 
 void SoftwareSurface::PopClip() {
     clips_.pop_back();
-}
-
-void SoftwareSurface::WritePng(const std::string& path) const {
-    std::vector<std::uint8_t> bytes;
-    for (const forms::Color color : pixels_) {
-        for (const int shift : {0, 8, 16})
-            bytes.push_back(static_cast<std::uint8_t>(color >> shift & 0xFF));
-    }
-    WritePngFile(path, size_.width, size_.height, bytes);
 }
 
 }  // namespace tavrin::tests

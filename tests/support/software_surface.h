@@ -26,11 +26,7 @@ class SoftwareSurface : public forms::Surface {
     void PushClip(const forms::Rect& area) override;
     void PopClip() override;
 
-    forms::Size SizeInPixels() const { return size_; }
     forms::Color Pixel(int x, int y) const { return pixels_[Index(x, y)]; }
-
-    /// \throws std::runtime_error when the file cannot be written
-    void WritePng(const std::string& path) const;
 
   private:
     std::size_t Index(int x, int y) const {

@@ -1,24 +1,22 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string_view>
 
-#include "addressbook/agenda.h"
-#include "calculator/frm_calculator.h"
+#include "com/composition.h"
 #include "host/embedded/demo_data.h"
 #include "host/embedded/embedded_connection.h"
-#include "rates/alege_moneda.h"
-#include "rates/cere_moneda.h"
-#include "rates/curs_valutar.h"
-#include "rates/curs_valutar_detaliu.h"
-#include "rates/evolutie_curs.h"
-#include "shell/utilitati.h"
+#include "host/windows/catalogue.h"
+#include "support/fake_rich_text.h"
 #include "support/window_test.h"
 
 namespace tavrin::tests {
 
-/// What has to hold for every window in every state: on the demo data, one window after the other.
+/// What has to hold for every window in every state: on the demo data, each reached from the palette as a
+/// user does.
 class EveryWindowTest : public WindowTest {
   protected:
     using Look = std::function<void(forms::Form& form)>;
@@ -29,6 +27,11 @@ class EveryWindowTest : public WindowTest {
         module.context.workDate = data::ToOleDate({2003, 11, 28});
         module.context.workYear = 2003;
         module.context.companyId = 1;
+        com::AddWindows(module);
+        desktop.whenCreating = [](forms::Form& form) {
+            for (forms::Control* control : form.AllControls())
+                if (auto* box = dynamic_cast<forms::RichTextBox*>(control)) FakeRichText::Give(*box);
+        };
     }
     ~EveryWindowTest() override { desktop.UnloadAll(); }
 
@@ -38,14 +41,46 @@ class EveryWindowTest : public WindowTest {
         transaction_.emplace(*DemoData());
     }
 
+    forms::Form* Find(std::string_view name) const {
+        const auto& open = desktop.Forms();
+        const auto found = std::ranges::find(open, name, &forms::Form::Name);
+        return found != open.end() ? *found : nullptr;
+    }
+
+    static bool IsClickable(const forms::Control& control) {
+        return control.IsEffectivelyVisible() && control.AcceptsInput();
+    }
+
+    /// \return whether there is such a control, and it could be clicked
+    bool Click(std::string_view window, std::string_view button) {
+        const forms::Form* form = Find(window);
+        forms::Control* control = form != nullptr ? form->FindControl(button) : nullptr;
+        if (control == nullptr || !IsClickable(*control)) return false;
+        const forms::Desktop::DispatchScope scope(desktop);
+        control->Click();
+        return true;
+    }
+
+    /// Begins at the palette anew, on the data as they were. \return null where the state's way does not lead
+    /// to the window
+    forms::Form* Come(const host::WindowEntry& window, const host::WindowState& state) {
+        desktop.UnloadAll();
+        StartAnew();
+        com::OpenPalette(module);
+        for (const auto& [form, button] : state.clicks)
+            if (!Click(form, button)) return nullptr;
+        return Find(window.name);
+    }
+
     void ForEachWindow(const Look& look) {
-        auto& palette = module.Default<shell::Utilitati>();
-        palette.Show();
-        look(palette);
-        LookAtRates(look);
-        LookAtEvolution(look);
-        LookAtCalculator(look);
-        LookAtAgenda(look);
+        for (const host::WindowEntry& window : host::AllWindows()) {
+            for (const host::WindowState& state : window.states) {
+                SCOPED_TRACE(state.description);
+                forms::Form* const form = Come(window, state);
+                ASSERT_NE(form, nullptr) << window.name;
+                look(*form);
+            }
+        }
     }
 
   private:
@@ -53,48 +88,6 @@ class EveryWindowTest : public WindowTest {
     static const std::shared_ptr<host::EmbeddedDatabase>& DemoData() {
         static const std::shared_ptr<host::EmbeddedDatabase> database = host::OpenDemoDatabase(":memory:");
         return database;
-    }
-
-    void LookAtRates(const Look& look) {
-        auto& list = module.Default<rates::CursValutar>();
-        list.ShowForm();
-        look(list);
-        for (const char* mode : {"A", "M"}) {
-            auto& entry = module.Default<rates::CursValutarDetaliu>();
-            entry.ShowForm(list.Currencies(), mode);
-            look(entry);
-            entry.Unload();
-        }
-        list.cmdAction[3].Click();
-        auto& currency = module.Default<rates::CereMoneda>();
-        look(currency);
-        currency.Unload();
-    }
-
-    void LookAtEvolution(const Look& look) {
-        auto& evolution = module.Default<rates::EvolutieCurs>();
-        evolution.Show();
-        look(evolution);
-        evolution.cmdAction[1].Click();
-        look(evolution);
-    }
-
-    void LookAtCalculator(const Look& look) {
-        auto& calculator = module.Default<calculator::FrmCalculator>();
-        calculator.Show();
-        look(calculator);
-        auto& chooser = module.Default<rates::AlegeMoneda>();
-        chooser.ShowForm(calculator, "EUR");
-        look(chooser);
-        chooser.Unload();
-    }
-
-    void LookAtAgenda(const Look& look) {
-        auto& agenda = module.Default<addressbook::Agenda>();
-        agenda.ShowForm();
-        look(agenda);
-        agenda.cmdAction[addressbook::Agenda::Add].Click();
-        look(agenda);
     }
 
     std::optional<host::EmbeddedDatabase::Transaction> transaction_;

@@ -54,9 +54,6 @@ class UnknownObject : public First, public Others... {
         return left;
     }
 
-    /// How many references are held, for those who look for leaks.
-    ULONG References() const { return references_; }
-
   private:
     std::atomic<ULONG> references_ = 1;
 };

@@ -8,6 +8,7 @@
 
 #include "e2e/driver/process.h"
 #include "e2e/driver/wait.h"
+#include "host/windows/catalogue.h"
 
 namespace tavrin::e2e {
 
@@ -17,45 +18,11 @@ constexpr int PromptId = 0xFFFF;
 constexpr int FileNameField = 0x480;
 constexpr unsigned OnceInAttentions = 4;  ///< how long things stay open
 
-/// What the windows may say, by the beginnings of the prompts.
-constexpr auto KnownPrompts = std::to_array<std::string_view>({
-    "Numele este obligatoriu !",
-    "Prenumele este obligatoriu !",
-    "Doriti sa parasiti forma?",
-    "Doriti sa stergeti din agenda persoana ",
-    "Nu poate fi stearsa aceasta inregistrare",
-    "Doriti sa creati o nota noua ?",
-    "Nota nu a putut fi incarcata !",
-    "Nota nu a putut fi salvata !",
-    "Fisierul ales nu este o nota RTF !",
-    "Fisierul ales este incomplet",
-    "Nota este prea mare !",
-    "Unele imagini din fisier nu pot fi pastrate",
-    "Nota a fost salvata fara unele imagini",
-    "Valoare obligatorie !",
-    "Valoarea cursului trebuie sa fie >= 0  !",
-    "Exista curs valutar la aceasta data!",
-    "Nume Obligatoriu",
-    "Moneda deja existenta !",
-    "Acest curs a fost validat !",
-    "Sunteti sigur ca doriti sa stergeti cursul valutar",
-    "Data documentului introdus nu poate fi mai mica",
-    "Nu puteti sterge toate monedele !",
-    "Impartire la 0 !!",
-    "String or binary data would be truncated.",   // a currency's name is too long
-    "Incorrect syntax near ",                      // a currency's name ends its quotation
-    "Unclosed quotation mark ",                    // the same
-    "The embedded database does not understand ",  // the same, in words that a server might take
-    "Eroare 6\n",                                  // a result is too large for a number
-    "Eroare 11\n",                                 // a rate is 0, which may be entered
-    "Eroare 91\n",                                 // a host without a connection
-    "Lipseste conexiunea la baza de date ",        // the same while a currency is added
-    "Eroare 3709\n",                               // the host has gone on to another connection meanwhile
-    "Eroare 13\n",                                 // a day is to be changed where the list has none
-    "Eroare 94\n",                                 // a person that another user has entered lacks a text
-    "Eroare -2147217833 (80040E57)\n",             // a person's text is too long
-    "Eroare -2147217873 (80040E2F)\n",             // a person is entered who is there already
-    "Eroare -2147217900 (80040E14)\n",             // the database refuses a name that was typed
+/// What each of them may say, whoever asks.
+constexpr auto CommonPrompts = std::to_array<std::string_view>({
+    "Eroare 91\n",                      // a host without a connection
+    "Eroare 3709\n",                    // the host has gone on to another connection meanwhile
+    "Eroare -2147217900 (80040E14)\n",  // the database refuses a name that was typed
 });
 
 std::vector<Window> Modals() {
@@ -70,8 +37,12 @@ Window PromptOf(const Window& window) {
 }
 
 bool IsKnown(const std::string& prompt) {
-    return std::ranges::any_of(KnownPrompts,
-                               [&](std::string_view known) { return prompt.starts_with(known); });
+    static const std::vector<host::WindowEntry> windows = host::AllWindows();
+    const auto begins = [&](std::string_view known) { return prompt.starts_with(known); };
+    return std::ranges::any_of(CommonPrompts, begins) ||
+           std::ranges::any_of(windows, [&](const host::WindowEntry& window) {
+               return std::ranges::any_of(window.messages, begins);
+           });
 }
 
 bool BelongsToDialog(const Window& message) {
