@@ -13,6 +13,7 @@
 #include "com/class_factory.h"
 #include "com/registration.h"
 #include "com/runtime_memory.h"
+#include "com/runtime_threads.h"
 #include "com/server.h"
 #include "win32/base/module_path.h"
 #include "win32/base/translation.h"
@@ -40,7 +41,10 @@ using namespace tavrin::com;
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void* processEnds) noexcept {
     if (reason == DLL_PROCESS_ATTACH) server = new (serverStorage) Server(module);
-    if (reason == DLL_PROCESS_DETACH && processEnds == nullptr) FreeRuntimeMemory();
+    if (reason == DLL_PROCESS_DETACH && processEnds == nullptr) {
+        FreeRuntimeMemory();
+        FreeRuntimeThreads();
+    }
     return TRUE;
 }
 
