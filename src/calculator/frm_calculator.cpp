@@ -343,6 +343,10 @@ KeyButton* FrmCalculator::KeyOf(Command command) {
     return nullptr;
 }
 
+std::optional<forms::Copied> FrmCalculator::Copy() const {
+    return forms::Copied{(ValLei.Active() ? ValLei : ValValuta).Text()};
+}
+
 void FrmCalculator::OnKeyDown(int& keyCode, forms::Modifiers /*modifiers*/) {
     if (keyCode == key::Escape) Unload();
 }

@@ -59,6 +59,8 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     void OnActivate() override { KeepOnTop(); }
     void OnDeactivate() override { KeepOnTop(); }
     void OnKeyDown(int& keyCode, forms::Modifiers modifiers) override;
+    /// The number of the lit display, as it is shown.
+    std::optional<forms::Copied> Copy() const override;
     void OnMouseDown(const forms::MouseInput& input) override;
 
   private:

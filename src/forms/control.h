@@ -3,11 +3,13 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "forms/accessible.h"
 #include "forms/color.h"
 #include "forms/container.h"
+#include "forms/copied.h"
 #include "forms/font.h"
 #include "forms/geometry.h"
 #include "forms/keys.h"
@@ -118,6 +120,8 @@ class Control {
 
     // What a drawn control does and how it looks.
     virtual void Draw(Surface& surface) const { (void)surface; }
+    /// What Ctrl+C takes along; nothing where the platform's own field copies, or there is nothing to copy.
+    virtual std::optional<Copied> Copy() const { return std::nullopt; }
     virtual AccessibleNode Accessible() const;
     virtual int AccessibleChildCount() const { return 0; }
     virtual AccessibleNode AccessibleChild(int child) const {

@@ -22,6 +22,16 @@ void Desktop::Remove(Form& form) {
     if (auto self = form.weak_from_this().lock()) unloaded_.push_back(std::move(self));
 }
 
+void Desktop::ActivateNeighbour(const Form& form, int step) {
+    std::vector<Form*> open = forms_;
+    std::erase_if(
+        open, [&](const Form* each) { return each != &form && !(each->Visible() && each->AcceptsInput()); });
+    const auto count = std::ssize(open);
+    const auto place = std::ranges::find(open, &form) - open.begin() + step;
+    const bool isBeyond = place < 0 || place >= count;
+    if (!isBeyond || !ActivateHost()) open[static_cast<std::size_t>((place + count) % count)]->Show();
+}
+
 void Desktop::UnloadAll() {
     while (!forms_.empty())
         forms_.back()->Unload();

@@ -10,6 +10,7 @@
 
 #include "data/diagnosis.h"
 #include "forms/common_dialog.h"
+#include "forms/copied.h"
 #include "forms/files.h"
 #include "forms/geometry.h"
 #include "forms/locale.h"
@@ -59,6 +60,11 @@ class Desktop {
     virtual void Beep() = 0;
     virtual Dialogs& PlatformDialogs() = 0;
     virtual Files& PlatformFiles() = 0;
+    /// Puts what was copied on the clipboard, in the place of what is there. \throws data::Error where
+    /// another program keeps it
+    virtual void CopyToClipboard(const Copied& copied) = 0;
+    /// The keyboard goes to the host's window that had it last. \return false where there is none in sight
+    virtual bool ActivateHost() = 0;
     /// The platform's report of an error that a handler did not expect.
     virtual void ReportError(const ErrorReport& report) noexcept = 0;
 
@@ -69,6 +75,10 @@ class Desktop {
     const std::vector<Form*>& Forms() const { return forms_; }
     /// The form whose window is active, null when it is none of ours.
     Form* ActiveForm() const { return activeForm_; }
+
+    /// The keyboard goes to the next window in the order in which they were opened (-1: the one before), and
+    /// beyond them to the host.
+    void ActivateNeighbour(const Form& form, int step);
 
     /// Runs a handler as part of a dispatch. Nothing that it throws comes out.
     template <class Handler>

@@ -220,6 +220,25 @@ void Form::LeaveUnfocusable() {
 
 // Input.
 
+std::optional<Copied> Form::Copy() const {
+    return activeControl_ != nullptr ? activeControl_->Copy() : std::nullopt;
+}
+
+/// What every window does with a key that none of its handlers wants.
+bool Form::HandleCommonKey(int keyCode, Modifiers modifiers) {
+    if (modifiers.alt) return false;
+    if (keyCode == key::F6 && !modifiers.control) {
+        desktop_.ActivateNeighbour(*this, modifiers.shift ? -1 : 1);
+        return true;
+    }
+    const bool copies =
+        modifiers.control && !modifiers.shift && (keyCode == key::C || keyCode == key::Insert);
+    const std::optional<Copied> copied = copies ? Copy() : std::nullopt;
+    if (!copied) return false;
+    desktop_.Guard({this, activeControl_, event::KeyDown}, [&] { desktop_.CopyToClipboard(*copied); });
+    return true;
+}
+
 KeyOutcome Form::HandleKeyDown(int keyCode, Modifiers modifiers) {
     const Desktop::DispatchScope scope(desktop_);
     if (!AcceptsInput()) return KeyOutcome::Done;
@@ -231,6 +250,7 @@ KeyOutcome Form::HandleKeyDown(int keyCode, Modifiers modifiers) {
         desktop_.Guard({this, target, event::KeyDown}, [&] { target->onKeyDown(keyCode, modifiers); });
     }
     if (keyCode == key::Swallowed || !loaded_ || activeControl_ != target) return KeyOutcome::Done;
+    if (HandleCommonKey(keyCode, modifiers)) return KeyOutcome::Done;
     if (keyCode == key::Tab && TabLeaves(target, modifiers)) {
         FocusNeighbour(modifiers.shift ? -1 : 1);
         return KeyOutcome::Done;

@@ -120,6 +120,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     virtual void OnDeactivate() {}
     virtual void OnUnload() {}
     /// Sees every key before the active control does; setting the code to 0 swallows it.
+    /// What Ctrl+C takes along: by default what the active control has.
+    virtual std::optional<Copied> Copy() const;
     virtual void OnKeyDown(int& keyCode, Modifiers modifiers) { (void)keyCode, (void)modifiers; }
     virtual void OnMouseDown(const MouseInput& input) { (void)input; }
     virtual void OnMouseMove(const MouseInput& input) { (void)input; }
@@ -131,6 +133,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     void Focus(Control& control);
     void MoveFocus(Control& control);
     void FocusFirst();
+    bool HandleCommonKey(int keyCode, Modifiers modifiers);
     void FocusNeighbour(int step);
     Control* Neighbour(int step) const;  ///< null when none takes the focus
     /// What was hidden or disabled, itself or with what it stands in, is not pressed any more.

@@ -274,6 +274,38 @@ std::vector<int> Grid::ShownColumns() const {
     return shown;
 }
 
+namespace {
+
+/// A cell's text in a table of texts: what would begin another cell or row is a blank.
+std::string InOneCell(std::string text) {
+    std::ranges::replace_if(
+        text, [](char each) { return each == '\t' || each == '\r' || each == '\n'; }, ' ');
+    return text;
+}
+
+}  // namespace
+
+std::string Grid::TextOfRows(int first, int last) const {
+    std::string text;
+    const auto add = [&](int row) {
+        const char* before = "";
+        for (const int column : ShownColumns()) {
+            text += before + InOneCell(TextMatrix(row, column));
+            before = "\t";
+        }
+        text += "\r\n";
+    };
+    add(0);
+    for (int row = std::max(first, 1); row <= std::min(last, Rows() - 1); ++row)
+        add(row);
+    return text;
+}
+
+std::optional<Copied> Grid::Copy() const {
+    if (Rows() < 2) return std::nullopt;
+    return Copied{TextOfRows(std::min(row_, rowSel_), std::max(row_, rowSel_))};
+}
+
 int Grid::AccessibleChildCount() const {
     return Rows() * static_cast<int>(ShownColumns().size());
 }

@@ -68,6 +68,10 @@ class Grid : public Control {
     /// On a scroll bar it is a second press.
     void HandleDblClick(const MouseInput& input) override;
     void Draw(Surface& surface) const override;
+    /// The selected rows under the header, in the columns that are not hidden.
+    std::optional<Copied> Copy() const override;
+    /// Rows `first` to `last` as text, under the header.
+    std::string TextOfRows(int first, int last) const;
     AccessibleNode Accessible() const override;
     /// The cells of visible columns, row by row, the header first.
     int AccessibleChildCount() const override;

@@ -20,8 +20,11 @@ inline constexpr int Left = 37;
 inline constexpr int Up = 38;
 inline constexpr int Right = 39;
 inline constexpr int Down = 40;
+inline constexpr int Insert = 45;
 inline constexpr int Delete = 46;
+inline constexpr int C = 67;
 inline constexpr int F4 = 115;
+inline constexpr int F6 = 117;
 }  // namespace key
 
 /// The modifier keys that were held when an input arrived.

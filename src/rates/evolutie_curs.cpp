@@ -297,6 +297,13 @@ void EvolutieCurs::RedrawChart() {
 
 // Keys.
 
+std::optional<forms::Copied> EvolutieCurs::Copy() const {
+    if (!MSChart1.IsEffectivelyVisible()) return std::nullopt;
+    return forms::Copied{Grid.TextOfRows(1, Grid.Rows() - 1),
+                         {MSChart1.Bounds().width, MSChart1.Bounds().height},
+                         [this](forms::Surface& surface) { MSChart1.Draw(surface); }};
+}
+
 void EvolutieCurs::CloseOnEscape(int keyCode) {
     if (keyCode == key::Escape) cmdAction_Click(Close);
 }

@@ -49,6 +49,8 @@ class EvolutieCurs : public forms::Form {
     void OnActivate() override { KeepOnTop(); }
     void OnDeactivate() override { KeepOnTop(); }
     void OnUnload() override;
+    /// The chart as a picture, and as its table.
+    std::optional<forms::Copied> Copy() const override;
 
   private:
     void PlaceControls();

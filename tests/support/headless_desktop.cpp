@@ -125,4 +125,9 @@ void HeadlessDesktop::Close(Window& window) {
     if (next != windows_.rend()) (*next)->form.HandleActivate();
 }
 
+bool HeadlessDesktop::ActivateHost() {
+    if (hasHost) ActivateByUser(nullptr);
+    return hasHost;
+}
+
 }  // namespace tavrin::tests

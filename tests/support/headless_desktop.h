@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,8 @@ class HeadlessDesktop : public forms::Desktop {
     void SetCursorPosition(forms::PixelPoint position) override { cursor = position; }
     forms::Locale UserLocale() const override { return locale; }
     void Beep() override { ++beeps; }
+    void CopyToClipboard(const forms::Copied& content) override { copied = content; }
+    bool ActivateHost() override;
     forms::Dialogs& PlatformDialogs() override { return dialogs; }
     forms::Files& PlatformFiles() override { return files; }
     void ReportError(const forms::ErrorReport& report) noexcept override;
@@ -60,6 +63,10 @@ class HeadlessDesktop : public forms::Desktop {
     /// Of the last report: "Curs Valutar: Sterge Curs (clic)".
     std::string reportedPlace;
     int beeps = 0;
+    /// What was copied last.
+    std::optional<forms::Copied> copied;
+    /// Whether a window of the host is in sight, to which the keyboard may go.
+    bool hasHost = true;
     /// Before the window of a form is made. May throw, as a platform does that has no more windows to give.
     std::function<void(forms::Form& form)> whenCreating;
     /// What happens while a report is up, as a user or a timer may do things then.

@@ -24,6 +24,9 @@ struct CloseKernelHandle {
     using pointer = HANDLE;
     void operator()(HANDLE handle) const { CloseHandle(handle); }
 };
+struct FreeGlobalMemory {
+    void operator()(HGLOBAL memory) const { GlobalFree(memory); }
+};
 struct CloseRegistryKey {
     void operator()(HKEY key) const { RegCloseKey(key); }
 };
@@ -31,6 +34,7 @@ struct CloseRegistryKey {
 using OwnedWindow = std::unique_ptr<std::remove_pointer_t<HWND>, DestroyPlatformWindow>;
 /// A file, an event, a process and the like; null for none.
 using OwnedHandle = std::unique_ptr<HANDLE, CloseKernelHandle>;
+using OwnedGlobal = std::unique_ptr<std::remove_pointer_t<HGLOBAL>, FreeGlobalMemory>;
 using OwnedKey = std::unique_ptr<std::remove_pointer_t<HKEY>, CloseRegistryKey>;
 using OwnedFont = std::unique_ptr<std::remove_pointer_t<HFONT>, DeleteGdiObject>;
 using OwnedBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeleteGdiObject>;

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "win32/base/text.h"
+#include "win32/desktop/clipboard.h"
 #include "win32/peers/form_peer.h"
 #include "win32/peers/form_style.h"
 #include "win32/system/dpi.h"
@@ -78,6 +79,19 @@ std::string Desktop::FormatNumber(std::string_view number, const forms::NumberFo
 
 void Desktop::Beep() {
     MessageBeep(MB_OK);
+}
+
+void Desktop::CopyToClipboard(const forms::Copied& copied) {
+    const Clipboard clipboard(GetActiveWindow());
+    clipboard.Put(CF_UNICODETEXT, TextMemory(copied.text));
+    if (!copied.drawPicture) return;
+    const auto toolkit = SharedToolkit();
+    clipboard.Put(CF_DIB, PictureMemory(copied, toolkit->Canvas(), toolkit->Fonts(), SystemScale()));
+}
+
+bool Desktop::ActivateHost() {
+    const HWND host = FindHostWindow(*this);
+    return host != nullptr && SetForegroundWindow(host) != FALSE;
 }
 
 void Desktop::ReportError(const forms::ErrorReport& report) noexcept {

@@ -33,6 +33,8 @@ class Desktop final : public forms::Desktop {
     forms::Locale UserLocale() const override { return ReadUserLocale(); }
     std::string FormatNumber(std::string_view number, const forms::NumberFormat& format) const override;
     void Beep() override;
+    void CopyToClipboard(const forms::Copied& copied) override;
+    bool ActivateHost() override;
     forms::Dialogs& PlatformDialogs() override { return dialogs_; }
     forms::Files& PlatformFiles() override { return files_; }
     void ReportError(const forms::ErrorReport& report) noexcept override;

@@ -15,7 +15,8 @@ struct FormStyle {
     static FormStyle Of(forms::BorderStyle border) {
         const DWORD common = WS_POPUP | WS_CLIPCHILDREN;
         const DWORD extended = WS_EX_TOPMOST | WS_EX_TOOLWINDOW;
-        if (border == forms::BorderStyle::Borderless) return {common, extended};
+        // The system menu moves a window without a caption by the keyboard, too.
+        if (border == forms::BorderStyle::Borderless) return {common | WS_SYSMENU, extended};
         return {common | WS_CAPTION | WS_SYSMENU, extended | WS_EX_DLGMODALFRAME};
     }
 };

@@ -37,6 +37,15 @@ BOOL CALLBACK CollectTakingInput(HWND window, LPARAM windows) noexcept {
 
 }  // namespace
 
+HWND FindHostWindow(const forms::Desktop& desktop) {
+    std::vector<HWND> windows;
+    EnumThreadWindows(GetCurrentThreadId(), CollectTakingInput, reinterpret_cast<LPARAM>(&windows));
+    const auto host = std::ranges::find_if(windows, [&](HWND each) {
+        return !IsForm(desktop, each) && !IsForm(desktop, GetWindow(each, GW_OWNER));
+    });
+    return host != windows.end() ? *host : nullptr;
+}
+
 HWND OwnerOfMessage(const forms::Desktop& desktop, HWND window) {
     const HWND owner = FormOfPopup(desktop, window);
     if (IsForm(desktop, owner)) EnableWindow(owner, TRUE);

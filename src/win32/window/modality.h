@@ -31,4 +31,7 @@ class HeldWindows {
 /// of others that is disabled or out of sight.
 HWND OwnerOfMessage(const forms::Desktop& desktop, HWND window);
 
+/// The topmost window of this thread that takes input and is none of ours; null where there is none.
+HWND FindHostWindow(const forms::Desktop& desktop);
+
 }  // namespace tavrin::win32
