@@ -216,7 +216,7 @@ void CompareAddressBook(int persons) {
 template <class Displays>
 double CostOfKey(std::string_view keys) {
     Displays shown;
-    shown.rate = bench::Rate;
+    shown.conversion.SetRate(bench::Rate);
     std::vector<calculator::Command> commands;
     for (const char key : keys)
         commands.push_back(tests::TwoDisplays::CommandOf(key));

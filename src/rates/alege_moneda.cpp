@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "data/checked_arithmetic.h"
 #include "data/error.h"
 #include "forms/utf8.h"
 #include "rates/chooser_statements.h"
@@ -168,12 +167,10 @@ void AlegeMoneda::TakeRate() {
     CurrencyTarget& target = caller_->DefaultInstance();
     const forms::Locale& locale = UserLocale();
     const std::string& currency = cmbMoneda.Text();
-    const double amountInLei = data::CheckedResult(target.CurrencyAmount() * target.CursCurent());
+    // The amount keeps its value in lei, which the rate of until now says.
+    const double amountInLei = target.AmountInLei();
     const double rate = NumberOfRateText(Grid.TextMatrix(Grid.Row(), RateColumn), locale);
-    target.SetCursCurent(rate);
-    target.SetRateCaption(RateCaption(rate, currency, locale));
-    target.SetCurrencyUnit(currency);
-    target.SetCurrencyAmount(data::CheckedQuotient(amountInLei, rate));
+    target.TakeChoice({currency, rate, RateCaption(rate, currency, locale), amountInLei});
 }
 
 // Focus and keys.
