@@ -206,22 +206,22 @@ void CursValutar::cmdAction_Click(int index) {
         case AddDay:
             // A new day takes nothing from the list but its currencies.
             if (module_.context.connection != nullptr) ShowsCurrentRates();
-            OpenEntry("A");
+            OpenEntry(EntryMode::Add);
             break;
         case ModifyDay:
-            if (MayChangeSelectedDay()) OpenEntry("M");
+            if (MayChangeSelectedDay()) OpenEntry(EntryMode::Modify);
             break;
         case DeleteDay:
             if (MayChangeSelectedDay()) DeleteSelectedDay();
             break;
         case AddCurrency:
-            OpenCurrencyWindow("A");
+            OpenCurrencyWindow(CurrencyMode::Add);
             break;
         case RemoveCurrency:
-            if (currencyNames_.UpperBound() == CurrencyNames::FirstCurrency) {
-                RefuseLastCurrency();
+            if (MayRemoveCurrency(currencyNames_)) {
+                OpenCurrencyWindow(CurrencyMode::Remove);
             } else {
-                OpenCurrencyWindow("S");
+                RefuseLastCurrency();
             }
             break;
         case ShowEvolution:
@@ -252,7 +252,7 @@ std::string CursValutar::SelectedDayText() const {
 bool CursValutar::RefusesFrozenDay() {
     const auto day = data::ParseDayMonthYear(SelectedDayText());
     if (!day) throw data::RuntimeError(data::error_number::TypeMismatch);
-    if (!IsRateValidated(*day)) return false;
+    if (!IsFrozen(*day, store_.FrozenDate())) return false;
     // A frozen day can be neither changed nor deleted; one text serves for both.
     module_.ShowMessage("Acest curs a fost validat !\r\nNu puteti modifica un curs deja validat !",
                         message::Error, message::Ok, Caption());
@@ -298,14 +298,14 @@ bool CursValutar::BringHolderForward() {
     return true;
 }
 
-void CursValutar::OpenEntry(const std::string& mode) {
+void CursValutar::OpenEntry(EntryMode mode) {
     if (BringHolderForward()) return;
     auto& window = module_.Default<CursValutarDetaliu>();
     SetEnabled(false);
     window.ShowForm(currencyNames_, mode);
 }
 
-void CursValutar::OpenCurrencyWindow(const std::string& mode) {
+void CursValutar::OpenCurrencyWindow(CurrencyMode mode) {
     if (BringHolderForward()) return;
     auto& window = module_.Default<CereMoneda>();
     SetEnabled(false);

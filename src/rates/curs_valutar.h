@@ -11,6 +11,7 @@
 #include "forms/grid.h"
 #include "forms/label.h"
 #include "rates/currency_names.h"
+#include "rates/rate_rules.h"
 #include "rates/rate_store.h"
 #include "shell/module.h"
 
@@ -64,7 +65,6 @@ class CursValutar : public forms::Form {
     void PlaceControls();
     void ConnectEvents();
 
-    bool IsRateValidated(data::OleDate day) const { return store_.IsFrozen(day); }
     void SetActionsEnabled(bool enabled);
     /// Whether the days in sight are those of the host's database of this moment. Where they are not, they
     /// are read there, and the day that was to be changed is to be looked at again first.
@@ -75,8 +75,8 @@ class CursValutar : public forms::Form {
     bool MayChangeSelectedDay();
     bool IsHeld() const;
     bool BringHolderForward();
-    void OpenEntry(const std::string& mode);
-    void OpenCurrencyWindow(const std::string& mode);
+    void OpenEntry(EntryMode mode);
+    void OpenCurrencyWindow(CurrencyMode mode);
     void OpenEvolution();
     void DeleteSelectedDay();
     void RefuseLastCurrency();

@@ -11,10 +11,6 @@ data::OleDate RateStore::FrozenDate() const {
     return data::ExecuteScalar(context_.Database(), FrozenDateStatement(context_.companyId)).ToDate();
 }
 
-bool RateStore::IsFrozen(data::OleDate day) const {
-    return data::RoundedDay(day) <= data::RoundedDay(FrozenDate());
-}
-
 CurrencyNames RateStore::DiscoverCurrencies() const {
     const auto columns = context_.Database().CreateRecordset();
     columns->Open(ListColumnsStatement);

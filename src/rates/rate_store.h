@@ -22,8 +22,6 @@ class RateStore {
 
     /// The last day whose rates are frozen for the current company; 1 January 1900 when none ever were.
     data::OleDate FrozenDate() const;
-    /// Whether a day may no longer be changed: it is not later than the frozen date.
-    bool IsFrozen(data::OleDate day) const;
 
     /// The currencies are whatever columns the table has beside "Data" and "Validat" (exact letters).
     CurrencyNames DiscoverCurrencies() const;

@@ -59,7 +59,7 @@ class EveryWindowTest : public WindowTest {
         auto& list = module.Default<rates::CursValutar>();
         list.ShowForm();
         look(list);
-        for (const char* mode : {"A", "M"}) {
+        for (const rates::EntryMode mode : {rates::EntryMode::Add, rates::EntryMode::Modify}) {
             auto& entry = module.Default<rates::CursValutarDetaliu>();
             entry.ShowForm(list.Currencies(), mode);
             look(entry);
