@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "addressbook/arrow_moves.h"
 #include "addressbook/messages.h"
 #include "addressbook/text_rules.h"
 #include "shell/window_helpers.h"
@@ -63,7 +62,7 @@ void Agenda::ShowForm() {
 void Agenda::OnLoad() {
     shell::ApplyDarkScheme(*this, DarkMode);
     SetPictures();
-    Mode = "V";
+    Mode = EditMode::Browse;
     // A list that cannot be read is reported, and the rest of the window is made all the same.
     OwnerDesktop().Guard({this, nullptr, forms::event::Load}, [this] { LoadList(); });
     module_.CreateMessageService();
@@ -167,7 +166,7 @@ void Agenda::ShowCompactLayout() {
     MoveEditButtons(-width);
     ChangeWidth(-width);
     ClearFields();
-    Mode = "A";
+    Mode = EditMode::Add;
     SetEditMode(true);
     // The list lies under the details now, where no key may reach it.
     fraGrid.SetEnabled(false);
@@ -194,11 +193,12 @@ void Agenda::ChangeWidth(int change) {
 }
 
 void Agenda::SetEditMode(bool editing) {
-    const bool namesLocked = Mode == "M" || !editing;
-    TextBoxes[NumeBox].SetLocked(namesLocked);
-    TextBoxes[PrenumeBox].SetLocked(namesLocked);
+    isEditing_ = editing;
+    const OpenBoxes open = OpenBoxesOf({.mode = Mode, .isEditing = editing});
+    TextBoxes[NumeBox].SetLocked(!open.names);
+    TextBoxes[PrenumeBox].SetLocked(!open.names);
     for (int box = FirstDetailBox; box <= LastBox; ++box)
-        TextBoxes[box].SetLocked(!editing);
+        TextBoxes[box].SetLocked(!open.details);
     cmdAction[Accept].SetVisible(editing);
     cmdAction[Cancel].SetCaption(editing ? "Renunta" : "Iesire");
     cmdAction[Cancel].SetAccelerator(editing ? U'R' : U'I');
@@ -230,19 +230,10 @@ void Agenda::ClearFields() {
     ShowPerson({});
 }
 
-bool Agenda::CheckNume() {
-    return CheckFilled(NumeBox, text::NumeRequired);
-}
-
-bool Agenda::CheckPrenume() {
-    return CheckFilled(PrenumeBox, text::PrenumeRequired);
-}
-
-bool Agenda::CheckFilled(int box, const char* refusal) {
-    if (!Trimmed(TextBoxes[box].Text()).empty()) return true;
-    module_.ShowMessage(refusal, message::Error, message::Ok, Caption());
-    TextBoxes[box].SetFocus();
-    return false;
+void Agenda::Refuse(std::size_t missingColumn) {
+    module_.ShowMessage(missingColumn == NumeColumn ? text::NumeRequired : text::PrenumeRequired,
+                        message::Error, message::Ok, Caption());
+    TextBoxes[FirstColumnBox + static_cast<int>(missingColumn)].SetFocus();
 }
 
 // The actions.
@@ -250,7 +241,7 @@ bool Agenda::CheckFilled(int box, const char* refusal) {
 void Agenda::cmdAction_Click(int index) {
     switch (index) {
         case Accept:
-            if (CheckNume() && CheckPrenume()) AcceptPerson();
+            AcceptPerson();
             break;
         case Cancel:
             CancelOrLeave();
@@ -270,10 +261,15 @@ void Agenda::cmdAction_Click(int index) {
 }
 
 void Agenda::AcceptPerson() {
-    const bool modifies = Mode == "M";
+    const Person person = ShownPerson();
+    if (const auto missing = MissingColumn(person)) return Refuse(*missing);
+    SavePerson(person);
+}
+
+void Agenda::SavePerson(const Person& person) {
+    const bool modifies = Mode == EditMode::Modify;
     // A new person belongs into whatever book the host is at; changes belong to the one they were made in.
     if (modifies) list_.DemandConnection();
-    const Person person = ShownPerson();
     module_.context.Database().Execute(modifies ? UpdateStatement(person) : InsertStatement(person));
     LockSearch(true);
     fraGrid.SetEnabled(true);
@@ -293,14 +289,13 @@ void Agenda::ShowAccepted(int row) {
     Grid.SetRow(row);
     SetEditMode(false);
     SelectRow();
-    Mode = "V";
+    Mode = EditMode::Browse;
     LockSearch(false);
     ShowRow(Grid.Row());
 }
 
 void Agenda::CancelOrLeave() {
-    const bool cancels = cmdAction[Cancel].Caption() == "Renunta" && Mode != "V";
-    if (!cancels) {
+    if (!CancelsEdit({.mode = Mode, .isEditing = isEditing_})) {
         AskToLeave();
     } else if (list_.HasRows()) {
         CancelEdit();
@@ -313,7 +308,7 @@ void Agenda::CancelEdit() {
     LockSearch(true);
     fraGrid.SetEnabled(true);
     SetEditMode(false);
-    Mode = "V";
+    Mode = EditMode::Browse;
     LockSearch(false);
     SelectRow();
     ShowRow(SavedRow);
@@ -325,7 +320,7 @@ void Agenda::AskToLeave() {
 
 void Agenda::AddPerson() {
     SavedRow = Grid.Row();
-    Mode = "A";
+    Mode = EditMode::Add;
     ClearFields();
     SetEditMode(true);
     fraGrid.SetEnabled(false);
@@ -337,7 +332,7 @@ void Agenda::ModifyPerson() {
     if (!ShowsCurrentList()) return;
     list_.DemandNames();
     SavedRow = Grid.Row();
-    Mode = "M";
+    Mode = EditMode::Modify;
     SetEditMode(true);
     fraGrid.SetEnabled(false);
     TextBoxes[FirstDetailBox].SetFocus();
@@ -353,7 +348,7 @@ void Agenda::DeletePerson() {
     const Answer answer = module_.Ask(*this, module_.lastQuestion, Caption());
     if (answer == Answer::No) Grid.SetFocus();
     // The person that the question named, and in the data that it was about: a host may call while it is up.
-    if (answer != Answer::Yes || Mode != "V" || Grid.Row() != row) return;
+    if (answer != Answer::Yes || Mode != EditMode::Browse || Grid.Row() != row) return;
     if (!ShowsCurrentList()) return;
     module_.context.Database().Execute(DeleteStatement(nume, prenume));
     if (!RequeryList()) return;

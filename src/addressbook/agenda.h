@@ -1,10 +1,12 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "addressbook/addressbook_statements.h"
 #include "addressbook/agenda_design.h"
 #include "addressbook/arrow_moves.h"
+#include "addressbook/edit_rules.h"
 #include "addressbook/person_list.h"
 #include "forms/image_list.h"
 #include "shell/module.h"
@@ -21,8 +23,7 @@ class Agenda : public AgendaDesign {
 
     void ShowForm();
 
-    /// "V" browse, "A" add, "M" modify.
-    std::string Mode = "V";
+    EditMode Mode = EditMode::Browse;
     /// The grid row that was current when the editing began.
     int SavedRow = 0;
 
@@ -66,14 +67,13 @@ class Agenda : public AgendaDesign {
     Person ShownPerson() const;
     void ShowPerson(const Person& person);
     void ClearFields();
-    bool CheckNume();
-    bool CheckPrenume();
-    bool CheckFilled(int box, const char* refusal);
+    void Refuse(std::size_t missingColumn);
 
     // The actions.
     void cmdAction_Click(int index);
     void cmdAction_KeyDown(int keyCode);
     void AcceptPerson();
+    void SavePerson(const Person& person);
     void ShowAccepted(int row);
     void CancelOrLeave();
     void CancelEdit();
@@ -90,6 +90,8 @@ class Agenda : public AgendaDesign {
     shell::Module& module_;
     PersonList list_;
     forms::ImageList lstImages_;
+    bool isEditing_ =
+        false;  ///< as SetEditMode was last told; an edit that failed midway may have its mode still
 };
 
 }  // namespace tavrin::addressbook
