@@ -90,8 +90,7 @@ class Agenda : public AgendaDesign {
     shell::Module& module_;
     PersonList list_;
     forms::ImageList lstImages_;
-    bool isEditing_ =
-        false;  ///< as SetEditMode was last told; an edit that failed midway may have its mode still
+    bool isEditing_ = false;  ///< as SetEditMode was last told
 };
 
 }  // namespace tavrin::addressbook

@@ -4,7 +4,6 @@
 
 #include "data/error.h"
 #include "forms/utf8.h"
-#include "rates/chooser_statements.h"
 #include "rates/rate_text.h"
 #include "shell/layout.h"
 
@@ -133,7 +132,7 @@ void AlegeMoneda::IncarcaMonede() {
 }
 
 void AlegeMoneda::IncarcaCursuri() {
-    data::TablePtr rates = store_.Read(CurrencyRatesQuery(cmbMoneda.Text()));
+    data::TablePtr rates = store_.ReadRates(cmbMoneda.Text());
     if (rates) {
         ShowRates(std::move(rates));
         return;

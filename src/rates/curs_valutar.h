@@ -71,6 +71,8 @@ class CursValutar : public forms::Form {
     bool ShowsCurrentRates();
     void BindGrid(data::TablePtr table);
     void GoToRowOf(const std::string& dayMonthYear);
+    /// \throws data::Error 13 (type mismatch) where the row does not begin with a day
+    data::OleDate SelectedDay() const;
     bool RefusesFrozenDay();
     bool MayChangeSelectedDay();
     bool IsHeld() const;
@@ -92,9 +94,7 @@ class CursValutar : public forms::Form {
     RateStore store_;
     shell::ConnectionMark mark_;  ///< of the connection that the list was read on
     CurrencyNames currencyNames_;
-    std::string baseQuery_;
-    std::string dateFilter_;
-    std::string orderClause_;
+    DateRange range_;  ///< of the days in sight
 };
 
 }  // namespace tavrin::rates

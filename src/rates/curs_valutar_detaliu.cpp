@@ -298,7 +298,7 @@ bool CursValutarDetaliu::SaveRates() {
     mark_.Demand(module_.context);
     if (mode_ == EntryMode::Add) return InsertDay();
     // The rate list has refused frozen days before it opened this window.
-    store_.UpdateDay(DayText(), Entries());
+    store_.UpdateDay(DataCurs.Date(), Entries());
     return true;
 }
 
@@ -318,7 +318,7 @@ bool CursValutarDetaliu::InsertDay() {
                             Caption());
         return false;
     }
-    store_.InsertDay(DayText(), Entries());
+    store_.InsertDay(DataCurs.Date(), Entries());
     return true;
 }
 
