@@ -29,7 +29,7 @@ constexpr int ButtonsComeShort = 20;
 Agenda::Agenda(shell::Module& module)
     : AgendaDesign(module.Desktop()),
       module_(module),
-      list_(module.context),
+      store_(module.context),
       lstImages_{{3, Icon::Modify},  {17, Icon::Add},    {22, Icon::Accept},
                  {23, Icon::Cancel}, {27, Icon::Remove}, {30, Icon::AddressBook}} {
     ConnectEvents();
@@ -79,7 +79,7 @@ void Agenda::SetPictures() {
 
 void Agenda::OnUnload() {
     Grid.SetDataSource(nullptr);
-    list_.Release();
+    store_.Release();
 }
 
 // The list.
@@ -95,30 +95,29 @@ void Agenda::LoadList() {
 
 bool Agenda::ReadList() {
     Grid.SetDataSource(nullptr);
-    list_.Load(Search());
+    store_.Load(Search());
     FormatGrid();
     return BindRows();
 }
 
 bool Agenda::RequeryList() {
-    list_.Refresh(Search());
+    store_.Refresh(Search());
     Grid.SetDataSource(nullptr);
     return BindRows();
 }
 
 bool Agenda::BindRows() {
-    if (!list_.HasRows()) {
+    if (!store_.HasRows()) {
         ShowCompactLayout();
         return false;
     }
-    Grid.SetDataSource(list_.ReadAll());
+    Grid.SetDataSource(store_.ReadAll());
     FormatGrid();
     return true;
 }
 
-std::string Agenda::Search() const {
-    return ListStatement(SearchPattern(TextBoxes[SearchNumeBox].Text()),
-                         SearchPattern(TextBoxes[SearchPrenumeBox].Text()));
+PersonSearch Agenda::Search() const {
+    return {TextBoxes[SearchNumeBox].Text(), TextBoxes[SearchPrenumeBox].Text()};
 }
 
 void Agenda::FormatGrid() {
@@ -142,8 +141,8 @@ int Agenda::RowOfShownPerson() const {
 void Agenda::ShowRow(int row) {
     Person person;
     try {
-        list_.MoveTo(row);
-        list_.Read(person);
+        store_.MoveTo(row);
+        store_.Read(person);
     } catch (...) {
         // The names come first and are the row's; nothing of the person before stays behind them.
         ShowPerson(person);
@@ -153,7 +152,7 @@ void Agenda::ShowRow(int row) {
 }
 
 bool Agenda::ShowsCurrentList() {
-    if (list_.IsCurrent() && Grid.DataSource() != nullptr) return true;
+    if (store_.IsCurrent() && Grid.DataSource() != nullptr) return true;
     LoadList();
     return false;
 }
@@ -268,9 +267,11 @@ void Agenda::AcceptPerson() {
 
 void Agenda::SavePerson(const Person& person) {
     const bool modifies = Mode == EditMode::Modify;
-    // A new person belongs into whatever book the host is at; changes belong to the one they were made in.
-    if (modifies) list_.DemandConnection();
-    module_.context.Database().Execute(modifies ? UpdateStatement(person) : InsertStatement(person));
+    if (modifies) {
+        store_.Change(person);
+    } else {
+        store_.Add(person);
+    }
     LockSearch(true);
     fraGrid.SetEnabled(true);
     if (IsCompact()) {
@@ -297,7 +298,7 @@ void Agenda::ShowAccepted(int row) {
 void Agenda::CancelOrLeave() {
     if (!CancelsEdit({.mode = Mode, .isEditing = isEditing_})) {
         AskToLeave();
-    } else if (list_.HasRows()) {
+    } else if (store_.HasRows()) {
         CancelEdit();
     } else {
         Unload();
@@ -330,7 +331,7 @@ void Agenda::AddPerson() {
 
 void Agenda::ModifyPerson() {
     if (!ShowsCurrentList()) return;
-    list_.DemandNames();
+    store_.DemandNames();
     SavedRow = Grid.Row();
     Mode = EditMode::Modify;
     SetEditMode(true);
@@ -340,7 +341,7 @@ void Agenda::ModifyPerson() {
 
 void Agenda::DeletePerson() {
     if (!ShowsCurrentList()) return;
-    list_.DemandNames();
+    store_.DemandNames();
     const std::string nume(Trimmed(TextBoxes[NumeBox].Text()));
     const std::string prenume(Trimmed(TextBoxes[PrenumeBox].Text()));
     module_.lastQuestion = text::DeleteQuestion + nume + " " + prenume + text::DeleteQuestionEnd;
@@ -350,7 +351,7 @@ void Agenda::DeletePerson() {
     // The person that the question named, and in the data that it was about: a host may call while it is up.
     if (answer != Answer::Yes || Mode != EditMode::Browse || Grid.Row() != row) return;
     if (!ShowsCurrentList()) return;
-    module_.context.Database().Execute(DeleteStatement(nume, prenume));
+    store_.Remove(nume, prenume);
     if (!RequeryList()) return;
     Grid.SetRow(FirstRow);
     Grid.SetCol(0);

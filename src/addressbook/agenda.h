@@ -7,7 +7,7 @@
 #include "addressbook/agenda_design.h"
 #include "addressbook/arrow_moves.h"
 #include "addressbook/edit_rules.h"
-#include "addressbook/person_list.h"
+#include "addressbook/person_store.h"
 #include "forms/image_list.h"
 #include "shell/module.h"
 
@@ -44,7 +44,7 @@ class Agenda : public AgendaDesign {
     bool ReadList();
     bool RequeryList();
     bool BindRows();
-    std::string Search() const;
+    PersonSearch Search() const;
     void FormatGrid();
     void SelectRow();
     int RowOfShownPerson() const;
@@ -88,7 +88,7 @@ class Agenda : public AgendaDesign {
     void Grid_KeyDown(int keyCode);
 
     shell::Module& module_;
-    PersonList list_;
+    PersonStore store_;
     forms::ImageList lstImages_;
     bool isEditing_ = false;  ///< as SetEditMode was last told
 };
