@@ -16,7 +16,7 @@
 
 #include "addressbook/addressbook_statements.h"
 #include "addressbook/agenda.h"
-#include "addressbook/person_list.h"
+#include "addressbook/person_store.h"
 #include "host/embedded/embedded_connection.h"
 #include "support/headless_desktop.h"
 #include "support/recording_messages.h"

@@ -28,7 +28,7 @@ namespace tests = tavrin::tests;
 template <class Displays>
 void PressKeys(benchmark::State& state, std::string_view keys) {
     Displays shown;
-    shown.rate = Rate;
+    shown.conversion.SetRate(Rate);
     std::vector<Command> commands;
     for (const char key : keys)
         commands.push_back(tests::TwoDisplays::CommandOf(key));

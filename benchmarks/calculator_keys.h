@@ -22,8 +22,8 @@ class TextDisplays : public tests::TwoDisplays {
   public:
     void ShowValues() override {
         TwoDisplays::ShowValues();
-        forms::WriteGroupedNumber(leiText, lei, 2, locale);
-        forms::WriteGroupedNumber(currencyText, currency, 2, locale);
+        forms::WriteGroupedNumber(leiText, conversion.Lei(), 2, locale);
+        forms::WriteGroupedNumber(currencyText, conversion.Currency(), 2, locale);
     }
 
     forms::Locale locale;

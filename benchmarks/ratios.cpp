@@ -105,9 +105,7 @@ void CompareRateList(int rows, int currencies) {
     list.dpDataIn.SetDate(data::ToOleDate({2003, 1, 1}));
     list.ApplyDateFilter();
     const std::string query =
-        rates::ListBaseQuery(names) + " " +
-        rates::DateFilterClause(data::ToOleDate({2003, 1, 1}), data::ToOleDate({2004, 1, 31})) + " " +
-        std::string(rates::ListOrderClause);
+        rates::ListQuery(names, {data::ToOleDate({2003, 1, 1}), data::ToOleDate({2004, 1, 31})});
     std::size_t found = 0;
     const bench::Comparison compared = bench::Compare(
         Rounds,
@@ -220,7 +218,7 @@ void CompareAddressBook(int persons) {
 template <class Displays>
 double CostOfKey(std::string_view keys) {
     Displays shown;
-    shown.rate = bench::Rate;
+    shown.conversion.SetRate(bench::Rate);
     std::vector<calculator::Command> commands;
     for (const char key : keys)
         commands.push_back(tests::TwoDisplays::CommandOf(key));

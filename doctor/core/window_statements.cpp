@@ -21,8 +21,7 @@ std::string ListQuery(const StatementSample& sample) {
     rates::CurrencyNames names;
     for (const std::string& currency : sample.currencies)
         names.Add(currency);
-    return rates::ListBaseQuery(names) + " " + rates::DateFilterClause(sample.day, sample.day) + " " +
-           std::string(rates::ListOrderClause);
+    return rates::ListQuery(names, {sample.day, sample.day});
 }
 
 std::vector<rates::RateEntry> SomeRates(const StatementSample& sample) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "addressbook/arrow_moves.h"
 #include "addressbook/messages.h"
 #include "addressbook/text_rules.h"
 #include "shell/window_helpers.h"
@@ -30,7 +29,7 @@ constexpr int ButtonsComeShort = 20;
 Agenda::Agenda(shell::Module& module)
     : AgendaDesign(module.Desktop()),
       module_(module),
-      list_(module.context),
+      store_(module.context),
       lstImages_{{3, Icon::Modify},  {17, Icon::Add},    {22, Icon::Accept},
                  {23, Icon::Cancel}, {27, Icon::Remove}, {30, Icon::AddressBook}} {
     ConnectEvents();
@@ -63,7 +62,7 @@ void Agenda::ShowForm() {
 void Agenda::OnLoad() {
     shell::ApplyDarkScheme(*this, DarkMode);
     SetPictures();
-    Mode = "V";
+    Mode = EditMode::Browse;
     // A list that cannot be read is reported, and the rest of the window is made all the same.
     OwnerDesktop().Guard({this, nullptr, forms::event::Load}, [this] { LoadList(); });
     module_.CreateMessageService();
@@ -80,7 +79,7 @@ void Agenda::SetPictures() {
 
 void Agenda::OnUnload() {
     Grid.SetDataSource(nullptr);
-    list_.Release();
+    store_.Release();
 }
 
 // The list.
@@ -96,30 +95,29 @@ void Agenda::LoadList() {
 
 bool Agenda::ReadList() {
     Grid.SetDataSource(nullptr);
-    list_.Load(Search());
+    store_.Load(Search());
     FormatGrid();
     return BindRows();
 }
 
 bool Agenda::RequeryList() {
-    list_.Refresh(Search());
+    store_.Refresh(Search());
     Grid.SetDataSource(nullptr);
     return BindRows();
 }
 
 bool Agenda::BindRows() {
-    if (!list_.HasRows()) {
+    if (!store_.HasRows()) {
         ShowCompactLayout();
         return false;
     }
-    Grid.SetDataSource(list_.ReadAll());
+    Grid.SetDataSource(store_.ReadAll());
     FormatGrid();
     return true;
 }
 
-std::string Agenda::Search() const {
-    return ListStatement(SearchPattern(TextBoxes[SearchNumeBox].Text()),
-                         SearchPattern(TextBoxes[SearchPrenumeBox].Text()));
+PersonSearch Agenda::Search() const {
+    return {TextBoxes[SearchNumeBox].Text(), TextBoxes[SearchPrenumeBox].Text()};
 }
 
 void Agenda::FormatGrid() {
@@ -143,8 +141,8 @@ int Agenda::RowOfShownPerson() const {
 void Agenda::ShowRow(int row) {
     Person person;
     try {
-        list_.MoveTo(row);
-        list_.Read(person);
+        store_.MoveTo(row);
+        store_.Read(person);
     } catch (...) {
         // The names come first and are the row's; nothing of the person before stays behind them.
         ShowPerson(person);
@@ -154,7 +152,7 @@ void Agenda::ShowRow(int row) {
 }
 
 bool Agenda::ShowsCurrentList() {
-    if (list_.IsCurrent() && Grid.DataSource() != nullptr) return true;
+    if (store_.IsCurrent() && Grid.DataSource() != nullptr) return true;
     LoadList();
     return false;
 }
@@ -167,7 +165,7 @@ void Agenda::ShowCompactLayout() {
     MoveEditButtons(-width);
     ChangeWidth(-width);
     ClearFields();
-    Mode = "A";
+    Mode = EditMode::Add;
     SetEditMode(true);
     // The list lies under the details now, where no key may reach it.
     fraGrid.SetEnabled(false);
@@ -194,11 +192,12 @@ void Agenda::ChangeWidth(int change) {
 }
 
 void Agenda::SetEditMode(bool editing) {
-    const bool namesLocked = Mode == "M" || !editing;
-    TextBoxes[NumeBox].SetLocked(namesLocked);
-    TextBoxes[PrenumeBox].SetLocked(namesLocked);
+    isEditing_ = editing;
+    const OpenBoxes open = OpenBoxesOf({.mode = Mode, .isEditing = editing});
+    TextBoxes[NumeBox].SetLocked(!open.names);
+    TextBoxes[PrenumeBox].SetLocked(!open.names);
     for (int box = FirstDetailBox; box <= LastBox; ++box)
-        TextBoxes[box].SetLocked(!editing);
+        TextBoxes[box].SetLocked(!open.details);
     cmdAction[Accept].SetVisible(editing);
     cmdAction[Cancel].SetCaption(editing ? "Renunta" : "Iesire");
     cmdAction[Cancel].SetAccelerator(editing ? U'R' : U'I');
@@ -230,19 +229,10 @@ void Agenda::ClearFields() {
     ShowPerson({});
 }
 
-bool Agenda::CheckNume() {
-    return CheckFilled(NumeBox, text::NumeRequired);
-}
-
-bool Agenda::CheckPrenume() {
-    return CheckFilled(PrenumeBox, text::PrenumeRequired);
-}
-
-bool Agenda::CheckFilled(int box, const char* refusal) {
-    if (!Trimmed(TextBoxes[box].Text()).empty()) return true;
-    module_.ShowMessage(refusal, message::Error, message::Ok, Caption());
-    TextBoxes[box].SetFocus();
-    return false;
+void Agenda::Refuse(std::size_t missingColumn) {
+    module_.ShowMessage(missingColumn == NumeColumn ? text::NumeRequired : text::PrenumeRequired,
+                        message::Error, message::Ok, Caption());
+    TextBoxes[FirstColumnBox + static_cast<int>(missingColumn)].SetFocus();
 }
 
 // The actions.
@@ -250,7 +240,7 @@ bool Agenda::CheckFilled(int box, const char* refusal) {
 void Agenda::cmdAction_Click(int index) {
     switch (index) {
         case Accept:
-            if (CheckNume() && CheckPrenume()) AcceptPerson();
+            AcceptPerson();
             break;
         case Cancel:
             CancelOrLeave();
@@ -270,11 +260,18 @@ void Agenda::cmdAction_Click(int index) {
 }
 
 void Agenda::AcceptPerson() {
-    const bool modifies = Mode == "M";
-    // A new person belongs into whatever book the host is at; changes belong to the one they were made in.
-    if (modifies) list_.DemandConnection();
     const Person person = ShownPerson();
-    module_.context.Database().Execute(modifies ? UpdateStatement(person) : InsertStatement(person));
+    if (const auto missing = MissingColumn(person)) return Refuse(*missing);
+    SavePerson(person);
+}
+
+void Agenda::SavePerson(const Person& person) {
+    const bool modifies = Mode == EditMode::Modify;
+    if (modifies) {
+        store_.Change(person);
+    } else {
+        store_.Add(person);
+    }
     LockSearch(true);
     fraGrid.SetEnabled(true);
     if (IsCompact()) {
@@ -293,16 +290,15 @@ void Agenda::ShowAccepted(int row) {
     Grid.SetRow(row);
     SetEditMode(false);
     SelectRow();
-    Mode = "V";
+    Mode = EditMode::Browse;
     LockSearch(false);
     ShowRow(Grid.Row());
 }
 
 void Agenda::CancelOrLeave() {
-    const bool cancels = cmdAction[Cancel].Caption() == "Renunta" && Mode != "V";
-    if (!cancels) {
+    if (!CancelsEdit({.mode = Mode, .isEditing = isEditing_})) {
         AskToLeave();
-    } else if (list_.HasRows()) {
+    } else if (store_.HasRows()) {
         CancelEdit();
     } else {
         Unload();
@@ -313,7 +309,7 @@ void Agenda::CancelEdit() {
     LockSearch(true);
     fraGrid.SetEnabled(true);
     SetEditMode(false);
-    Mode = "V";
+    Mode = EditMode::Browse;
     LockSearch(false);
     SelectRow();
     ShowRow(SavedRow);
@@ -325,7 +321,7 @@ void Agenda::AskToLeave() {
 
 void Agenda::AddPerson() {
     SavedRow = Grid.Row();
-    Mode = "A";
+    Mode = EditMode::Add;
     ClearFields();
     SetEditMode(true);
     fraGrid.SetEnabled(false);
@@ -335,9 +331,9 @@ void Agenda::AddPerson() {
 
 void Agenda::ModifyPerson() {
     if (!ShowsCurrentList()) return;
-    list_.DemandNames();
+    store_.DemandNames();
     SavedRow = Grid.Row();
-    Mode = "M";
+    Mode = EditMode::Modify;
     SetEditMode(true);
     fraGrid.SetEnabled(false);
     TextBoxes[FirstDetailBox].SetFocus();
@@ -345,7 +341,7 @@ void Agenda::ModifyPerson() {
 
 void Agenda::DeletePerson() {
     if (!ShowsCurrentList()) return;
-    list_.DemandNames();
+    store_.DemandNames();
     const std::string nume(Trimmed(TextBoxes[NumeBox].Text()));
     const std::string prenume(Trimmed(TextBoxes[PrenumeBox].Text()));
     module_.lastQuestion = text::DeleteQuestion + nume + " " + prenume + text::DeleteQuestionEnd;
@@ -353,9 +349,9 @@ void Agenda::DeletePerson() {
     const Answer answer = module_.Ask(*this, module_.lastQuestion, Caption());
     if (answer == Answer::No) Grid.SetFocus();
     // The person that the question named, and in the data that it was about: a host may call while it is up.
-    if (answer != Answer::Yes || Mode != "V" || Grid.Row() != row) return;
+    if (answer != Answer::Yes || Mode != EditMode::Browse || Grid.Row() != row) return;
     if (!ShowsCurrentList()) return;
-    module_.context.Database().Execute(DeleteStatement(nume, prenume));
+    store_.Remove(nume, prenume);
     if (!RequeryList()) return;
     Grid.SetRow(FirstRow);
     Grid.SetCol(0);

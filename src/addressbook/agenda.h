@@ -1,11 +1,13 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "addressbook/addressbook_statements.h"
 #include "addressbook/agenda_design.h"
 #include "addressbook/arrow_moves.h"
-#include "addressbook/person_list.h"
+#include "addressbook/edit_rules.h"
+#include "addressbook/person_store.h"
 #include "forms/image_list.h"
 #include "shell/module.h"
 
@@ -21,8 +23,7 @@ class Agenda : public AgendaDesign {
 
     void ShowForm();
 
-    /// "V" browse, "A" add, "M" modify.
-    std::string Mode = "V";
+    EditMode Mode = EditMode::Browse;
     /// The grid row that was current when the editing began.
     int SavedRow = 0;
 
@@ -43,7 +44,7 @@ class Agenda : public AgendaDesign {
     bool ReadList();
     bool RequeryList();
     bool BindRows();
-    std::string Search() const;
+    PersonSearch Search() const;
     void FormatGrid();
     void SelectRow();
     int RowOfShownPerson() const;
@@ -66,14 +67,13 @@ class Agenda : public AgendaDesign {
     Person ShownPerson() const;
     void ShowPerson(const Person& person);
     void ClearFields();
-    bool CheckNume();
-    bool CheckPrenume();
-    bool CheckFilled(int box, const char* refusal);
+    void Refuse(std::size_t missingColumn);
 
     // The actions.
     void cmdAction_Click(int index);
     void cmdAction_KeyDown(int keyCode);
     void AcceptPerson();
+    void SavePerson(const Person& person);
     void ShowAccepted(int row);
     void CancelOrLeave();
     void CancelEdit();
@@ -88,8 +88,9 @@ class Agenda : public AgendaDesign {
     void Grid_KeyDown(int keyCode);
 
     shell::Module& module_;
-    PersonList list_;
+    PersonStore store_;
     forms::ImageList lstImages_;
+    bool isEditing_ = false;  ///< as SetEditMode was last told
 };
 
 }  // namespace tavrin::addressbook

@@ -7,8 +7,8 @@
 
 namespace tavrin::calculator {
 
-Engine::Engine(EngineListener& listener, std::string decimalSeparator)
-    : listener_(listener), entry_(std::move(decimalSeparator)) {}
+Engine::Engine(Conversion& conversion, EngineListener& listener, std::string decimalSeparator)
+    : conversion_(conversion), listener_(listener), entry_(std::move(decimalSeparator)) {}
 
 bool Engine::Press(Command command) {
     switch (command) {
@@ -55,11 +55,35 @@ bool Engine::Press(Command command) {
     return true;
 }
 
+// The entry.
+
+void Engine::ShowEntry() {
+    try {
+        ConvertEntry();
+    } catch (...) {
+        // What was typed is shown even where it cannot be converted.
+        listener_.ShowValues();
+        throw;
+    }
+    listener_.ShowValues();
+}
+
+void Engine::ConvertEntry() {
+    if (entry_.Text() == "-0") return conversion_.Clear();
+    conversion_.Type(entry_.Value());
+}
+
+void Engine::ChooseUnit(Unit unit) {
+    conversion_.TypeIn(unit);
+    entry_.SetNumber(conversion_.Typed());
+    ShowEntry();
+}
+
 // Typing.
 
 bool Engine::TypeDigit(int digit) {
-    if (!entry_.TypeDigit(digit, decimals_)) return false;
-    listener_.ShowValues();
+    if (!entry_.TypeDigit(digit, conversion_.Decimals())) return false;
+    ShowEntry();
     return true;
 }
 
@@ -67,20 +91,16 @@ bool Engine::ChangeSign() {
     if (!entry_.ChangeSign()) return false;
     // The running result turns with the entry, whether it is what the entry shows or not.
     arithmetic_.NegateAccumulator();
-    listener_.ShowValues();
+    ShowEntry();
     return true;
 }
 
 void Engine::Backspace() {
     entry_.DropLast();
-    listener_.ShowValues();
+    ShowEntry();
 }
 
 // Operators.
-
-double Engine::EnteredValue() const {
-    return entry_.Text() == "-0" ? 0 : listener_.ShownValue();
-}
 
 bool Engine::TakeOperator(Operator taken) {
     if (entry_.StartsAnew()) {
@@ -98,7 +118,7 @@ bool Engine::TakeOperator(Operator taken) {
 }
 
 bool Engine::TakeFirstOperand(Operator taken) {
-    arithmetic_.SetAccumulator(EnteredValue());
+    arithmetic_.SetAccumulator(conversion_.Typed());
     if (taken == Operator::Percent) {
         arithmetic_.SetOperandCount(0);
         return false;
@@ -109,7 +129,7 @@ bool Engine::TakeFirstOperand(Operator taken) {
 }
 
 void Engine::TakeSecondOperand(Operator taken) {
-    arithmetic_.SetOperand(EnteredValue());
+    arithmetic_.SetOperand(conversion_.Typed());
     if (taken == Operator::Percent) return FinishPercent();
     if (arithmetic_.Pending() == Operator::Equals) return RestartAfterResult();
     Continue(taken);
@@ -142,8 +162,8 @@ void Engine::Continue(Operator taken) {
 }
 
 void Engine::ShowRounded(double number) {
-    entry_.SetNumber(data::CheckedResult(data::RoundHalfEven(number, decimals_)));
-    listener_.ShowValues();
+    entry_.SetNumber(data::CheckedResult(data::RoundHalfEven(number, conversion_.Decimals())));
+    ShowEntry();
 }
 
 void Engine::StartOver() {
@@ -167,14 +187,14 @@ void Engine::ClearMemory() {
 
 void Engine::RecallMemory() {
     entry_.SetNumber(memory_.Value());
-    listener_.ShowValues();
+    ShowEntry();
 }
 
 void Engine::StoreEntry(void (Memory::*store)(double)) {
     listener_.ShowMemoryMark(true);
     (memory_.*store)(entry_.Value());
     entry_.SetZero();
-    listener_.ShowValues();
+    ShowEntry();
 }
 
 }  // namespace tavrin::calculator

@@ -6,20 +6,21 @@
 
 #include "calculator/arithmetic.h"
 #include "calculator/command.h"
+#include "calculator/conversion.h"
 #include "calculator/engine_listener.h"
 #include "calculator/entry.h"
 #include "calculator/memory.h"
 
 namespace tavrin::calculator {
 
-/// A four-function calculator with percent, a one-way sign change, memory and a chosen number of decimals.
-/// The entry is kept as text, results are rounded half to even before they are shown; the running result
-/// itself is never rounded. It knows no window. A key costs no allocation once the listener's own texts have
-/// grown.
+/// A four-function calculator with percent, a one-way sign change, and memory. The entry is kept as text and
+/// converted whenever it is to be shown; an operator takes its operand from the conversion. Results are
+/// rounded half to even, to the conversion's decimals, before they are shown; the running result itself is
+/// never rounded. It knows no window. A key costs no allocation once the listener's own texts have grown.
 class Engine {
   public:
-    /// `decimalSeparator` is the locale's. The listener outlives the engine.
-    Engine(EngineListener& listener, std::string decimalSeparator);
+    /// `decimalSeparator` is the locale's. Conversion and listener outlive the engine.
+    Engine(Conversion& conversion, EngineListener& listener, std::string decimalSeparator);
 
     /// False where the key does nothing: a digit or a separator that has no place, a sign that cannot turn, a
     /// percentage of a first operand. \throws data::Error 6 when a result is no finite number, and what the
@@ -29,8 +30,11 @@ class Engine {
     /// Begins with an empty entry in another locale.
     void SetDecimalSeparator(std::string separator) { entry_ = Entry(std::move(separator)); }
 
-    /// How many decimals may be typed and are kept of a result: 0, 2, 4 or 6. What was typed stays.
-    void SetDecimals(int decimals) { decimals_ = decimals; }
+    /// Converts the entry as it stands and has the values shown. \throws what Conversion::Type throws, once
+    /// the listener has been told
+    void ShowEntry();
+    /// The value in that unit becomes the entry, from which typing goes on. \throws as ShowEntry
+    void ChooseUnit(Unit unit);
 
     std::string_view EntryText() const { return entry_.Text(); }
     double EntryValue() const { return entry_.Value(); }
@@ -47,19 +51,19 @@ class Engine {
     void Continue(Operator taken);
     void ShowRounded(double number);
     void StartOver();
-    double EnteredValue() const;
     bool ChangeSign();
     void Backspace();
     void Clear();
     void ClearMemory();
     void RecallMemory();
     void StoreEntry(void (Memory::*store)(double));
+    void ConvertEntry();
 
+    Conversion& conversion_;
     EngineListener& listener_;
     Entry entry_;
     Arithmetic arithmetic_;
     Memory memory_;
-    int decimals_ = 2;
 };
 
 }  // namespace tavrin::calculator

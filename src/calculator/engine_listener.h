@@ -8,10 +8,8 @@ class EngineListener {
   public:
     virtual ~EngineListener() = default;
 
-    /// The entry has changed.
+    /// The conversion's values may have changed.
     virtual void ShowValues() = 0;
-    /// The number in the display of the chosen unit: what an operator takes as its operand.
-    virtual double ShownValue() const = 0;
     /// Somebody divides by zero. Returns when the user has taken note.
     virtual void ReportDivisionByZero() = 0;
     virtual void ShowMemoryMark(bool visible) = 0;

@@ -2,10 +2,8 @@
 
 #include <array>
 #include <optional>
-#include <string_view>
 
 #include "calculator/key_map.h"
-#include "data/checked_arithmetic.h"
 #include "rates/alege_moneda.h"
 #include "shell/layout.h"
 #include "shell/window_helpers.h"
@@ -18,10 +16,9 @@ namespace key = forms::key;
 namespace layout = shell::layout;
 namespace message = shell::message;
 
-constexpr std::array<const char*, 7> OperatorCaptions = {"/", "+", "X", "-", "=", "%", "+/-"};
 constexpr std::array<const char*, 4> Precisions = {"0 zecimale", "2 zecimale", "4 zecimale", "6 zecimale"};
 constexpr int TwoDecimals = 1;
-constexpr std::string_view LeiUnit = "Lei";
+constexpr const char* LeiUnit = "Lei";
 constexpr int LeiItem = 0;
 constexpr const char* CurrencyUnit = "Valuta";  // until one has been chosen
 
@@ -43,6 +40,10 @@ constexpr int DisplaysTop = layout::Margin + TopRowHeight + layout::Unit;
 constexpr int ListsTop = DisplaysTop + 2 * (DisplayHeight + layout::Unit) + layout::Unit;
 constexpr int KeysTop = ListsTop + layout::FieldHeight + layout::Gap;
 constexpr int WindowHeight = KeysTop + KeyRows * (KeyHeight + KeyGap) - KeyGap + layout::Margin;
+
+bool IsOfMemory(Command command) {
+    return command >= Command::MemoryClear;
+}
 
 void PlaceKey(KeyButton& button, int column, int row, KeyKind kind) {
     button.SetBounds({layout::Margin + column * (KeyWidth + KeyGap), KeysTop + row * (KeyHeight + KeyGap),
@@ -75,7 +76,7 @@ FrmCalculator::FrmCalculator(shell::Module& module)
       cmdVal(z, "cmdVal", "Alege Moneda"),
       cmdUnload(z, "cmdUnload"),
       module_(module),
-      engine_(*this, UserLocale().decimalSeparator) {
+      engine_(conversion_, *this, UserLocale().decimalSeparator) {
     PlaceDisplays();
     PlaceLists();
     PlaceKeys();
@@ -143,8 +144,8 @@ void FrmCalculator::PlaceKeys() {
     PlaceKey(Number[0], 1, 3, KeyKind::Digit);
     PlaceKey(Decimal, 2, 3, KeyKind::Digit);
 
-    for (int i = 0; i < static_cast<int>(OperatorCaptions.size()); ++i)
-        Operator[i].SetCaption(OperatorCaptions[static_cast<std::size_t>(i)]);
+    for (std::size_t i = 0; i < OperatorKeys.size(); ++i)
+        Operator[static_cast<int>(i)].SetCaption(OperatorKeys[i].caption);
     PlaceKey(Operator[6], 3, 3, KeyKind::Operator);
     PlaceKey(Operator[0], 4, 0, KeyKind::Operator);
     PlaceKey(Operator[2], 4, 1, KeyKind::Operator);
@@ -168,23 +169,35 @@ void FrmCalculator::ConnectEvents() {
         list->onGotFocus = [list] { list->SetBackColor(forms::FocusGrey); };
         list->onLostFocus = [list] { list->SetBackColor(forms::Black); };
     }
+    AssignKeys();
     ConnectKeys();
     ConnectTyping();
 }
 
+void FrmCalculator::AssignKeys() {
+    for (int digit = 0; digit < 10; ++digit)
+        KeyOf(DigitCommand(digit)) = &Number[digit];
+    for (std::size_t i = 0; i < OperatorKeys.size(); ++i)
+        KeyOf(OperatorKeys[i].command) = &Operator[static_cast<int>(i)];
+    KeyOf(Command::DecimalPoint) = &Decimal;
+    KeyOf(Command::Clear) = &Cancel;
+    KeyOf(Command::ClearEntry) = &CancelEntry;
+    KeyOf(Command::MemoryClear) = &cmdMC;
+    KeyOf(Command::MemoryRecall) = &cmdMR;
+    KeyOf(Command::MemoryAdd) = &cmdMPlus;
+    KeyOf(Command::MemorySubtract) = &cmdMMinus;
+}
+
 void FrmCalculator::ConnectKeys() {
-    const auto connect = [this](KeyButton& button, Command command) {
-        button.onClick = [this, command] { Press(command); };
-    };
-    Number.OnEach(&forms::Control::onClick, [this](int digit) { Press(DigitCommand(digit)); });
-    Operator.OnEach(&forms::Control::onClick, [this](int index) { Operator_Click(index); });
-    connect(Decimal, Command::DecimalPoint);
-    connect(Cancel, Command::Clear);
-    connect(CancelEntry, Command::ClearEntry);
-    connect(cmdMC, Command::MemoryClear);
-    connect(cmdMR, Command::MemoryRecall);
-    connect(cmdMPlus, Command::MemoryAdd);
-    connect(cmdMMinus, Command::MemorySubtract);
+    for (int i = 0; i < CommandCount; ++i) {
+        const auto command = static_cast<Command>(i);
+        KeyButton* button = KeyOf(command);
+        if (button == nullptr) continue;
+        button->onClick = [this, command] { Press(command); };
+        // The keys of the memory, like all other buttons, are pressed by Enter.
+        if (!IsOfMemory(command))
+            button->onKeyDown = [this](int& keyCode, forms::Modifiers) { Key_KeyDown(keyCode); };
+    }
 }
 
 void FrmCalculator::ConnectTyping() {
@@ -193,14 +206,6 @@ void FrmCalculator::ConnectTyping() {
         if (control->Kind() != forms::ControlKind::ComboBox)
             control->onKeyPress = [this](char32_t& character) { Key_KeyPress(character); };
     }
-    // Enter presses the other buttons, those of the memory among them.
-    const auto enterIsEquals = [this](int& keyCode, forms::Modifiers) { Key_KeyDown(keyCode); };
-    for (const auto& button : Number)
-        button->onKeyDown = enterIsEquals;
-    for (const auto& button : Operator)
-        button->onKeyDown = enterIsEquals;
-    for (KeyButton* button : {&Decimal, &Cancel, &CancelEntry})
-        button->onKeyDown = enterIsEquals;
 }
 
 // Life.
@@ -212,9 +217,9 @@ void FrmCalculator::OnLoad() {
     Decimal.SetCaption(UserLocale().decimalSeparator);
     engine_.SetDecimalSeparator(UserLocale().decimalSeparator);
     engine_.Press(Command::Clear);
-    rate_ = 1;
+    conversion_.SetRate(1);
     FillLists();
-    ShowValues();
+    engine_.ShowEntry();
     CenterOnScreen();
     Show();
 }
@@ -225,7 +230,7 @@ void FrmCalculator::FillLists() {
         cmbPrecizie.AddItem(precision);
     cmbPrecizie.SetListIndex(TwoDecimals);
     cmbUM.Clear();
-    cmbUM.AddItem(std::string(LeiUnit));
+    cmbUM.AddItem(LeiUnit);
     cmbUM.AddItem(CurrencyUnit);
     cmbUM.SetListIndex(LeiItem);
 }
@@ -236,29 +241,12 @@ void FrmCalculator::OnMouseDown(const forms::MouseInput& /*input*/) {
 
 // What the engine asks for.
 
-bool FrmCalculator::IsInLei() const {
-    return cmbUM.Text() == LeiUnit;
-}
-
 void FrmCalculator::ShowValues() {
-    if (engine_.EntryText() == "-0") {
-        ValLei.SetValue(0);
-        ValValuta.SetValue(0);
-        return;
-    }
-    const double entered = data::CheckedResult(engine_.EntryValue());
-    // The display of the unit first: what was typed is shown there even where it cannot be converted.
-    if (IsInLei()) {
-        ValLei.SetValue(entered);
-        ValValuta.SetValue(data::CheckedQuotient(entered, rate_));
-    } else {
-        ValValuta.SetValue(entered);
-        ValLei.SetValue(data::CheckedResult(entered * rate_));
-    }
-}
-
-double FrmCalculator::ShownValue() const {
-    return IsInLei() ? ValLei.Value() : ValValuta.Value();
+    // Whoever listens hears of the display first that is typed in.
+    const bool inLei = conversion_.TypedIn() == Unit::Lei;
+    if (inLei) ValLei.SetValue(conversion_.Lei());
+    ValValuta.SetValue(conversion_.Currency());
+    if (!inLei) ValLei.SetValue(conversion_.Lei());
 }
 
 void FrmCalculator::ReportDivisionByZero() {
@@ -273,11 +261,10 @@ void FrmCalculator::ShowMemoryMark(bool visible) {
 
 void FrmCalculator::cmbPrecizie_Click() {
     if (cmbPrecizie.Text().empty()) return;
-    const int decimals = cmbPrecizie.Text().front() - '0';
-    ValLei.SetDecimals(static_cast<std::uint8_t>(decimals));
-    ValValuta.SetDecimals(static_cast<std::uint8_t>(decimals));
-    engine_.SetDecimals(decimals);
-    ShowValues();
+    conversion_.SetDecimals(cmbPrecizie.Text().front() - '0');
+    for (forms::NumericDisplay* display : {&ValLei, &ValValuta})
+        display->SetDecimals(static_cast<std::uint8_t>(conversion_.Decimals()));
+    engine_.ShowEntry();
 }
 
 void FrmCalculator::cmbUM_Click() {
@@ -286,14 +273,17 @@ void FrmCalculator::cmbUM_Click() {
     Shape1.SetBackColor(inLei ? forms::FocusGrey : forms::Black);
     ValValuta.SetActive(!inLei);
     Shape2.SetBackColor(inLei ? forms::Black : forms::FocusGrey);
-    engine_.SetEntry(inLei ? ValLei.Value() : ValValuta.Value());
-    ShowValues();
+    engine_.ChooseUnit(inLei ? Unit::Lei : Unit::Currency);
 }
 
-void FrmCalculator::SetCurrencyAmount(double amount) {
-    ValValuta.SetValue(amount);
+void FrmCalculator::TakeChoice(const rates::CurrencyChoice& choice) {
+    conversion_.SetRate(choice.rate);
+    lblCurs.SetCaption(choice.rateCaption);
+    ValValuta.SetUnitText(choice.currency);
+    conversion_.BuyFor(choice.amountInLei);
+    ValValuta.SetValue(conversion_.Currency());
     // Typing goes on from the number that is shown.
-    if (!IsInLei()) engine_.SetEntry(amount);
+    if (conversion_.TypedIn() == Unit::Currency) engine_.SetEntry(conversion_.Currency());
 }
 
 void FrmCalculator::cmdVal_Click() {
@@ -302,10 +292,6 @@ void FrmCalculator::cmdVal_Click() {
 }
 
 // The keys.
-
-void FrmCalculator::Operator_Click(int index) {
-    if (const std::optional<Command> command = CommandOfOperator(Operator[index].Caption())) Press(*command);
-}
 
 void FrmCalculator::Key_KeyDown(int& keyCode) {
     if (keyCode != key::Enter) return;
@@ -331,16 +317,9 @@ void FrmCalculator::Press(Command command) {
 
 void FrmCalculator::PressAndFocus(Command command) {
     Press(command);
-    if (KeyButton* button = KeyOf(command)) button->SetFocus();
-}
-
-KeyButton* FrmCalculator::KeyOf(Command command) {
-    if (command <= Command::Digit9) return &Number[static_cast<int>(command)];
-    if (command == Command::ClearEntry) return &CancelEntry;
-    for (const auto& button : Operator) {
-        if (CommandOfOperator(button->Caption()) == command) return button.get();
-    }
-    return nullptr;
+    // The point alone is typed with the focus where it was.
+    KeyButton* button = KeyOf(command);
+    if (button != nullptr && button != &Decimal) button->SetFocus();
 }
 
 std::optional<forms::Copied> FrmCalculator::Copy() const {

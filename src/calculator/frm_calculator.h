@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <string>
 
+#include "calculator/conversion.h"
 #include "calculator/engine.h"
 #include "calculator/key_button.h"
 #include "forms/combo_box.h"
@@ -17,21 +19,21 @@
 
 namespace tavrin::calculator {
 
-/// The calculator's window: runs the engine and shows every value twice, in lei and in a currency at one
-/// rate. The user chooses in which of the two the numbers are typed; the other display follows.
+/// The calculator's window: runs the engine and shows what the conversion holds, every value twice, in lei
+/// and in a currency at one rate. The user chooses in which of the two the numbers are typed.
 class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private EngineListener {
   public:
     explicit FrmCalculator(shell::Module& module);
 
+    /// Lei for one unit of the currency. Setting it converts nothing by itself.
+    double CursCurent() const { return conversion_.Rate(); }
+    void SetCursCurent(double rate) { conversion_.SetRate(rate); }
+
     // For the currency chooser.
     Form& CallingWindow() override { return *this; }
     CurrencyTarget& DefaultInstance() override { return module_.Default<FrmCalculator>(); }
-    double CursCurent() const override { return rate_; }
-    void SetCursCurent(double rate) override { rate_ = rate; }
-    double CurrencyAmount() const override { return ValValuta.Value(); }
-    void SetCurrencyAmount(double amount) override;
-    void SetCurrencyUnit(const std::string& currency) override { ValValuta.SetUnitText(currency); }
-    void SetRateCaption(const std::string& caption) override { lblCurs.SetCaption(caption); }
+    double AmountInLei() const override { return conversion_.WorthInLei(); }
+    void TakeChoice(const rates::CurrencyChoice& choice) override;
 
     forms::Frame z;
     forms::Label lblCurs;
@@ -69,29 +71,28 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     void PlaceKeys();
     void ConnectEvents();
     void ConnectKeys();
+    void AssignKeys();
     void ConnectTyping();
     void FillLists();
 
     // EngineListener.
     void ShowValues() override;
-    double ShownValue() const override;
     void ReportDivisionByZero() override;
     void ShowMemoryMark(bool visible) override;
 
-    bool IsInLei() const;
     void cmbPrecizie_Click();
     void cmbUM_Click();
     void cmdVal_Click();
-    void Operator_Click(int index);
     void Key_KeyDown(int& keyCode);
     void Key_KeyPress(char32_t& character);
     void Press(Command command);
     void PressAndFocus(Command command);
-    KeyButton* KeyOf(Command command);
+    KeyButton*& KeyOf(Command command) { return keys_[static_cast<std::size_t>(command)]; }
 
     shell::Module& module_;
+    std::array<KeyButton*, CommandCount> keys_{};  ///< by command; no key takes back, but a character does
+    Conversion conversion_;
     Engine engine_;
-    double rate_ = 1;
     std::string currency_;  ///< the code that the chooser was last called with
 };
 

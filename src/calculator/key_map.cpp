@@ -24,31 +24,12 @@ constexpr std::array<CharacterCommand, 10> Characters = {{
     {U'\b', Command::Backspace},
 }};
 
-struct CaptionCommand {
-    std::string_view caption;
-    Command command;
-};
-constexpr std::array<CaptionCommand, 7> Operators = {{
-    {"/", Command::Divide},
-    {"+", Command::Add},
-    {"X", Command::Multiply},
-    {"-", Command::Subtract},
-    {"=", Command::Equals},
-    {"%", Command::Percent},
-    {"+/-", Command::ChangeSign},
-}};
-
 }  // namespace
 
 std::optional<Command> CommandOfCharacter(char32_t character) {
     if (character >= U'0' && character <= U'9') return DigitCommand(static_cast<int>(character - U'0'));
     const auto* const found = std::ranges::find(Characters, character, &CharacterCommand::character);
     return found != Characters.end() ? std::optional(found->command) : std::nullopt;
-}
-
-std::optional<Command> CommandOfOperator(std::string_view caption) {
-    const auto* const found = std::ranges::find(Operators, caption, &CaptionCommand::caption);
-    return found != Operators.end() ? std::optional(found->command) : std::nullopt;
 }
 
 }  // namespace tavrin::calculator

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <array>
 #include <optional>
-#include <string_view>
 
 #include "calculator/command.h"
 
@@ -11,7 +11,19 @@ namespace tavrin::calculator {
 /// the decimal key in every locale, the comma is none.
 std::optional<Command> CommandOfCharacter(char32_t character);
 
-/// What an operator button asks for. Its caption says so, not its place.
-std::optional<Command> CommandOfOperator(std::string_view caption);
+/// The keys of the array Operator: element 0 divides, and so on.
+struct OperatorKey {
+    const char* caption;
+    Command command;
+};
+inline constexpr std::array<OperatorKey, 7> OperatorKeys = {{
+    {"/", Command::Divide},
+    {"+", Command::Add},
+    {"X", Command::Multiply},
+    {"-", Command::Subtract},
+    {"=", Command::Equals},
+    {"%", Command::Percent},
+    {"+/-", Command::ChangeSign},
+}};
 
 }  // namespace tavrin::calculator

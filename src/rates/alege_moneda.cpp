@@ -2,10 +2,8 @@
 
 #include <utility>
 
-#include "data/checked_arithmetic.h"
 #include "data/error.h"
 #include "forms/utf8.h"
-#include "rates/chooser_statements.h"
 #include "rates/rate_text.h"
 #include "shell/layout.h"
 
@@ -134,7 +132,7 @@ void AlegeMoneda::IncarcaMonede() {
 }
 
 void AlegeMoneda::IncarcaCursuri() {
-    data::TablePtr rates = store_.Read(CurrencyRatesQuery(cmbMoneda.Text()));
+    data::TablePtr rates = store_.ReadRates(cmbMoneda.Text());
     if (rates) {
         ShowRates(std::move(rates));
         return;
@@ -168,12 +166,10 @@ void AlegeMoneda::TakeRate() {
     CurrencyTarget& target = caller_->DefaultInstance();
     const forms::Locale& locale = UserLocale();
     const std::string& currency = cmbMoneda.Text();
-    const double amountInLei = data::CheckedResult(target.CurrencyAmount() * target.CursCurent());
+    // The amount keeps its value in lei, which the rate of until now says.
+    const double amountInLei = target.AmountInLei();
     const double rate = NumberOfRateText(Grid.TextMatrix(Grid.Row(), RateColumn), locale);
-    target.SetCursCurent(rate);
-    target.SetRateCaption(RateCaption(rate, currency, locale));
-    target.SetCurrencyUnit(currency);
-    target.SetCurrencyAmount(data::CheckedQuotient(amountInLei, rate));
+    target.TakeChoice({currency, rate, RateCaption(rate, currency, locale), amountInLei});
 }
 
 // Focus and keys.

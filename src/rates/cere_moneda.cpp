@@ -15,10 +15,6 @@ namespace message = shell::message;
 constexpr int FrameWidth = 3600;
 constexpr int ButtonWidth = (FrameWidth - layout::Gap) / 2;
 
-bool IsBlank(const std::string& text) {
-    return text.find_first_not_of(' ') == std::string::npos;
-}
-
 }  // namespace
 
 CereMoneda::CereMoneda(shell::Module& module)
@@ -86,7 +82,7 @@ void CereMoneda::OnLoad() {
     CenterOnScreen();
     cmdAction[Accept].SetPicture(lstImages_.Picture(1));
     cmdAction[Cancel].SetPicture(lstImages_.Picture(2));
-    const bool adding = Mode == "A";
+    const bool adding = Mode == CurrencyMode::Add;
     txtMoneda.SetVisible(adding);
     cmbMoneda.SetVisible(!adding);
     if (!adding) FillCurrencies();
@@ -105,7 +101,7 @@ void CereMoneda::OnUnload() {
 // The actions.
 
 void CereMoneda::cmdAction_Click(int index) {
-    if (index == Accept && Mode == "A" && !AddCurrency()) return;
+    if (index == Accept && Mode == CurrencyMode::Add && !AddCurrency()) return;
     Unload();
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "forms/combo_box.h"
 #include "forms/command_button.h"
 #include "forms/control_array.h"
@@ -11,21 +9,22 @@
 #include "forms/image_list.h"
 #include "forms/label.h"
 #include "forms/text_box.h"
+#include "rates/rate_rules.h"
 #include "rates/rate_store.h"
 #include "shell/module.h"
 
 namespace tavrin::rates {
 
-/// Asks for the code of a new currency and adds it to the rate table. In any mode but "A" it shows the
-/// existing currencies instead, and removes none.
+/// Asks for the code of a new currency and adds it to the rate table. To remove one it shows the existing
+/// currencies, and removes none.
 class CereMoneda : public forms::Form {
   public:
     enum Action { Accept, Cancel };
 
     explicit CereMoneda(shell::Module& module);
 
-    /// "A" or "S"; set by the opener before the window is loaded.
-    std::string Mode;
+    /// Set by the opener before the window is loaded.
+    CurrencyMode Mode = CurrencyMode::Remove;
 
     forms::Frame Frame1;
     forms::ControlArray<forms::Label, 1> lblLabels;

@@ -6,8 +6,16 @@
 
 namespace tavrin::rates {
 
+/// What the user has chosen: a currency, and one of its rates.
+struct CurrencyChoice {
+    std::string currency;
+    double rate = 0;          ///< lei for one unit of the currency
+    std::string rateCaption;  ///< the line that says so, in the user's locale of now
+    double amountInLei = 0;   ///< what is to be shown in the currency
+};
+
 /// A window that converts an amount between lei and a currency, as the currency chooser sees it: what the
-/// chooser disables while it is open, and what it writes the chosen rate and the converted amount into.
+/// chooser disables while it is open, and who takes what is chosen.
 class CurrencyTarget {
   public:
     virtual ~CurrencyTarget() = default;
@@ -16,16 +24,11 @@ class CurrencyTarget {
     /// The target of this moment that takes what is chosen: another one, once the calling window has closed.
     virtual CurrencyTarget& DefaultInstance() = 0;
 
-    /// Lei for one unit of the currency. Setting it converts nothing by itself.
-    virtual double CursCurent() const = 0;
-    virtual void SetCursCurent(double rate) = 0;
-
-    /// The amount in the currency, as it is shown.
-    virtual double CurrencyAmount() const = 0;
-    virtual void SetCurrencyAmount(double amount) = 0;
-    virtual void SetCurrencyUnit(const std::string& currency) = 0;
-
-    virtual void SetRateCaption(const std::string& caption) = 0;
+    /// What the amount in the currency, as it is shown, is worth in lei. \throws data::Error 6 (overflow)
+    virtual double AmountInLei() const = 0;
+    /// \throws data::Error 6 (overflow), 11 (division by zero) where the rate converts no amount; it is the
+    /// rate from now on all the same
+    virtual void TakeChoice(const CurrencyChoice& choice) = 0;
 };
 
 }  // namespace tavrin::rates

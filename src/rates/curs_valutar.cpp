@@ -8,7 +8,6 @@
 #include "rates/cere_moneda.h"
 #include "rates/curs_valutar_detaliu.h"
 #include "rates/evolutie_curs.h"
-#include "rates/rate_statements.h"
 #include "shell/layout.h"
 
 namespace tavrin::rates {
@@ -133,7 +132,6 @@ void CursValutar::OnLoad() {
     const data::CalendarDay workDay = data::ToCalendarDay(module_.context.workDate);
     dpDataIn.SetDate(data::ToOleDate({workDay.year, workDay.month, 1}));
     dpDataFin.SetDate(module_.context.workDate);
-    orderClause_ = ListOrderClause;
     ApplyDateFilter();
 }
 
@@ -144,7 +142,7 @@ void CursValutar::OnUnload() {
 // The list.
 
 bool CursValutar::ApplyDateFilter() {
-    dateFilter_ = DateFilterClause(dpDataIn.Date(), dpDataFin.Date());
+    range_ = {dpDataIn.Date(), dpDataFin.Date()};
     return Filtreaza(true);
 }
 
@@ -152,11 +150,9 @@ bool CursValutar::Filtreaza(bool /*refresh*/) {
     // Nothing of the window changes before the database has answered, so a failure leaves the old list in
     // sight.
     CurrencyNames currencies = store_.DiscoverCurrencies();
-    std::string query = ListBaseQuery(currencies);
-    data::TablePtr table = store_.Read(query + " " + dateFilter_ + " " + orderClause_);
+    data::TablePtr table = store_.ReadDays(currencies, range_);
     mark_.Set(module_.context);
     currencyNames_ = std::move(currencies);
-    baseQuery_ = std::move(query);
 
     const std::string day = SelectedDayText();
     const bool hasRows = table != nullptr;
@@ -206,22 +202,22 @@ void CursValutar::cmdAction_Click(int index) {
         case AddDay:
             // A new day takes nothing from the list but its currencies.
             if (module_.context.connection != nullptr) ShowsCurrentRates();
-            OpenEntry("A");
+            OpenEntry(EntryMode::Add);
             break;
         case ModifyDay:
-            if (MayChangeSelectedDay()) OpenEntry("M");
+            if (MayChangeSelectedDay()) OpenEntry(EntryMode::Modify);
             break;
         case DeleteDay:
             if (MayChangeSelectedDay()) DeleteSelectedDay();
             break;
         case AddCurrency:
-            OpenCurrencyWindow("A");
+            OpenCurrencyWindow(CurrencyMode::Add);
             break;
         case RemoveCurrency:
-            if (currencyNames_.UpperBound() == CurrencyNames::FirstCurrency) {
-                RefuseLastCurrency();
+            if (MayRemoveCurrency(currencyNames_)) {
+                OpenCurrencyWindow(CurrencyMode::Remove);
             } else {
-                OpenCurrencyWindow("S");
+                RefuseLastCurrency();
             }
             break;
         case ShowEvolution:
@@ -249,10 +245,15 @@ std::string CursValutar::SelectedDayText() const {
     return Grid.TextMatrix(Grid.Row(), DayColumn);
 }
 
-bool CursValutar::RefusesFrozenDay() {
+data::OleDate CursValutar::SelectedDay() const {
     const auto day = data::ParseDayMonthYear(SelectedDayText());
     if (!day) throw data::RuntimeError(data::error_number::TypeMismatch);
-    if (!IsRateValidated(*day)) return false;
+    return *day;
+}
+
+bool CursValutar::RefusesFrozenDay() {
+    const data::OleDate day = SelectedDay();
+    if (!IsFrozen(day, store_.FrozenDate())) return false;
     // A frozen day can be neither changed nor deleted; one text serves for both.
     module_.ShowMessage("Acest curs a fost validat !\r\nNu puteti modifica un curs deja validat !",
                         message::Error, message::Ok, Caption());
@@ -298,14 +299,14 @@ bool CursValutar::BringHolderForward() {
     return true;
 }
 
-void CursValutar::OpenEntry(const std::string& mode) {
+void CursValutar::OpenEntry(EntryMode mode) {
     if (BringHolderForward()) return;
     auto& window = module_.Default<CursValutarDetaliu>();
     SetEnabled(false);
     window.ShowForm(currencyNames_, mode);
 }
 
-void CursValutar::OpenCurrencyWindow(const std::string& mode) {
+void CursValutar::OpenCurrencyWindow(CurrencyMode mode) {
     if (BringHolderForward()) return;
     auto& window = module_.Default<CereMoneda>();
     SetEnabled(false);
@@ -329,7 +330,7 @@ void CursValutar::DeleteSelectedDay() {
     if (answer == Answer::No) Grid.SetFocus();
     // The day that the question named, in the data that it was about: a host may call while it is up.
     if (answer != Answer::Yes || SelectedDayText() != day || !ShowsCurrentRates()) return;
-    store_.DeleteDay(day);
+    store_.DeleteDay(SelectedDay());
     Filtreaza(true);
 }
 

@@ -11,6 +11,7 @@
 #include "forms/grid.h"
 #include "forms/label.h"
 #include "rates/currency_names.h"
+#include "rates/rate_rules.h"
 #include "rates/rate_store.h"
 #include "shell/module.h"
 
@@ -64,19 +65,20 @@ class CursValutar : public forms::Form {
     void PlaceControls();
     void ConnectEvents();
 
-    bool IsRateValidated(data::OleDate day) const { return store_.IsFrozen(day); }
     void SetActionsEnabled(bool enabled);
     /// Whether the days in sight are those of the host's database of this moment. Where they are not, they
     /// are read there, and the day that was to be changed is to be looked at again first.
     bool ShowsCurrentRates();
     void BindGrid(data::TablePtr table);
     void GoToRowOf(const std::string& dayMonthYear);
+    /// \throws data::Error 13 (type mismatch) where the row does not begin with a day
+    data::OleDate SelectedDay() const;
     bool RefusesFrozenDay();
     bool MayChangeSelectedDay();
     bool IsHeld() const;
     bool BringHolderForward();
-    void OpenEntry(const std::string& mode);
-    void OpenCurrencyWindow(const std::string& mode);
+    void OpenEntry(EntryMode mode);
+    void OpenCurrencyWindow(CurrencyMode mode);
     void OpenEvolution();
     void DeleteSelectedDay();
     void RefuseLastCurrency();
@@ -92,9 +94,7 @@ class CursValutar : public forms::Form {
     RateStore store_;
     shell::ConnectionMark mark_;  ///< of the connection that the list was read on
     CurrencyNames currencyNames_;
-    std::string baseQuery_;
-    std::string dateFilter_;
-    std::string orderClause_;
+    DateRange range_;  ///< of the days in sight
 };
 
 }  // namespace tavrin::rates

@@ -1,12 +1,8 @@
 #include "rates/curs_valutar_detaliu.h"
 
 #include <algorithm>
-#include <cmath>
-#include <optional>
 
-#include "data/connection.h"
 #include "data/date.h"
-#include "data/decimal.h"
 #include "rates/curs_valutar.h"
 #include "shell/layout.h"
 
@@ -28,24 +24,20 @@ constexpr int GridHeight = 3600;
 constexpr int LabelWidth = 1740;
 constexpr int ButtonWidth = 1560;
 constexpr int ThousandsGrouping = 3;
-/// As many as a number keeps on its way to the database and back.
-constexpr std::ptrdiff_t MostDigits = 15;
 
 bool IsDigit(char32_t character) {
     return character >= U'0' && character <= U'9';
 }
 
-std::ptrdiff_t CountDigits(const std::string& text) {
-    return std::ranges::count_if(text, [](char each) { return each >= '0' && each <= '9'; });
-}
-
-/// The number in a cell's text, its thousands separators aside; nothing when there is none.
-std::optional<double> NumberIn(std::string text) {
-    std::erase(text, ',');
-    std::erase(text, ' ');
-    const auto [number, length] = data::ReadDecimal(text, data::Exponents::NotRead);
-    const bool isWhole = length > 0 && length == text.size();
-    return isWhole && std::isfinite(number) ? std::optional(number) : std::nullopt;
+const char* ReasonOf(ValueRefusal refusal) {
+    switch (refusal) {
+        case ValueRefusal::Missing:
+            return "Valoare obligatorie !";
+        case ValueRefusal::NoRate:
+            return "Valoarea cursului trebuie sa fie >= 0  !";
+        default:
+            return "Valoarea poate avea cel mult 15 cifre !";
+    }
 }
 
 }  // namespace
@@ -109,10 +101,10 @@ void CursValutarDetaliu::ConnectEvents() {
 
 // Life.
 
-void CursValutarDetaliu::ShowForm(const CurrencyNames& names, const std::string& mode) {
+void CursValutarDetaliu::ShowForm(const CurrencyNames& names, EntryMode mode) {
     currencyNames_ = names;
     mode_ = mode;
-    SetCaption(std::string("Curs Valutar - ") + (mode_ == "A" ? "Adaugare" : "Modificare"));
+    SetCaption(RulesOf(mode_).title);
     Load();
     Show();
     if (DataCurs.Enabled()) DataCurs.SetFocus();
@@ -125,10 +117,10 @@ void CursValutarDetaliu::OnLoad() {
     FillGrid();
     DataCurs.SetDate(module_.context.workDate);
     const auto* list = module_.Loaded<CursValutar>();
-    if (mode_ == "M" && list != nullptr) {
+    if (RulesOf(mode_).beginsFromList && list != nullptr) {
         if (const auto day = data::ParseDayMonthYear(list->SelectedDayText())) DataCurs.SetDate(*day);
     }
-    DataCurs.SetEnabled(mode_ == "A");
+    DataCurs.SetEnabled(RulesOf(mode_).choosesDay);
 }
 
 void CursValutarDetaliu::FillGrid() {
@@ -142,7 +134,7 @@ void CursValutarDetaliu::FillGrid() {
     for (int i = CurrencyNames::FirstCurrency; i <= currencyNames_.UpperBound(); ++i) {
         const int row = i - CurrencyNames::FirstCurrency + 1;
         Grid.SetTextMatrix(row, CodeColumn, currencyNames_[i]);
-        const bool shown = mode_ == "M" && list != nullptr;
+        const bool shown = RulesOf(mode_).beginsFromList && list != nullptr;
         Grid.SetTextMatrix(row, ValueColumn, shown ? list->Grid.TextMatrix(list->Grid.Row(), i) : "0");
     }
 }
@@ -172,26 +164,14 @@ void CursValutarDetaliu::BeginEditAtFirstRow() {
     editor_.Open(1, ValueColumn);
 }
 
-bool CursValutarDetaliu::HasRoomForDigit() const {
-    // What is typed takes the place of what is selected.
-    return CountDigits(txtCursValutar.Text()) - CountDigits(txtCursValutar.SelText()) < MostDigits;
-}
-
 bool CursValutarDetaliu::ValidateRateCell() {
-    const std::string& text = txtCursValutar.Text();
-    if (text.find_first_not_of(' ') == std::string::npos) return Refuse("Valoare obligatorie !");
-    // A value of the database stays as it is until somebody changes it, whatever it looks like.
-    if (!editor_.IsEdited()) return true;
-    // Letters and signs cannot be typed, but they can be pasted: what is no number is refused like a negative
-    // one.
-    const auto number = NumberIn(text);
-    if (!number || *number < 0) return Refuse("Valoarea cursului trebuie sa fie >= 0  !");
-    return CountDigits(text) <= MostDigits || Refuse("Valoarea poate avea cel mult 15 cifre !");
+    const auto refusal = RefusalOf({txtCursValutar.Text(), editor_.IsEdited()});
+    if (refusal) Refuse(*refusal);
+    return !refusal;
 }
 
-bool CursValutarDetaliu::Refuse(const char* reason) {
-    module_.ShowMessage(reason, message::Information, message::Ok, Caption());
-    return false;
+void CursValutarDetaliu::Refuse(ValueRefusal refusal) {
+    module_.ShowMessage(ReasonOf(refusal), message::Information, message::Ok, Caption());
 }
 
 void CursValutarDetaliu::CommitCell() {
@@ -248,7 +228,7 @@ void CursValutarDetaliu::txtCursValutar_KeyPress(char32_t& character) {
     // Backspace, and what the platform's field makes of Ctrl and a letter: copying, pasting, taking back.
     // None of them is a character of the text.
     if (character < U' ') return;
-    if (IsDigit(character) && HasRoomForDigit()) return;
+    if (IsDigit(character) && HasRoomForDigit(txtCursValutar.Text(), txtCursValutar.SelText())) return;
     // Who types a comma must not take 95 for 9,5.
     OwnerDesktop().Beep();
     character = 0;
@@ -287,7 +267,7 @@ void CursValutarDetaliu::Grid_KeyPress(char32_t& character) {
 // The day.
 
 bool CursValutarDetaliu::DayExists(data::OleDate day) const {
-    return mode_ != "M" && store_.DayExists(day);
+    return RulesOf(mode_).choosesDay && store_.DayExists(day);
 }
 
 void CursValutarDetaliu::DataCurs_KeyDown(int keyCode) {
@@ -316,20 +296,15 @@ std::vector<RateEntry> CursValutarDetaliu::Entries() const {
 
 bool CursValutarDetaliu::SaveRates() {
     mark_.Demand(module_.context);
-    if (mode_ == "M") return UpdateDay();
-    if (mode_ == "A") return InsertDay();
-    return false;
-}
-
-bool CursValutarDetaliu::UpdateDay() {
+    if (mode_ == EntryMode::Add) return InsertDay();
     // The rate list has refused frozen days before it opened this window.
-    store_.UpdateDay(DayText(), Entries());
+    store_.UpdateDay(DataCurs.Date(), Entries());
     return true;
 }
 
 bool CursValutarDetaliu::InsertDay() {
     const data::OleDate frozen = store_.FrozenDate();
-    if (data::RoundedDay(DataCurs.Date()) <= data::RoundedDay(frozen)) {
+    if (IsFrozen(DataCurs.Date(), frozen)) {
         module_.ShowMessage(
             "Data documentului introdus nu poate fi mai mica decit data ultimei validari \r\n"
             "Data ultimei validari : " +
@@ -343,7 +318,7 @@ bool CursValutarDetaliu::InsertDay() {
                             Caption());
         return false;
     }
-    store_.InsertDay(DayText(), Entries());
+    store_.InsertDay(DataCurs.Date(), Entries());
     return true;
 }
 
@@ -356,14 +331,7 @@ void CursValutarDetaliu::cmdAction_Click(int index) {
         if (!ValidateRateCell()) return;
         CommitCell();
     }
-    if (!SaveRates()) {
-        if (mode_ == "A") {
-            DataCurs.SetFocus();
-        } else {
-            BeginEditAtFirstRow();
-        }
-        return;
-    }
+    if (!SaveRates()) return DataCurs.SetFocus();  // it is the day that was refused
     const std::string day = DayText();
     Unload();
     if (auto* list = module_.Loaded<CursValutar>()) {

@@ -13,6 +13,7 @@
 #include "forms/label.h"
 #include "forms/text_box.h"
 #include "rates/currency_names.h"
+#include "rates/rate_rules.h"
 #include "rates/rate_statements.h"
 #include "rates/rate_store.h"
 #include "shell/module.h"
@@ -27,8 +28,8 @@ class CursValutarDetaliu : public forms::Form {
 
     explicit CursValutarDetaliu(shell::Module& module);
 
-    /// Mode "A" adds a day, "M" corrects the day that is selected in the rate list.
-    void ShowForm(const CurrencyNames& names, const std::string& mode);
+    /// Adds a day, or corrects the one that is selected in the rate list.
+    void ShowForm(const CurrencyNames& names, EntryMode mode);
 
     forms::Label lblDescriere;
     forms::DatePicker DataCurs;
@@ -53,15 +54,13 @@ class CursValutarDetaliu : public forms::Form {
     void BeginCellEdit();
     void BeginEditAtFirstRow();
     bool IsEditing() const { return editor_.IsOpen(); }
-    bool HasRoomForDigit() const;
     bool ValidateRateCell();
-    bool Refuse(const char* reason);
+    void Refuse(ValueRefusal refusal);
     void CommitCell();
     void LeaveCell(Step step);
 
     bool DayExists(data::OleDate day) const;
     bool SaveRates();
-    bool UpdateDay();
     bool InsertDay();
     std::string DayText() const;
     std::vector<RateEntry> Entries() const;
@@ -81,7 +80,7 @@ class CursValutarDetaliu : public forms::Form {
     shell::ConnectionMark mark_;  ///< of the connection that the entry was begun on
     forms::CellEditor editor_{Grid, txtCursValutar};
     CurrencyNames currencyNames_;
-    std::string mode_;
+    EntryMode mode_ = EntryMode::Modify;
 };
 
 }  // namespace tavrin::rates

@@ -5,9 +5,9 @@
 #include <initializer_list>
 #include <utility>
 
-#include "data/connection.h"
 #include "data/error.h"
 #include "rates/curs_valutar.h"
+#include "rates/rate_text.h"
 #include "shell/layout.h"
 
 namespace tavrin::rates {
@@ -34,15 +34,6 @@ constexpr int ChartWidth = 9000;
 constexpr int ChartHeight = 5400;
 constexpr int ChoiceWidth = 1800;
 constexpr int RedrawWidth = 2460;
-
-/// A rate as the database gave it: a number, or a text with thousands separators. Nothing for NULL.
-std::optional<double> RateOf(const data::Value& value) {
-    if (value.IsNull()) return std::nullopt;
-    if (!value.IsText()) return value.ToDouble();
-    std::string text = value.ToText();
-    std::erase(text, ',');
-    return data::Value(std::move(text)).ToDouble();
-}
 
 /// The first entry is chosen, or the one that was before, where the new list has it too.
 void Refill(forms::ComboBox& list, std::vector<std::string> entries) {
@@ -188,17 +179,8 @@ void EvolutieCurs::IncarcaListe() {
 
 void EvolutieCurs::ReadLists() {
     Refill(cmbMoneda, store_.ColumnsAfterSecond());
-    Refill(cmbAn, ReadYears());
+    Refill(cmbAn, store_.ReadYears());
     mark_.Set(module_.context);
-}
-
-std::vector<std::string> EvolutieCurs::ReadYears() const {
-    const data::TablePtr table = store_.Read(RateYearsStatement);
-    if (!table) return {data::ExecuteScalar(module_.context.Database(), FinancialYearsStatement).ToText()};
-    std::vector<std::string> years;
-    for (std::size_t row = 0; row < table->RowCount(); ++row)
-        years.push_back(table->At(row, 0).ToText());
-    return years;
 }
 
 EvolutionChoice EvolutieCurs::Choice() const {
@@ -210,14 +192,13 @@ EvolutionChoice EvolutieCurs::Choice() const {
 // Drawing.
 
 void EvolutieCurs::CalculeazaLimite() {
-    const data::TablePtr limits = store_.Read(LimitsStatement(Choice()), 2);
-    minimum_ = limits ? RateOf(limits->At(0, 0)).value_or(0) : 0;
-    maximum_ = limits ? RateOf(limits->At(0, 1)).value_or(0) : 0;
+    const RateLimits limits = store_.ReadLimits(Choice());
+    MSChart1.SetValueScale(limits.lowest, limits.highest);
 }
 
 bool EvolutieCurs::DeseneazaGrafic() {
     MSChart1.SetRowCount(0);
-    const data::TablePtr table = store_.Read(EvolutionStatement(Choice()), 2);
+    const data::TablePtr table = store_.ReadEvolution(Choice());
     if (!table) {
         MSChart1.SetRowCount(RowsBeforeDrawing);
         Grid.SetColumnAlignment(1, forms::Align::Right);
@@ -226,7 +207,6 @@ bool EvolutieCurs::DeseneazaGrafic() {
     Grid.SetDataSource(table);
     SetHeader();
     CalculeazaLimite();
-    MSChart1.SetValueScale(minimum_, maximum_);
     MSChart1.SetRowCount(CountChartRows());
     FillChart(*table);
     LabelRowsWithoutData(static_cast<int>(table->RowCount()) + 1);
@@ -236,8 +216,7 @@ bool EvolutieCurs::DeseneazaGrafic() {
 int EvolutieCurs::CountChartRows() {
     const EvolutionChoice choice = Choice();
     if (!choice.month) return MonthsInYear;
-    const std::int64_t days =
-        data::ExecuteScalar(module_.context.Database(), CountDaysStatement(choice)).ToInteger();
+    const std::int64_t days = store_.CountDays(choice);
     if (days > MostChartRows) throw data::RuntimeError(data::error_number::Overflow);
     return static_cast<int>(std::max<std::int64_t>(0, days));
 }

@@ -59,7 +59,6 @@ class EvolutieCurs : public forms::Form {
     void IncarcaListe();
     /// The currencies and the years, from the host's database of this moment.
     void ReadLists();
-    std::vector<std::string> ReadYears() const;
     EvolutionChoice Choice() const;
 
     void CalculeazaLimite();
@@ -80,8 +79,6 @@ class EvolutieCurs : public forms::Form {
     RateStore store_;
     forms::ImageList lstImages_;
     shell::ConnectionMark mark_;  ///< of the connection that the lists were read on
-    double minimum_ = 0;
-    double maximum_ = 0;
 };
 
 }  // namespace tavrin::rates

@@ -37,9 +37,14 @@ std::string ListBaseQuery(const CurrencyNames& currencies) {
     return query + " FROM [Curs Valutar]";
 }
 
-std::string DateFilterClause(data::OleDate from, data::OleDate to) {
-    return "Where Data between  '" + data::FormatYearMonthDay(from) + "' and '" +
-           data::FormatYearMonthDay(to) + "' ";
+std::string DateFilterClause(const DateRange& range) {
+    return "Where Data between  '" + data::FormatYearMonthDay(range.first) + "' and '" +
+           data::FormatYearMonthDay(range.last) + "' ";
+}
+
+std::string ListQuery(const CurrencyNames& currencies, const DateRange& range) {
+    std::string query = ListBaseQuery(currencies) + " " + DateFilterClause(range) + " ";
+    return query += ListOrderClause;
 }
 
 std::string MonthDayYear(std::string_view dayMonthYear) {

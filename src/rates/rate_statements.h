@@ -20,10 +20,18 @@ std::string FrozenDateStatement(std::int32_t companyId);
 inline constexpr std::string_view ListColumnsStatement = "SELECT * FROM [Curs Valutar] ";
 inline constexpr std::string_view ColumnsStatement = "SELECT * FROM [Curs Valutar]";
 
+/// Days from the first to the last, both among them.
+struct DateRange {
+    data::OleDate first;
+    data::OleDate last;
+};
+
 /// Select list and table of the rate list, without filter and order.
 std::string ListBaseQuery(const CurrencyNames& currencies);
-std::string DateFilterClause(data::OleDate from, data::OleDate to);
+std::string DateFilterClause(const DateRange& range);
 inline constexpr std::string_view ListOrderClause = "ORDER BY [Data]";
+/// All of it.
+std::string ListQuery(const CurrencyNames& currencies, const DateRange& range);
 
 /// A day as the writing statements take it: "dd/mm/yyyy" cut up and joined again as month-day-year.
 std::string MonthDayYear(std::string_view dayMonthYear);

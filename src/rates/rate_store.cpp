@@ -3,16 +3,14 @@
 #include "data/connection.h"
 #include "data/date.h"
 #include "data/error.h"
+#include "rates/chooser_statements.h"
 #include "rates/rate_statements.h"
+#include "rates/rate_text.h"
 
 namespace tavrin::rates {
 
 data::OleDate RateStore::FrozenDate() const {
     return data::ExecuteScalar(context_.Database(), FrozenDateStatement(context_.companyId)).ToDate();
-}
-
-bool RateStore::IsFrozen(data::OleDate day) const {
-    return data::RoundedDay(day) <= data::RoundedDay(FrozenDate());
 }
 
 CurrencyNames RateStore::DiscoverCurrencies() const {
@@ -27,6 +25,37 @@ CurrencyNames RateStore::DiscoverCurrencies() const {
     return currencies;
 }
 
+data::TablePtr RateStore::ReadDays(const CurrencyNames& currencies, const DateRange& range) const {
+    return Read(ListQuery(currencies, range));
+}
+
+data::TablePtr RateStore::ReadRates(std::string_view currency) const {
+    return Read(CurrencyRatesQuery(currency));
+}
+
+data::TablePtr RateStore::ReadEvolution(const EvolutionChoice& choice) const {
+    return Read(EvolutionStatement(choice), 2);
+}
+
+std::vector<std::string> RateStore::ReadYears() const {
+    const data::TablePtr table = Read(RateYearsStatement);
+    if (!table) return {data::ExecuteScalar(context_.Database(), FinancialYearsStatement).ToText()};
+    std::vector<std::string> years;
+    for (std::size_t row = 0; row < table->RowCount(); ++row)
+        years.push_back(table->At(row, 0).ToText());
+    return years;
+}
+
+RateLimits RateStore::ReadLimits(const EvolutionChoice& choice) const {
+    const data::TablePtr limits = Read(LimitsStatement(choice), 2);
+    if (!limits) return {};
+    return {.lowest = RateOf(limits->At(0, 0)).value_or(0), .highest = RateOf(limits->At(0, 1)).value_or(0)};
+}
+
+std::int64_t RateStore::CountDays(const EvolutionChoice& choice) const {
+    return data::ExecuteScalar(context_.Database(), CountDaysStatement(choice)).ToInteger();
+}
+
 data::TablePtr RateStore::Read(std::string_view query, std::size_t fields) const {
     const auto rows = context_.Database().CreateRecordset();
     rows->Open(query);
@@ -34,6 +63,7 @@ data::TablePtr RateStore::Read(std::string_view query, std::size_t fields) const
     rows->Close();
     // A provider may count rows that it then does not give.
     if (table == nullptr || table->RowCount() == 0) return nullptr;
+    // The caller will look at so many of each row.
     if (table->FieldCount() < fields) throw data::RuntimeError(data::error_number::ItemNotFound);
     return table;
 }
@@ -46,16 +76,16 @@ bool RateStore::DayExists(data::OleDate day) const {
     return context_.Database().Execute(ProbeDayStatement(day))->HasRows();
 }
 
-void RateStore::DeleteDay(std::string_view dayMonthYear) const {
-    context_.Database().Execute(DeleteDayStatement(dayMonthYear));
+void RateStore::DeleteDay(data::OleDate day) const {
+    context_.Database().Execute(DeleteDayStatement(data::FormatDayMonthYear(day)));
 }
 
-void RateStore::InsertDay(std::string_view dayMonthYear, const std::vector<RateEntry>& rates) const {
-    context_.Database().Execute(InsertDayStatement(dayMonthYear, rates));
+void RateStore::InsertDay(data::OleDate day, const std::vector<RateEntry>& rates) const {
+    context_.Database().Execute(InsertDayStatement(data::FormatDayMonthYear(day), rates));
 }
 
-void RateStore::UpdateDay(std::string_view dayMonthYear, const std::vector<RateEntry>& rates) const {
-    context_.Database().Execute(UpdateDayStatement(dayMonthYear, rates));
+void RateStore::UpdateDay(data::OleDate day, const std::vector<RateEntry>& rates) const {
+    context_.Database().Execute(UpdateDayStatement(data::FormatDayMonthYear(day), rates));
 }
 
 std::vector<std::string> RateStore::ColumnsAfterSecond() const {

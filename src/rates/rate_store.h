@@ -9,10 +9,17 @@
 #include "data/table.h"
 #include "data/value.h"
 #include "rates/currency_names.h"
+#include "rates/evolution_statements.h"
 #include "rates/rate_statements.h"
 #include "shell/host_context.h"
 
 namespace tavrin::rates {
+
+/// The lowest and the highest rate of a choice; zeros where there is none.
+struct RateLimits {
+    double lowest = 0;
+    double highest = 0;
+};
 
 /// The daily rates in the host's database. Keeps nothing: every question is a statement on the host's
 /// connection. What the provider refuses comes out as data::Error.
@@ -22,24 +29,32 @@ class RateStore {
 
     /// The last day whose rates are frozen for the current company; 1 January 1900 when none ever were.
     data::OleDate FrozenDate() const;
-    /// Whether a day may no longer be changed: it is not later than the frozen date.
-    bool IsFrozen(data::OleDate day) const;
 
     /// The currencies are whatever columns the table has beside "Data" and "Validat" (exact letters).
     CurrencyNames DiscoverCurrencies() const;
 
-    /// The rows of a display query, read at once; null when there are none.
-    /// \param fields how many fields of each row the caller will look at
-    /// \throws data::Error 3265 where the rows have fewer
-    data::TablePtr Read(std::string_view query, std::size_t fields = 1) const;
+    // What windows show, read at once; null where there are no rows.
+
+    /// The day as a text, the day, and the rate of each currency, in the order of the days.
+    data::TablePtr ReadDays(const CurrencyNames& currencies, const DateRange& range) const;
+    /// The days and rates of one currency, newest first.
+    data::TablePtr ReadRates(std::string_view currency) const;
+    /// Day or month, and the rate, in order. \throws data::Error 3265 where rows have fewer than two fields
+    data::TablePtr ReadEvolution(const EvolutionChoice& choice) const;
+
+    /// The years that have rates; where none has, the host's own year.
+    std::vector<std::string> ReadYears() const;
+    RateLimits ReadLimits(const EvolutionChoice& choice) const;
+    /// The number of days in the chosen month that have rates. \pre a month is chosen
+    std::int64_t CountDays(const EvolutionChoice& choice) const;
 
     /// The number of rows of a day.
     std::int64_t CountDay(data::OleDate day) const;
     bool DayExists(data::OleDate day) const;
 
-    void DeleteDay(std::string_view dayMonthYear) const;
-    void InsertDay(std::string_view dayMonthYear, const std::vector<RateEntry>& rates) const;
-    void UpdateDay(std::string_view dayMonthYear, const std::vector<RateEntry>& rates) const;
+    void DeleteDay(data::OleDate day) const;
+    void InsertDay(data::OleDate day, const std::vector<RateEntry>& rates) const;
+    void UpdateDay(data::OleDate day, const std::vector<RateEntry>& rates) const;
 
     /// The names of the table's columns from the third on. The first two are skipped by their place, whatever
     /// they are called: the host's table begins with "Data" and "Validat".
@@ -49,6 +64,8 @@ class RateStore {
     void AddCurrency(std::string_view currency) const;
 
   private:
+    data::TablePtr Read(std::string_view query, std::size_t fields = 1) const;
+
     const shell::HostContext& context_;
 };
 

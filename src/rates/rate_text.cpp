@@ -3,7 +3,6 @@
 #include <string_view>
 #include <utility>
 
-#include "data/value.h"
 #include "forms/number_format.h"
 
 namespace tavrin::rates {
@@ -27,6 +26,14 @@ double NumberInLocale(const std::string& text, const forms::Locale& locale) {
 }
 
 }  // namespace
+
+std::optional<double> RateOf(const data::Value& value) {
+    if (value.IsNull()) return std::nullopt;
+    if (!value.IsText()) return value.ToDouble();
+    std::string text = value.ToText();
+    std::erase(text, ',');
+    return data::Value(std::move(text)).ToDouble();
+}
 
 double NumberOfRateText(std::string text, const forms::Locale& locale) {
     ReplaceAll(text, ".", locale.decimalSeparator);

@@ -1,10 +1,15 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "data/value.h"
 #include "forms/locale.h"
 
 namespace tavrin::rates {
+
+/// A rate as the database gives it: a number, or a text with thousands separators. Nothing for NULL.
+std::optional<double> RateOf(const data::Value& value);
 
 /// The number of a rate as a grid shows it, "." before its decimals: read as a number typed in the user's
 /// locale once the "." has become the locale's separator. Group separators do not count.

@@ -183,7 +183,7 @@ TEST_F(AgendaBrowseTest, ABlankSearchListsEverybodyAndALeadingBlankCounts) {
 TEST_F(AgendaBrowseTest, ASearchChangesNeitherModeNorTheDesignedCaption) {
     Agenda& window = OpenOnThree();
     Search(window, "Popa");
-    EXPECT_EQ(window.Mode, "V");
+    EXPECT_EQ(window.Mode, addressbook::EditMode::Browse);
     EXPECT_EQ(window.cmdAction[Agenda::Cancel].Caption(), "Renunta");
 }
 
@@ -239,7 +239,7 @@ TEST_F(AgendaBrowseTest, RenuntaAsOpenedAsksAndNoStays) {
     ClickWithMouse(window.cmdAction[Agenda::Cancel]);
     EXPECT_THAT(messages.shown, ElementsAre(ShownMessage{"Doriti sa parasiti forma?", 32, 4, "Iesire"}));
     EXPECT_TRUE(window.IsLoaded());
-    EXPECT_EQ(window.Mode, "V");
+    EXPECT_EQ(window.Mode, addressbook::EditMode::Browse);
 }
 
 TEST_F(AgendaBrowseTest, IesireAsksAndYesCloses) {
@@ -280,14 +280,14 @@ TEST_F(AgendaBrowseTest, AltAndTheLetterPressTheButtons) {
     keyboard.Accelerator(U's');
     EXPECT_EQ(messages.shown.back().prompt, "Doriti sa stergeti din agenda persoana Albu Dan ?");
     keyboard.Accelerator(U'c');
-    EXPECT_EQ(window.Mode, "V") << "Accepta is out of sight";
+    EXPECT_EQ(window.Mode, addressbook::EditMode::Browse) << "Accepta is out of sight";
     keyboard.Accelerator(U'm');
-    EXPECT_EQ(window.Mode, "M");
+    EXPECT_EQ(window.Mode, addressbook::EditMode::Modify);
     keyboard.Accelerator(U'r');
     keyboard.Accelerator(U'a');
-    EXPECT_EQ(window.Mode, "A");
+    EXPECT_EQ(window.Mode, addressbook::EditMode::Add);
     keyboard.Accelerator(U'm');
-    EXPECT_EQ(window.Mode, "A") << "Modifica is out of sight";
+    EXPECT_EQ(window.Mode, addressbook::EditMode::Add) << "Modifica is out of sight";
 }
 
 TEST_F(AgendaBrowseTest, ClosingLetsGoOfTheList) {

@@ -50,7 +50,7 @@ class AgendaConnectionTest : public AgendaTest {
         EXPECT_EQ(ShownName(window), "Albu Dan");
         EXPECT_EQ(window.TextBoxes[Agenda::FirstDetailBox].Text(), "in the second");
         ExpectWholeRowSelected(window, 1);
-        EXPECT_EQ(window.Mode, "V");
+        EXPECT_EQ(window.Mode, addressbook::EditMode::Browse);
     }
 
     std::shared_ptr<host::EmbeddedDatabase> secondDatabase =
@@ -102,7 +102,7 @@ TEST_F(AgendaConnectionTest, ModificaShowsTheNewListFirst) {
     ExpectOnlyTheSecondsListRead();
     ExpectSecondInSight(window);
     window.cmdAction[Agenda::Modify].Click();
-    EXPECT_EQ(window.Mode, "M");
+    EXPECT_EQ(window.Mode, addressbook::EditMode::Modify);
 }
 
 TEST_F(AgendaConnectionTest, ChangesBegunOnTheOldConnectionAreNotWrittenOnTheNewOne) {

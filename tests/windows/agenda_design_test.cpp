@@ -195,7 +195,7 @@ TEST_F(AgendaDesignTest, IsDressedInTheDarkScheme) {
 
 TEST_F(AgendaDesignTest, OpensBrowsingWithTheDesignedCaptionRenunta) {
     const Agenda& window = OpenOnThree();
-    EXPECT_EQ(window.Mode, "V");
+    EXPECT_EQ(window.Mode, addressbook::EditMode::Browse);
     EXPECT_THAT(ButtonsInSight(window), testing::ElementsAre("Adauga", "Modifica", "Sterge", "Renunta"));
     EXPECT_EQ(LockedBoxes(window), Boxes(2, 17));
     EXPECT_FALSE(window.fraPersoana.Enabled());

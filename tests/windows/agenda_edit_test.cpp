@@ -131,7 +131,7 @@ TEST_F(AgendaEditTest, CancellingAnAddComesBackToTheRowBefore) {
 TEST_F(AgendaEditTest, ModificaLocksTheNamesAndGoesToTheAddress) {
     Agenda& window = OpenOnThree();
     window.cmdAction[Agenda::Modify].Click();
-    EXPECT_EQ(window.Mode, "M");
+    EXPECT_EQ(window.Mode, addressbook::EditMode::Modify);
     EXPECT_EQ(window.SavedRow, 1);
     EXPECT_EQ(LockedBoxes(window), Boxes(2, 3));
     EXPECT_THAT(ButtonsInSight(window), ElementsAre("Accepta", "Renunta"));

@@ -53,7 +53,7 @@ TEST_F(AgendaFailuresTest, APastedApostropheInTheSearchIsReportedAndTheNextSearc
     PasteInto(window, 0, "D'A");
     keyboard.Press(key::Enter);
     EXPECT_THAT(desktop.reports, ReportOf(number::ErrorsInCommand));
-    EXPECT_EQ(window.Mode, "V");
+    EXPECT_EQ(window.Mode, addressbook::EditMode::Browse);
     EXPECT_EQ(window.Grid.DataSource(), nullptr);
     EXPECT_EQ(FocusedControl(), "TextBoxes(0)");
     Search(window, "Popa");
@@ -89,7 +89,7 @@ TEST_F(AgendaFailuresTest, AColumnTooShortIsReportedAndTheModifyGoesOn) {
     window.cmdAction[Agenda::Accept].Click();
     ASSERT_EQ(desktop.reports.size(), 1U);
     EXPECT_NE(desktop.reports[0].number, 0);
-    EXPECT_EQ(window.Mode, "M");
+    EXPECT_EQ(window.Mode, addressbook::EditMode::Modify);
     EXPECT_EQ(LockedBoxes(window), Boxes(2, 3));
     EXPECT_EQ(Stored("AdresaHome", "Albu"), data::Value(std::string("Albu 4")));
     window.cmdAction[Agenda::Cancel].Click();
@@ -105,7 +105,7 @@ TEST_F(AgendaFailuresTest, ARefusedDeleteIsReportedAndThePersonStays) {
                 ElementsAre(HeadlessDesktop::Report{number::IntegrityViolation, "related rows"}));
     EXPECT_EQ(messages.shown.size(), 1U) << "only the question";
     EXPECT_EQ(ShownName(window), "Albu Dan");
-    EXPECT_EQ(window.Mode, "V");
+    EXPECT_EQ(window.Mode, addressbook::EditMode::Browse);
     EXPECT_EQ(window.Grid.Rows(), 4);
 }
 
@@ -131,7 +131,7 @@ TEST_F(AgendaFailuresTest, ALostRequeryLeavesThePersonSavedAndTheModeAsItWas) {
     window.cmdAction[Agenda::Accept].Click();
     EXPECT_THAT(desktop.reports, ReportOf(ConnectionLost.Number()));
     EXPECT_EQ(Names().size(), 4U);
-    EXPECT_EQ(window.Mode, "A");
+    EXPECT_EQ(window.Mode, addressbook::EditMode::Add);
     EXPECT_EQ(LockedBoxes(window), Boxes(0, 1));
     EXPECT_TRUE(window.fraGrid.Enabled());
     EXPECT_EQ(ShownName(window), "Marin Eva");

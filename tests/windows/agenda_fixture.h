@@ -122,7 +122,7 @@ class AgendaTest : public WindowTest {
     }
 
     static void ExpectBrowsing(const Agenda& window) {
-        EXPECT_EQ(window.Mode, "V");
+        EXPECT_EQ(window.Mode, addressbook::EditMode::Browse);
         EXPECT_EQ(LockedBoxes(window), Boxes(2, 17));
         EXPECT_THAT(ButtonsInSight(window), testing::ElementsAre("Adauga", "Modifica", "Sterge", "Iesire"));
         EXPECT_EQ(window.cmdAction[Agenda::Cancel].Accelerator(), U'I');
@@ -131,7 +131,7 @@ class AgendaTest : public WindowTest {
     }
 
     static void ExpectAdding(const Agenda& window) {
-        EXPECT_EQ(window.Mode, "A");
+        EXPECT_EQ(window.Mode, addressbook::EditMode::Add);
         EXPECT_EQ(LockedBoxes(window), Boxes(2, 1));
         EXPECT_THAT(ButtonsInSight(window), testing::ElementsAre("Accepta", "Renunta"));
         EXPECT_EQ(window.cmdAction[Agenda::Cancel].Accelerator(), U'R');

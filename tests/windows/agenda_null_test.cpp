@@ -67,7 +67,7 @@ class AgendaNullTest : public AgendaTest, public testing::WithParamInterface<std
         std::copy_n(whole.begin(), Column(), expected.begin());
         EXPECT_THAT(DataBoxTexts(window), testing::ElementsAreArray(expected));
         EXPECT_EQ(window.Grid.Row(), row);
-        EXPECT_EQ(window.Mode, "V");
+        EXPECT_EQ(window.Mode, addressbook::EditMode::Browse);
     }
 
     void ExpectEnescuBrowsed(const Agenda& window, int row) {

@@ -431,8 +431,8 @@ TEST_F(AlegeMonedaTest, ZeroByARateOfZeroOverflows) {
 TEST_F(AlegeMonedaTest, AnAmountTooLargeInLeiOverflowsBeforeAnythingChanges) {
     Run("UPDATE [Curs Valutar] SET [$] = NULL");
     Open();
+    Calculator()->TakeChoice({.currency = "$", .rate = 1, .rateCaption = {}, .amountInLei = 1e300});
     Calculator()->SetCursCurent(1e300);
-    Calculator()->SetCurrencyAmount(1e300);
     OpenChooser();
     keyboard.Press(key::Enter);
     EXPECT_THAT(ReportedErrors(), ElementsAre(data::error_number::Overflow));

@@ -68,7 +68,7 @@ TEST_F(CereMonedaTest, ASingleCurrencyIsChosenAtOnceAndNoneIsNoError) {
             (any ? ", EUR float)" : ")"));
         module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
         auto& window = module.Default<CereMoneda>();
-        window.Mode = "S";
+        window.Mode = rates::CurrencyMode::Remove;
         window.Show();
         EXPECT_EQ(window.cmbMoneda.ListIndex(), any ? 0 : -1);
         EXPECT_EQ(window.cmbMoneda.Text(), any ? "EUR" : "");

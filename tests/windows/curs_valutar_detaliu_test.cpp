@@ -72,20 +72,6 @@ TEST_F(CursValutarDetaliuTest, ModifyingStartsWithTheSelectedDaysRates) {
     EXPECT_THAT(connection->Statements(), IsEmpty());
 }
 
-TEST_F(CursValutarDetaliuTest, AnyOtherModeShowsTheTitleOfModifyingZerosAndSavesNothing) {
-    OpenList();
-    auto& entry = module.Default<CursValutarDetaliu>();
-    entry.ShowForm(module.Loaded<CursValutar>()->Currencies(), "S");
-    EXPECT_EQ(entry.Caption(), "Curs Valutar - Modificare");
-    EXPECT_FALSE(entry.DataCurs.Enabled());
-    EXPECT_THAT(ColumnOf(entry.Grid, 1), ElementsAre("Valoare Curs", "0", "0"));
-    connection->ClearRecord();
-    entry.cmdAction[0].Click();
-    EXPECT_THAT(connection->Statements(), IsEmpty());
-    EXPECT_TRUE(EntryIsOpen());
-    EXPECT_EQ(FocusedControl(), "txtCursValutar");
-}
-
 TEST_F(CursValutarDetaliuTest, TheOpenerIsDisabledAndEnabledAgain) {
     CursValutarDetaliu& entry = OpenToAdd();
     CursValutar& list = *module.Loaded<CursValutar>();

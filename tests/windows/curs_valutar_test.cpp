@@ -379,7 +379,7 @@ TEST_F(CursValutarTest, AddingACurrencyOpensItsWindowAndDisablesTheList) {
     CursValutar& list = OpenList();
     list.cmdAction[3].Click();
     ASSERT_NE(module.Loaded<rates::CereMoneda>(), nullptr);
-    EXPECT_EQ(module.Loaded<rates::CereMoneda>()->Mode, "A");
+    EXPECT_EQ(module.Loaded<rates::CereMoneda>()->Mode, rates::CurrencyMode::Add);
     EXPECT_FALSE(list.Enabled());
 }
 
@@ -387,7 +387,7 @@ TEST_F(CursValutarTest, RemovingACurrencyIsReachedByCodeAlone) {
     CursValutar& list = OpenList();
     list.cmdAction_Click(4);
     ASSERT_NE(module.Loaded<rates::CereMoneda>(), nullptr);
-    EXPECT_EQ(module.Loaded<rates::CereMoneda>()->Mode, "S");
+    EXPECT_EQ(module.Loaded<rates::CereMoneda>()->Mode, rates::CurrencyMode::Remove);
     EXPECT_FALSE(list.Enabled());
 }
 

@@ -1,4 +1,4 @@
-// What the calculator's characters and captions ask for, and that nothing else asks for anything.
+// What the calculator's characters and operator keys ask for, and that nothing else asks for anything.
 
 #include "calculator/key_map.h"
 
@@ -6,13 +6,16 @@
 
 #include <map>
 #include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace tavrin::tests {
 namespace {
 
 using calculator::Command;
 using calculator::CommandOfCharacter;
-using calculator::CommandOfOperator;
+using calculator::OperatorKeys;
 
 TEST(KeyMapTest, KnownCharactersAndNoOthers) {
     const std::map<char32_t, Command> expected = {{U'*', Command::Multiply},     {U'+', Command::Add},
@@ -30,16 +33,16 @@ TEST(KeyMapTest, KnownCharactersAndNoOthers) {
     }
 }
 
-TEST(KeyMapTest, KnownCaptionsAndNoOthers) {
-    EXPECT_EQ(CommandOfOperator("/"), Command::Divide);
-    EXPECT_EQ(CommandOfOperator("+"), Command::Add);
-    EXPECT_EQ(CommandOfOperator("X"), Command::Multiply);
-    EXPECT_EQ(CommandOfOperator("-"), Command::Subtract);
-    EXPECT_EQ(CommandOfOperator("="), Command::Equals);
-    EXPECT_EQ(CommandOfOperator("%"), Command::Percent);
-    EXPECT_EQ(CommandOfOperator("+/-"), Command::ChangeSign);
-    for (const char* caption : {"", "x", "*", "+/", "C", "M+", " ", "= "})
-        EXPECT_EQ(CommandOfOperator(caption), std::nullopt) << "'" << caption << "'";
+TEST(KeyMapTest, EveryOperatorHasItsPlaceAndItsCaption) {
+    const std::vector<std::pair<std::string, Command>> expected = {
+        {"/", Command::Divide},      {"+", Command::Add},    {"X", Command::Multiply},
+        {"-", Command::Subtract},    {"=", Command::Equals}, {"%", Command::Percent},
+        {"+/-", Command::ChangeSign}};
+    ASSERT_EQ(OperatorKeys.size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_EQ(OperatorKeys[i].caption, expected[i].first);
+        EXPECT_EQ(OperatorKeys[i].command, expected[i].second) << expected[i].first;
+    }
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ int AllocationsOf(TwoDisplays& shown, std::string_view keys) {
 
 TEST(Allocations, NoKeyAllocates) {
     TwoDisplays shown;
-    shown.rate = 4.9762;
+    shown.conversion.SetRate(4.9762);
     EXPECT_EQ(AllocationsOf(shown, "1234567890123.45"), 0);
     EXPECT_EQ(AllocationsOf(shown, "+19.5%-1/3X1234.56=+7=nM5WRZ<C.1A"), 0);
     EXPECT_EQ(AllocationsOf(shown, "999999999999999X999999999999999X999999999999999="), 0);

@@ -34,8 +34,8 @@ class CalculatorPair {
         const int naiveError = ErrorOf([&] { DoToNaive(action, choice); });
         return Difference("error", engineError, naiveError) +
                Difference("entry", std::string(engine.engine.EntryText()), naive.entry) +
-               Difference("lei", engine.lei, naive.lei) +
-               Difference("currency", engine.currency, naive.currency) +
+               Difference("lei", engine.conversion.Lei(), naive.lei) +
+               Difference("currency", engine.conversion.Currency(), naive.currency) +
                Difference("memory mark", engine.memoryMark, naive.mark) +
                Difference("messages", engine.divisionsByZero, naive.messages) +
                Difference("ignored keys", engine.ignored, naive.ignored);
@@ -69,16 +69,14 @@ class CalculatorPair {
         switch (action) {
             case 'u':
             case 'v':
-                engine.unit = action == 'u' ? Unit::Lei : Unit::Currency;
-                engine.engine.SetEntry(engine.ShownValue());
-                engine.ShowValues();
+                engine.engine.ChooseUnit(action == 'u' ? calculator::Unit::Lei : calculator::Unit::Currency);
                 break;
             case 'p':
-                engine.SetDecimals(Decimals[choice % std::size(Decimals)]);
-                engine.ShowValues();
+                engine.conversion.SetDecimals(Decimals[choice % std::size(Decimals)]);
+                engine.engine.ShowEntry();
                 break;
             case 'r':
-                engine.rate = Rates[choice % std::size(Rates)];
+                engine.conversion.SetRate(Rates[choice % std::size(Rates)]);
                 break;
             default:
                 engine.Press({&action, 1});

@@ -12,6 +12,7 @@ namespace tavrin::tests {
 namespace {
 
 using calculator::Command;
+using calculator::Unit;
 
 /// A sequence of keys and what stands in the entry and in both displays afterwards, at 4.5 lei for one unit
 /// of the currency.
@@ -32,8 +33,8 @@ class SequenceTest : public testing::TestWithParam<Sequence> {};
 TEST_P(SequenceTest, ShowsItsResult) {
     const Sequence& sequence = GetParam();
     TwoDisplays shown;
-    shown.rate = 4.5;
-    shown.SetDecimals(sequence.decimals);
+    shown.conversion.SetRate(4.5);
+    shown.conversion.SetDecimals(sequence.decimals);
     shown.Press(sequence.keys);
     EXPECT_EQ(shown.engine.EntryText(), sequence.entry);
     EXPECT_EQ(shown.Lei(), sequence.lei);
@@ -207,30 +208,24 @@ TEST(Engine, ReportsEveryDivisionByZeroOnce) {
 
 TEST(Engine, TakesTheOperandFromTheDisplayOfTheUnit) {
     TwoDisplays shown;
-    shown.rate = 4.5;
-    shown.unit = Unit::Currency;
+    shown.conversion.SetRate(4.5);
+    shown.conversion.TypeIn(Unit::Currency);
     shown.Press("2");
     EXPECT_EQ(shown.Lei(), "9,00");
     EXPECT_EQ(shown.Press("+1=").Currency(), "3,00");
     EXPECT_EQ(shown.Lei(), "13,50");
-    // The currency chooser writes a converted amount into the display without touching the entry.
+    // The currency chooser has an amount converted without touching the entry.
     shown.Press("A8");
-    shown.currency = 80;
-    EXPECT_EQ(shown.Press("+1=").Currency(), "81,00");
-}
-
-TEST(Engine, CountsAnEntryOfMinusZeroAsZeroWhateverIsShown) {
-    TwoDisplays shown;
-    shown.Press("5n<0");
-    shown.lei = 77;
-    EXPECT_EQ(shown.Press("+1=").Lei(), "1,00");
+    shown.conversion.SetRate(0.5);
+    shown.conversion.BuyFor(36);
+    EXPECT_EQ(shown.Press("+1=").Currency(), "73,00");
 }
 
 TEST(Engine, KeepsTheDigitsOfAnEntryWhenThePrecisionChanges) {
     TwoDisplays shown;
-    shown.SetDecimals(4);
+    shown.conversion.SetDecimals(4);
     shown.Press("1.2345");
-    shown.SetDecimals(0);
+    shown.conversion.SetDecimals(0);
     EXPECT_EQ(shown.engine.EntryText(), "1,2345");
     EXPECT_EQ(shown.Lei(), "1");
     EXPECT_EQ(shown.Press("6").engine.EntryText(), "1,2345") << "no room";
@@ -325,31 +320,31 @@ TEST(Engine, BeginsAnewAfterAnErrorAndKeepsItsMemory) {
 TEST(Engine, BeginsAnewAfterAResultThatCannotBeConverted) {
     TwoDisplays shown;
     for (const char* keys : {"7+5=", "7+5%", "7+5=3+"}) {
-        shown.Press("A").rate = 1;
+        shown.Press("A").conversion.SetRate(1);
         const std::string_view typed(keys);
-        shown.Press(typed.substr(0, typed.size() - 1)).rate = 0;
+        shown.Press(typed.substr(0, typed.size() - 1)).conversion.SetRate(0);
         EXPECT_EQ(ErrorOf([&] { shown.Press(typed.substr(typed.size() - 1)); }),
                   data::error_number::DivisionByZero);
-        shown.rate = 1;
+        shown.conversion.SetRate(1);
         EXPECT_EQ(shown.Press("7+5=").engine.EntryText(), "12") << keys;
     }
 }
 
 TEST(Engine, TakesTypedKeysThatCannotBeConverted) {
     TwoDisplays shown;
-    shown.rate = 0;
+    shown.conversion.SetRate(0);
     for (const char* key : {"1", "2", "n"})
         EXPECT_EQ(ErrorOf([&] { shown.Press(key); }), data::error_number::DivisionByZero) << key;
     EXPECT_EQ(shown.engine.EntryText(), "-12");
     EXPECT_EQ(shown.Lei(), "-12,00");
-    shown.rate = 2;
+    shown.conversion.SetRate(2);
     EXPECT_EQ(shown.Press("+5=").engine.EntryText(), "-7");
 }
 
 TEST(Engine, ShowsTheTypedNumberEvenWhereItCannotBeConverted) {
     TwoDisplays shown;
-    shown.unit = Unit::Currency;
-    shown.rate = 1e308;
+    shown.conversion.TypeIn(Unit::Currency);
+    shown.conversion.SetRate(1e308);
     shown.Press("1");
     EXPECT_EQ(ErrorOf([&] { shown.Press("2"); }), data::error_number::Overflow);
     EXPECT_EQ(shown.Currency(), "12,00") << "an operator takes what is shown";
@@ -358,7 +353,7 @@ TEST(Engine, ShowsTheTypedNumberEvenWhereItCannotBeConverted) {
 TEST(Engine, RefusesANumberWhoseDecimalNoDoubleHolds) {
     TwoDisplays shown;
     shown.Press("5").engine.SetEntry(std::numeric_limits<double>::max());
-    EXPECT_EQ(ErrorOf([&] { shown.ShowValues(); }), data::error_number::Overflow);
+    EXPECT_EQ(ErrorOf([&] { shown.engine.ShowEntry(); }), data::error_number::Overflow);
     EXPECT_EQ(shown.Lei(), "5,00") << "what was shown before";
 }
 
@@ -391,13 +386,13 @@ TEST(Engine, OverflowsInPercentMemoryAndDivision) {
     EXPECT_EQ(ErrorOf([&] { TwoDisplays().Press(huge + "X100000000=MRMRMRMR"); }),
               data::error_number::Overflow);
     TwoDisplays shown;
-    shown.SetDecimals(6);
+    shown.conversion.SetDecimals(6);
     EXPECT_EQ(ErrorOf([&] { shown.Press(huge + "X10000000=/0.000001="); }), data::error_number::Overflow);
 }
 
 TEST(Engine, ARateOfZeroFailsInEveryKeyThatShows) {
     TwoDisplays shown;
-    shown.rate = 0;
+    shown.conversion.SetRate(0);
     EXPECT_EQ(ErrorOf([&] { shown.Press("5"); }), data::error_number::DivisionByZero);
     EXPECT_EQ(shown.Lei(), "5,00") << "what came before the division is shown";
     EXPECT_EQ(shown.engine.EntryText(), "5");

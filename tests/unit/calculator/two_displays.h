@@ -3,36 +3,19 @@
 #include <string>
 #include <string_view>
 
+#include "calculator/conversion.h"
 #include "calculator/engine.h"
-#include "data/checked_arithmetic.h"
 #include "forms/grouped_number.h"
 
 namespace tavrin::tests {
 
-enum class Unit { Lei, Currency };
-
-/// The shown side of a calculator without a window: two displays, a rate, a unit, a memory mark and the
-/// division messages, as the window has them.
+/// The shown side of a calculator without a window: the texts of two displays, a memory mark and the division
+/// messages, as the window has them.
 class TwoDisplays : public calculator::EngineListener {
   public:
     explicit TwoDisplays(forms::Locale locale = {}) : locale_(std::move(locale)) {}
 
-    void ShowValues() override {
-        ++refreshes;
-        if (engine.EntryText() == "-0") {
-            lei = currency = 0;
-            return;
-        }
-        const double entered = data::CheckedResult(engine.EntryValue());
-        if (unit == Unit::Lei) {
-            lei = entered;
-            currency = data::CheckedQuotient(entered, rate);
-        } else {
-            currency = entered;
-            lei = data::CheckedResult(entered * rate);
-        }
-    }
-    double ShownValue() const override { return unit == Unit::Lei ? lei : currency; }
+    void ShowValues() override { ++refreshes; }
     void ReportDivisionByZero() override { ++divisionsByZero; }
     void ShowMemoryMark(bool visible) override { memoryMark = visible; }
 
@@ -45,13 +28,8 @@ class TwoDisplays : public calculator::EngineListener {
         return *this;
     }
 
-    void SetDecimals(int decimals) {
-        decimals_ = decimals;
-        engine.SetDecimals(decimals);
-    }
-
-    std::string Lei() const { return Text(lei); }
-    std::string Currency() const { return Text(currency); }
+    std::string Lei() const { return Text(conversion.Lei()); }
+    std::string Currency() const { return Text(conversion.Currency()); }
 
     static calculator::Command CommandOf(char key) {
         using calculator::Command;
@@ -68,10 +46,7 @@ class TwoDisplays : public calculator::EngineListener {
         return Commands[Keys.find(key)];
     }
 
-    double rate = 1;
-    Unit unit = Unit::Lei;
-    double lei = 0;
-    double currency = 0;
+    calculator::Conversion conversion;
     int refreshes = 0;
     int divisionsByZero = 0;
     int ignored = 0;  ///< keys that did nothing
@@ -80,15 +55,14 @@ class TwoDisplays : public calculator::EngineListener {
   private:
     std::string Text(double number) const {
         std::string text;
-        forms::WriteGroupedNumber(text, number, decimals_, locale_);
+        forms::WriteGroupedNumber(text, number, conversion.Decimals(), locale_);
         return text;
     }
 
     forms::Locale locale_;
-    int decimals_ = 2;
 
   public:
-    calculator::Engine engine{*this, locale_.decimalSeparator};
+    calculator::Engine engine{conversion, *this, locale_.decimalSeparator};
 };
 
 }  // namespace tavrin::tests

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <optional>
+#include <string>
 
 #include "data/error.h"
 
@@ -13,6 +15,7 @@ namespace {
 
 using rates::NumberOfRateText;
 using rates::RateCaption;
+using rates::RateOf;
 
 const forms::Locale Romanian{.decimalSeparator = ",", .thousandsSeparator = "."};
 const forms::Locale English{.decimalSeparator = ".", .thousandsSeparator = ","};
@@ -53,6 +56,14 @@ TEST(RateTextTest, WhatIsNoNumberIsATypeMismatch) {
             EXPECT_EQ(error.Number(), data::error_number::TypeMismatch) << text;
         }
     }
+}
+
+TEST(RateTextTest, ARateOfTheDatabaseIsANumberOrATextWithThousands) {
+    EXPECT_EQ(RateOf(data::Value(4.5)), 4.5);
+    EXPECT_EQ(RateOf(data::Value(std::string("37,300.50"))), 37300.5);
+    EXPECT_EQ(RateOf(data::Value(std::string("1,234,567"))), 1234567);
+    EXPECT_EQ(RateOf(data::Value(data::Null{})), std::nullopt);
+    EXPECT_THROW(RateOf(data::Value(std::string("x"))), data::Error);
 }
 
 }  // namespace

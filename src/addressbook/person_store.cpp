@@ -1,7 +1,8 @@
-#include "addressbook/person_list.h"
+#include "addressbook/person_store.h"
 
 #include <algorithm>
 #include <cstdint>
+#include <string>
 #include <utility>
 
 #include "addressbook/text_rules.h"
@@ -17,43 +18,47 @@ bool IsNamed(const data::Value& value, std::string_view name) {
     return Trimmed(value.ToText()) == name;
 }
 
+std::string StatementOf(const PersonSearch& search) {
+    return ListStatement(SearchPattern(search.nume), SearchPattern(search.prenume));
+}
+
 }  // namespace
 
-void PersonList::Load(std::string_view statement) {
+void PersonStore::Load(const PersonSearch& search) {
     if (IsOpen()) recordset_->Close();
     data::Connection& connection = context_.Database();
     if (recordset_ == nullptr || !mark_.IsCurrent(context_)) {
         recordset_ = connection.Adopt(std::move(recordset_));
         mark_.Set(context_);
     }
-    recordset_->Open(statement);
+    recordset_->Open(StatementOf(search));
 }
 
-void PersonList::Refresh(std::string_view statement) {
+void PersonStore::Refresh(const PersonSearch& search) {
     if (IsCurrent()) {
         recordset_->Requery();
     } else {
-        Load(statement);
+        Load(search);
     }
 }
 
-void PersonList::Release() {
+void PersonStore::Release() {
     recordset_.reset();
 }
 
-data::Recordset& PersonList::Rows() const {
+data::Recordset& PersonStore::Rows() const {
     if (!recordset_) throw data::ObjectNotSet();
     return *recordset_;
 }
 
-void PersonList::MoveTo(int row) {
+void PersonStore::MoveTo(int row) {
     Rows().MoveFirst();
     const std::int64_t last = recordset_->RecordCount();
     const std::int64_t reached = last > 0 ? std::min<std::int64_t>(row, last) : row;
     recordset_->Move(std::max<std::int64_t>(reached, 1) - 1);
 }
 
-void PersonList::ReadColumns(Person& person, std::size_t count) const {
+void PersonStore::ReadColumns(Person& person, std::size_t count) const {
     for (std::size_t column = 0; column < count; ++column) {
         const data::Value value = Rows().Field(Columns[column]);
         if (value.IsNull()) throw data::RuntimeError(data::error_number::InvalidUseOfNull);
@@ -61,9 +66,22 @@ void PersonList::ReadColumns(Person& person, std::size_t count) const {
     }
 }
 
-void PersonList::DemandNames() const {
+void PersonStore::DemandNames() const {
     Person person;
     ReadColumns(person, FirstDetailColumn);
+}
+
+void PersonStore::Add(const Person& person) const {
+    context_.Database().Execute(InsertStatement(person));
+}
+
+void PersonStore::Change(const Person& person) const {
+    mark_.Demand(context_);
+    context_.Database().Execute(UpdateStatement(person));
+}
+
+void PersonStore::Remove(std::string_view nume, std::string_view prenume) const {
+    context_.Database().Execute(DeleteStatement(nume, prenume));
 }
 
 int FindPerson(const data::Table& persons, std::string_view nume, std::string_view prenume) {

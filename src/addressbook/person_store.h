@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "addressbook/addressbook_statements.h"
@@ -10,25 +11,30 @@
 
 namespace tavrin::addressbook {
 
-/// The list of persons as one recordset that lives as long as its window: opened, requeried and walked, but
-/// never written through. Rows are counted from 1, as the window's grid counts them. It is opened on the
-/// host's connection of that moment. Before the first Load, and after Release, every use fails with error 91;
-/// what the provider refuses comes out as data::Error.
-class PersonList {
-  public:
-    explicit PersonList(const shell::HostContext& context) : context_(context) {}
+/// Whom the list is to show, as the search boxes have it: blank for everybody, "/" for any text.
+struct PersonSearch {
+    std::string nume;
+    std::string prenume;
+};
 
-    /// Closes what was open, and opens the statement.
-    void Load(std::string_view statement);
+/// The persons in the host's database: the list of those that a search finds, and what changes them. The list
+/// is one recordset that lives as long as its window: opened, requeried and walked, but never written
+/// through. Rows are counted from 1, as the window's grid counts them. It is opened on the host's connection
+/// of that moment. Before the first Load, and after Release, every use of it fails with error 91; what the
+/// provider refuses comes out as data::Error.
+class PersonStore {
+  public:
+    explicit PersonStore(const shell::HostContext& context) : context_(context) {}
+
+    /// Closes what was open, and lists whom the search finds.
+    void Load(const PersonSearch& search);
     /// Runs again what is open. A list that is not, or that was opened on a connection which is not the
     /// host's any more, is loaded.
-    void Refresh(std::string_view statement);
+    void Refresh(const PersonSearch& search);
     void Release();
 
     /// Whether the list is open, and where a statement would run now.
     bool IsCurrent() const { return IsOpen() && mark_.IsCurrent(context_); }
-    /// \throws data::Error 3709 where a statement would run on another connection than the list's
-    void DemandConnection() const { mark_.Demand(context_); }
     /// An unopened list has none.
     bool HasRows() const { return IsOpen() && recordset_->HasRows(); }
     data::TablePtr ReadAll() { return Rows().ReadAll(); }
@@ -42,6 +48,13 @@ class PersonList {
     void Read(Person& person) const { ReadColumns(person, Columns.size()); }
     /// \throws data::Error 94 where no statement could name the current row, because a name is NULL
     void DemandNames() const;
+
+    /// A new person belongs into whatever book the host is at.
+    void Add(const Person& person) const;
+    /// The details of the person of that name, in the book that the list was read from.
+    /// \throws data::Error 91 without a connection, 3709 where the host has turned to another one
+    void Change(const Person& person) const;
+    void Remove(std::string_view nume, std::string_view prenume) const;
 
   private:
     bool IsOpen() const { return recordset_ != nullptr && recordset_->IsOpen(); }
