@@ -33,7 +33,7 @@ void ToolButton::SetChecked(bool checked) {
 Color ToolButton::FaceColor() const {
     if (look_ == ToolLook::Sunken) return scheme::FacePressed;
     if (look_ == ToolLook::Raised || HasFocus()) return scheme::FaceHot;
-    return checked_ ? scheme::SelectionWithoutFocus : BackColor();
+    return checked_ ? scheme::Checked : BackColor();
 }
 
 void ToolButton::Draw(Surface& surface) const {

@@ -10,4 +10,12 @@ inline constexpr int FieldHeight = 330;   ///< text boxes, combo boxes, date pic
 inline constexpr int ButtonHeight = 420;  ///< buttons with a caption
 inline constexpr int LabelHeight = 240;   ///< one line of text
 
+/// The next multiple of Unit.
+constexpr int RoundedUp(int length) {
+    return (length + Unit - 1) / Unit * Unit;
+}
+constexpr int RoundedDown(int length) {
+    return length / Unit * Unit;
+}
+
 }  // namespace tavrin::shell::layout

@@ -243,7 +243,7 @@ LRESULT ComboPeer::OnDrawItem(const Message& message) {
     const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam);
     if (item.itemState & ODS_COMBOBOXEDIT) return TRUE;  // the closed field is painted as a whole
     const bool selected = (item.itemState & ODS_SELECTED) != 0;
-    SetDCBrushColor(item.hDC, selected ? forms::scheme::Selection : control_.BackColor());
+    SetDCBrushColor(item.hDC, selected ? forms::scheme::CurrentRow : control_.BackColor());
     FillRect(item.hDC, &item.rcItem, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
     const int index = static_cast<int>(item.itemID);
     if (index < 0 || index >= control_.ListCount()) return TRUE;
