@@ -25,6 +25,7 @@ inline constexpr Color Text = 0x9CE69C;          ///< labels, captions
 inline constexpr Color Value = Green;            ///< what the user may change or read off
 inline constexpr Color TextDisabled = 0x9A9A9A;  ///< legible on a button and on a selected row
 inline constexpr Color Focus = Green;            ///< the frame around the focused control
+inline constexpr Color FocusOnPage = 0x008000;   ///< the same around a white page, which it does not outshine
 inline constexpr Color CurrentRow = 0x006C00;    ///< of a grid or a list, three to one against the others
 inline constexpr Color CurrentRowDisabled = 0x5A5A5A;
 inline constexpr Color TextOfCurrentRowDisabled = 0xE0E0E0;

@@ -61,17 +61,14 @@ void Grid::DrawHeader(Surface& surface, const GridViewport& view) const {
 
 void Grid::DrawRow(Surface& surface, const GridViewport& view, int row) const {
     const Rect line = view.RowArea(row);
-    const int right = std::min(view.cells.Right(), view.columns.empty() ? 0 : view.columns.back().Right());
-    const Rect filled{line.left, line.top, right - line.left, line.height};
     if (row == row_) {
-        surface.FillRectangle(filled,
-                              IsEffectivelyEnabled() ? scheme::CurrentRow : scheme::CurrentRowDisabled);
+        surface.FillRectangle(line, IsEffectivelyEnabled() ? scheme::CurrentRow : scheme::CurrentRowDisabled);
     }
     for (const GridViewport::Strip& strip : view.columns) {
         const std::string text = TextMatrix(row, strip.column);
         surface.DrawText(text, CellOf(line, strip).Inset(look::Padding, 0), StyleOfCell(row, strip, text));
     }
-    look::DrawBottomEdge(surface, filled, scheme::GridLine);
+    look::DrawBottomEdge(surface, line, scheme::GridLine);
 }
 
 TextStyle Grid::StyleOfCell(int row, const GridViewport::Strip& strip, std::string_view text) const {

@@ -54,6 +54,11 @@ struct GridViewport {
 
     static constexpr int Frame = 30;  ///< around everything
 
+    /// Of a grid that shows columns of that total width and so many whole rows under its header.
+    static constexpr Size SizeFor(int columnsWidth, int rows, int rowHeight) {
+        return {columnsWidth + 2 * Frame, (rows + 1) * rowHeight + 2 * Frame};
+    }
+
     explicit GridViewport(const GridExtent& extent);
 
     /// Empty for a row out of sight; row 0 is the header.

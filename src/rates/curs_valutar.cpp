@@ -87,13 +87,13 @@ void CursValutar::PlaceControls() {
 void CursValutar::FitToCurrencies() {
     using forms::GridViewport;
     const int currencies = std::max(1, currencyNames_.UpperBound() - CurrencyNames::FirstCurrency + 1);
-    const int wanted = layout::RoundedUp(DayWidth + currencies * CurrencyWidth + 2 * GridViewport::Frame +
-                                         forms::ScrollBar::Thickness);
+    const forms::Size whole =
+        GridViewport::SizeFor(DayWidth + currencies * CurrencyWidth, DaysInSight, Grid.RowHeight());
+    const int wanted = layout::RoundedUp(whole.width + forms::ScrollBar::Thickness);
     const int screen = OwnerDesktop().ScreenSize().width;
     const int room = screen - OwnerDesktop().FrameSize(Border()).width - SideWidth - Margins;
     const int width = std::min(wanted, layout::RoundedDown(room));
-    const int barHeight = width < wanted ? forms::ScrollBar::Thickness : 0;
-    const int height = (DaysInSight + 1) * Grid.RowHeight() + 2 * GridViewport::Frame + barHeight;
+    const int height = whole.height + (width < wanted ? forms::ScrollBar::Thickness : 0);
     Grid.SetBounds({0, 0, width, height});
     fraGrid.SetBounds({layout::Margin, layout::Margin, width, height});
     PlaceBesideGrid();

@@ -46,6 +46,7 @@ class CursValutarDetaliu : public forms::Form {
     enum class Step { Up, Down };
 
     void PlaceControls();
+    void FitToCurrencies();
     void ConnectEvents();
     void FillGrid();
 
