@@ -22,6 +22,7 @@ inline constexpr Color FacePressed = 0x181818;  ///< held down
 inline constexpr Color Border = 0x707070;  ///< of fields and buttons, three to one against what it divides
 inline constexpr Color GridLine = 0x303030;
 inline constexpr Color Text = 0x9CE69C;          ///< labels, captions
+inline constexpr Color LabelText = 0x74AA74;     ///< of a label beside a value, which it leaves in front
 inline constexpr Color Value = Green;            ///< what the user may change or read off
 inline constexpr Color TextDisabled = 0x9A9A9A;  ///< legible on a button and on a selected row
 inline constexpr Color Focus = Green;            ///< the frame around the focused control

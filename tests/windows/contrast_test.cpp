@@ -188,6 +188,7 @@ TEST_F(ContrastTest, MarkersStandOutFromWhatTheyMark) {
     };
     for (const auto& [marker, beside] : markers)
         EXPECT_GE(Contrast(marker, beside), LeastContrastOfShapes) << std::hex << marker << " on " << beside;
+    EXPECT_GT(Contrast(scheme::Value, scheme::LabelText), 1.5) << "labels stay behind their values";
     EXPECT_LT(Contrast(scheme::FocusOnPage, scheme::Window), Contrast(scheme::Focus, scheme::Window));
 }
 
