@@ -37,7 +37,7 @@ constexpr int DisplayHeight = 780;
 constexpr int MarkWidth = 240;
 constexpr int UnitListWidth = 1140;
 constexpr int PrecisionListWidth = 1500;
-constexpr double DisplayPoints = 22;
+constexpr double DisplayPoints = 27;  // as large as the display is high
 
 constexpr int DisplaysTop = layout::Margin + TopRowHeight + layout::Unit;
 constexpr int ListsTop = DisplaysTop + 2 * (DisplayHeight + layout::Unit) + layout::Unit;
@@ -330,8 +330,21 @@ void FrmCalculator::Press(Command command) {
 }
 
 void FrmCalculator::PressAndFocus(Command command) {
+    ReleaseKeys();
+    if (KeyButton* button = KeyOf(command)) button->SetStruck(true);
     Press(command);
     if (KeyButton* button = KeyOf(command)) button->SetFocus();
+}
+
+void FrmCalculator::ReleaseKeys() {
+    for (forms::Control* control : AllControls()) {
+        if (auto* button = dynamic_cast<KeyButton*>(control)) button->SetStruck(false);
+    }
+}
+
+void FrmCalculator::OnDeactivate() {
+    ReleaseKeys();
+    KeepOnTop();
 }
 
 KeyButton* FrmCalculator::KeyOf(Command command) {

@@ -57,8 +57,9 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
   protected:
     void OnLoad() override;
     void OnActivate() override { KeepOnTop(); }
-    void OnDeactivate() override { KeepOnTop(); }
+    void OnDeactivate() override;
     void OnKeyDown(int& keyCode, forms::Modifiers modifiers) override;
+    void OnKeyUp() override { ReleaseKeys(); }
     void OnMouseDown(const forms::MouseInput& input) override;
 
   private:
@@ -85,6 +86,8 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     void Key_KeyPress(char32_t& character);
     void Press(Command command);
     void PressAndFocus(Command command);
+    /// No key is held down any more.
+    void ReleaseKeys();
     KeyButton* KeyOf(Command command);
 
     shell::Module& module_;

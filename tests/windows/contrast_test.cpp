@@ -48,10 +48,6 @@ forms::Point AnchorOf(const Drawn& text) {
     return {x, area.top + area.height / 2};
 }
 
-forms::Point MiddleOf(const forms::Rect& area) {
-    return {area.left + area.width / 2, area.top + area.height / 2};
-}
-
 /// What was filled last at a place before the drawing of that number; `own` is the ground that a frame
 /// encloses.
 Color BackgroundAt(const std::vector<Drawn>& drawn, std::size_t number, forms::Point place, Color otherwise,
@@ -133,8 +129,7 @@ class ContrastTest : public EveryWindowTest {
         for (std::size_t i = 0; i < drawn.size(); ++i) {
             const bool isFrame = drawn[i].kind == Drawing::Frame;
             if ((!isFrame && drawn[i].kind != Drawing::Polyline) || IsQuiet(drawn[i].color)) continue;
-            const forms::Point place =
-                isFrame ? forms::Point{drawn[i].area.left, drawn[i].area.top} : MiddleOf(drawn[i].area);
+            const forms::Point place{drawn[i].area.left, drawn[i].area.top};
             const bool isAround = isFrame && drawn[i].area == whole;
             const Color beside = isAround ? control.OwnerForm().BackColor()
                                           : BackgroundAt(drawn, i, place, control.BackColor(),
