@@ -30,7 +30,8 @@ inline constexpr Color FocusOnPage = 0x008000;   ///< the same around a white pa
 inline constexpr Color CurrentRow = 0x006C00;    ///< of a grid or a list, three to one against the others
 inline constexpr Color CurrentRowDisabled = 0x5A5A5A;
 inline constexpr Color TextOfCurrentRowDisabled = 0xE0E0E0;
-inline constexpr Color Zero = 0x00A800;     ///< a number that says that there is none
+inline constexpr Color Dimmed = 0x00A800;   ///< of a value that steps back, a calendar's title
+inline constexpr Color Zero = Dimmed;       ///< a number that says that there is none
 inline constexpr Color Checked = 0x003800;  ///< behind a tool button that is on
 }  // namespace scheme
 

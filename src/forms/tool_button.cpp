@@ -9,7 +9,7 @@ namespace tavrin::forms {
 
 namespace {
 
-constexpr int PicturePadding = 75;  ///< twips
+constexpr int PicturePadding = 45;  ///< twips
 constexpr int SunkenShift = 15;     ///< twips to the right and down
 constexpr int MarkHeight = 30;      ///< twips; the line under the picture of a button that is on
 

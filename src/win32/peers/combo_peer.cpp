@@ -23,6 +23,7 @@ namespace {
 constexpr UINT ChosenMessage = WM_APP + 1;
 static_assert(ChosenMessage < WM_CTLCOLOREDIT + Reflected, "apart from the reflected messages");
 
+constexpr int ListBorders = 8;  ///< pixels; one too few brings a scroll bar to a list that would fit
 constexpr int WholeField = -1;  ///< the item number of the closed field in CB_SETITEMHEIGHT
 
 DWORD StyleOf(forms::ComboStyle style) {
@@ -184,7 +185,7 @@ void ComboPeer::Place() {
     const int entryHeight =
         PixelScale().ToPixels(control_.TextFont().points * forms::TwipsPerInch / 72 * 1.5);
     SendMessageW(Handle(), CB_SETITEMHEIGHT, 0, entryHeight);
-    const int height = Height(place) + entryHeight * forms::ComboBox::EntriesInSight + 2;
+    const int height = Height(place) + entryHeight * forms::ComboBox::EntriesInSight + ListBorders;
     SetWindowPos(Handle(), nullptr, place.left, place.top, Width(place), height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
     FitClosedHeight(Height(place));
