@@ -69,8 +69,8 @@ TEST(IconTest, TheCoinOfANewCurrencyIsOpenInsideInTheSizeOfAButton) {
     constexpr int Side = 20;
     const std::vector<int> middle = Stretches(Picture(Icon::AddCurrency, Side, 15), Side, 12);
     ASSERT_EQ(middle.size(), 5U) << "rim, inside, stroke, inside, rim";
-    EXPECT_GE(middle[1], 3);
-    EXPECT_GE(middle[3], 3);
+    EXPECT_GE(middle[1], 4);
+    EXPECT_GE(middle[3], 4);
 }
 
 TEST(IconTest, NoTwoIconsLookAlikeInTheSmallestSize) {
