@@ -157,6 +157,7 @@ void AgendaDesign::PlaceFields() {
         const ColumnPlace place = PlaceOf(look.column);
         Label2[box].SetCaption(look.caption);
         Label2[box].SetBackColor(forms::Black);
+        Label2[box].SetForeColor(forms::scheme::LabelText);
         Label2[box].SetBounds({place.labelLeft, look.top, place.labelWidth, layout::FieldHeight});
         TextBoxes[box].SetBounds({place.boxLeft, look.top, place.boxWidth, layout::FieldHeight});
         TextBoxes[box].SetFont({.face = "Arial"});

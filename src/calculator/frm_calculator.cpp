@@ -34,7 +34,7 @@ constexpr int DisplayHeight = 780;
 constexpr int MarkWidth = 240;
 constexpr int UnitListWidth = 1140;
 constexpr int PrecisionListWidth = 1500;
-constexpr double DisplayPoints = 22;
+constexpr double DisplayPoints = 27;  // as large as the display is high
 
 constexpr int DisplaysTop = layout::Margin + TopRowHeight + layout::Unit;
 constexpr int ListsTop = DisplaysTop + 2 * (DisplayHeight + layout::Unit) + layout::Unit;
@@ -316,14 +316,27 @@ void FrmCalculator::Press(Command command) {
 }
 
 void FrmCalculator::PressAndFocus(Command command) {
+    ReleaseKeys();
+    KeyButton* const button = KeyOf(command);
+    if (button != nullptr) button->SetStruck(true);
     Press(command);
     // The point alone is typed with the focus where it was.
-    KeyButton* button = KeyOf(command);
     if (button != nullptr && button != &Decimal) button->SetFocus();
 }
 
 std::optional<forms::Copied> FrmCalculator::Copy() const {
     return forms::Copied{(ValLei.Active() ? ValLei : ValValuta).Text()};
+}
+
+void FrmCalculator::ReleaseKeys() {
+    for (forms::Control* control : AllControls()) {
+        if (auto* button = dynamic_cast<KeyButton*>(control)) button->SetStruck(false);
+    }
+}
+
+void FrmCalculator::OnDeactivate() {
+    ReleaseKeys();
+    KeepOnTop();
 }
 
 void FrmCalculator::OnKeyDown(int& keyCode, forms::Modifiers /*modifiers*/) {

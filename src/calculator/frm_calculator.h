@@ -59,10 +59,11 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
   protected:
     void OnLoad() override;
     void OnActivate() override { KeepOnTop(); }
-    void OnDeactivate() override { KeepOnTop(); }
+    void OnDeactivate() override;
     void OnKeyDown(int& keyCode, forms::Modifiers modifiers) override;
     /// The number of the lit display, as it is shown.
     std::optional<forms::Copied> Copy() const override;
+    void OnKeyUp() override { ReleaseKeys(); }
     void OnMouseDown(const forms::MouseInput& input) override;
 
   private:
@@ -88,6 +89,8 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     void Press(Command command);
     void PressAndFocus(Command command);
     KeyButton*& KeyOf(Command command) { return keys_[static_cast<std::size_t>(command)]; }
+    /// No key is held down any more.
+    void ReleaseKeys();
 
     shell::Module& module_;
     std::array<KeyButton*, CommandCount> keys_{};  ///< by command; no key takes back, but a character does

@@ -7,17 +7,26 @@ namespace tavrin::calculator {
 /// What a key is for; keys of one kind look alike.
 enum class KeyKind { Digit, Operator, Result, Clear, Memory };
 
-/// A key of the calculator: a button whose cap tells its kind by colour and size.
+/// A key of the calculator: a button whose cap tells its kind by colour. While it is held down, by the mouse
+/// or by the keyboard, cap and caption change their colours.
 class KeyButton : public forms::CommandButton {
   public:
     using CommandButton::CommandButton;
 
     void SetKind(KeyKind kind);
+    /// Whether the keyboard holds the key down.
+    bool IsStruck() const { return isStruck_; }
+    void SetStruck(bool struck);
     void Draw(forms::Surface& surface) const override;
+
+  protected:
+    forms::KeyOutcome DefaultKeyDown(int keyCode, forms::Modifiers modifiers) override;
 
   private:
     forms::Color FaceColor() const;
+    bool IsHeldDown() const { return isStruck_ || (IsPressed() && IsHot()); }
 
+    bool isStruck_ = false;
     KeyKind kind_ = KeyKind::Digit;
 };
 

@@ -9,6 +9,7 @@
 #include "data/rounding.h"
 #include "data/value.h"
 #include "forms/chart_layout.h"
+#include "forms/number_format.h"
 
 namespace tavrin::forms {
 
@@ -26,9 +27,24 @@ constexpr double PointsNeedColumn =
 constexpr Color AxisColor = 0x808080;
 constexpr Color TickLineColor = 0x2C2C2C;
 constexpr Color LineColor = Green;
+constexpr double MarkRadius = 90;
+constexpr double MarkWidth = 30;
 
-std::string TickText(double value) {
-    return data::ShortestDecimal(data::RoundHalfEven(value, TickDecimals));
+std::string TickText(double value, bool grouped) {
+    const std::string text = data::ShortestDecimal(data::RoundHalfEven(value, TickDecimals));
+    if (!grouped) return text;
+    const std::size_t point = text.find('.');
+    const int decimals = point == std::string::npos ? 0 : static_cast<int>(text.size() - point - 1);
+    return FormatNumber(text, {.decimals = decimals, .grouping = 3, .leadingZero = true});
+}
+
+std::array<PointF, PointCorners> CircleAround(const PointF& middle, double radius) {
+    std::array<PointF, PointCorners> outline;
+    for (std::size_t i = 0; i < outline.size(); ++i) {
+        const double angle = 2 * std::numbers::pi * static_cast<double>(i) / PointCorners;
+        outline[i] = {middle.x + radius * std::cos(angle), middle.y + radius * std::sin(angle)};
+    }
+    return outline;
 }
 
 /// Draws one chart; lives for one call of Draw.
@@ -37,15 +53,21 @@ class ChartPainter {
     ChartPainter(Surface& surface, const Chart& chart) : surface_(surface), chart_(chart) {
         text_.font = chart.TextFont();
         text_.color = chart.ForeColor();
+        title_ = text_;
+        title_.font.bold = true;
+        if (!chart.Title().empty())
+            titleHeight_ = surface.MeasureText(chart.Title(), title_.font).height + Gap;
         ticks_ = AxisTicks(chart.Minimum(), chart.Maximum(), MostTicks);
         scale_ = {PlotArea(), chart.Minimum(), chart.Maximum(), chart.RowCount()};
     }
 
     void Paint() {
         surface_.FillRectangle({0, 0, chart_.Bounds().width, chart_.Bounds().height}, chart_.BackColor());
+        PaintTitle();
         PaintValueAxis();
         PaintRowAxis();
         PaintLine();
+        PaintMark();
     }
 
   private:
@@ -53,12 +75,21 @@ class ChartPainter {
         const int lineHeight = surface_.MeasureText("0", text_.font).height;
         int widest = 0;
         for (const double tick : ticks_)
-            widest = std::max(widest, surface_.MeasureText(TickText(tick), text_.font).width);
+            widest = std::max(widest, surface_.MeasureText(TextOf(tick), text_.font).width);
         const int left = widest + TickLength + 2 * Gap;
-        const int top = lineHeight / 2 + Gap;
+        const int top = titleHeight_ + lineHeight / 2 + Gap;
         const Rect& area = chart_.Bounds();
         return {left, top, std::max(0, area.width - left - 2 * Gap),
                 std::max(0, area.height - top - lineHeight - TickLength - 2 * Gap)};
+    }
+
+    std::string TextOf(double tick) const { return TickText(tick, chart_.IsGrouped()); }
+
+    void PaintTitle() {
+        if (titleHeight_ == 0) return;
+        const int left = scale_.plot.left;
+        surface_.DrawText(chart_.Title(), {left, Gap, std::max(0, scale_.plot.width), titleHeight_ - Gap},
+                          title_);
     }
 
     void PaintValueAxis() {
@@ -70,8 +101,8 @@ class ChartPainter {
             const int y = static_cast<int>(std::lround(scale_.ValueY(tick)));
             surface_.FillRectangle(
                 {scale_.plot.left - TickLength, y, TickLength + scale_.plot.width, hairline}, TickLineColor);
-            surface_.DrawText(TickText(tick),
-                              {0, y - height / 2, scale_.plot.left - TickLength - Gap, height}, style);
+            surface_.DrawText(TextOf(tick), {0, y - height / 2, scale_.plot.left - TickLength - Gap, height},
+                              style);
         }
         surface_.FillRectangle({scale_.plot.left, scale_.plot.top, hairline, scale_.plot.height}, AxisColor);
         surface_.FillRectangle({scale_.plot.left, scale_.plot.Bottom(), scale_.plot.width, hairline},
@@ -115,18 +146,27 @@ class ChartPainter {
         run.clear();
     }
 
-    void PaintPoint(const PointF& at) {
-        std::array<PointF, PointCorners> outline;
-        for (std::size_t i = 0; i < outline.size(); ++i) {
-            const double angle = 2 * std::numbers::pi * static_cast<double>(i) / PointCorners;
-            outline[i] = {at.x + PointRadius * std::cos(angle), at.y + PointRadius * std::sin(angle)};
-        }
-        surface_.FillPolygon(outline, LineColor);
+    void PaintPoint(const PointF& at) { surface_.FillPolygon(CircleAround(at, PointRadius), LineColor); }
+
+    /// A ring around the point, and a line down to its label.
+    void PaintMark() {
+        const int row = chart_.MarkedRow();
+        if (row < 1 || row > chart_.RowCount() || !chart_.Row(row).value) return;
+        const PointF at{scale_.RowX(row), scale_.ValueY(*chart_.Row(row).value)};
+        const std::array<PointF, 2> down{
+            {{at.x, at.y + MarkRadius}, {at.x, static_cast<double>(scale_.plot.Bottom())}}};
+        if (down[0].y < down[1].y) surface_.DrawPolyline(down, surface_.PixelSize(), AxisColor);
+        const auto circle = CircleAround(at, MarkRadius);
+        std::vector<PointF> ring(circle.begin(), circle.end());
+        ring.push_back(ring.front());
+        surface_.DrawPolyline(ring, MarkWidth, chart_.ForeColor());
     }
 
     Surface& surface_;
     const Chart& chart_;
     TextStyle text_;
+    TextStyle title_;
+    int titleHeight_ = 0;
     std::vector<double> ticks_;
     ChartScale scale_;
 };
@@ -157,6 +197,22 @@ void Chart::SetData(int row, double value) {
 void Chart::SetValueScale(double minimum, double maximum) {
     minimum_ = minimum;
     maximum_ = maximum;
+    Repaint();
+}
+
+void Chart::SetTitle(std::string title) {
+    title_ = std::move(title);
+    Repaint();
+}
+
+void Chart::SetGrouped(bool grouped) {
+    grouped_ = grouped;
+    Repaint();
+}
+
+void Chart::SetMarkedRow(int row) {
+    if (markedRow_ == row) return;
+    markedRow_ = row;
     Repaint();
 }
 

@@ -34,6 +34,16 @@ class Chart : public Control {
     double Minimum() const { return minimum_; }
     double Maximum() const { return maximum_; }
 
+    /// What is drawn, in words, above the plot; empty for none.
+    void SetTitle(std::string title);
+    const std::string& Title() const { return title_; }
+    /// Whether the numbers of the value axis have commas between thousands.
+    void SetGrouped(bool grouped);
+    bool IsGrouped() const { return grouped_; }
+    /// The row whose value stands out, 0 for none.
+    void SetMarkedRow(int row);
+    int MarkedRow() const { return markedRow_; }
+
     void Draw(Surface& surface) const override;
     AccessibleNode Accessible() const override;
     /// One child a row that has a value.
@@ -48,6 +58,9 @@ class Chart : public Control {
     std::vector<ChartRow> rows_;
     double minimum_ = 0;
     double maximum_ = 0;
+    std::string title_;
+    bool grouped_ = false;
+    int markedRow_ = 0;
 };
 
 }  // namespace tavrin::forms

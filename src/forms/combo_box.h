@@ -27,6 +27,9 @@ class ComboBox : public Control {
     /// -1 while the text is none of the entries that was chosen.
     int ListIndex() const { return listIndex_; }
     /// Raises onClick when the index differs; one that the list lacks chooses nothing (-1).
+    /// As many the open list shows at once; a longer one has a scroll bar.
+    static constexpr int EntriesInSight = 13;
+
     void SetListIndex(int index);
     const std::string& Text() const { return text_; }
     /// In a drop-down list a text that is no entry is ignored; an entry's text chooses the entry.

@@ -258,7 +258,7 @@ void DatePicker::Draw(Surface& surface) const {
         const std::string text = ShownText(i);
         drawnAt_.push_back(x);
         const Rect place{x, look::TextInset, surface.MeasureText(text, style.font).width, height};
-        if (i == active_ && HasFocus()) surface.FillRectangle(place, scheme::Selection);
+        if (i == active_ && HasFocus()) surface.FillRectangle(place, scheme::CurrentRow);
         surface.DrawText(text, place, style);
         x = place.Right();
     }

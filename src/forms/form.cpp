@@ -296,6 +296,10 @@ void Form::HandleActivate() {
     }
 }
 
+void Form::HandleKeyUp() {
+    if (!isOver_) desktop_.Guard({this, nullptr, event::KeyUp}, [this] { OnKeyUp(); });
+}
+
 void Form::HandleDeactivate() {
     const Desktop::DispatchScope scope(desktop_);
     if (!active_) return;

@@ -87,6 +87,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     /// elsewhere has dealt with the key: nothing more happens to it then.
     KeyOutcome HandleKeyDown(int keyCode, Modifiers modifiers);
     KeyOutcome HandleKeyPress(char32_t character);
+    /// A key came up.
+    void HandleKeyUp();
     /// Alt and a letter: focuses and clicks the button of that accelerator. False where there is none.
     bool HandleAccelerator(char32_t letter);
     void HandleActivate();
@@ -123,6 +125,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     /// What Ctrl+C takes along: by default what the active control has.
     virtual std::optional<Copied> Copy() const;
     virtual void OnKeyDown(int& keyCode, Modifiers modifiers) { (void)keyCode, (void)modifiers; }
+    virtual void OnKeyUp() {}
     virtual void OnMouseDown(const MouseInput& input) { (void)input; }
     virtual void OnMouseMove(const MouseInput& input) { (void)input; }
 

@@ -137,6 +137,12 @@ void Grid::SetColumnAlignment(int column, Align align) {
     Repaint();
 }
 
+void Grid::SetZerosApart(int column) {
+    if (column < 0 || column >= Columns()) return;
+    columns_[static_cast<std::size_t>(column)].setsZerosApart = true;
+    Repaint();
+}
+
 // The current cell.
 
 void Grid::SetRow(int row) {
@@ -164,11 +170,15 @@ void Grid::MoveTo(int row, int column) {
 void Grid::MoveByUser(int row, int column) {
     const int oldRow = row_;
     const int oldColumn = column_;
-    const bool wholeRow = columnSel_ > column_ && column_ == 0 && columnSel_ == Columns() - 1;
+    const bool wholeRow = IsWholeRowMarked();
     MoveTo(row, column);
     // A list whose rows are marked as a whole keeps them so while the user walks up and down.
     if (wholeRow && column_ == oldColumn) columnSel_ = Columns() - 1;
     if (row_ != oldRow || column_ != oldColumn) Raise(event::Change, onChange);
+}
+
+bool Grid::IsWholeRowMarked() const {
+    return columnSel_ > column_ && column_ == 0 && columnSel_ == Columns() - 1;
 }
 
 int Grid::NeighbourColumn(int column, int step) const {

@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "data/table.h"
@@ -40,6 +41,8 @@ class Grid : public Control {
     void SetColumnWidth(int column, int width);
     Align ColumnAlignment(int column) const;
     void SetColumnAlignment(int column, Align align);
+    /// Sets a text "0" of the column apart from the other numbers, dimmer and slanted: it stands for none.
+    void SetZerosApart(int column);
     int RowHeight() const;  ///< twips, the same for every row; follows the font
 
     // The current cell and the selection from it to (RowSel, ColSel).
@@ -94,6 +97,7 @@ class Grid : public Control {
         bool isTitled = false;
         int width = 960;
         Align align = Align::Left;
+        bool setsZerosApart = false;
     };
 
     void SetTitle(int column, std::string title);
@@ -120,6 +124,8 @@ class Grid : public Control {
     void DrawRow(Surface& surface, const GridViewport& view, int row) const;
     void DrawColumnLines(Surface& surface, const GridViewport& view, int bottomRow) const;
     void DrawCurrentCell(Surface& surface, const GridViewport& view) const;
+    TextStyle StyleOfCell(int row, const GridViewport::Strip& strip, std::string_view text) const;
+    bool IsWholeRowMarked() const;
     bool IsSelected(int row, int column) const;
 
     std::vector<int> ShownColumns() const;

@@ -27,10 +27,12 @@ void DrawScrollBar(Surface& surface, const ScrollBar& bar) {
 void Grid::Draw(Surface& surface) const {
     surface.FillRectangle(look::AreaOf(*this), BackColor());
     const GridViewport view = Viewport();
+    surface.FillRectangle(view.headerBand, scheme::Face);
     {
         const ClipScope clip(surface, view.header);
         DrawHeader(surface, view);
     }
+    look::DrawBottomEdge(surface, view.headerBand, scheme::Border);
     {
         const ClipScope clip(surface, view.cells);
         const int bottomRow = std::min(view.BottomRow(), Rows() - 1);
@@ -45,7 +47,6 @@ void Grid::Draw(Surface& surface) const {
 }
 
 void Grid::DrawHeader(Surface& surface, const GridViewport& view) const {
-    surface.FillRectangle(view.header, scheme::Face);
     TextStyle style;
     style.font = TextFont();
     style.font.bold = true;
@@ -56,23 +57,31 @@ void Grid::DrawHeader(Surface& surface, const GridViewport& view) const {
         surface.DrawText(TextMatrix(0, strip.column), cell.Inset(look::Padding, 0), style);
         look::DrawRightEdge(surface, cell, scheme::Border);
     }
-    look::DrawBottomEdge(surface, view.header, scheme::Border);
 }
 
 void Grid::DrawRow(Surface& surface, const GridViewport& view, int row) const {
     const Rect line = view.RowArea(row);
-    const int right = std::min(view.cells.Right(), view.columns.empty() ? 0 : view.columns.back().Right());
-    const Rect filled{line.left, line.top, right - line.left, line.height};
-    if (row == row_) surface.FillRectangle(filled, scheme::CurrentRow);
-    TextStyle style = look::TextStyleOf(*this);
-    for (const GridViewport::Strip& strip : view.columns) {
-        const Rect cell = CellOf(line, strip);
-        if (IsSelected(row, strip.column))
-            surface.FillRectangle(cell, HasFocus() ? scheme::Selection : scheme::SelectionWithoutFocus);
-        style.align = ColumnAlignment(strip.column);
-        surface.DrawText(TextMatrix(row, strip.column), cell.Inset(look::Padding, 0), style);
+    if (row == row_) {
+        surface.FillRectangle(line, IsEffectivelyEnabled() ? scheme::CurrentRow : scheme::CurrentRowDisabled);
     }
-    look::DrawBottomEdge(surface, filled, scheme::GridLine);
+    for (const GridViewport::Strip& strip : view.columns) {
+        const std::string text = TextMatrix(row, strip.column);
+        surface.DrawText(text, CellOf(line, strip).Inset(look::Padding, 0), StyleOfCell(row, strip, text));
+    }
+    look::DrawBottomEdge(surface, line, scheme::GridLine);
+}
+
+TextStyle Grid::StyleOfCell(int row, const GridViewport::Strip& strip, std::string_view text) const {
+    TextStyle style = look::TextStyleOf(*this);
+    style.align = ColumnAlignment(strip.column);
+    const bool isCurrent = row == row_;
+    const bool isEnabled = IsEffectivelyEnabled();
+    if (isCurrent && !isEnabled) style.color = scheme::TextOfCurrentRowDisabled;
+    if (text == "0" && columns_[static_cast<std::size_t>(strip.column)].setsZerosApart) {
+        style.font.italic = true;
+        if (isEnabled && !isCurrent) style.color = scheme::Zero;
+    }
+    return style;
 }
 
 void Grid::DrawColumnLines(Surface& surface, const GridViewport& view, int bottomRow) const {
@@ -81,10 +90,12 @@ void Grid::DrawColumnLines(Surface& surface, const GridViewport& view, int botto
         look::DrawRightEdge(surface, {strip.left, view.cells.top, strip.width, height}, scheme::GridLine);
 }
 
+/// A line beneath the cell that the arrows move. The frame of the focus is the grid's alone.
 void Grid::DrawCurrentCell(Surface& surface, const GridViewport& view) const {
     const Rect cell = view.CellArea(row_, column_);
-    if (row_ > 0 && HasFocus() && !cell.IsEmpty())
-        surface.DrawFrame(cell, scheme::Focus, look::PixelsOf(surface, look::FocusWidth / 2));
+    if (row_ == 0 || !HasFocus() || IsWholeRowMarked() || cell.IsEmpty()) return;
+    surface.FillRectangle({cell.left, cell.Bottom() - look::FocusWidth, cell.width, look::FocusWidth},
+                          scheme::Focus);
 }
 
 bool Grid::IsSelected(int row, int column) const {

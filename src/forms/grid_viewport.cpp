@@ -48,6 +48,7 @@ int ScrollBar::FirstAt(int along) const {
 GridViewport::GridViewport(const GridExtent& extent) : rowHeight(std::max(1, extent.rowHeight)) {
     PlaceBars(extent);
     wholeRows = std::max(1, cells.height / rowHeight);
+    cells.height = std::min(cells.height, wholeRows * rowHeight);
     const int lastTopRow = std::max(1, extent.rows - wholeRows + 1);
     topRow = std::clamp(extent.topRow, 1, lastTopRow);
     rowBar.total = extent.rows;
@@ -77,6 +78,8 @@ void GridViewport::PlaceBars(const GridExtent& extent) {
         }
     }
     header = {area.left, area.top, area.width, std::min(rowHeight, area.height)};
+    headerBand = header;
+    if (hasRowBar) headerBand.width += barWidth;
     cells = {area.left, header.Bottom(), area.width, std::max(0, area.height - header.height)};
     rowBar.direction = ScrollBar::Direction::Vertical;
     if (hasRowBar) rowBar.track = {area.Right(), cells.top, barWidth, cells.height};

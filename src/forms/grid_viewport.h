@@ -40,8 +40,9 @@ struct GridExtent {
     int columnsPassed = 0;    ///< how many columns that are not hidden lie to the left of what is in sight
 };
 
-/// How a grid divides its area: a header line, the cells, and the scroll bars that are needed. Places are
-/// twips from the grid's top left corner. Scroll positions beyond the end are drawn back to it.
+/// How a grid divides its area: a header line, the cells, and the scroll bars that are needed. Rows are shown
+/// whole or not at all, as long as there is room for one. Places are twips from the grid's top left corner.
+/// Scroll positions beyond the end are drawn back to it.
 struct GridViewport {
     /// A column in sight; the last one may reach out of the cells' area.
     struct Strip {
@@ -52,6 +53,11 @@ struct GridViewport {
     };
 
     static constexpr int Frame = 30;  ///< around everything
+
+    /// Of a grid that shows columns of that total width and so many whole rows under its header.
+    static constexpr Size SizeFor(int columnsWidth, int rows, int rowHeight) {
+        return {columnsWidth + 2 * Frame, (rows + 1) * rowHeight + 2 * Frame};
+    }
 
     explicit GridViewport(const GridExtent& extent);
 
@@ -65,10 +71,11 @@ struct GridViewport {
     int ColumnAt(int x) const;
     /// The scroll bar at that place, null where there is none.
     const ScrollBar* BarAt(Point place) const;
-    /// The last row that is in sight at least in part; it may be beyond the last of the grid.
+    /// The last row in sight; it may be beyond the last of the grid.
     int BottomRow() const;
 
-    Rect header;
+    Rect header;      ///< above the cells
+    Rect headerBand;  ///< the header's background, which runs on above the scroll bar
     Rect cells;
     int rowHeight = 0;
     int topRow = 1;

@@ -164,9 +164,9 @@ void Remove(Pencil& pencil) {
 
 /// A coin, and a plus sign beside it.
 void AddCurrency(Pencil& pencil) {
-    pencil.Circle(8.5, 14.5, 6.5);
-    pencil.Line({{8.5, 11}, {8.5, 18}});
-    Plus(pencil, 18, 6, 4);
+    pencil.Circle(8.5, 15, 7.5);
+    pencil.Line({{8.5, 11}, {8.5, 19}});
+    Plus(pencil, 18, 5.5, 4);
 }
 
 void ChartIcon(Pencil& pencil) {
@@ -180,11 +180,11 @@ void Exit(Pencil& pencil) {
     pencil.Line({{16, 8}, {20.3, 12}, {16, 16}});
 }
 
-/// A sheet with a folded corner, and an arrow that brings something into it.
+/// A sheet with a folded corner, and a plus sign on it.
 void NewNote(Pencil& pencil) {
-    pencil.Line({{13, 3}, {5, 3}, {5, 21}, {19, 21}, {19, 14}});
-    pencil.Line({{20, 3}, {12, 11}});
-    pencil.Line({{12, 6}, {12, 11}, {17, 11}});
+    pencil.Loop({{5, 3}, {13.5, 3}, {19, 8.5}, {19, 21}, {5, 21}});
+    pencil.Line({{13, 3.5}, {13, 9}, {18.5, 9}}, 1.6);
+    Plus(pencil, 12, 15, 3.5);
 }
 
 /// A diskette.
@@ -196,10 +196,10 @@ void Save(Pencil& pencil) {
 
 /// A large and a small letter.
 void Letters(Pencil& pencil) {
-    pencil.Line({{2, 19}, {8, 5}, {14, 19}});
-    pencil.Line({{4.5, 14}, {11.5, 14}});
-    pencil.Circle(18, 16, 3, 1.8);
-    pencil.Line({{21.5, 12}, {21.5, 20}}, 1.8);
+    pencil.Line({{1.5, 20}, {7.5, 4}, {13.5, 20}});
+    pencil.Line({{4, 14.5}, {11, 14.5}});
+    pencil.Circle(18.2, 15.8, 3.6);
+    pencil.Line({{22, 11.5}, {22, 20.5}});
 }
 
 /// A letter over a broad line.

@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 
+#include "forms/text_box.h"
+
 namespace tavrin::forms::look {
 
 namespace {
@@ -32,13 +34,16 @@ TextStyle TextStyleOf(const Control& control) {
     return style;
 }
 
+Edge EdgeOf(const Control& control, bool hasFocus) {
+    if (hasFocus) return {scheme::Focus, FocusWidth, false};
+    const auto* field = dynamic_cast<const TextBox*>(&control);
+    return {control.IsEffectivelyEnabled() ? scheme::Border : scheme::GridLine, FocusWidth / 2,
+            field != nullptr && field->Locked()};
+}
+
 void DrawBorder(Surface& surface, const Control& control) {
-    if (control.HasFocus()) {
-        surface.DrawFrame(AreaOf(control), scheme::Focus, PixelsOf(surface, FocusWidth));
-    } else {
-        surface.DrawFrame(AreaOf(control), control.IsEffectivelyEnabled() ? scheme::Border : scheme::GridLine,
-                          PixelsOf(surface, FocusWidth / 2));
-    }
+    const Edge edge = EdgeOf(control, control.HasFocus());
+    surface.DrawFrame(AreaOf(control), edge.color, PixelsOf(surface, edge.width));
 }
 
 void DrawField(Surface& surface, const Control& control) {

@@ -21,8 +21,17 @@ int PixelsOf(const Surface& surface, int twips);
 /// Colour, font and state of a control's text.
 TextStyle TextStyleOf(const Control& control);
 
-/// The frame of a field or a button: plain, dimmed while the control is disabled, broad and bright while it
-/// has the focus.
+/// The edge of a field or a button: plain, dimmed while the control is disabled, broad and bright while it
+/// has the focus. A text that is locked has a line beneath it and no frame: it is not there to be written in.
+struct Edge {
+    Color color = scheme::Border;
+    int width = FocusWidth / 2;  ///< twips
+    bool isLine = false;
+    bool operator==(const Edge&) const = default;
+};
+Edge EdgeOf(const Control& control, bool hasFocus);
+
+/// Draws the edge of a control that draws itself.
 void DrawBorder(Surface& surface, const Control& control);
 
 /// A background with the frame around it.

@@ -28,6 +28,7 @@ inline constexpr Event GotFocus{"GotFocus", "intrare"};
 inline constexpr Event LostFocus{"LostFocus", "parasire"};
 inline constexpr Event KeyDown{"KeyDown", "tasta"};
 inline constexpr Event KeyPress{"KeyPress", "tasta"};
+inline constexpr Event KeyUp{"KeyUp", "tasta"};
 inline constexpr Event MouseDown{"MouseDown", "mouse"};
 inline constexpr Event MouseMove{"MouseMove", "mouse"};
 inline constexpr Event MouseUp{"MouseUp", "mouse"};

@@ -9,7 +9,7 @@ namespace tavrin::forms {
 
 namespace {
 
-constexpr int PicturePadding = 75;  ///< twips
+constexpr int PicturePadding = 45;  ///< twips
 constexpr int SunkenShift = 15;     ///< twips to the right and down
 constexpr int MarkHeight = 30;      ///< twips; the line under the picture of a button that is on
 
@@ -33,7 +33,7 @@ void ToolButton::SetChecked(bool checked) {
 Color ToolButton::FaceColor() const {
     if (look_ == ToolLook::Sunken) return scheme::FacePressed;
     if (look_ == ToolLook::Raised || HasFocus()) return scheme::FaceHot;
-    return checked_ ? scheme::SelectionWithoutFocus : BackColor();
+    return checked_ ? scheme::Checked : BackColor();
 }
 
 void ToolButton::Draw(Surface& surface) const {

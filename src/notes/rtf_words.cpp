@@ -226,9 +226,9 @@ constexpr RtfWord Words[] = {
 static_assert(std::ranges::adjacent_find(Words, std::ranges::greater_equal(), &RtfWord::name) ==
               std::end(Words));
 
-constexpr std::size_t LongestName = 18;
+constexpr std::size_t LongestControlWord = 18;
 static_assert(std::ranges::max(Words, {}, [](const RtfWord& word) { return word.name.size(); }).name.size() ==
-              LongestName);
+              LongestControlWord);
 
 /// A power of two, and more than twice as many as there are words.
 constexpr std::size_t Places = 512;
@@ -260,7 +260,7 @@ constexpr std::array<std::uint8_t, Places> Index = MakeIndex();
 }  // namespace
 
 const RtfWord* FindRtfWord(std::string_view name) {
-    if (name.size() > LongestName) return nullptr;
+    if (name.size() > LongestControlWord) return nullptr;
     for (std::size_t place = PlaceOf(name); Index[place] != NoWord; place = (place + 1) % Places) {
         const RtfWord& word = Words[Index[place]];
         if (std::ranges::equal(word.name, name)) return &word;

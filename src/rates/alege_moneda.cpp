@@ -6,6 +6,7 @@
 #include "forms/utf8.h"
 #include "rates/rate_text.h"
 #include "shell/layout.h"
+#include "shell/window_helpers.h"
 
 namespace tavrin::rates {
 
@@ -18,11 +19,10 @@ constexpr int DayColumn = 0;
 constexpr int RateColumn = 1;
 constexpr int DayWidth = 1100;
 constexpr int RateWidth = 1800;
-constexpr int ScrollBarWidth = 340;
-constexpr int GridWidth = DayWidth + RateWidth + ScrollBarWidth;
+constexpr int GridWidth =
+    layout::RoundedUp(DayWidth + RateWidth + 2 * forms::GridViewport::Frame + forms::ScrollBar::Thickness);
 constexpr int GridHeight = 3960;
 constexpr int LabelWidth = 900;
-constexpr int ButtonWidth = (GridWidth - layout::Gap) / 2;
 
 // The buttons' pictures by their numbers in the list.
 constexpr int AcceptPicture = 21;
@@ -56,9 +56,7 @@ void AlegeMoneda::PlaceControls() {
     top += GridHeight + layout::Gap;
     cmdAction[Accept].SetCaption("Accepta");
     cmdAction[Cancel].SetCaption("Renunta");
-    cmdAction[Accept].SetBounds({layout::Margin, top, ButtonWidth, layout::ButtonHeight});
-    cmdAction[Cancel].SetBounds(
-        {layout::Margin + ButtonWidth + layout::Gap, top, ButtonWidth, layout::ButtonHeight});
+    shell::PlaceAnswers(cmdAction[Accept], cmdAction[Cancel], {layout::Margin, top}, GridWidth);
     SetClientSize({GridWidth + 2 * layout::Margin, top + layout::ButtonHeight + layout::Margin});
 }
 
@@ -148,6 +146,7 @@ void AlegeMoneda::ShowRates(data::TablePtr rates) {
     Grid.SetFormatString("^Data|>" + cmbMoneda.Text());
     Grid.SetColumnWidth(DayColumn, DayWidth);
     Grid.SetColumnWidth(RateColumn, RateWidth);
+    Grid.SetZerosApart(RateColumn);
     Grid.SetRow(1);
     Grid.SetCol(DayColumn);
     Grid.SetColSel(RateColumn);

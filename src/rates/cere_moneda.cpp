@@ -3,6 +3,7 @@
 #include "data/error.h"
 #include "rates/curs_valutar.h"
 #include "shell/layout.h"
+#include "shell/window_helpers.h"
 
 namespace tavrin::rates {
 
@@ -13,7 +14,6 @@ namespace layout = shell::layout;
 namespace message = shell::message;
 
 constexpr int FrameWidth = 3600;
-constexpr int ButtonWidth = (FrameWidth - layout::Gap) / 2;
 
 }  // namespace
 
@@ -33,13 +33,13 @@ CereMoneda::CereMoneda(shell::Module& module)
 }
 
 void CereMoneda::PlaceControls() {
-    int top = layout::Gap;
-    const int width = FrameWidth - 2 * layout::Gap;
+    int top = 0;
     lblLabels[0].SetCaption("Introduceti numele monedei dorite");
-    lblLabels[0].SetBounds({layout::Gap, top, width, layout::LabelHeight});
-    top += layout::LabelHeight + layout::Unit;
-    Shape14.SetBounds({layout::Gap, top, width, layout::FieldHeight + layout::Unit});
-    const forms::Rect field = Shape14.Bounds().Inset(layout::Unit / 2);
+    lblLabels[0].SetBounds({0, top, FrameWidth, layout::LabelHeight});
+    top += layout::LabelHeight;
+    // The shape is the field's ground, so that the field has one frame, which shows the focus.
+    const forms::Rect field{0, top, FrameWidth, layout::FieldHeight};
+    Shape14.SetBounds(field);
     for (forms::Control* control :
          {static_cast<forms::Control*>(&txtMoneda), static_cast<forms::Control*>(&cmbMoneda)}) {
         control->SetBounds(field);
@@ -48,15 +48,14 @@ void CereMoneda::PlaceControls() {
         control->SetAccessibleName(lblLabels[0].Caption());
     }
     Shape14.SetBackColor(forms::Black);
-    top += layout::FieldHeight + layout::Unit + layout::Gap;
+    top += layout::FieldHeight;
+    Frame1.SetBordered(false);
     Frame1.SetBounds({layout::Margin, layout::Margin, FrameWidth, top});
 
     const int buttonTop = layout::Margin + top + layout::Gap;
     cmdAction[Accept].SetCaption("Accepta");
-    cmdAction[Accept].SetBounds({layout::Margin, buttonTop, ButtonWidth, layout::ButtonHeight});
     cmdAction[Cancel].SetCaption("Renunta");
-    cmdAction[Cancel].SetBounds(
-        {layout::Margin + ButtonWidth + layout::Gap, buttonTop, ButtonWidth, layout::ButtonHeight});
+    shell::PlaceAnswers(cmdAction[Accept], cmdAction[Cancel], {layout::Margin, buttonTop}, FrameWidth);
     SetClientSize({FrameWidth + 2 * layout::Margin, buttonTop + layout::ButtonHeight + layout::Margin});
 }
 

@@ -1,5 +1,6 @@
 #include "rates/curs_valutar.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -24,11 +25,9 @@ constexpr int DayColumn = 0;
 constexpr int RawDateColumn = 1;
 constexpr int DayWidth = 1100;
 constexpr int CurrencyWidth = 1400;
-constexpr int CurrenciesInSight = 6;
-constexpr int ScrollBarWidth = 340;
-constexpr int GridWidth = DayWidth + CurrenciesInSight * CurrencyWidth + ScrollBarWidth;
-constexpr int GridHeight = 6360;
+constexpr int DaysInSight = 20;
 constexpr int SideWidth = 2220;
+constexpr int Margins = 3 * layout::Margin;  ///< left, right, and between the grid and the buttons
 
 struct ActionLook {
     CursValutar::Action action;
@@ -69,36 +68,58 @@ CursValutar::CursValutar(shell::Module& module)
 }
 
 void CursValutar::PlaceControls() {
-    SetClientSize({GridWidth + SideWidth + 3 * layout::Margin, GridHeight + 2 * layout::Margin});
-    fraGrid.SetBounds({layout::Margin, layout::Margin, GridWidth, GridHeight});
     fraGrid.SetBordered(false);
     fraGrid.SetVisible(false);
-    Grid.SetBounds({0, 0, GridWidth, GridHeight});
     Grid.SetAccessibleName("Curs Valutar");
-
-    const int left = GridWidth + 2 * layout::Margin;
-    int top = layout::Margin;
-    const auto place = [&](forms::Control& control, int height, int gap) {
-        control.SetBounds({left, top, SideWidth, height});
-        top += height + gap;
-    };
     lblLabels[0].SetCaption("De La Data");
     lblLabels[1].SetCaption("La Data");
     dpDataIn.SetAccessibleName("De La Data");
     dpDataFin.SetAccessibleName("La Data");
     cmdRefresh.SetPicture(forms::Icon::Filter);
+    for (const ActionLook& look : Actions) {
+        cmdAction[look.action].SetCaption(look.caption);
+        cmdAction[look.action].SetPicture(look.picture);
+    }
+    FitToCurrencies();
+}
+
+void CursValutar::FitToCurrencies() {
+    using forms::GridViewport;
+    const int currencies = std::max(1, currencyNames_.UpperBound() - CurrencyNames::FirstCurrency + 1);
+    const forms::Size whole =
+        GridViewport::SizeFor(DayWidth + currencies * CurrencyWidth, DaysInSight, Grid.RowHeight());
+    const int wanted = layout::RoundedUp(whole.width + forms::ScrollBar::Thickness);
+    const int screen = OwnerDesktop().ScreenSize().width;
+    const int room = screen - OwnerDesktop().FrameSize(Border()).width - SideWidth - Margins;
+    const int width = std::min(wanted, layout::RoundedDown(room));
+    const int height = whole.height + (width < wanted ? forms::ScrollBar::Thickness : 0);
+    Grid.SetBounds({0, 0, width, height});
+    fraGrid.SetBounds({layout::Margin, layout::Margin, width, height});
+    PlaceBesideGrid();
+    SetClientSize({width + SideWidth + Margins, height + 2 * layout::Margin});
+    if (!Visible()) {
+        CenterOnScreen();
+    } else if (Bounds().left < screen && Bounds().Right() > screen) {
+        MoveTo(screen - Bounds().width, Bounds().top);
+    }
+}
+
+void CursValutar::PlaceBesideGrid() {
+    const int left = fraGrid.Bounds().Right() + layout::Margin;
+    int top = layout::Margin;
+    const auto place = [&](forms::Control& control, int height, int gap) {
+        control.SetBounds({left, top, SideWidth, height});
+        top += height + gap;
+    };
     place(lblLabels[0], layout::LabelHeight, 0);
     place(dpDataIn, layout::FieldHeight, layout::Unit);
     place(lblLabels[1], layout::LabelHeight, 0);
     place(dpDataFin, layout::FieldHeight, layout::Gap);
     place(cmdRefresh, layout::ButtonHeight, 4 * layout::Gap);
-    for (const ActionLook& look : Actions) {
-        cmdAction[look.action].SetCaption(look.caption);
-        cmdAction[look.action].SetPicture(look.picture);
+    for (const ActionLook& look : Actions)
         place(cmdAction[look.action], layout::ButtonHeight, layout::Gap);
-    }
     // The way out stands apart from what changes data.
-    cmdAction[Close].MoveTo(left, layout::Margin + GridHeight - layout::ButtonHeight);
+    cmdAction[Close].MoveTo(left, fraGrid.Bounds().Bottom() - layout::ButtonHeight);
 }
 
 void CursValutar::ConnectEvents() {
@@ -124,7 +145,6 @@ void CursValutar::ShowForm() {
 
 void CursValutar::OnLoad() {
     module_.CreateMessageService();
-    CenterOnScreen();
     const int year = module_.context.workYear;
     for (forms::DatePicker* picker : {&dpDataIn, &dpDataFin}) {
         picker->SetRange(data::ToOleDate({year, 1, 1}), data::ToOleDate({year + 1, 1, 31}));
@@ -153,6 +173,7 @@ bool CursValutar::Filtreaza(bool /*refresh*/) {
     data::TablePtr table = store_.ReadDays(currencies, range_);
     mark_.Set(module_.context);
     currencyNames_ = std::move(currencies);
+    FitToCurrencies();
 
     const std::string day = SelectedDayText();
     const bool hasRows = table != nullptr;
@@ -176,6 +197,7 @@ void CursValutar::BindGrid(data::TablePtr table) {
     Grid.SetColumnWidth(RawDateColumn, 0);
     for (int i = CurrencyNames::FirstCurrency; i <= currencyNames_.UpperBound(); ++i) {
         Grid.SetColumnWidth(i, CurrencyWidth);
+        Grid.SetZerosApart(i);
     }
 }
 

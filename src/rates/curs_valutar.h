@@ -63,6 +63,9 @@ class CursValutar : public forms::Form {
 
   private:
     void PlaceControls();
+    /// Gives the grid the width of all currencies, as far as the screen reaches, and the window with it.
+    void FitToCurrencies();
+    void PlaceBesideGrid();
     void ConnectEvents();
 
     void SetActionsEnabled(bool enabled);

@@ -5,6 +5,7 @@
 #include "data/date.h"
 #include "rates/curs_valutar.h"
 #include "shell/layout.h"
+#include "shell/window_helpers.h"
 
 namespace tavrin::rates {
 
@@ -18,11 +19,8 @@ constexpr int CodeColumn = 0;
 constexpr int ValueColumn = 1;
 constexpr int CodeWidth = 2000;
 constexpr int ValueWidth = 1500;
-constexpr int ScrollBarWidth = 340;
-constexpr int GridWidth = CodeWidth + ValueWidth + ScrollBarWidth;
-constexpr int GridHeight = 3600;
+constexpr int CurrenciesInSight = 11;
 constexpr int LabelWidth = 1740;
-constexpr int ButtonWidth = 1560;
 constexpr int ThousandsGrouping = 3;
 
 bool IsDigit(char32_t character) {
@@ -56,33 +54,35 @@ CursValutarDetaliu::CursValutarDetaliu(shell::Module& module)
 }
 
 void CursValutarDetaliu::PlaceControls() {
-    int top = layout::Margin;
-    lblDescriere.SetBounds({layout::Margin, top, LabelWidth, layout::FieldHeight});
-    const int pickerLeft = layout::Margin + LabelWidth + layout::Unit;
-    DataCurs.SetBounds({pickerLeft, top, GridWidth + layout::Margin - pickerLeft, layout::FieldHeight});
     DataCurs.SetAccessibleName(lblDescriere.Caption());
-    top += layout::FieldHeight + layout::Gap;
-    Grid.SetBounds({layout::Margin, top, GridWidth, GridHeight});
     Grid.SetAccessibleName("Valoare Curs");
-    top += GridHeight + layout::Gap;
-
     cmdAction[Accept].SetCaption("Accepta");
     cmdAction[Accept].SetPicture(forms::Icon::Accept);
     cmdAction[Cancel].SetCaption("Renunta");
     cmdAction[Cancel].SetPicture(forms::Icon::Cancel);
-    const int right = layout::Margin + GridWidth;
-    cmdAction[Cancel].SetBounds({right - ButtonWidth, top, ButtonWidth, layout::ButtonHeight});
-    cmdAction[Accept].SetBounds(
-        {right - 2 * ButtonWidth - layout::Gap, top, ButtonWidth, layout::ButtonHeight});
-    top += layout::ButtonHeight;
-    SetClientSize({GridWidth + 2 * layout::Margin, top + layout::Margin});
-
     txtCursValutar.SetVisible(false);
     txtCursValutar.SetAlignment(forms::Align::Right);
     txtCursValutar.SetFont(Grid.TextFont());
     txtCursValutar.SetBackColor(forms::FocusGrey);
     txtCursValutar.SetForeColor(forms::scheme::Value);
     txtCursValutar.SetAccessibleName("Valoare Curs");
+}
+
+/// The columns fill the grid, whether it needs a scroll bar or not.
+void CursValutarDetaliu::FitToCurrencies() {
+    const forms::Size grid =
+        forms::GridViewport::SizeFor(CodeWidth + ValueWidth, CurrenciesInSight, Grid.RowHeight());
+    const int barWidth = Grid.Rows() - 1 > CurrenciesInSight ? forms::ScrollBar::Thickness : 0;
+    const int width = layout::RoundedUp(grid.width + barWidth);
+    int top = layout::Margin;
+    lblDescriere.SetBounds({layout::Margin, top, LabelWidth, layout::FieldHeight});
+    const int pickerLeft = layout::Margin + LabelWidth + layout::Unit;
+    DataCurs.SetBounds({pickerLeft, top, width + layout::Margin - pickerLeft, layout::FieldHeight});
+    top += layout::FieldHeight + layout::Gap;
+    Grid.SetBounds({layout::Margin, top, width, grid.height});
+    top += grid.height + layout::Gap;
+    shell::PlaceAnswers(cmdAction[Accept], cmdAction[Cancel], {layout::Margin, top}, width);
+    SetClientSize({width + 2 * layout::Margin, top + layout::ButtonHeight + layout::Margin});
 }
 
 void CursValutarDetaliu::ConnectEvents() {
@@ -113,8 +113,9 @@ void CursValutarDetaliu::ShowForm(const CurrencyNames& names, EntryMode mode) {
 void CursValutarDetaliu::OnLoad() {
     module_.CreateMessageService();
     mark_.Set(module_.context);
-    CenterOnScreen();
     FillGrid();
+    FitToCurrencies();
+    CenterOnScreen();
     DataCurs.SetDate(module_.context.workDate);
     const auto* list = module_.Loaded<CursValutar>();
     if (RulesOf(mode_).beginsFromList && list != nullptr) {
@@ -130,6 +131,7 @@ void CursValutarDetaliu::FillGrid() {
     Grid.SetColumnWidth(CodeColumn, CodeWidth);
     Grid.SetColumnWidth(ValueColumn, ValueWidth);
     Grid.SetColumnAlignment(ValueColumn, forms::Align::Right);
+    Grid.SetZerosApart(ValueColumn);
     const auto* list = module_.Loaded<CursValutar>();
     for (int i = CurrencyNames::FirstCurrency; i <= currencyNames_.UpperBound(); ++i) {
         const int row = i - CurrencyNames::FirstCurrency + 1;

@@ -47,6 +47,7 @@ class CursValutarDetaliu : public forms::Form {
     enum class Step { Up, Down };
 
     void PlaceControls();
+    void FitToCurrencies();
     void ConnectEvents();
     void FillGrid();
 

@@ -28,10 +28,10 @@ constexpr int MostChartRows = 100000;
 
 constexpr int NumberWidth = 500;
 constexpr int RateWidth = 1800;
-constexpr int ScrollBarWidth = 340;
-constexpr int GridWidth = NumberWidth + RateWidth + ScrollBarWidth;
+constexpr int GridWidth =
+    layout::RoundedUp(NumberWidth + RateWidth + 2 * forms::GridViewport::Frame + forms::ScrollBar::Thickness);
+constexpr int RowsInSight = 17;
 constexpr int ChartWidth = 9000;
-constexpr int ChartHeight = 5400;
 constexpr int ChoiceWidth = 1800;
 constexpr int RedrawWidth = 2460;
 
@@ -101,26 +101,29 @@ void EvolutieCurs::PlaceControls() {
 
     const int lineTop = fieldTop + layout::FieldHeight + layout::Gap;
     const int areaTop = lineTop + layout::Gap;
-    const forms::Rect chartArea{layout::Margin, areaTop, ChartWidth, ChartHeight};
+    const int height =
+        forms::GridViewport::SizeFor(NumberWidth + RateWidth, RowsInSight, Grid.RowHeight()).height;
+    const forms::Rect chartArea{layout::Margin, areaTop, ChartWidth, height};
     fraGrafic.SetBounds(chartArea);
     fraGrafic.SetBordered(false);
-    MSChart1.SetBounds({0, 0, ChartWidth, ChartHeight});
+    MSChart1.SetBounds({0, 0, ChartWidth, height});
     MSChart1.SetAccessibleName(Caption());
     fraMesaj.SetBounds(chartArea);
     for (forms::Label* message : {&lblMesaj1, &lblMesaj2}) {
-        message->SetBounds(forms::Rect{0, 0, ChartWidth, ChartHeight}.Inset(8 * layout::Margin));
+        message->SetBounds(forms::Rect{0, 0, ChartWidth, height}.Inset(8 * layout::Margin));
         message->SetWrap(true);
         message->SetAlign(forms::Align::Center);
         message->SetFont({.face = "Arial", .points = 12, .bold = true});
     }
     const int gridLeft = chartArea.Right() + layout::Margin;
-    Grid.SetBounds({gridLeft, areaTop, GridWidth, ChartHeight});
+    Grid.SetBounds({gridLeft, areaTop, GridWidth, height});
     Grid.SetAccessibleName(Caption());
 
-    const int bottom = areaTop + ChartHeight;
-    Line1.SetBounds({layout::Margin, lineTop, width - 2 * layout::Margin, 0});
-    Line2.SetBounds({layout::Margin, bottom + layout::Unit, ChartWidth, 0});
-    Line3.SetBounds({gridLeft, bottom + layout::Unit, GridWidth, 0});
+    const int bottom = areaTop + height;
+    // The first and the last are one line beneath the lists; the second one closes what is drawn.
+    Line1.SetBounds({layout::Margin, lineTop, ChartWidth, 0});
+    Line3.SetBounds({Line1.Bounds().Right(), lineTop, width - layout::Margin - Line1.Bounds().Right(), 0});
+    Line2.SetBounds({layout::Margin, bottom + layout::Unit, width - 2 * layout::Margin, 0});
     SetClientSize({width, bottom + layout::Margin});
 }
 
@@ -136,6 +139,7 @@ void EvolutieCurs::ConnectEvents() {
     cmdAction.OnEach(&forms::Control::onKeyDown,
                      [this](int, int& keyCode, forms::Modifiers) { cmdAction_KeyDown(keyCode); });
     Grid.onKeyDown = [this](int& keyCode, forms::Modifiers) { CloseOnEscape(keyCode); };
+    Grid.onChange = [this] { MarkCurrentRow(); };
 }
 
 // Life.
@@ -161,6 +165,7 @@ void EvolutieCurs::SetHeader() {
     Grid.SetColumnWidth(1, RateWidth);
     Grid.SetColumnAlignment(0, forms::Align::Right);
     Grid.SetColumnAlignment(1, forms::Align::Right);
+    Grid.SetZerosApart(1);
 }
 
 void EvolutieCurs::OnUnload() {
@@ -198,9 +203,11 @@ void EvolutieCurs::CalculeazaLimite() {
 
 bool EvolutieCurs::DeseneazaGrafic() {
     MSChart1.SetRowCount(0);
+    MSChart1.SetTitle("");
     const data::TablePtr table = store_.ReadEvolution(Choice());
     if (!table) {
         MSChart1.SetRowCount(RowsBeforeDrawing);
+        Grid.SetDataSource(nullptr);
         Grid.SetColumnAlignment(1, forms::Align::Right);
         return false;
     }
@@ -210,6 +217,10 @@ bool EvolutieCurs::DeseneazaGrafic() {
     MSChart1.SetRowCount(CountChartRows());
     FillChart(*table);
     LabelRowsWithoutData(static_cast<int>(table->RowCount()) + 1);
+    MSChart1.SetTitle(TitleOf(Choice()));
+    // As the database writes them: averages come with commas, the rates of days without.
+    MSChart1.SetGrouped(!Choice().month);
+    MarkCurrentRow();
     return true;
 }
 
@@ -235,6 +246,17 @@ void EvolutieCurs::LabelRowsWithoutData(int firstRow) {
     if (firstRow >= MSChart1.RowCount() - 1) return;
     for (int row = firstRow; row <= MSChart1.RowCount(); ++row)
         MSChart1.SetRowLabel(row, std::to_string(row));
+}
+
+std::string EvolutieCurs::TitleOf(const EvolutionChoice& choice) {
+    const std::string time = choice.month
+                                 ? Periods[static_cast<std::size_t>(*choice.month - 1)] + (" " + choice.year)
+                                 : choice.year + ", medii lunare";
+    return choice.currency + ", " + time + ", in lei pentru 1 " + choice.currency;
+}
+
+void EvolutieCurs::MarkCurrentRow() {
+    MSChart1.SetMarkedRow(Grid.Row());
 }
 
 void EvolutieCurs::ShowChart() {

@@ -56,6 +56,9 @@ class EvolutieCurs : public forms::Form {
     void PlaceControls();
     void ConnectEvents();
     void SetHeader();
+    /// The currency, the time and the unit of a choice: what the chart shows, whatever the lists say by then.
+    static std::string TitleOf(const EvolutionChoice& choice);
+    void MarkCurrentRow();
     void IncarcaListe();
     /// The currencies and the years, from the host's database of this moment.
     void ReadLists();

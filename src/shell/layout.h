@@ -10,4 +10,13 @@ inline constexpr int FieldHeight = 330;   ///< text boxes, combo boxes, date pic
 inline constexpr int ButtonHeight = 420;  ///< buttons with a caption
 inline constexpr int LabelHeight = 240;   ///< one line of text
 
+/// To whole pixels at 96 DPI.
+inline constexpr int Pixel = 15;
+constexpr int RoundedUp(int length) {
+    return (length + Pixel - 1) / Pixel * Pixel;
+}
+constexpr int RoundedDown(int length) {
+    return length / Pixel * Pixel;
+}
+
 }  // namespace tavrin::shell::layout

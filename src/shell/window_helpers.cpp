@@ -1,6 +1,7 @@
 #include "shell/window_helpers.h"
 
 #include "forms/text_box.h"
+#include "shell/layout.h"
 
 namespace tavrin::shell {
 
@@ -22,6 +23,12 @@ void ApplyDarkScheme(forms::Form& form, std::uint8_t mode) {
         textBox->SetBackColor(forms::Black);
         textBox->SetForeColor(forms::Green);
     }
+}
+
+void PlaceAnswers(forms::Control& accept, forms::Control& cancel, forms::Point topLeft, int width) {
+    const int each = layout::RoundedDown((width - layout::Gap) / 2);
+    accept.SetBounds({topLeft.x, topLeft.y, each, layout::ButtonHeight});
+    cancel.SetBounds({topLeft.x + width - each, topLeft.y, each, layout::ButtonHeight});
 }
 
 }  // namespace tavrin::shell

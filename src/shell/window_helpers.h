@@ -13,4 +13,7 @@ void MoveByCaption(forms::Form& form);
 /// their looks. Any other mode changes nothing.
 void ApplyDarkScheme(forms::Form& form, std::uint8_t mode);
 
+/// The two buttons that end a small window, side by side over the whole width below everything else.
+void PlaceAnswers(forms::Control& accept, forms::Control& cancel, forms::Point topLeft, int width);
+
 }  // namespace tavrin::shell

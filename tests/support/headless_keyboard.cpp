@@ -127,6 +127,10 @@ void HeadlessKeyboard::Press(int keyCode, forms::Modifiers modifiers) {
     }
 }
 
+void HeadlessKeyboard::Release() {
+    if (forms::Form* form = desktop_.ActiveForm()) form->HandleKeyUp();
+}
+
 void HeadlessKeyboard::Type(std::string_view text) {
     for (const char32_t character : Decode(text))
         PressFor(character);

@@ -15,6 +15,8 @@ class HeadlessKeyboard {
     explicit HeadlessKeyboard(forms::Desktop& desktop) : desktop_(desktop) {}
 
     void Press(int keyCode, forms::Modifiers modifiers = {});
+    /// The last key comes up, for whoever minds how long it is down.
+    void Release();
     /// Types characters; "\r", "\b" and "\t" are Enter, Backspace and Tab.
     void Type(std::string_view text);
     /// Alt and a letter.

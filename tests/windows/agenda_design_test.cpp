@@ -27,6 +27,15 @@ TEST_F(AgendaDesignTest, WindowAndFramesStandWhereTheyWereDesigned) {
     EXPECT_EQ(window.fraPersoana.Bounds().width, 7275);
 }
 
+TEST_F(AgendaDesignTest, LabelsStayBehindTheirValues) {
+    const Agenda& window = OpenOnThree();
+    for (int box = 0; box < Agenda::BoxCount; ++box) {
+        EXPECT_EQ(window.Label2[box].ForeColor(), forms::scheme::LabelText);
+        EXPECT_EQ(window.TextBoxes[box].ForeColor(), forms::scheme::Value);
+    }
+    EXPECT_EQ(window.Label2[Agenda::PersonHeading].ForeColor(), forms::scheme::Text);
+}
+
 TEST_F(AgendaDesignTest, ButtonsStandInOneRowWithTheirCaptionsAndAccelerators) {
     const Agenda& window = OpenOnThree();
     struct Expected {

@@ -1,5 +1,6 @@
 // Adding, modifying and deleting persons.
 
+#include "forms/look.h"
 #include "windows/agenda_fixture.h"
 
 namespace tavrin::tests {
@@ -139,6 +140,18 @@ TEST_F(AgendaEditTest, ModificaLocksTheNamesAndGoesToTheAddress) {
     EXPECT_FALSE(window.fraGrid.Enabled());
     EXPECT_EQ(FocusedControl(), "TextBoxes(4)");
     EXPECT_EQ(ShownName(window), "Albu Dan");
+}
+
+TEST_F(AgendaEditTest, LockedNamesLookLocked) {
+    Agenda& window = OpenOnThree();
+    const auto isLine = [&](int box) { return forms::look::EdgeOf(window.TextBoxes[box], false).isLine; };
+    window.cmdAction[Agenda::Modify].Click();
+    EXPECT_TRUE(isLine(Agenda::NumeBox));
+    EXPECT_TRUE(isLine(Agenda::PrenumeBox));
+    EXPECT_FALSE(isLine(Agenda::FirstDetailBox));
+    window.cmdAction[Agenda::Cancel].Click();
+    window.cmdAction[Agenda::Add].Click();
+    EXPECT_FALSE(isLine(Agenda::NumeBox));
 }
 
 TEST_F(AgendaEditTest, AcceptUpdatesAndComesBackToTheSameRow) {

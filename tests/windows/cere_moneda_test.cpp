@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "support/rates_test.h"
+#include "support/recording_surface.h"
 
 namespace tavrin::tests {
 namespace {
@@ -43,6 +44,16 @@ TEST_F(CereMonedaTest, AddingShowsATextBoxInTheMiddleOfTheScreen) {
     EXPECT_EQ(window.Bounds().top, (desktop.ScreenSize().height - window.Bounds().height) / 2);
     EXPECT_EQ(FocusedControl(), "txtMoneda");
     EXPECT_EQ(messages.created, 2);
+}
+
+TEST_F(CereMonedaTest, TheFieldHasOneFrame) {
+    const CereMoneda& window = OpenToAdd();
+    RecordingSurface around;
+    window.Frame1.Draw(around);
+    for (const Drawn& frame : around.AllOf(Drawing::Frame))
+        EXPECT_EQ(frame.area, window.txtMoneda.Bounds());
+    EXPECT_EQ(window.Shape14.Bounds(), window.txtMoneda.Bounds()) << "the shape lies beneath the field";
+    EXPECT_EQ(window.Shape14.Bounds(), window.cmbMoneda.Bounds());
 }
 
 TEST_F(CereMonedaTest, RemovingListsTheColumnsAfterTheSecondAndRemovesNone) {

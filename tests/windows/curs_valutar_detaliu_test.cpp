@@ -42,6 +42,22 @@ const ShownMessage TooLong{"Valoarea poate avea cel mult 15 cifre !", 64, 0, "Cu
 
 // Opening.
 
+TEST_F(CursValutarDetaliuTest, TheColumnsFillTheGridWithAndWithoutAScrollBar) {
+    for (const int added : {0, 12}) {
+        for (int i = 0; i < added; ++i)
+            Run("ALTER TABLE [Curs Valutar] ADD [C" + std::to_string(i) + "] float");
+        CursValutarDetaliu& entry = OpenToAdd();
+        const forms::Rect last = entry.Grid.CellBounds(1, 1);
+        const int bar = added > 0 ? forms::ScrollBar::Thickness : 0;
+        EXPECT_EQ(last.width, 1500);
+        EXPECT_NEAR(last.Right(), entry.Grid.Bounds().width - forms::GridViewport::Frame - bar, 15);
+        EXPECT_EQ(entry.Grid.CellBounds(11, 0).IsEmpty(), added == 0);
+        EXPECT_TRUE(entry.Grid.CellBounds(12, 0).IsEmpty());
+        EXPECT_EQ(entry.DataCurs.Bounds().Right(), entry.Grid.Bounds().Right());
+        desktop.UnloadAll();
+    }
+}
+
 TEST_F(CursValutarDetaliuTest, AddingStartsOnTheWorkingDateWithZeros) {
     CursValutarDetaliu& entry = OpenToAdd();
     EXPECT_EQ(entry.Caption(), "Curs Valutar - Adaugare");

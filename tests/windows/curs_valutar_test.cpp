@@ -47,6 +47,48 @@ TEST_F(CursValutarTest, OpensOnTheMonthOfTheWorkingDate) {
     EXPECT_THAT(desktop.reports, IsEmpty());
 }
 
+// The window's size.
+
+TEST_F(CursValutarTest, TheWindowIsAsWideAsItsCurrencies) {
+    CursValutar& list = OpenList();
+    const auto expectAllInSight = [&] {
+        EXPECT_EQ(list.Grid.CellBounds(0, list.Grid.Columns() - 1).width, 1400);
+        EXPECT_EQ(list.Grid.Bounds().height, 21 * 300 + 60);
+        EXPECT_LE(list.Bounds().Right(), desktop.ScreenSize().width);
+    };
+    expectAllInSight();
+    int width = list.Bounds().width;
+    for (int added = 0; added < 6; ++added) {
+        Run("ALTER TABLE [Curs Valutar] ADD [C" + std::to_string(added) + "] float");
+        list.MoveTo(desktop.ScreenSize().width - list.Bounds().width - 100, 1000);
+        list.ApplyDateFilter();
+        expectAllInSight();
+        EXPECT_NEAR(list.Bounds().width, width + 1400, 60);
+        width = list.Bounds().width;
+    }
+}
+
+TEST_F(CursValutarTest, AWindowOfManyCurrenciesEndsAtTheScreen) {
+    for (int added = 0; added < 20; ++added)
+        Run("ALTER TABLE [Curs Valutar] ADD [C" + std::to_string(added) + "] float");
+    const CursValutar& list = OpenList();
+    EXPECT_GE(list.Bounds().left, 0);
+    EXPECT_LE(list.Bounds().Right(), desktop.ScreenSize().width);
+    EXPECT_GT(list.Bounds().width, desktop.ScreenSize().width - 120);
+    EXPECT_TRUE(list.Grid.CellBounds(0, list.Grid.Columns() - 1).IsEmpty());
+    EXPECT_EQ(list.Grid.Bounds().height, 21 * 300 + 60 + 180) << "whole rows above the scroll bar";
+    EXPECT_LT(list.cmdAction[CursValutar::Close].Bounds().Right(), list.ClientSize().width);
+}
+
+TEST_F(CursValutarTest, ARangeWithoutDaysKeepsTheWindowsSize) {
+    CursValutar& list = OpenList();
+    const forms::Rect bounds = list.Bounds();
+    list.dpDataIn.SetDate(Day(2003, 12, 1));
+    list.dpDataFin.SetDate(Day(2003, 12, 2));
+    EXPECT_FALSE(list.ApplyDateFilter());
+    EXPECT_EQ(list.Bounds(), bounds);
+}
+
 TEST_F(CursValutarTest, AYearBeyondEveryCalendarGivesPickersThatACalendarTakes) {
     for (const std::int16_t year : {std::int16_t{0}, std::int16_t{1752}, std::int16_t{32767}}) {
         module.context.workYear = year;

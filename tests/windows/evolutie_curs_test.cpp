@@ -169,6 +169,37 @@ TEST_F(EvolutieCursTest, DrawingShowsTheChartAndFocusesTheGrid) {
     EXPECT_EQ(FocusedControl(), "Grid");
 }
 
+TEST_F(EvolutieCursTest, TheChartSaysWhatItShowsWhateverTheListsSay) {
+    EvolutieCurs& window = OpenAndDraw(5);
+    EXPECT_EQ(window.MSChart1.Title(), "EUR, Mai 2003, in lei pentru 1 EUR");
+    EXPECT_FALSE(window.MSChart1.IsGrouped()) << "the days' rates have no commas in the table either";
+    window.cmbMoneda.SetListIndex(1);
+    window.cmbLuna.SetListIndex(12);
+    EXPECT_EQ(window.MSChart1.Title(), "EUR, Mai 2003, in lei pentru 1 EUR");
+    window.cmdAction[1].Click();
+    EXPECT_EQ(window.MSChart1.Title(), "USD, 2003, medii lunare, in lei pentru 1 USD");
+    EXPECT_TRUE(window.MSChart1.IsGrouped());
+}
+
+TEST_F(EvolutieCursTest, TheCurrentRowOfTheTableIsMarkedInTheChart) {
+    const EvolutieCurs& window = OpenAndDraw(5);
+    EXPECT_EQ(window.MSChart1.MarkedRow(), 1);
+    keyboard.Press(key::Down);
+    EXPECT_EQ(window.MSChart1.MarkedRow(), 2);
+    EXPECT_EQ(window.MSChart1.Row(2).label, window.Grid.TextMatrix(2, 0));
+}
+
+TEST_F(EvolutieCursTest, AllPeriodsAreInSightWhenTheListIsOpen) {
+    EXPECT_LE(Open().cmbLuna.ListCount(), forms::ComboBox::EntriesInSight);
+}
+
+TEST_F(EvolutieCursTest, NoLineStandsAloneBesideThePrompt) {
+    const EvolutieCurs& window = Open();
+    EXPECT_EQ(window.Line3.Bounds().left, window.Line1.Bounds().Right());
+    EXPECT_EQ(window.Line3.Bounds().top, window.Line1.Bounds().top);
+    EXPECT_EQ(window.Line3.Bounds().Right(), window.Grid.Bounds().Right());
+}
+
 TEST_F(EvolutieCursTest, AMonthOfOneDayIsDrawn) {
     AddDay("07-01-2003", 38000, 32000);
     const EvolutieCurs& window = OpenAndDraw(7);
@@ -271,6 +302,8 @@ TEST_F(EvolutieCursTest, AMonthWithoutRatesSaysSo) {
     EXPECT_FALSE(window.lblMesaj1.Visible());
     EXPECT_TRUE(window.lblMesaj2.Visible());
     EXPECT_EQ(window.MSChart1.RowCount(), 31);
+    EXPECT_EQ(window.Grid.Rows(), 1) << "no values of another month stay in the table";
+    EXPECT_EQ(window.Grid.TextMatrix(0, 1), "Curs valutar");
     EXPECT_EQ(FocusedControl(), "cmbAn");
     window.cmbLuna.SetListIndex(4);
     window.cmdAction[1].Click();

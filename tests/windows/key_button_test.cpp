@@ -52,6 +52,12 @@ class KeyButtonTest : public CalculatorTest {
         return surface.FindText(button.Caption())->area;
     }
 
+    static Color CaptionColorOf(const KeyButton& button) {
+        RecordingSurface surface;
+        button.Draw(surface);
+        return surface.FindText(button.Caption())->color;
+    }
+
     static int Brightness(Color color) {
         return static_cast<int>((color & 0xFF) + (color >> 8 & 0xFF) + (color >> 16 & 0xFF));
     }
@@ -73,20 +79,15 @@ TEST_F(KeyButtonTest, KeysOfAKindLookAlikeAndKindsDiffer) {
     }
 }
 
-TEST_F(KeyButtonTest, EqualsIsTheLargestAndMemoryTheSmallest) {
+TEST_F(KeyButtonTest, AllKeysHaveOneWeight) {
     FrmCalculator& window = Open();
-    const auto expect = [](const KeyButton& button, double points, bool bold) {
-        EXPECT_EQ(button.TextFont(), (forms::Font{.face = "Arial", .points = points, .bold = bold}))
-            << button.QualifiedName();
-    };
-    expect(window.Number[5], 14, true);
-    expect(window.Operator[0], 14, false);
-    expect(window.Operator[4], 16, true);
-    expect(window.Cancel, 11, true);
-    expect(window.cmdMR, 9, false);
+    for (const auto& kind : Kinds(window)) {
+        for (const KeyButton* button : kind)
+            EXPECT_EQ(button->TextFont(), (forms::Font{.face = "Arial", .points = 14, .bold = true}));
+    }
 }
 
-TEST_F(KeyButtonTest, AKeyLightsUpUnderTheMouseAndDarkensWhileItIsHeldDown) {
+TEST_F(KeyButtonTest, AKeyLightsUpUnderTheMouseAndChangesItsColoursWhileItIsHeldDown) {
     FrmCalculator& window = Open();
     window.cmdVal.SetFocus();
     for (const auto& kind : Kinds(window)) {
@@ -95,11 +96,49 @@ TEST_F(KeyButtonTest, AKeyLightsUpUnderTheMouseAndDarkensWhileItIsHeldDown) {
         button.HandleMouseMove(Pointer);
         EXPECT_GT(Brightness(FaceOf(button)), Brightness(resting)) << button.QualifiedName();
         button.HandleMouseDown(Press);
-        EXPECT_LT(Brightness(FaceOf(button)), Brightness(resting)) << button.QualifiedName();
+        EXPECT_EQ(FaceOf(button), button.ForeColor()) << button.QualifiedName();
+        EXPECT_EQ(CaptionColorOf(button), forms::Black) << button.QualifiedName();
         button.HandleMouseUp(Press);
         button.HandleMouseLeave();
         window.cmdVal.SetFocus();
         EXPECT_EQ(FaceOf(button), resting) << button.QualifiedName();
+    }
+}
+
+TEST_F(KeyButtonTest, AKeyThatTheKeyboardHoldsIsSeenToBeHeld) {
+    FrmCalculator& window = Open();
+    const auto expectOnly = [&](const KeyButton* held) {
+        for (const auto& kind : Kinds(window)) {
+            for (const KeyButton* button : kind)
+                EXPECT_EQ(FaceOf(*button) == button->ForeColor(), button == held) << button->QualifiedName();
+        }
+    };
+    keyboard.Type("7");
+    expectOnly(&window.Number[7]);
+    keyboard.Type("7");
+    expectOnly(&window.Number[7]);
+    keyboard.Type("+");
+    expectOnly(&window.Operator[1]);
+    keyboard.Release();
+    expectOnly(nullptr);
+    keyboard.Press(forms::key::Enter);
+    expectOnly(&window.Operator[4]);
+    keyboard.Release();
+    window.cmdMR.SetFocus();
+    keyboard.Press(forms::key::Enter);
+    expectOnly(&window.cmdMR);
+    desktop.ActivateByUser(nullptr);
+    expectOnly(nullptr);
+}
+
+TEST_F(KeyButtonTest, TheDisplaysDigitsAreAsHighAsTheDisplaysAllow) {
+    FrmCalculator& window = Open();
+    for (const forms::NumericDisplay* display : {&window.ValLei, &window.ValValuta}) {
+        RecordingSurface surface;
+        display->Draw(surface);
+        const int height = surface.MeasureText("0", surface.FindText(display->Text())->style.font).height;
+        EXPECT_LE(height, display->Bounds().height);
+        EXPECT_GT(height, display->Bounds().height * 9 / 10);
     }
 }
 

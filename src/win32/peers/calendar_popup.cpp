@@ -74,7 +74,7 @@ void Darken(HWND calendar) {
     // The title's background is also the colour of the weekdays' names and of the chosen day.
     const std::pair<int, forms::Color> colors[] = {
         {MCSC_BACKGROUND, scheme::Window}, {MCSC_MONTHBK, scheme::Field},
-        {MCSC_TEXT, scheme::Value},        {MCSC_TITLEBK, scheme::Text},
+        {MCSC_TEXT, scheme::Value},        {MCSC_TITLEBK, scheme::Dimmed},
         {MCSC_TITLETEXT, scheme::Field},   {MCSC_TRAILINGTEXT, scheme::TextDisabled},
     };
     RemoveTheme(calendar);
@@ -108,7 +108,7 @@ CalendarPopup::CalendarPopup(forms::Desktop& desktop, const Toolkit& toolkit, co
                                      .extendedStyle = WS_EX_TOPMOST | WS_EX_TOOLWINDOW,
                                      .parent = settings.form}),
            "Calendar");
-    CreateCalendar(toolkit);
+    CreateCalendar(toolkit, settings.font);
     ShowBeside(settings.field);
 }
 
@@ -119,7 +119,7 @@ CalendarPopup::~CalendarPopup() {
     Destroy();
 }
 
-void CalendarPopup::CreateCalendar(const Toolkit& toolkit) {
+void CalendarPopup::CreateCalendar(const Toolkit& toolkit, HFONT font) {
     calendar_.Attach(
         toolkit.CreateWindowWith({.className = MONTHCAL_CLASSW,
                                   .text = {},
@@ -128,6 +128,7 @@ void CalendarPopup::CreateCalendar(const Toolkit& toolkit) {
         {});
     const HWND calendar = calendar_.Handle();
     Darken(calendar);
+    SendMessageW(calendar, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     SYSTEMTIME range[] = {ToSystemTime(days_.minimum), ToSystemTime(days_.maximum)};
     Require(SendMessageW(calendar, MCM_SETRANGE, GDTR_MIN | GDTR_MAX, reinterpret_cast<LPARAM>(range)) != 0);
     Select(days_.value);

@@ -24,7 +24,8 @@ class CalendarPopup final : public Window {
     struct Settings {
         Days days;
         HWND form = nullptr;
-        RECT field{};  ///< the field that the calendar belongs to, in pixels of the screen
+        RECT field{};          ///< the field that the calendar belongs to, in pixels of the screen
+        HFONT font = nullptr;  ///< the field's, which lives longer
     };
 
     /// Appears at once, on the value. `whenClosed` may destroy the popup; neither callback runs after that.
@@ -56,7 +57,7 @@ class CalendarPopup final : public Window {
     LRESULT OnActivate(const Message& message);
     bool HandleKey(WPARAM key);
 
-    void CreateCalendar(const Toolkit& toolkit);
+    void CreateCalendar(const Toolkit& toolkit, HFONT font);
     void ShowBeside(const RECT& field);
     data::CalendarDay Selected() const;
     /// The nearest day of the range. \throws data::Error where the calendar then stands on another

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "forms/look.h"
+#include "win32/base/library.h"
 #include "win32/base/text.h"
 #include "win32/peers/disagreement.h"
 #include "win32/peers/edit_text.h"
@@ -22,7 +23,7 @@ namespace {
 constexpr UINT ChosenMessage = WM_APP + 1;
 static_assert(ChosenMessage < WM_CTLCOLOREDIT + Reflected, "apart from the reflected messages");
 
-constexpr int VisibleEntries = 12;
+constexpr int ListBorders = 8;  ///< pixels; one too few brings a scroll bar to a list that would fit
 constexpr int WholeField = -1;  ///< the item number of the closed field in CB_SETITEMHEIGHT
 
 DWORD StyleOf(forms::ComboStyle style) {
@@ -46,11 +47,23 @@ bool WalksList(WPARAM key) {
     }
 }
 
-HWND FieldOf(HWND combo) {
+COMBOBOXINFO InfoOf(HWND combo) {
     COMBOBOXINFO info{};
     info.cbSize = sizeof info;
     GetComboBoxInfo(combo, &info);
-    return info.hwndItem != combo ? info.hwndItem : nullptr;
+    return info;
+}
+
+HWND FieldOf(HWND combo) {
+    const HWND field = InfoOf(combo).hwndItem;
+    return field != combo ? field : nullptr;
+}
+
+/// Asks for a dark scroll bar; a platform that has none by that name keeps its own.
+void DarkenScrollBar(HWND window) {
+    using SetTheme = HRESULT WINAPI(HWND, const wchar_t*, const wchar_t*);
+    const SystemFunction<SetTheme> set(L"uxtheme.dll", "SetWindowTheme");
+    if (set && window != nullptr) set(window, L"DarkMode_Explorer", nullptr);
 }
 
 }  // namespace
@@ -59,6 +72,7 @@ ComboPeer::ComboPeer(forms::ComboBox& control, FormPeer& form)
     : ControlWindow(control, form), control_(control), edit_(control.OwnerForm().OwnerDesktop(), *this) {
     Create(WC_COMBOBOXW, StyleOf(control.Style()));
     if (control.Style() == forms::ComboStyle::DropDown) edit_.Adopt(FieldOf(Handle()));
+    DarkenScrollBar(InfoOf(Handle()).hwndList);
     ShowFont();
     ShowList();
 }
@@ -171,7 +185,7 @@ void ComboPeer::Place() {
     const int entryHeight =
         PixelScale().ToPixels(control_.TextFont().points * forms::TwipsPerInch / 72 * 1.5);
     SendMessageW(Handle(), CB_SETITEMHEIGHT, 0, entryHeight);
-    const int height = Height(place) + entryHeight * VisibleEntries + 2;
+    const int height = Height(place) + entryHeight * forms::ComboBox::EntriesInSight + ListBorders;
     SetWindowPos(Handle(), nullptr, place.left, place.top, Width(place), height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
     FitClosedHeight(Height(place));
@@ -210,7 +224,7 @@ LRESULT ComboPeer::HandleMessage(const Message& message) {
         {WM_ERASEBKGND, &ComboPeer::OnEraseBackground},
         {WM_CTLCOLOREDIT, &ComboPeer::OnColors},
         {WM_CTLCOLORSTATIC, &ComboPeer::OnColors},
-        {WM_CTLCOLORLISTBOX, &ComboPeer::OnColors},
+        {WM_CTLCOLORLISTBOX, &ComboPeer::OnListColors},
         {WM_COMMAND + Reflected, &ComboPeer::OnCommand},
         {WM_DRAWITEM + Reflected, &ComboPeer::OnDrawItem},
         {ChosenMessage, &ComboPeer::OnChosen},
@@ -239,11 +253,18 @@ LRESULT ComboPeer::OnColors(const Message& message) {
     return ApplyColors(reinterpret_cast<HDC>(message.wParam));
 }
 
+/// The list stays as dark as a grid while its field is grey, so that its current entry stands out.
+LRESULT ComboPeer::OnListColors(const Message& message) {
+    ApplyColors(reinterpret_cast<HDC>(message.wParam));
+    SetDCBrushColor(reinterpret_cast<HDC>(message.wParam), forms::scheme::Field);
+    return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
+}
+
 LRESULT ComboPeer::OnDrawItem(const Message& message) {
     const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam);
     if (item.itemState & ODS_COMBOBOXEDIT) return TRUE;  // the closed field is painted as a whole
     const bool selected = (item.itemState & ODS_SELECTED) != 0;
-    SetDCBrushColor(item.hDC, selected ? forms::scheme::Selection : control_.BackColor());
+    SetDCBrushColor(item.hDC, selected ? forms::scheme::CurrentRow : forms::scheme::Field);
     FillRect(item.hDC, &item.rcItem, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
     const int index = static_cast<int>(item.itemID);
     if (index < 0 || index >= control_.ListCount()) return TRUE;

@@ -33,6 +33,7 @@ class ComboPeer final : public ControlWindow {
     LRESULT OnPaint(const Message& message);
     LRESULT OnEraseBackground(const Message& message);
     LRESULT OnColors(const Message& message);
+    LRESULT OnListColors(const Message& message);
     LRESULT OnCommand(const Message& message);
     LRESULT OnSetSelection(const Message& message);
     LRESULT OnDrawItem(const Message& message);

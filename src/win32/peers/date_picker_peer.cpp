@@ -18,7 +18,8 @@ void DatePickerPeer::DropDown() {
     if (calendar_) return calendar_->Close();
     if (Handle() == nullptr) return;
     shown_ = FieldDays();
-    CalendarPopup::Settings settings{.days = shown_, .form = OwnerPeer().Handle(), .field = {}};
+    CalendarPopup::Settings settings{
+        .days = shown_, .form = OwnerPeer().Handle(), .field = {}, .font = PlatformFont()};
     GetWindowRect(Handle(), &settings.field);
     calendar_ = std::make_unique<CalendarPopup>(
         OwnerForm().OwnerDesktop(), SharedToolkit(), settings,

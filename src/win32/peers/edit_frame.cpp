@@ -29,10 +29,6 @@ int FrameThickness(Scale scale) {
     return std::max(1, scale.ToPixels(forms::look::FocusWidth));
 }
 
-int PlainFrameThickness(Scale scale) {
-    return std::max(1, scale.ToPixels(forms::look::FocusWidth / 2.0));
-}
-
 int SideMargin(Scale scale) {
     return scale.ToPixels(forms::look::Padding);
 }
@@ -46,7 +42,11 @@ void PaintEditFrame(HWND edit, forms::Color background, EditFrame frame) {
     const HDC dc = frameDc.Get();
     ExcludeClipRect(dc, client.left, client.top, client.right, client.bottom);
     Fill(dc, whole, frame.color);
-    InflateRect(&whole, -frame.thickness, -frame.thickness);
+    if (frame.isLine) {
+        whole.bottom -= frame.thickness;
+    } else {
+        InflateRect(&whole, -frame.thickness, -frame.thickness);
+    }
     Fill(dc, whole, background);
 }
 

@@ -12,12 +12,12 @@ namespace tavrin::win32 {
 /// How the frame looks: as that of the fields that draw themselves.
 struct EditFrame {
     forms::Color color;
-    int thickness;  ///< pixels
+    int thickness;        ///< pixels
+    bool isLine = false;  ///< at the lower edge alone
 };
 
 /// The thickest that a frame gets, in pixels.
 int FrameThickness(Scale scale);
-int PlainFrameThickness(Scale scale);
 
 /// Between the window's edge and the text, in pixels.
 int SideMargin(Scale scale);

@@ -217,8 +217,7 @@ LRESULT EditPeer::OnPaintFrame(const Message&) {
 }
 
 EditFrame EditPeer::Frame() const {
-    return control_.Bordered() ? FocusFrame()
-                               : EditFrame{control_.BackColor(), PlainFrameThickness(PixelScale())};
+    return control_.Bordered() ? FocusFrame() : EditFrame{control_.BackColor(), 0};
 }
 
 LRESULT EditPeer::OnHitTest(const Message&) {

@@ -1,7 +1,9 @@
 #include "win32/peers/edit_window.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "forms/look.h"
 #include "win32/window/mouse_message.h"
 
 namespace tavrin::win32 {
@@ -96,9 +98,8 @@ bool EditWindow::TellModelOfMouse(const Message& message) {
 // The frame.
 
 EditFrame EditWindow::FocusFrame() const {
-    if (HoldsFocus()) return {forms::scheme::Focus, FrameThickness(PixelScale())};
-    return {OwnControl().IsEffectivelyEnabled() ? forms::scheme::Border : forms::scheme::GridLine,
-            PlainFrameThickness(PixelScale())};
+    const forms::look::Edge edge = forms::look::EdgeOf(OwnControl(), HoldsFocus());
+    return {edge.color, std::max(1, PixelScale().ToPixels(edge.width)), edge.isLine};
 }
 
 }  // namespace tavrin::win32

@@ -144,7 +144,9 @@ LRESULT RichEditPeer::OnCalculateClientArea(const Message& message) {
 }
 
 LRESULT RichEditPeer::OnPaintFrame(const Message& message) {
-    PaintEditFrame(Handle(), GetSysColor(COLOR_WINDOW), FocusFrame());
+    EditFrame frame = FocusFrame();
+    if (HoldsFocus()) frame.color = forms::scheme::FocusOnPage;
+    PaintEditFrame(Handle(), GetSysColor(COLOR_WINDOW), frame);
     return CallDefault(message);  // the scroll bar
 }
 

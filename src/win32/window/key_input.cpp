@@ -36,7 +36,7 @@ KeyRoute KeyInput::Handle(forms::Form& form, const Message& message) {
             return OnKeyDown(form, message);
         case WM_KEYUP:
         case WM_SYSKEYUP:
-            return OnKeyUp(message);
+            return OnKeyUp(form, message);
         case WM_CHAR:
             return OnCharacter(form, message);
         case WM_SYSCHAR:
@@ -60,8 +60,9 @@ KeyRoute KeyInput::OnKeyDown(forms::Form& form, const Message& message) {
     return isDone || OpensMenu(message.wParam) ? KeyRoute::Dealt : KeyRoute::Native;
 }
 
-KeyRoute KeyInput::OnKeyUp(const Message& message) {
+KeyRoute KeyInput::OnKeyUp(forms::Form& form, const Message& message) {
     dropCharacter_ = false;
+    form.HandleKeyUp();
     return OpensMenu(message.wParam) ? KeyRoute::Dealt : KeyRoute::Native;
 }
 

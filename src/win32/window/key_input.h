@@ -45,7 +45,7 @@ class KeyInput {
 
   private:
     KeyRoute OnKeyDown(forms::Form& form, const Message& message);
-    KeyRoute OnKeyUp(const Message& message);
+    KeyRoute OnKeyUp(forms::Form& form, const Message& message);
     KeyRoute OnCharacter(forms::Form& form, const Message& message);
     KeyRoute OnSystemCharacter(forms::Form& form, const Message& message);
 

@@ -143,6 +143,59 @@ TEST_F(ChartTest, TheEndsOfTheScaleAndTheRowsAreNamed) {
     }
 }
 
+TEST_F(ChartTest, NumbersOfTheAxisAreGroupedWhereAsked) {
+    Fill({25013.25, 25500.5, 26999, 0.5});
+    chart.SetValueScale(0.5, 1226999.25);
+    chart.SetGrouped(true);
+    Draw(Drawing::Text);
+    for (const char* text : {"0.5", "200,000", "1,000,000", "1,226,999.25"})
+        EXPECT_NE(surface.FindText(text), nullptr) << text;
+    chart.SetGrouped(false);
+    Draw(Drawing::Text);
+    EXPECT_NE(surface.FindText("1000000"), nullptr);
+}
+
+TEST_F(ChartTest, ATitleStandsAboveThePlot) {
+    Fill({1, 3, 2});
+    chart.SetValueScale(1, 3);
+    Draw(Drawing::Text);
+    const int before = surface.FindText("3")->area.top;
+    chart.SetTitle("EUR, 2003");
+    Draw(Drawing::Text);
+    const Drawn* title = surface.FindText("EUR, 2003");
+    ASSERT_NE(title, nullptr);
+    EXPECT_TRUE(title->style.font.bold);
+    EXPECT_LE(title->area.Bottom(), surface.FindText("3")->area.top);
+    EXPECT_GT(surface.FindText("3")->area.top, before);
+}
+
+TEST_F(ChartTest, TheMarkedRowHasARingAroundItsPoint) {
+    Fill({1, 3, std::nullopt});
+    chart.SetValueScale(1, 3);
+    EXPECT_EQ(Draw(Drawing::Polyline).size(), 1U);
+    const auto rings = [this] {
+        std::vector<Rect> found;
+        for (const Drawn& line : Draw(Drawing::Polyline)) {
+            if (line.area.width > 150 && line.area.width < 300) found.push_back(line.area);
+        }
+        return found;
+    };
+    for (const int row : {1, 2}) {
+        chart.SetMarkedRow(row);
+        const std::vector<Drawn> points = Draw(Drawing::Polygon);
+        const Rect& point = points[static_cast<std::size_t>(row - 1)].area;
+        ASSERT_EQ(rings().size(), 1U) << row;
+        const Rect ring = rings().front();
+        EXPECT_NEAR(ring.left + ring.width / 2, point.left + point.width / 2, 15) << row;
+        EXPECT_NEAR(ring.top + ring.height / 2, point.top + point.height / 2, 15) << row;
+        EXPECT_THAT(surface.Outside({0, 0, 9000, 5400}), IsEmpty());
+    }
+    for (const int row : {0, 3, 4}) {
+        chart.SetMarkedRow(row);
+        EXPECT_THAT(rings(), IsEmpty()) << row;
+    }
+}
+
 TEST_F(ChartTest, ManyRowsAreDrawnAsALineWithoutPoints) {
     chart.SetRowCount(366);
     for (int row = 1; row <= 366; ++row)

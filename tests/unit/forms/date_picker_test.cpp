@@ -316,14 +316,14 @@ TEST_F(DatePickerTest, TheActivePartStandsOutWhileTheFieldHasTheFocus) {
     RecordingSurface focused;
     picker.Draw(focused);
     ASSERT_NE(focused.FindText("20"), nullptr);
-    EXPECT_TRUE(focused.IsFilled(focused.FindText("20")->area, forms::scheme::Selection));
+    EXPECT_TRUE(focused.IsFilled(focused.FindText("20")->area, forms::scheme::CurrentRow));
     EXPECT_TRUE(focused.HasFrame({0, 0, 1800, 330}, forms::scheme::Focus));
     EXPECT_THAT(focused.CutTexts(), IsEmpty());
 
     form->other.SetFocus();
     RecordingSurface left;
     picker.Draw(left);
-    EXPECT_FALSE(left.IsFilled(left.FindText("20")->area, forms::scheme::Selection));
+    EXPECT_FALSE(left.IsFilled(left.FindText("20")->area, forms::scheme::CurrentRow));
     EXPECT_FALSE(left.HasFrame({0, 0, 1800, 330}, forms::scheme::Focus));
 }
 

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "data/memory_table.h"
 #include "support/counting_table.h"
 #include "unit/forms/grid_fixture.h"
@@ -72,33 +74,77 @@ TEST_F(GridDrawingTest, ReadsOnlyTheColumnsInSight) {
     EXPECT_LE(table->reads, 3 * 4);
 }
 
-TEST_F(GridDrawingTest, SelectedCellsStandOutWithAndWithoutFocus) {
+TEST_F(GridDrawingTest, TheCurrentRowLooksTheSameHoweverItWasChosen) {
     Bind(4, 3);
     grid.SetRow(2);
-    grid.SetColSel(1);
-    const Rect selected = grid.CellBounds(2, 1);
-    const Rect besides = grid.CellBounds(2, 2);
-    const RecordingSurface focused = Draw();
-    EXPECT_TRUE(focused.IsFilled(selected, scheme::Selection));
-    EXPECT_FALSE(focused.IsFilled(besides, scheme::Selection));
-    EXPECT_TRUE(focused.IsFilled(besides, scheme::CurrentRow));
-    EXPECT_TRUE(focused.HasFrame(grid.CellBounds(2, 0), scheme::Focus));
-    EXPECT_TRUE(focused.HasFrame(Whole, scheme::Focus));
+    const Rect row{30, 630, 3600, 300};
+    for (const int lastColumn : {0, 1, 2}) {
+        grid.SetColSel(lastColumn);
+        for (forms::Control* focused :
+             {static_cast<forms::Control*>(&grid), static_cast<forms::Control*>(&form->other)}) {
+            focused->SetFocus();
+            const RecordingSurface surface = Draw();
+            EXPECT_TRUE(surface.IsFilled(row, scheme::CurrentRow)) << lastColumn;
+            EXPECT_FALSE(surface.IsFilled({30, 330, 3600, 300}, scheme::CurrentRow));
+            EXPECT_EQ(surface.FindText("100")->color, scheme::Value);
+        }
+    }
+}
 
+TEST_F(GridDrawingTest, TheFocusHasOneFrameAndTheCellALine) {
+    Bind(4, 3);
+    grid.SetRow(2);
+    const auto isFocusFrame = [](const Drawn& each) {
+        return each.kind == Drawing::Frame && each.color == scheme::Focus;
+    };
+    const Rect line{30, 900, 1200, 30};
+    const RecordingSurface focused = Draw();
+    EXPECT_TRUE(focused.HasFrame(Whole, scheme::Focus));
+    EXPECT_EQ(std::ranges::count_if(focused.All(), isFocusFrame), 1);
+    EXPECT_TRUE(focused.IsFilled(line, scheme::Focus));
+
+    grid.SetColSel(2);
+    EXPECT_FALSE(Draw().IsFilled(line, scheme::Focus)) << "the row as a whole is the current one";
+
+    grid.SetColSel(0);
     form->other.SetFocus();
     const RecordingSurface left = Draw();
-    EXPECT_TRUE(left.IsFilled(selected, scheme::SelectionWithoutFocus));
-    EXPECT_TRUE(left.IsFilled(besides, scheme::CurrentRow));
-    EXPECT_FALSE(left.HasFrame(grid.CellBounds(2, 0), scheme::Focus));
+    EXPECT_EQ(std::ranges::count_if(left.All(), isFocusFrame), 0);
+    EXPECT_FALSE(left.IsFilled(line, scheme::Focus));
     EXPECT_TRUE(left.HasFrame(Whole, scheme::Border));
 }
 
+TEST_F(GridDrawingTest, ZerosAreSetApartWhereTheyStandForNone) {
+    grid.SetSize(3, 2);
+    grid.SetFormatString("Zi|Curs");
+    for (int row = 1; row <= 2; ++row) {
+        grid.SetTextMatrix(row, 0, "0");
+        grid.SetTextMatrix(row, 1, row == 1 ? "0" : "10");
+    }
+    grid.SetZerosApart(1);
+    grid.SetRow(2);
+    RecordingSurface surface = Draw();
+    std::vector<Drawn> texts = surface.AllOf(Drawing::Text);
+    EXPECT_FALSE(texts[2].style.font.italic) << "a column whose zeros are numbers";
+    EXPECT_TRUE(texts[3].style.font.italic);
+    EXPECT_EQ(texts[3].style.color, scheme::Zero);
+    EXPECT_FALSE(texts[5].style.font.italic) << texts[5].text;
+
+    grid.SetRow(1);
+    surface = Draw();
+    texts = surface.AllOf(Drawing::Text);
+    EXPECT_TRUE(texts[3].style.font.italic);
+    EXPECT_EQ(texts[3].style.color, scheme::Value) << "legible on the current row";
+}
+
 TEST_F(GridDrawingTest, ADisabledGridIsGrey) {
-    Bind(1, 1);
+    Bind(2, 1);
     grid.SetEnabled(false);
     const RecordingSurface surface = Draw();
-    EXPECT_EQ(surface.FindText("0")->color, scheme::TextDisabled);
     EXPECT_EQ(surface.FindText("F0")->color, scheme::TextDisabled);
+    EXPECT_EQ(surface.FindText("0")->color, scheme::TextOfCurrentRowDisabled);
+    EXPECT_EQ(surface.FindText("100")->color, scheme::TextDisabled);
+    EXPECT_TRUE(surface.IsFilled({30, 330, 1200, 300}, scheme::CurrentRowDisabled));
 }
 
 TEST_F(GridDrawingTest, BarsAreDrawnOnlyWhereNeeded) {

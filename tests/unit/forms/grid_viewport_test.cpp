@@ -90,15 +90,36 @@ TEST(GridViewportTest, AColumnWiderThanTheGridIsShownAlone) {
     EXPECT_EQ(GridViewport(extent).columns.front().column, 1);
 }
 
+TEST(GridViewportTest, RowsAreShownWholeOrNotAtAll) {
+    for (const int columnWidth : {1000, 4000}) {
+        for (int spare = 0; spare < 300; spare += 60) {
+            GridExtent extent = Extent(30, {columnWidth, 500});
+            extent.size.height += spare;
+            const GridViewport view(extent);
+            EXPECT_EQ(view.columnBar.IsNeeded(), columnWidth == 4000);
+            EXPECT_EQ(view.cells.height, view.wholeRows * 300) << spare;
+            EXPECT_EQ(view.BottomRow(), view.topRow + view.wholeRows - 1);
+            EXPECT_EQ(view.RowAt(view.cells.Bottom() - 1), view.BottomRow());
+            EXPECT_EQ(view.RowAt(view.cells.Bottom()), -1);
+        }
+    }
+}
+
+TEST(GridViewportTest, TheHeaderRunsOnAboveTheScrollBar) {
+    const GridViewport scrolled(Extent(30, {1000}));
+    EXPECT_EQ(scrolled.headerBand, (Rect{Frame, Frame, 3000, 300}));
+    EXPECT_EQ(scrolled.rowBar.track.top, scrolled.headerBand.Bottom());
+    EXPECT_EQ(scrolled.header.width, 3000 - Bar);
+}
+
 TEST(GridViewportTest, CellsAreCutWhereTheAreaEnds) {
     GridExtent extent = Extent(30, {2000, 2000});
-    extent.size.height += 100;
     const GridViewport view(extent);
     EXPECT_EQ(view.CellArea(0, 0), (Rect{Frame, Frame, 2000, 300}));
     EXPECT_EQ(view.CellArea(1, 1), (Rect{Frame + 2000, Frame + 300, 1000 - Bar, 300}));
     const Rect last = view.CellArea(view.BottomRow(), 0);
     EXPECT_EQ(last.Bottom(), view.cells.Bottom());
-    EXPECT_LT(last.height, 300);
+    EXPECT_EQ(last.height, 300);
     EXPECT_TRUE(view.CellArea(view.BottomRow() + 1, 0).IsEmpty());
 }
 

@@ -49,6 +49,30 @@ TEST(IconTest, TheSquareStandsInTheMiddleOfAWideArea) {
         EXPECT_NEAR(stroke.area.left + stroke.area.Right(), 900, 30);
 }
 
+/// Lengths of the bright and the dark stretches of a row of pixels, from the first bright one to the last.
+std::vector<int> Stretches(const std::vector<forms::Color>& picture, int pixels, int row) {
+    std::vector<int> lengths;
+    bool wasBright = false;
+    for (int x = 0; x < pixels; ++x) {
+        const auto index = static_cast<std::size_t>(row * pixels + x);
+        const bool isBright = (picture[index] >> 8 & 0xFF) > 0x60;
+        if (lengths.empty() && !isBright) continue;
+        if (lengths.empty() || isBright != wasBright) lengths.push_back(0);
+        ++lengths.back();
+        wasBright = isBright;
+    }
+    if (!wasBright && !lengths.empty()) lengths.pop_back();
+    return lengths;
+}
+
+TEST(IconTest, TheCoinOfANewCurrencyIsOpenInsideInTheSizeOfAButton) {
+    constexpr int Side = 20;
+    const std::vector<int> middle = Stretches(Picture(Icon::AddCurrency, Side, 15), Side, 12);
+    ASSERT_EQ(middle.size(), 5U) << "rim, inside, stroke, inside, rim";
+    EXPECT_GE(middle[1], 4);
+    EXPECT_GE(middle[3], 4);
+}
+
 TEST(IconTest, NoTwoIconsLookAlikeInTheSmallestSize) {
     std::set<std::vector<forms::Color>> pictures;
     for (int i = 1; i <= LastIcon; ++i)

@@ -10,7 +10,9 @@
 #include "forms/frame.h"
 #include "forms/image.h"
 #include "forms/label.h"
+#include "forms/look.h"
 #include "forms/picture_box.h"
+#include "forms/text_box.h"
 #include "support/headless_desktop.h"
 #include "support/recording_surface.h"
 
@@ -96,6 +98,22 @@ TEST_P(LookTest, ControlsWithoutRoomDrawWithoutTrouble) {
             EXPECT_TRUE(surface.ClipsAreBalanced()) << control->Name();
         }
     }
+}
+
+TEST(EdgeTest, ALockedTextHasALineInsteadOfAFrame) {
+    HeadlessDesktop desktop;
+    const auto form = std::make_shared<GalleryForm>(desktop);
+    forms::TextBox text(*form, "text");
+    using forms::look::EdgeOf;
+    namespace scheme = forms::scheme;
+    EXPECT_EQ(EdgeOf(text, false), (forms::look::Edge{scheme::Border, 15, false}));
+    EXPECT_EQ(EdgeOf(text, true), (forms::look::Edge{scheme::Focus, 30, false}));
+    text.SetLocked(true);
+    EXPECT_EQ(EdgeOf(text, false), (forms::look::Edge{scheme::Border, 15, true}));
+    EXPECT_EQ(EdgeOf(text, true), (forms::look::Edge{scheme::Focus, 30, false})) << "the focus is seen";
+    text.SetEnabled(false);
+    EXPECT_EQ(EdgeOf(text, false), (forms::look::Edge{scheme::GridLine, 15, true}));
+    EXPECT_FALSE(EdgeOf(form->plain, false).isLine);
 }
 
 INSTANTIATE_TEST_SUITE_P(Resolutions, LookTest, testing::Values(15.0, 12.0, 10.0, 7.5));

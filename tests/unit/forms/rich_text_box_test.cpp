@@ -143,7 +143,7 @@ TEST_F(RichTextBoxTest, AToolButtonShowsItsBorderItsFocusAndThatItIsOn) {
     form->note.SetFocus();
     EXPECT_FALSE(form->first.Accessible().pressed);
     form->first.SetChecked(true);
-    EXPECT_TRUE(DrawingOf(form->first).IsFilled(area, scheme::SelectionWithoutFocus));
+    EXPECT_TRUE(DrawingOf(form->first).IsFilled(area, scheme::Checked));
     EXPECT_TRUE(form->first.Accessible().pressed);
     EXPECT_EQ(form->first.Accessible().role, forms::Role::PushButton);
 }
