@@ -25,7 +25,8 @@ struct AccessibleNode {
     std::string name;
     std::string value;
     std::string description;
-    Rect bounds;  ///< from the control's own top left corner
+    Rect bounds;               ///< from the control's own top left corner
+    char32_t accelerator = 0;  ///< the letter that acts together with Alt, 0 for none
     bool focusable = false;
     bool focused = false;
     bool selected = false;

@@ -99,6 +99,7 @@ void CommandButton::DrawCaption(Surface& surface, const Rect& area, std::string_
 AccessibleNode CommandButton::Accessible() const {
     AccessibleNode node = Control::Accessible();
     node.role = Role::PushButton;
+    node.accelerator = accelerator_;
     const std::string_view caption = WithoutLeadingBlanks(caption_);
     if (AccessibleName().empty() && !caption.empty()) node.name = caption;
     return node;

@@ -43,18 +43,4 @@ LONG StateOf(const forms::AccessibleNode& node) {
     return state;
 }
 
-const wchar_t* DefaultActionOf(const forms::AccessibleNode& node) {
-    switch (node.role) {
-        case forms::Role::PushButton:
-            return L"Press";
-        case forms::Role::Cell:
-            return L"Select";
-        case forms::Role::ComboBox:
-        case forms::Role::DateField:
-            return L"Open";
-        default:
-            return nullptr;
-    }
-}
-
 }  // namespace tavrin::win32
