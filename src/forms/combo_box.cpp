@@ -20,8 +20,8 @@ bool BeginsWith(const std::string& item, char32_t letter) {
 
 }  // namespace
 
-ComboBox::ComboBox(Container& parent, std::string name, ComboStyle style, Rect bounds)
-    : Control(parent, std::move(name), bounds), style_(style) {
+ComboBox::ComboBox(Container& parent, std::string_view name, ComboStyle style, Rect bounds)
+    : Control(parent, name, bounds), style_(style) {
     SetBackColor(scheme::Field);
     SetForeColor(scheme::Value);
 }

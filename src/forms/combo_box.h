@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "forms/control.h"
@@ -16,7 +17,7 @@ enum class ComboStyle {
 /// onChange.
 class ComboBox : public Control {
   public:
-    ComboBox(Container& parent, std::string name, ComboStyle style, Rect bounds = {});
+    ComboBox(Container& parent, std::string_view name, ComboStyle style, Rect bounds = {});
     ControlKind Kind() const override { return ControlKind::ComboBox; }
     ComboStyle Style() const { return style_; }
 

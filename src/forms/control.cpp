@@ -6,8 +6,8 @@
 
 namespace tavrin::forms {
 
-Control::Control(Container& parent, std::string name, Rect bounds)
-    : parent_(parent), name_(std::move(name)), bounds_(bounds), tabIndex_(parent.OwnerForm().NextTabIndex()) {
+Control::Control(Container& parent, std::string_view name, Rect bounds)
+    : parent_(parent), name_(name), bounds_(bounds), tabIndex_(parent.OwnerForm().NextTabIndex()) {
     parent_.controls_.push_back(this);
 }
 
@@ -57,8 +57,8 @@ void Control::SetFont(Font font) {
     Repaint();
 }
 
-void Control::SetToolTip(std::string toolTip) {
-    toolTip_ = std::move(toolTip);
+void Control::SetToolTip(std::string_view toolTip) {
+    toolTip_ = toolTip;
     Notify(Aspect::ToolTip);
 }
 

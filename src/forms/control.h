@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "forms/accessible.h"
 #include "forms/color.h"
@@ -31,7 +32,7 @@ enum class KeyOutcome {
 /// tools reach it through the same entry points. A handler that throws ends there and is reported once.
 class Control {
   public:
-    Control(Container& parent, std::string name, Rect bounds = {});
+    Control(Container& parent, std::string_view name, Rect bounds = {});
     virtual ~Control();
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
@@ -61,7 +62,7 @@ class Control {
     const Font& TextFont() const { return font_; }
     void SetFont(Font font);
     const std::string& ToolTip() const { return toolTip_; }
-    void SetToolTip(std::string toolTip);
+    void SetToolTip(std::string_view toolTip);
     int TabIndex() const { return tabIndex_; }  ///< declaration order unless set
     void SetTabIndex(int tabIndex) { tabIndex_ = tabIndex; }
     /// The name that assistive tools speak where no caption gives one.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "data/date.h"
@@ -17,7 +18,7 @@ namespace tavrin::forms {
 class DatePicker : public Control {
   public:
     /// `customFormat` knows dd, MM, MMM (the locale's abbreviation), yy and yyyy; all else stands as it is.
-    DatePicker(Container& parent, std::string name, const std::string& customFormat, Rect bounds = {});
+    DatePicker(Container& parent, std::string_view name, const std::string& customFormat, Rect bounds = {});
     ControlKind Kind() const override { return ControlKind::DatePicker; }
 
     data::OleDate Date() const { return value_; }

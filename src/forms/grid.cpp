@@ -7,7 +7,7 @@
 
 namespace tavrin::forms {
 
-Grid::Grid(Container& parent, std::string name, Rect bounds) : Control(parent, std::move(name), bounds) {
+Grid::Grid(Container& parent, std::string_view name, Rect bounds) : Control(parent, name, bounds) {
     SetBackColor(scheme::Field);
     SetForeColor(scheme::Value);
 }

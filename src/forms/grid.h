@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "data/table.h"
@@ -16,7 +17,7 @@ namespace tavrin::forms {
 /// them and copies none. Without a data source the cells are its own (SetRows, SetTextMatrix).
 class Grid : public Control {
   public:
-    Grid(Container& parent, std::string name, Rect bounds = {});
+    Grid(Container& parent, std::string_view name, Rect bounds = {});
 
     // Content.
     /// Binds the grid to a table: one column a field, one row a row; the current cell becomes (1, 0), or (0,

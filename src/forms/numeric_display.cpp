@@ -28,8 +28,8 @@ Font FittingFont(Surface& surface, const std::string& text, Font font, int width
 
 }  // namespace
 
-NumericDisplay::NumericDisplay(Container& parent, std::string name, Rect bounds)
-    : Control(parent, std::move(name), bounds) {
+NumericDisplay::NumericDisplay(Container& parent, std::string_view name, Rect bounds)
+    : Control(parent, name, bounds) {
     SetBackColor(scheme::Field);
     Format();
 }
