@@ -19,6 +19,8 @@ namespace layout = shell::layout;
 namespace message = shell::message;
 
 constexpr std::array<const char*, 7> OperatorCaptions = {"/", "+", "X", "-", "=", "%", "+/-"};
+constexpr std::array<const char*, 7> SpokenOperators = {"împărțit", "plus",    "înmulțit",      "minus",
+                                                        "egal",     "procent", "schimbă semnul"};
 constexpr std::array<const char*, 4> Precisions = {"0 zecimale", "2 zecimale", "4 zecimale", "6 zecimale"};
 constexpr int TwoDecimals = 1;
 constexpr std::string_view LeiUnit = "Lei";
@@ -43,6 +45,12 @@ constexpr int DisplaysTop = layout::Margin + TopRowHeight + layout::Unit;
 constexpr int ListsTop = DisplaysTop + 2 * (DisplayHeight + layout::Unit) + layout::Unit;
 constexpr int KeysTop = ListsTop + layout::FieldHeight + layout::Gap;
 constexpr int WindowHeight = KeysTop + KeyRows * (KeyHeight + KeyGap) - KeyGap + layout::Margin;
+
+/// Whether a key brings a number that nobody has typed. What is typed is read out key by key.
+bool ShowsResult(Command command) {
+    return command > Command::Digit9 && command != Command::DecimalPoint && command != Command::Clear &&
+           command != Command::ClearEntry && command != Command::MemoryClear;
+}
 
 void PlaceKey(KeyButton& button, int column, int row, KeyKind kind) {
     button.SetBounds({layout::Margin + column * (KeyWidth + KeyGap), KeysTop + row * (KeyHeight + KeyGap),
@@ -145,6 +153,7 @@ void FrmCalculator::PlaceKeys() {
 
     for (int i = 0; i < static_cast<int>(OperatorCaptions.size()); ++i)
         Operator[i].SetCaption(OperatorCaptions[static_cast<std::size_t>(i)]);
+    NameKeys();
     PlaceKey(Operator[6], 3, 3, KeyKind::Operator);
     PlaceKey(Operator[0], 4, 0, KeyKind::Operator);
     PlaceKey(Operator[2], 4, 1, KeyKind::Operator);
@@ -154,6 +163,19 @@ void FrmCalculator::PlaceKeys() {
     PlaceKey(CancelEntry, 5, 1, KeyKind::Clear);
     PlaceKey(Operator[5], 5, 2, KeyKind::Operator);
     PlaceKey(Operator[4], 5, 3, KeyKind::Result);
+}
+
+/// What is read out for a caption that is no word.
+void FrmCalculator::NameKeys() {
+    static constexpr std::pair<KeyButton FrmCalculator::*, std::string_view> spoken[] = {
+        {&FrmCalculator::Cancel, "șterge tot"},         {&FrmCalculator::CancelEntry, "șterge numărul"},
+        {&FrmCalculator::cmdMC, "golește memoria"},     {&FrmCalculator::cmdMR, "citește memoria"},
+        {&FrmCalculator::cmdMPlus, "adună la memorie"}, {&FrmCalculator::cmdMMinus, "scade din memorie"},
+    };
+    for (const auto& [key, name] : spoken)
+        (this->*key).SetAccessibleName(name);
+    for (const auto& key : Operator)
+        key->SetAccessibleName(SpokenOperators[static_cast<std::size_t>(key->Index())]);
 }
 
 // Events.
@@ -210,6 +232,7 @@ void FrmCalculator::OnLoad() {
     // What a chooser may have left in an instance that nobody has opened yet goes as well.
     ValValuta.SetUnitText(CurrencyUnit);
     Decimal.SetCaption(UserLocale().decimalSeparator);
+    Decimal.SetAccessibleName(Decimal.Caption() == "," ? "virgulă" : "punct");
     engine_.SetDecimalSeparator(UserLocale().decimalSeparator);
     engine_.Press(Command::Clear);
     rate_ = 1;
@@ -257,6 +280,15 @@ void FrmCalculator::ShowValues() {
     }
 }
 
+forms::NumericDisplay& FrmCalculator::ActiveDisplay() {
+    return IsInLei() ? ValLei : ValValuta;
+}
+
+void FrmCalculator::SetRateCaption(const std::string& caption) {
+    lblCurs.SetCaption(caption);
+    lblCurs.Announce();
+}
+
 double FrmCalculator::ShownValue() const {
     return IsInLei() ? ValLei.Value() : ValValuta.Value();
 }
@@ -288,6 +320,7 @@ void FrmCalculator::cmbUM_Click() {
     Shape2.SetBackColor(inLei ? forms::Black : forms::FocusGrey);
     engine_.SetEntry(inLei ? ValLei.Value() : ValValuta.Value());
     ShowValues();
+    ActiveDisplay().Announce();
 }
 
 void FrmCalculator::SetCurrencyAmount(double amount) {
@@ -326,7 +359,8 @@ void FrmCalculator::Key_KeyPress(char32_t& character) {
 }
 
 void FrmCalculator::Press(Command command) {
-    if (!engine_.Press(command)) OwnerDesktop().Beep();
+    if (!engine_.Press(command)) return OwnerDesktop().Beep();
+    if (ShowsResult(command)) ActiveDisplay().Announce();
 }
 
 void FrmCalculator::PressAndFocus(Command command) {

@@ -31,7 +31,7 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     double CurrencyAmount() const override { return ValValuta.Value(); }
     void SetCurrencyAmount(double amount) override;
     void SetCurrencyUnit(const std::string& currency) override { ValValuta.SetUnitText(currency); }
-    void SetRateCaption(const std::string& caption) override { lblCurs.SetCaption(caption); }
+    void SetRateCaption(const std::string& caption) override;
 
     forms::Frame z;
     forms::Label lblCurs;
@@ -65,6 +65,7 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     void PlaceDisplays();
     void PlaceLists();
     void PlaceKeys();
+    void NameKeys();
     void ConnectEvents();
     void ConnectKeys();
     void ConnectTyping();
@@ -77,6 +78,7 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     void ShowMemoryMark(bool visible) override;
 
     bool IsInLei() const;
+    forms::NumericDisplay& ActiveDisplay();  ///< of the unit that is typed in
     void cmbPrecizie_Click();
     void cmbUM_Click();
     void cmdVal_Click();

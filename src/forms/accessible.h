@@ -15,6 +15,7 @@ enum class Role {
     Graphic,
     Table,
     Cell,
+    ColumnHeader,
     Chart,
     DateField
 };
@@ -35,6 +36,8 @@ struct AccessibleNode {
     bool readOnly = false;
     bool invisible = false;
     bool unavailable = false;
+    bool expandable = false;  ///< opens something, which `expanded` says is open
+    bool expanded = false;
 };
 
 }  // namespace tavrin::forms

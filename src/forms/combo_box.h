@@ -43,7 +43,7 @@ class ComboBox : public Control {
     /// well.
     void HandleChosen(int index);
     void HandleTyped(std::string text);
-    void HandleDropped(bool dropped) { dropped_ = dropped; }
+    void HandleDropped(bool dropped);
     bool IsDropped() const { return dropped_; }
 
     bool IsFocusable() const override { return true; }

@@ -62,6 +62,12 @@ void Control::SetToolTip(std::string_view toolTip) {
     Notify(Aspect::ToolTip);
 }
 
+void Control::SetAccessibleName(std::string_view name) {
+    if (accessibleName_ == name) return;
+    accessibleName_ = name;
+    Repaint();
+}
+
 bool Control::HasFocus() const {
     return OwnerForm().IsActive() && OwnerForm().ActiveControl() == this;
 }
@@ -167,8 +173,11 @@ KeyOutcome Control::DefaultKeyDown(int /*keyCode*/, Modifiers /*modifiers*/) {
     return KeyOutcome::Default;
 }
 
-KeyOutcome Control::DefaultKeyPress(char32_t /*character*/) {
-    return KeyOutcome::Default;
+KeyOutcome Control::DefaultKeyPress(char32_t character) {
+    const bool isDrawn = Kind() == ControlKind::Drawn || Kind() == ControlKind::DatePicker;
+    if (!isDrawn || character < U' ') return KeyOutcome::Default;
+    OwnerForm().OwnerDesktop().Beep();
+    return KeyOutcome::Done;
 }
 
 void Control::Notify(Aspect aspect) {

@@ -66,8 +66,11 @@ class Control {
     int TabIndex() const { return tabIndex_; }  ///< declaration order unless set
     void SetTabIndex(int tabIndex) { tabIndex_ = tabIndex; }
     /// The name that assistive tools speak where no caption gives one.
-    void SetAccessibleName(std::string name) { accessibleName_ = std::move(name); }
+    void SetAccessibleName(std::string_view name);
     const std::string& AccessibleName() const { return accessibleName_; }
+
+    /// Has assistive tools say what the control shows, wherever the focus is.
+    void Announce() { Notify(Aspect::Announcement); }
 
     bool IsEffectivelyVisible() const { return visible_ && parent_.IsEffectivelyVisible(); }
     bool IsEffectivelyEnabled() const { return enabled_ && parent_.IsEffectivelyEnabled(); }
@@ -140,6 +143,7 @@ class Control {
   protected:
     /// What the control itself does with a key after its handler let it pass.
     virtual KeyOutcome DefaultKeyDown(int keyCode, Modifiers modifiers);
+    /// A character that a drawn control has no use for sounds, so that nobody takes it for typed.
     virtual KeyOutcome DefaultKeyPress(char32_t character);
     /// Takes over what was typed into the control but is not finished. Called before a key reaches any
     /// handler, and with code 0 when the focus leaves, so that handlers see the value that the user sees.

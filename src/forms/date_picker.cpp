@@ -221,6 +221,11 @@ void DatePicker::DropDown() {
     if (Peer() != nullptr) Peer()->DropDown();
 }
 
+void DatePicker::HandleDropped(bool dropped) {
+    dropped_ = dropped;
+    Repaint();
+}
+
 // The mouse.
 
 void DatePicker::DefaultMouseDown(const MouseInput& input) {
@@ -267,6 +272,8 @@ AccessibleNode DatePicker::Accessible() const {
     AccessibleNode node = Control::Accessible();
     node.role = Role::DateField;
     node.value = Text();
+    node.expandable = true;
+    node.expanded = dropped_;
     return node;
 }
 

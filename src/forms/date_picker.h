@@ -36,10 +36,12 @@ class DatePicker : public Control {
     /// The part that Up, Down and digits change.
     DatePart ActivePart() const;
 
-    /// Entry point of the calendar: the user chose a day.
+    /// Entry points of the calendar: the user chose a day; it has opened or closed.
     void HandleChosen(data::OleDate date) {
         if (AcceptsInput()) SetDate(date);
     }
+
+    void HandleDropped(bool dropped);
 
     bool IsFocusable() const override { return true; }
     void HandleWheel(int notches) override;
@@ -71,6 +73,7 @@ class DatePicker : public Control {
     data::OleDate maxDate_;
     std::size_t active_ = 0;
     std::string typed_;
+    bool dropped_ = false;  ///< the calendar is open
     /// The day as the user is typing it, part after part; it need not exist nor lie in the range yet.
     data::CalendarDay wanted_;
     /// Where the pieces began when they were last drawn, for the mouse.

@@ -54,6 +54,9 @@ class Grid : public Control {
     int ColSel() const { return columnSel_; }
     void SetColSel(int column);
 
+    /// What tells a cell from the others: its column, and what its row begins with. "EUR, 05/05/2003".
+    std::string CellName(int row, int column) const;
+
     /// Where a cell lies in the grid, empty when it is scrolled or hidden away.
     Rect CellBounds(int row, int column) const;
     int TopRow() const;
@@ -120,6 +123,9 @@ class Grid : public Control {
     bool IsSelected(int row, int column) const;
 
     std::vector<int> ShownColumns() const;
+    /// Where a cell stands; of the current one first what is selected beside it: "EUR 37500, rândul 3 din
+    /// 300".
+    std::string Describe(int row, int column) const;
     /// The number of a cell among the parts, -1 in a hidden column.
     int PartOf(int row, int column) const;
 

@@ -41,7 +41,7 @@ AccessibleControl::AccessibleControl(forms::Control& control, HWND window, std::
       kind_(AccessibleKind::Of(control)),
       window_(window),
       inUse_(std::move(inUse)),
-      lastValue_(control.Accessible().value),
+      last_(control.Accessible()),
       lastSelected_(SelectedChild()) {}
 
 void AccessibleControl::Disconnect() noexcept {
@@ -51,15 +51,20 @@ void AccessibleControl::Disconnect() noexcept {
 
 void AccessibleControl::NotifyChanges() {
     if (control_ == nullptr) return;
-    if (std::string value = control_->Accessible().value; value != lastValue_) {
-        lastValue_ = std::move(value);
-        NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, window_, OBJID_CLIENT, CHILDID_SELF);
-    }
-    if (const LONG selected = SelectedChild(); selected != lastSelected_) {
-        lastSelected_ = selected;
-        NotifyWinEvent(EVENT_OBJECT_SELECTION, window_, OBJID_CLIENT, selected);
-        if (control_->HasFocus()) NotifyWinEvent(EVENT_OBJECT_FOCUS, window_, OBJID_CLIENT, selected);
-    }
+    forms::AccessibleNode node = control_->Accessible();
+    if (node.name != last_.name) Tell(EVENT_OBJECT_NAMECHANGE);
+    if (node.value != last_.value) Tell(EVENT_OBJECT_VALUECHANGE);
+    if (node.expanded != last_.expanded) Tell(EVENT_OBJECT_STATECHANGE);
+    last_ = std::move(node);
+    const LONG selected = SelectedChild();
+    if (selected == lastSelected_) return;
+    lastSelected_ = selected;
+    Tell(EVENT_OBJECT_SELECTION, selected);
+    if (last_.focused) Tell(EVENT_OBJECT_FOCUS, selected);
+}
+
+void AccessibleControl::Tell(DWORD event, LONG child) const {
+    NotifyWinEvent(event, window_, OBJID_CLIENT, child);
 }
 
 // One for all bodies: what catches is larger than what most of them do.

@@ -78,6 +78,7 @@ class AccessibleControl final : public UnknownObject<IAccessible> {
 
     bool HasChild(LONG child) const;
     LONG SelectedChild() const;
+    void Tell(DWORD event, LONG child = CHILDID_SELF) const;
     HRESULT Navigate(LONG direction, LONG from, VARIANT* end) const;
     /// The system's own object for the window, for what the control has nothing to add to.
     ComPtr<IAccessible> Standard() const;
@@ -87,7 +88,7 @@ class AccessibleControl final : public UnknownObject<IAccessible> {
     const AccessibleKind& kind_;
     HWND window_;
     std::shared_ptr<const void> inUse_;
-    std::string lastValue_;
+    forms::AccessibleNode last_;  ///< as it was told of last
     LONG lastSelected_ = 0;
 };
 

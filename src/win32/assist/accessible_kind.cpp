@@ -28,7 +28,7 @@ namespace {
 class AccessibleText final : public AccessibleKind {};
 
 class AccessibleButton final : public AccessibleKind {
-    const char* DefaultAction(const forms::AccessibleNode&) const override { return "Press"; }
+    const char* DefaultAction(const forms::AccessibleNode&) const override { return "Apasă"; }
     void DoDefaultAction(forms::Control& control, const forms::AccessibleNode&) const override {
         control.Click();
     }
@@ -36,7 +36,9 @@ class AccessibleButton final : public AccessibleKind {
 
 /// A field that opens a list or a calendar.
 class AccessibleDropDown final : public AccessibleKind {
-    const char* DefaultAction(const forms::AccessibleNode&) const override { return "Open"; }
+    const char* DefaultAction(const forms::AccessibleNode& node) const override {
+        return node.expanded ? "Închide" : "Deschide";
+    }
     void DoDefaultAction(forms::Control& control, const forms::AccessibleNode&) const override {
         if (control.IsEffectivelyEnabled() && control.Peer() != nullptr) control.Peer()->DropDown();
     }
@@ -54,7 +56,7 @@ class AccessibleField final : public AccessibleKind {
 
 class AccessibleGrid final : public AccessibleKind {
     const char* DefaultAction(const forms::AccessibleNode& node) const override {
-        return node.role == forms::Role::Cell ? "Select" : nullptr;
+        return node.role == forms::Role::Cell ? "Selectează" : nullptr;
     }
     void DoDefaultAction(forms::Control& control, const forms::AccessibleNode& cell) const override {
         Press(control, cell);

@@ -91,6 +91,7 @@ void ComboPeer::Changed(forms::Aspect aspect) {
 }
 
 void ComboPeer::DropDown() {
+    if (IsOpen()) return CloseList();
     SendMessageW(Handle(), CB_SHOWDROPDOWN, TRUE, 0);
     // The platform hides the pointer until the mouse moves.
     SetCursor(LoadCursorW(nullptr, IDC_ARROW));

@@ -71,6 +71,8 @@ void ControlWindow::Changed(forms::Aspect aspect) {
             return EnableOrDisable();
         case forms::Aspect::ToolTip:
             return form_.Tips().Set(Handle(), control_.ToolTip());
+        case forms::Aspect::Announcement:
+            return Announce();
         default:
             InvalidateRect(Handle(), nullptr, FALSE);
             NotifyAssistiveTools();
@@ -135,6 +137,12 @@ void ControlWindow::EnableOrDisable() {
 
 void ControlWindow::NotifyAssistiveTools() {
     if (accessible_) accessible_->NotifyChanges();
+}
+
+void ControlWindow::Announce() {
+    constexpr DWORD LiveRegionChanged = 0x8019;  // EVENT_OBJECT_LIVEREGIONCHANGED, of newer headers
+    NotifyAssistiveTools();
+    NotifyWinEvent(LiveRegionChanged, Handle(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 // What the platform tells.
