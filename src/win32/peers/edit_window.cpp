@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "win32/system/contrast.h"
 #include "win32/window/mouse_message.h"
 
 namespace tavrin::win32 {
@@ -96,8 +97,10 @@ bool EditWindow::TellModelOfMouse(const Message& message) {
 // The frame.
 
 EditFrame EditWindow::FocusFrame() const {
-    if (HoldsFocus()) return {forms::scheme::Focus, FrameThickness(PixelScale())};
-    return {OwnControl().IsEffectivelyEnabled() ? forms::scheme::Border : forms::scheme::GridLine,
+    using forms::ColorUse;
+    if (HoldsFocus()) return {OnScreen(ColorUse::Line, forms::scheme::Focus), FrameThickness(PixelScale())};
+    const bool enabled = OwnControl().IsEffectivelyEnabled();
+    return {OnScreen(ColorUse::Line, enabled ? forms::scheme::Border : forms::scheme::GridLine),
             PlainFrameThickness(PixelScale())};
 }
 
