@@ -2,6 +2,8 @@
 
 #include "forms/surface.h"
 
+#undef DrawText  // whichever header came first
+
 namespace tavrin::forms {
 
 /// The colours of a user who needs contrast: what the scheme gives way to. Each pair stands out by itself.
