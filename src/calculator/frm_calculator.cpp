@@ -16,6 +16,8 @@ namespace key = forms::key;
 namespace layout = shell::layout;
 namespace message = shell::message;
 
+constexpr std::array<const char*, 7> SpokenOperators = {"împărțit", "plus",    "înmulțit",      "minus",
+                                                        "egal",     "procent", "schimbă semnul"};
 constexpr std::array<const char*, 4> Precisions = {"0 zecimale", "2 zecimale", "4 zecimale", "6 zecimale"};
 constexpr int TwoDecimals = 1;
 constexpr const char* LeiUnit = "Lei";
@@ -43,6 +45,12 @@ constexpr int WindowHeight = KeysTop + KeyRows * (KeyHeight + KeyGap) - KeyGap +
 
 bool IsOfMemory(Command command) {
     return command >= Command::MemoryClear;
+}
+
+/// Whether a key brings a number that nobody has typed. What is typed is read out key by key.
+bool ShowsResult(Command command) {
+    return command > Command::Digit9 && command != Command::DecimalPoint && command != Command::Clear &&
+           command != Command::ClearEntry && command != Command::MemoryClear;
 }
 
 void PlaceKey(KeyButton& button, int column, int row, KeyKind kind) {
@@ -146,6 +154,7 @@ void FrmCalculator::PlaceKeys() {
 
     for (std::size_t i = 0; i < OperatorKeys.size(); ++i)
         Operator[static_cast<int>(i)].SetCaption(OperatorKeys[i].caption);
+    NameKeys();
     PlaceKey(Operator[6], 3, 3, KeyKind::Operator);
     PlaceKey(Operator[0], 4, 0, KeyKind::Operator);
     PlaceKey(Operator[2], 4, 1, KeyKind::Operator);
@@ -155,6 +164,19 @@ void FrmCalculator::PlaceKeys() {
     PlaceKey(CancelEntry, 5, 1, KeyKind::Clear);
     PlaceKey(Operator[5], 5, 2, KeyKind::Operator);
     PlaceKey(Operator[4], 5, 3, KeyKind::Result);
+}
+
+/// What is read out for a caption that is no word.
+void FrmCalculator::NameKeys() {
+    static constexpr std::pair<KeyButton FrmCalculator::*, std::string_view> spoken[] = {
+        {&FrmCalculator::Cancel, "șterge tot"},         {&FrmCalculator::CancelEntry, "șterge numărul"},
+        {&FrmCalculator::cmdMC, "golește memoria"},     {&FrmCalculator::cmdMR, "citește memoria"},
+        {&FrmCalculator::cmdMPlus, "adună la memorie"}, {&FrmCalculator::cmdMMinus, "scade din memorie"},
+    };
+    for (const auto& [key, name] : spoken)
+        (this->*key).SetAccessibleName(name);
+    for (const auto& key : Operator)
+        key->SetAccessibleName(SpokenOperators[static_cast<std::size_t>(key->Index())]);
 }
 
 // Events.
@@ -215,6 +237,7 @@ void FrmCalculator::OnLoad() {
     // What a chooser may have left in an instance that nobody has opened yet goes as well.
     ValValuta.SetUnitText(CurrencyUnit);
     Decimal.SetCaption(UserLocale().decimalSeparator);
+    Decimal.SetAccessibleName(Decimal.Caption() == "," ? "virgulă" : "punct");
     engine_.SetDecimalSeparator(UserLocale().decimalSeparator);
     engine_.Press(Command::Clear);
     conversion_.SetRate(1);
@@ -249,6 +272,10 @@ void FrmCalculator::ShowValues() {
     if (!inLei) ValLei.SetValue(conversion_.Lei());
 }
 
+forms::NumericDisplay& FrmCalculator::ActiveDisplay() {
+    return conversion_.TypedIn() == Unit::Lei ? ValLei : ValValuta;
+}
+
 void FrmCalculator::ReportDivisionByZero() {
     module_.ShowMessage("Impartire la 0 !!", message::Exclamation, message::Ok, "Eroare");
 }
@@ -274,11 +301,13 @@ void FrmCalculator::cmbUM_Click() {
     ValValuta.SetActive(!inLei);
     Shape2.SetBackColor(inLei ? forms::Black : forms::FocusGrey);
     engine_.ChooseUnit(inLei ? Unit::Lei : Unit::Currency);
+    ActiveDisplay().Announce();
 }
 
 void FrmCalculator::TakeChoice(const rates::CurrencyChoice& choice) {
     conversion_.SetRate(choice.rate);
     lblCurs.SetCaption(choice.rateCaption);
+    lblCurs.Announce();
     ValValuta.SetUnitText(choice.currency);
     conversion_.BuyFor(choice.amountInLei);
     ValValuta.SetValue(conversion_.Currency());
@@ -312,7 +341,8 @@ void FrmCalculator::Key_KeyPress(char32_t& character) {
 }
 
 void FrmCalculator::Press(Command command) {
-    if (!engine_.Press(command)) OwnerDesktop().Beep();
+    if (!engine_.Press(command)) return OwnerDesktop().Beep();
+    if (ShowsResult(command)) ActiveDisplay().Announce();
 }
 
 void FrmCalculator::PressAndFocus(Command command) {

@@ -70,6 +70,7 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     void PlaceDisplays();
     void PlaceLists();
     void PlaceKeys();
+    void NameKeys();
     void ConnectEvents();
     void ConnectKeys();
     void AssignKeys();
@@ -81,6 +82,7 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     void ReportDivisionByZero() override;
     void ShowMemoryMark(bool visible) override;
 
+    forms::NumericDisplay& ActiveDisplay();  ///< of the unit that is typed in
     void cmbPrecizie_Click();
     void cmbUM_Click();
     void cmdVal_Click();

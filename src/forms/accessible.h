@@ -15,6 +15,7 @@ enum class Role {
     Graphic,
     Table,
     Cell,
+    ColumnHeader,
     Chart,
     DateField
 };
@@ -25,7 +26,8 @@ struct AccessibleNode {
     std::string name;
     std::string value;
     std::string description;
-    Rect bounds;  ///< from the control's own top left corner
+    Rect bounds;               ///< from the control's own top left corner
+    char32_t accelerator = 0;  ///< the letter that acts together with Alt, 0 for none
     bool focusable = false;
     bool focused = false;
     bool selected = false;
@@ -34,6 +36,8 @@ struct AccessibleNode {
     bool readOnly = false;
     bool invisible = false;
     bool unavailable = false;
+    bool expandable = false;  ///< opens something, which `expanded` says is open
+    bool expanded = false;
 };
 
 }  // namespace tavrin::forms

@@ -23,6 +23,7 @@ void CellEditor::Open(int row, int column) {
     column_ = grid_.Col();
     if (!IsOpen()) return;
     PlaceField();
+    field_.SetAccessibleName(grid_.CellName(row_, column_));
     field_.SetText(grid_.TextMatrix(row_, column_));
     field_.SetVisible(true);
     field_.SetFocus();

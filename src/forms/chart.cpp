@@ -173,7 +173,7 @@ class ChartPainter {
 
 }  // namespace
 
-Chart::Chart(Container& parent, std::string name, Rect bounds) : Control(parent, std::move(name), bounds) {
+Chart::Chart(Container& parent, std::string_view name, Rect bounds) : Control(parent, name, bounds) {
     SetBackColor(scheme::Field);
 }
 

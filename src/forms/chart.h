@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "forms/control.h"
@@ -19,7 +20,7 @@ class Chart : public Control {
         bool operator==(const ChartRow&) const = default;
     };
 
-    Chart(Container& parent, std::string name, Rect bounds = {});
+    Chart(Container& parent, std::string_view name, Rect bounds = {});
 
     /// Rows that are added have neither label nor value; rows that are cut off are gone.
     void SetRowCount(int count);

@@ -20,8 +20,8 @@ bool BeginsWith(const std::string& item, char32_t letter) {
 
 }  // namespace
 
-ComboBox::ComboBox(Container& parent, std::string name, ComboStyle style, Rect bounds)
-    : Control(parent, std::move(name), bounds), style_(style) {
+ComboBox::ComboBox(Container& parent, std::string_view name, ComboStyle style, Rect bounds)
+    : Control(parent, name, bounds), style_(style) {
     SetBackColor(scheme::Field);
     SetForeColor(scheme::Value);
 }
@@ -49,6 +49,11 @@ void ComboBox::HandleChosen(int index) {
     if (index < 0 || index >= ListCount() || !AcceptsInput()) return;
     TakeEntry(index);
     Raise(event::Click, onClick);
+}
+
+void ComboBox::HandleDropped(bool dropped) {
+    dropped_ = dropped;
+    Repaint();
 }
 
 void ComboBox::TakeEntry(int index) {
@@ -105,7 +110,7 @@ void ComboBox::Select(int start, int length) {
 KeyOutcome ComboBox::DefaultKeyDown(int keyCode, Modifiers modifiers) {
     const bool opens = keyCode == key::F4 || (modifiers.alt && (keyCode == key::Down || keyCode == key::Up));
     if (opens && Peer() != nullptr) {
-        Peer()->DropDown();
+        if (!dropped_) Peer()->DropDown();
         return KeyOutcome::Done;
     }
     if (dropped_ || modifiers.alt || modifiers.control) return Control::DefaultKeyDown(keyCode, modifiers);
@@ -148,7 +153,9 @@ KeyOutcome ComboBox::DefaultKeyPress(char32_t character) {
         if (index != listIndex_) HandleChosen(index);
         return KeyOutcome::Done;
     }
-    return Control::DefaultKeyPress(character);
+    if (character < U' ') return Control::DefaultKeyPress(character);
+    OwnerForm().OwnerDesktop().Beep();
+    return KeyOutcome::Done;
 }
 
 // The look.
@@ -170,6 +177,8 @@ AccessibleNode ComboBox::Accessible() const {
     AccessibleNode node = Control::Accessible();
     node.role = Role::ComboBox;
     node.value = text_;
+    node.expandable = true;
+    node.expanded = dropped_;
     return node;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "forms/control.h"
@@ -16,7 +17,7 @@ enum class ComboStyle {
 /// onChange.
 class ComboBox : public Control {
   public:
-    ComboBox(Container& parent, std::string name, ComboStyle style, Rect bounds = {});
+    ComboBox(Container& parent, std::string_view name, ComboStyle style, Rect bounds = {});
     ControlKind Kind() const override { return ControlKind::ComboBox; }
     ComboStyle Style() const { return style_; }
 
@@ -45,7 +46,7 @@ class ComboBox : public Control {
     /// well.
     void HandleChosen(int index);
     void HandleTyped(std::string text);
-    void HandleDropped(bool dropped) { dropped_ = dropped; }
+    void HandleDropped(bool dropped);
     bool IsDropped() const { return dropped_; }
 
     bool IsFocusable() const override { return true; }

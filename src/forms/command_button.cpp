@@ -1,7 +1,6 @@
 #include "forms/command_button.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "forms/form.h"
 #include "forms/look.h"
@@ -30,12 +29,12 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
 
 }  // namespace
 
-CommandButton::CommandButton(Container& parent, std::string name, std::string caption, Rect bounds)
-    : Control(parent, std::move(name), bounds), caption_(std::move(caption)) {}
+CommandButton::CommandButton(Container& parent, std::string_view name, std::string_view caption, Rect bounds)
+    : Control(parent, name, bounds), caption_(caption) {}
 
-void CommandButton::SetCaption(std::string caption) {
+void CommandButton::SetCaption(std::string_view caption) {
     if (caption_ == caption) return;
-    caption_ = std::move(caption);
+    caption_ = caption;
     Repaint();
 }
 
@@ -99,6 +98,7 @@ void CommandButton::DrawCaption(Surface& surface, const Rect& area, std::string_
 AccessibleNode CommandButton::Accessible() const {
     AccessibleNode node = Control::Accessible();
     node.role = Role::PushButton;
+    node.accelerator = accelerator_;
     const std::string_view caption = WithoutLeadingBlanks(caption_);
     if (AccessibleName().empty() && !caption.empty()) node.name = caption;
     return node;

@@ -12,10 +12,10 @@ namespace tavrin::forms {
 /// accelerator; the arrows walk to its neighbours.
 class CommandButton : public Control {
   public:
-    CommandButton(Container& parent, std::string name, std::string caption = {}, Rect bounds = {});
+    CommandButton(Container& parent, std::string_view name, std::string_view caption = {}, Rect bounds = {});
 
     const std::string& Caption() const { return caption_; }
-    void SetCaption(std::string caption);
+    void SetCaption(std::string_view caption);
     /// The letter that clicks the button together with Alt, 0 for none; its first place in the caption is
     /// underlined.
     char32_t Accelerator() const { return accelerator_; }

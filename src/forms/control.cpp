@@ -6,8 +6,8 @@
 
 namespace tavrin::forms {
 
-Control::Control(Container& parent, std::string name, Rect bounds)
-    : parent_(parent), name_(std::move(name)), bounds_(bounds), tabIndex_(parent.OwnerForm().NextTabIndex()) {
+Control::Control(Container& parent, std::string_view name, Rect bounds)
+    : parent_(parent), name_(name), bounds_(bounds), tabIndex_(parent.OwnerForm().NextTabIndex()) {
     parent_.controls_.push_back(this);
 }
 
@@ -57,9 +57,15 @@ void Control::SetFont(Font font) {
     Repaint();
 }
 
-void Control::SetToolTip(std::string toolTip) {
-    toolTip_ = std::move(toolTip);
+void Control::SetToolTip(std::string_view toolTip) {
+    toolTip_ = toolTip;
     Notify(Aspect::ToolTip);
+}
+
+void Control::SetAccessibleName(std::string_view name) {
+    if (accessibleName_ == name) return;
+    accessibleName_ = name;
+    Repaint();
 }
 
 bool Control::HasFocus() const {
@@ -167,8 +173,11 @@ KeyOutcome Control::DefaultKeyDown(int /*keyCode*/, Modifiers /*modifiers*/) {
     return KeyOutcome::Default;
 }
 
-KeyOutcome Control::DefaultKeyPress(char32_t /*character*/) {
-    return KeyOutcome::Default;
+KeyOutcome Control::DefaultKeyPress(char32_t character) {
+    const bool isDrawn = Kind() == ControlKind::Drawn || Kind() == ControlKind::DatePicker;
+    if (!isDrawn || character < U' ') return KeyOutcome::Default;
+    OwnerForm().OwnerDesktop().Beep();
+    return KeyOutcome::Done;
 }
 
 void Control::Notify(Aspect aspect) {

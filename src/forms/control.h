@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "forms/accessible.h"
 #include "forms/color.h"
@@ -33,7 +34,7 @@ enum class KeyOutcome {
 /// tools reach it through the same entry points. A handler that throws ends there and is reported once.
 class Control {
   public:
-    Control(Container& parent, std::string name, Rect bounds = {});
+    Control(Container& parent, std::string_view name, Rect bounds = {});
     virtual ~Control();
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
@@ -63,12 +64,15 @@ class Control {
     const Font& TextFont() const { return font_; }
     void SetFont(Font font);
     const std::string& ToolTip() const { return toolTip_; }
-    void SetToolTip(std::string toolTip);
+    void SetToolTip(std::string_view toolTip);
     int TabIndex() const { return tabIndex_; }  ///< declaration order unless set
     void SetTabIndex(int tabIndex) { tabIndex_ = tabIndex; }
     /// The name that assistive tools speak where no caption gives one.
-    void SetAccessibleName(std::string name) { accessibleName_ = std::move(name); }
+    void SetAccessibleName(std::string_view name);
     const std::string& AccessibleName() const { return accessibleName_; }
+
+    /// Has assistive tools say what the control shows, wherever the focus is.
+    void Announce() { Notify(Aspect::Announcement); }
 
     bool IsEffectivelyVisible() const { return visible_ && parent_.IsEffectivelyVisible(); }
     bool IsEffectivelyEnabled() const { return enabled_ && parent_.IsEffectivelyEnabled(); }
@@ -143,6 +147,7 @@ class Control {
   protected:
     /// What the control itself does with a key after its handler let it pass.
     virtual KeyOutcome DefaultKeyDown(int keyCode, Modifiers modifiers);
+    /// A character that a drawn control has no use for sounds, so that nobody takes it for typed.
     virtual KeyOutcome DefaultKeyPress(char32_t character);
     /// Takes over what was typed into the control but is not finished. Called before a key reaches any
     /// handler, and with code 0 when the focus leaves, so that handlers see the value that the user sees.

@@ -7,6 +7,7 @@
 #include <memory>
 #include <numeric>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -21,9 +22,9 @@ class ControlArray {
   public:
     using Indices = std::array<int, Count>;
 
-    ControlArray(Container& parent, const std::string& name) : ControlArray(parent, name, Counted()) {}
+    ControlArray(Container& parent, std::string_view name) : ControlArray(parent, name, Counted()) {}
 
-    ControlArray(Container& parent, const std::string& name, const Indices& indices) {
+    ControlArray(Container& parent, std::string_view name, const Indices& indices) {
         for (std::size_t i = 0; i < Count; ++i) {
             elements_[i] = std::make_unique<Element>(parent, name);
             elements_[i]->SetIndex(indices[i]);
@@ -33,7 +34,7 @@ class ControlArray {
     /// Elements that stand in different containers: `parentOf(index)` gives each one's.
     template <class ParentOf>
     requires std::is_invocable_r_v<Container&, ParentOf, int> ControlArray(ParentOf parentOf,
-                                                                           const std::string& name) {
+                                                                           std::string_view name) {
         for (std::size_t i = 0; i < Count; ++i) {
             const int index = static_cast<int>(i);
             elements_[i] = std::make_unique<Element>(parentOf(index), name);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "forms/form.h"
 #include "forms/look.h"
@@ -47,8 +46,8 @@ bool IsDigit(char32_t character) {
 
 }  // namespace
 
-DatePicker::DatePicker(Container& parent, std::string name, const std::string& customFormat, Rect bounds)
-    : Control(parent, std::move(name), bounds),
+DatePicker::DatePicker(Container& parent, std::string_view name, const std::string& customFormat, Rect bounds)
+    : Control(parent, name, bounds),
       pieces_(ParseDateFormat(customFormat)),
       minDate_(data::ToOleDate(FirstDay)),
       maxDate_(data::ToOleDate(LastDay)) {
@@ -222,6 +221,11 @@ void DatePicker::DropDown() {
     if (Peer() != nullptr) Peer()->DropDown();
 }
 
+void DatePicker::HandleDropped(bool dropped) {
+    dropped_ = dropped;
+    Repaint();
+}
+
 // The mouse.
 
 void DatePicker::DefaultMouseDown(const MouseInput& input) {
@@ -268,6 +272,8 @@ AccessibleNode DatePicker::Accessible() const {
     AccessibleNode node = Control::Accessible();
     node.role = Role::DateField;
     node.value = Text();
+    node.expandable = true;
+    node.expanded = dropped_;
     return node;
 }
 

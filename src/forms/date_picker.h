@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "data/date.h"
@@ -17,7 +18,7 @@ namespace tavrin::forms {
 class DatePicker : public Control {
   public:
     /// `customFormat` knows dd, MM, MMM (the locale's abbreviation), yy and yyyy; all else stands as it is.
-    DatePicker(Container& parent, std::string name, const std::string& customFormat, Rect bounds = {});
+    DatePicker(Container& parent, std::string_view name, const std::string& customFormat, Rect bounds = {});
     ControlKind Kind() const override { return ControlKind::DatePicker; }
 
     data::OleDate Date() const { return value_; }
@@ -35,10 +36,12 @@ class DatePicker : public Control {
     /// The part that Up, Down and digits change.
     DatePart ActivePart() const;
 
-    /// Entry point of the calendar: the user chose a day.
+    /// Entry points of the calendar: the user chose a day; it has opened or closed.
     void HandleChosen(data::OleDate date) {
         if (AcceptsInput()) SetDate(date);
     }
+
+    void HandleDropped(bool dropped);
 
     bool IsFocusable() const override { return true; }
     void HandleWheel(int notches) override;
@@ -70,6 +73,7 @@ class DatePicker : public Control {
     data::OleDate maxDate_;
     std::size_t active_ = 0;
     std::string typed_;
+    bool dropped_ = false;  ///< the calendar is open
     /// The day as the user is typing it, part after part; it need not exist nor lie in the range yet.
     data::CalendarDay wanted_;
     /// Where the pieces began when they were last drawn, for the mouse.

@@ -1,7 +1,6 @@
 #include "forms/decoration.h"
 
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 #include "forms/look.h"
@@ -55,7 +54,7 @@ class MovedSurface : public Surface {
 
 }  // namespace
 
-Shape::Shape(Container& parent, std::string name, Rect bounds) : Control(parent, std::move(name), bounds) {}
+Shape::Shape(Container& parent, std::string_view name, Rect bounds) : Control(parent, name, bounds) {}
 
 void Shape::Draw(Surface& surface) const {
     const Rect area = look::AreaOf(*this);
@@ -63,7 +62,7 @@ void Shape::Draw(Surface& surface) const {
     surface.DrawFrame(area, scheme::Border, look::PixelsOf(surface, look::FocusWidth / 2));
 }
 
-Line::Line(Container& parent, std::string name, Rect bounds) : Control(parent, std::move(name), bounds) {
+Line::Line(Container& parent, std::string_view name, Rect bounds) : Control(parent, name, bounds) {
     SetForeColor(scheme::Border);
 }
 

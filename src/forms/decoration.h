@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "forms/control.h"
 
 namespace tavrin::forms {
@@ -7,7 +9,7 @@ namespace tavrin::forms {
 /// A rectangle behind other controls. It has no window of its own: its container paints it.
 class Shape : public Control {
   public:
-    Shape(Container& parent, std::string name, Rect bounds = {});
+    Shape(Container& parent, std::string_view name, Rect bounds = {});
     ControlKind Kind() const override { return ControlKind::Decoration; }
     void Draw(Surface& surface) const override;
 };
@@ -17,7 +19,7 @@ class Line : public Control {
   public:
     static constexpr int Thickness = 15;  ///< twips
 
-    Line(Container& parent, std::string name, Rect bounds = {});
+    Line(Container& parent, std::string_view name, Rect bounds = {});
     ControlKind Kind() const override { return ControlKind::Decoration; }
     void Draw(Surface& surface) const override;
 };

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cwctype>
-#include <utility>
 
 #include "forms/command_button.h"
 
@@ -30,8 +29,8 @@ bool SameLetter(char32_t left, char32_t right) {
 
 }  // namespace
 
-Form::Form(Desktop& desktop, std::string name, std::string caption, BorderStyle border)
-    : desktop_(desktop), name_(std::move(name)), caption_(std::move(caption)), border_(border) {}
+Form::Form(Desktop& desktop, std::string_view name, std::string_view caption, BorderStyle border)
+    : desktop_(desktop), name_(name), caption_(caption), border_(border) {}
 
 Form::~Form() {
     if (loaded_) desktop_.Remove(*this);
@@ -39,8 +38,8 @@ Form::~Form() {
 
 // Properties.
 
-void Form::SetCaption(std::string caption) {
-    caption_ = std::move(caption);
+void Form::SetCaption(std::string_view caption) {
+    caption_ = caption;
     if (peer_) peer_->Changed(FormAspect::Caption);
 }
 

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "forms/container.h"
@@ -23,12 +24,12 @@ enum class BorderStyle { Borderless, FixedDialog };
 /// calls come on the one user-interface thread.
 class Form : public Container, public std::enable_shared_from_this<Form> {
   public:
-    Form(Desktop& desktop, std::string name, std::string caption, BorderStyle border);
+    Form(Desktop& desktop, std::string_view name, std::string_view caption, BorderStyle border);
     ~Form() override;
 
     const std::string& Name() const { return name_; }
     const std::string& Caption() const { return caption_; }
-    void SetCaption(std::string caption);
+    void SetCaption(std::string_view caption);
     BorderStyle Border() const { return border_; }
 
     /// The outer window on the screen, its frame included.

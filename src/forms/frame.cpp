@@ -1,13 +1,11 @@
 #include "forms/frame.h"
 
-#include <utility>
-
 #include "forms/decoration.h"
 #include "forms/look.h"
 
 namespace tavrin::forms {
 
-Frame::Frame(Container& parent, std::string name, Rect bounds) : Control(parent, std::move(name), bounds) {}
+Frame::Frame(Container& parent, std::string_view name, Rect bounds) : Control(parent, name, bounds) {}
 
 void Frame::SetBordered(bool bordered) {
     if (bordered_ == bordered) return;

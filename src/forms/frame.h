@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "forms/container.h"
 #include "forms/control.h"
@@ -10,7 +11,7 @@ namespace tavrin::forms {
 /// A panel that holds controls; hiding or disabling it hides or disables them.
 class Frame : public Control, public Container {
   public:
-    Frame(Container& parent, std::string name, Rect bounds = {});
+    Frame(Container& parent, std::string_view name, Rect bounds = {});
 
     void SetBordered(bool bordered);
 

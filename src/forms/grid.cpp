@@ -1,13 +1,23 @@
 #include "forms/grid.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
 
 #include "forms/form.h"
 
 namespace tavrin::forms {
 
-Grid::Grid(Container& parent, std::string name, Rect bounds) : Control(parent, std::move(name), bounds) {
+namespace {
+
+void Append(std::string& text, const char* separator, const std::string& more) {
+    text += separator;
+    text += more;
+}
+
+}  // namespace
+
+Grid::Grid(Container& parent, std::string_view name, Rect bounds) : Control(parent, name, bounds) {
     SetBackColor(scheme::Field);
     SetForeColor(scheme::Value);
 }
@@ -327,16 +337,43 @@ AccessibleNode Grid::AccessibleChild(int child) const {
     const int row = child / count;
     const int column = shown[static_cast<std::size_t>(child % count)];
     AccessibleNode node;
-    node.role = Role::Cell;
-    node.name = TextMatrix(0, column);
-    node.value = TextMatrix(row, column);
     node.bounds = CellBounds(row, column);
-    node.selectable = row > 0;
-    node.selected = row > 0 && IsSelected(row, column);
-    node.focused = HasFocus() && row == row_ && column == column_;
     node.readOnly = true;
     node.invisible = node.bounds.IsEmpty();
+    node.name = CellName(row, column);
+    if (row == 0) {
+        node.role = Role::ColumnHeader;
+        return node;
+    }
+    node.role = Role::Cell;
+    node.value = TextMatrix(row, column);
+    node.focused = row == row_ && column == column_ && HasFocus();
+    node.description = Describe(row, column);
+    node.selectable = true;
+    node.selected = IsSelected(row, column);
     return node;
+}
+
+std::string Grid::CellName(int row, int column) const {
+    std::string name = TextMatrix(0, column);
+    const int first = NeighbourColumn(-1, 1);
+    if (row > 0 && column != first) Append(name, ", ", TextMatrix(row, first));
+    return name;
+}
+
+std::string Grid::Describe(int row, int column) const {
+    std::string text;
+    const bool isCurrent = row == row_ && column == column_;
+    for (int other = 0; isCurrent && other < Columns(); ++other) {
+        if (other == column || ColumnWidth(other) == 0 || !IsSelected(row, other)) continue;
+        Append(text, "", TextMatrix(0, other));
+        Append(text, " ", TextMatrix(row, other));
+        text += ", ";
+    }
+    const char* before = "rândul ";
+    for (const int number : {row, DataRowCount()})
+        Append(text, std::exchange(before, " din "), std::to_string(number));
+    return text;
 }
 
 int Grid::PartOf(int row, int column) const {

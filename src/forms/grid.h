@@ -17,7 +17,7 @@ namespace tavrin::forms {
 /// them and copies none. Without a data source the cells are its own (SetRows, SetTextMatrix).
 class Grid : public Control {
   public:
-    Grid(Container& parent, std::string name, Rect bounds = {});
+    Grid(Container& parent, std::string_view name, Rect bounds = {});
 
     // Content.
     /// Binds the grid to a table: one column a field, one row a row; the current cell becomes (1, 0), or (0,
@@ -55,6 +55,9 @@ class Grid : public Control {
     int RowSel() const { return rowSel_; }
     int ColSel() const { return columnSel_; }
     void SetColSel(int column);
+
+    /// What tells a cell from the others: its column, and what its row begins with. "EUR, 05/05/2003".
+    std::string CellName(int row, int column) const;
 
     /// Where a cell lies in the grid, empty when it is scrolled or hidden away.
     Rect CellBounds(int row, int column) const;
@@ -129,6 +132,9 @@ class Grid : public Control {
     bool IsSelected(int row, int column) const;
 
     std::vector<int> ShownColumns() const;
+    /// Where a cell stands; of the current one first what is selected beside it: "EUR 37500, rândul 3 din
+    /// 300".
+    std::string Describe(int row, int column) const;
     /// The number of a cell among the parts, -1 in a hidden column.
     int PartOf(int row, int column) const;
 

@@ -1,12 +1,10 @@
 #include "forms/image.h"
 
-#include <utility>
-
 #include "forms/look.h"
 
 namespace tavrin::forms {
 
-Image::Image(Container& parent, std::string name, Rect bounds) : Control(parent, std::move(name), bounds) {}
+Image::Image(Container& parent, std::string_view name, Rect bounds) : Control(parent, name, bounds) {}
 
 void Image::SetPicture(Icon picture) {
     if (picture_ == picture) return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "forms/control.h"
 #include "forms/icon.h"
@@ -10,7 +11,7 @@ namespace tavrin::forms {
 /// A picture that can be clicked but never has the focus.
 class Image : public Control {
   public:
-    Image(Container& parent, std::string name, Rect bounds = {});
+    Image(Container& parent, std::string_view name, Rect bounds = {});
 
     Icon Picture() const { return picture_; }
     void SetPicture(Icon picture);

@@ -1,17 +1,15 @@
 #include "forms/label.h"
 
-#include <utility>
-
 #include "forms/look.h"
 
 namespace tavrin::forms {
 
-Label::Label(Container& parent, std::string name, std::string caption, Rect bounds)
-    : Control(parent, std::move(name), bounds), caption_(std::move(caption)) {}
+Label::Label(Container& parent, std::string_view name, std::string_view caption, Rect bounds)
+    : Control(parent, name, bounds), caption_(caption) {}
 
-void Label::SetCaption(std::string caption) {
+void Label::SetCaption(std::string_view caption) {
     if (caption_ == caption) return;
-    caption_ = std::move(caption);
+    caption_ = caption;
     Repaint();
 }
 

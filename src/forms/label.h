@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "forms/control.h"
 
@@ -9,10 +10,10 @@ namespace tavrin::forms {
 /// A caption; takes no focus.
 class Label : public Control {
   public:
-    Label(Container& parent, std::string name, std::string caption = {}, Rect bounds = {});
+    Label(Container& parent, std::string_view name, std::string_view caption = {}, Rect bounds = {});
 
     const std::string& Caption() const { return caption_; }
-    void SetCaption(std::string caption);
+    void SetCaption(std::string_view caption);
     void SetAlign(Align align);
     void SetWrap(bool wrap);
 

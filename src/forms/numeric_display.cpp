@@ -28,8 +28,8 @@ Font FittingFont(Surface& surface, const std::string& text, Font font, int width
 
 }  // namespace
 
-NumericDisplay::NumericDisplay(Container& parent, std::string name, Rect bounds)
-    : Control(parent, std::move(name), bounds) {
+NumericDisplay::NumericDisplay(Container& parent, std::string_view name, Rect bounds)
+    : Control(parent, name, bounds) {
     SetBackColor(scheme::Field);
     Format();
 }
@@ -86,6 +86,9 @@ void NumericDisplay::Draw(Surface& surface) const {
 AccessibleNode NumericDisplay::Accessible() const {
     AccessibleNode node = Control::Accessible();
     node.role = Role::StaticText;
+    // Tools that read the display out say its name alone.
+    node.name += ": " + text_;
+    if (unitText_ != AccessibleName()) node.name += " " + unitText_;
     node.value = text_;
     node.description = unitText_;
     node.readOnly = true;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "forms/control.h"
 
@@ -13,7 +14,7 @@ class NumericDisplay : public Control {
   public:
     static constexpr std::uint8_t MaxDecimals = 6;
 
-    NumericDisplay(Container& parent, std::string name, Rect bounds = {});
+    NumericDisplay(Container& parent, std::string_view name, Rect bounds = {});
 
     double Value() const { return value_; }
     /// Kept as it is; only the shown text is rounded.

@@ -13,6 +13,7 @@ enum class Aspect {
     List,       ///< the entries or the chosen entry of a list
     Locked,
     ToolTip,
+    Announcement,  ///< nothing: assistive tools say what the control shows
 };
 
 /// Shows one control on the platform. It holds nothing that could not be rebuilt from the control, and it is
@@ -23,7 +24,7 @@ class ControlPeer {
     virtual void Changed(Aspect aspect) = 0;
     virtual void TakeFocus() = 0;
 
-    /// Opens the list or the calendar of a control that has one.
+    /// Opens the list or the calendar of a control that has one, or closes it when it is open.
     virtual void DropDown() {}
 };
 

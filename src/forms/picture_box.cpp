@@ -7,8 +7,8 @@
 
 namespace tavrin::forms {
 
-PictureBox::PictureBox(Container& parent, std::string name, Rect bounds)
-    : Control(parent, std::move(name), bounds) {}
+PictureBox::PictureBox(Container& parent, std::string_view name, Rect bounds)
+    : Control(parent, name, bounds) {}
 
 void PictureBox::Paint(Color backColor, Color foreColor) {
     printed_.clear();

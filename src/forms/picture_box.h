@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "forms/control.h"
@@ -10,7 +11,7 @@ namespace tavrin::forms {
 /// An area into which texts are printed.
 class PictureBox : public Control {
   public:
-    PictureBox(Container& parent, std::string name, Rect bounds = {});
+    PictureBox(Container& parent, std::string_view name, Rect bounds = {});
 
     /// Paints the area in one colour; what was printed is gone.
     void Paint(Color backColor, Color foreColor);

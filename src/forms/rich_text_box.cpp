@@ -1,14 +1,12 @@
 #include "forms/rich_text_box.h"
 
-#include <utility>
-
 #include "data/error.h"
 #include "forms/form.h"
 
 namespace tavrin::forms {
 
-RichTextBox::RichTextBox(Container& parent, std::string name, Rect bounds)
-    : Control(parent, std::move(name), bounds) {}
+RichTextBox::RichTextBox(Container& parent, std::string_view name, Rect bounds)
+    : Control(parent, name, bounds) {}
 
 RichTextEditor* RichTextBox::FindEditor() const {
     return dynamic_cast<RichTextEditor*>(Peer());

@@ -37,7 +37,7 @@ class RichTextEditor {
 /// write, Tab among them, are the editor's: Shift or Ctrl with Tab leaves the field.
 class RichTextBox : public Control {
   public:
-    RichTextBox(Container& parent, std::string name, Rect bounds = {});
+    RichTextBox(Container& parent, std::string_view name, Rect bounds = {});
     ControlKind Kind() const override { return ControlKind::RichText; }
 
     // All of these ask the editor. \throws data::Error while the box is not shown.

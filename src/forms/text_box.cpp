@@ -8,8 +8,7 @@
 
 namespace tavrin::forms {
 
-TextBox::TextBox(Container& parent, std::string name, Rect bounds)
-    : Control(parent, std::move(name), bounds) {
+TextBox::TextBox(Container& parent, std::string_view name, Rect bounds) : Control(parent, name, bounds) {
     SetBackColor(scheme::Field);
     SetForeColor(scheme::Value);
 }

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "forms/control.h"
 
@@ -11,7 +12,7 @@ namespace tavrin::forms {
 /// HandleEdited and HandleSelection. Positions count characters (code points).
 class TextBox : public Control {
   public:
-    TextBox(Container& parent, std::string name, Rect bounds = {});
+    TextBox(Container& parent, std::string_view name, Rect bounds = {});
     ControlKind Kind() const override { return ControlKind::TextBox; }
 
     const std::string& Text() const { return text_; }

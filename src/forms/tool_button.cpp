@@ -1,7 +1,5 @@
 #include "forms/tool_button.h"
 
-#include <utility>
-
 #include "forms/form.h"
 #include "forms/look.h"
 
@@ -15,8 +13,7 @@ constexpr int MarkHeight = 30;      ///< twips; the line under the picture of a 
 
 }  // namespace
 
-ToolButton::ToolButton(Container& parent, std::string name, Rect bounds)
-    : Image(parent, std::move(name), bounds) {}
+ToolButton::ToolButton(Container& parent, std::string_view name, Rect bounds) : Image(parent, name, bounds) {}
 
 void ToolButton::SetLook(ToolLook look) {
     if (look_ == look) return;

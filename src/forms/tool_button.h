@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "forms/image.h"
 
@@ -14,7 +15,7 @@ enum class ToolLook { Resting, Raised, Sunken };
 /// bar, and Enter and Space click.
 class ToolButton : public Image {
   public:
-    ToolButton(Container& parent, std::string name, Rect bounds = {});
+    ToolButton(Container& parent, std::string_view name, Rect bounds = {});
 
     ToolLook Look() const { return look_; }
     void SetLook(ToolLook look);

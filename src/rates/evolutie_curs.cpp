@@ -276,6 +276,7 @@ void EvolutieCurs::ShowNoData() {
     lblMesaj1.SetVisible(false);
     lblMesaj2.SetVisible(true);
     cmbAn.SetFocus();
+    lblMesaj2.Announce();
 }
 
 void EvolutieCurs::cmdAction_Click(int index) {
@@ -309,6 +310,11 @@ void EvolutieCurs::CloseOnEscape(int keyCode) {
     if (keyCode == key::Escape) cmdAction_Click(Close);
 }
 
+void EvolutieCurs::Ignore(int& keyCode) const {
+    keyCode = key::Swallowed;
+    OwnerDesktop().Beep();
+}
+
 void EvolutieCurs::Combo_KeyDown(forms::ComboBox& combo, int& keyCode) {
     switch (keyCode) {
         case key::Enter:
@@ -318,13 +324,13 @@ void EvolutieCurs::Combo_KeyDown(forms::ComboBox& combo, int& keyCode) {
             cmdAction_Click(Close);
             break;
         case key::Left:
-            keyCode = key::Swallowed;
+            Ignore(keyCode);
             break;
         case key::Up:
-            if (combo.ListIndex() == 0) keyCode = key::Swallowed;
+            if (combo.ListIndex() == 0) Ignore(keyCode);
             break;
         case key::Down:
-            if (combo.ListIndex() == combo.ListCount() - 1) keyCode = key::Swallowed;
+            if (combo.ListIndex() == combo.ListCount() - 1) Ignore(keyCode);
             break;
         default:
             break;
@@ -333,7 +339,7 @@ void EvolutieCurs::Combo_KeyDown(forms::ComboBox& combo, int& keyCode) {
 
 void EvolutieCurs::cmdAction_KeyDown(int& keyCode) {
     CloseOnEscape(keyCode);
-    if (keyCode == key::Right) keyCode = key::Swallowed;
+    if (keyCode == key::Right) Ignore(keyCode);
     if (keyCode == key::Down && MSChart1.Visible()) Grid.SetFocus();
 }
 

@@ -77,6 +77,8 @@ class EvolutieCurs : public forms::Form {
     void cmdAction_KeyDown(int& keyCode);
     void Combo_KeyDown(forms::ComboBox& combo, int& keyCode);
     void CloseOnEscape(int keyCode);
+    /// Swallows a key that leads nowhere, and lets it sound.
+    void Ignore(int& keyCode) const;
 
     shell::Module& module_;
     RateStore store_;

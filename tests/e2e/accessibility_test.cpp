@@ -114,9 +114,11 @@ TEST_P(AccessibilityTest, EveryControlTellsItsStateAndValue) {
         EXPECT_FALSE(Has(facts, STATE_SYSTEM_INVISIBLE));
         EXPECT_TRUE(control.IsEnabled() || Has(facts, STATE_SYSTEM_UNAVAILABLE));
         EXPECT_EQ(Has(facts, STATE_SYSTEM_FOCUSED), FocusedName() == control.Name());
-        EXPECT_EQ(facts.role == ROLE_SYSTEM_PUSHBUTTON, facts.defaultAction == "Press");
+        EXPECT_EQ(facts.role == ROLE_SYSTEM_PUSHBUTTON, facts.defaultAction == "Apasă");
         const bool hasValue = facts.role == ROLE_SYSTEM_COMBOBOX || facts.role == ROLE_SYSTEM_DROPLIST;
         EXPECT_TRUE(!hasValue || !facts.value.empty()) << "no value";
+        EXPECT_EQ(Has(facts, STATE_SYSTEM_COLLAPSED), hasValue);
+        EXPECT_EQ(facts.defaultAction == "Deschide", hasValue);
         EXPECT_TRUE(facts.role != ROLE_SYSTEM_TABLE || facts.childCount > 0) << "no cells";
     }
 }
@@ -222,6 +224,63 @@ TEST_F(AccessibleEventsTest, ADisplayTellsOfItsValue) {
     const EventWatch watch(host->Ui());
     Click(calculator.Control("Number(7)"));
     EXPECT_TRUE(watch.Await(EVENT_OBJECT_VALUECHANGE, "ValLei"));
+    EXPECT_TRUE(watch.Await(EVENT_OBJECT_NAMECHANGE, "ValLei"));
+    EXPECT_FALSE(watch.Saw(LiveRegionChanged, "ValLei")) << "what is typed is read out key by key";
+}
+
+TEST_F(AccessibleEventsTest, AResultIsReadOutToWhomeverListens) {
+    Click(OpenPalette().Control("cmdAction(2)"));
+    const Window calculator = AwaitForm("frmCalculator");
+    host->Ui().Settle();
+    Click(calculator.Control("Number(7)"));
+    const EventWatch watch(host->Ui());
+    PressKey(VK_ADD);
+    EXPECT_TRUE(watch.Await(LiveRegionChanged, "ValLei")) << "nobody has asked for the display before";
+    EXPECT_FALSE(watch.Saw(LiveRegionChanged, "ValValuta"));
+    EXPECT_EQ(ReadAccessible(host->Ui(), calculator.Control("ValLei")).name.substr(0, 6), "Lei: 7");
+    EXPECT_EQ(FocusedName(), "Operator(1)");
+    EXPECT_EQ(ReadAccessible(host->Ui(), calculator.Control("Operator(2)")).name, "înmulțit");
+}
+
+TEST_F(AccessibleEventsTest, ANoticeIsReadOutWhileTheFocusIsElsewhere) {
+    host->Run("DELETE FROM [Curs Valutar] WHERE [Data] < '02-01-2003'");
+    Click(OpenRateList().Control("cmdAction(5)"));
+    const Window evolution = AwaitForm("EvolutieCurs");
+    host->Ui().Settle();
+    const EventWatch watch(host->Ui());
+    Click(evolution.Control("cmdAction(1)"));
+    EXPECT_TRUE(watch.Await(LiveRegionChanged, "lblMesaj2"));
+    EXPECT_TRUE(AwaitFocus("cmbAn"));
+}
+
+TEST_F(AccessibleEventsTest, AListTellsThatItOpensAndCloses) {
+    Click(OpenPalette().Control("cmdAction(2)"));
+    const Window list = AwaitForm("frmCalculator").Control("cmbPrecizie");
+    host->Ui().Settle();
+    ReadAccessible(host->Ui(), list);
+    EventWatch watch(host->Ui());
+    for (const bool opens : {true, false}) {
+        SCOPED_TRACE(opens);
+        watch.Forget();
+        EXPECT_EQ(DoDefaultAction(host->Ui(), list), S_OK);
+        EXPECT_TRUE(watch.Await(EVENT_OBJECT_STATECHANGE, "cmbPrecizie"));
+        const AccessibleFacts facts = ReadAccessible(host->Ui(), list);
+        EXPECT_EQ((facts.state & STATE_SYSTEM_EXPANDED) != 0, opens);
+        EXPECT_EQ((facts.state & STATE_SYSTEM_COLLAPSED) != 0, !opens);
+        EXPECT_EQ(facts.defaultAction, opens ? "Închide" : "Deschide");
+    }
+}
+
+TEST_F(AccessibleEventsTest, ADateFieldTellsThatItsCalendarOpensAndCloses) {
+    const Window field = OpenRateList().Control("dpDataIn");
+    const auto isOpen = [&] {
+        return (ReadAccessible(host->Ui(), field).state & STATE_SYSTEM_EXPANDED) != 0;
+    };
+    EXPECT_FALSE(isOpen());
+    for (const bool opens : {true, false}) {
+        EXPECT_EQ(DoDefaultAction(host->Ui(), field), S_OK);
+        EXPECT_TRUE(WaitUntil([&] { return isOpen() == opens; })) << opens;
+    }
 }
 
 }  // namespace

@@ -164,7 +164,14 @@ TEST_F(RateListTest, TellsAssistiveToolsWhatItIs) {
     EXPECT_TRUE((grid.state & STATE_SYSTEM_FOCUSED) != 0);
     const auto parts = ReadParts(host->Ui(), Grid());
     ASSERT_FALSE(parts.empty());
-    EXPECT_EQ(parts[0].role, ROLE_SYSTEM_CELL);
+    EXPECT_EQ(parts[0].role, ROLE_SYSTEM_COLUMNHEADER);
+    EXPECT_EQ(parts[0].name, "Data");
+    const TableTexts shown = Shown();
+    const AccessibleFacts& cell = parts[shown[0].size() + 1];
+    EXPECT_EQ(cell.role, ROLE_SYSTEM_CELL);
+    EXPECT_EQ(cell.name, shown[0][1] + ", " + shown[1][0]);
+    EXPECT_EQ(cell.description, "rândul 1 din " + std::to_string(shown.size() - 1));
+    EXPECT_EQ(cell.defaultAction, "Selectează");
     EXPECT_EQ(ReadAccessible(host->Ui(), list.Control("dpDataIn")).name, "De La Data");
     EXPECT_EQ(ReadAccessible(host->Ui(), list.Control("dpDataFin")).name, "La Data");
     EXPECT_EQ(ReadAccessible(host->Ui(), Action(1)).name, "Modifica Curs");

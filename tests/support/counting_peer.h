@@ -21,12 +21,14 @@ class CountingPeer : public forms::ControlPeer {
     void Changed(forms::Aspect aspect) override {
         ++changes;
         if (aspect == forms::Aspect::Look) ++repaints;
+        if (aspect == forms::Aspect::Announcement) ++announced;
     }
     void TakeFocus() override { ++focused; }
     void DropDown() override { ++dropDowns; }
 
     int changes = 0;
     int repaints = 0;
+    int announced = 0;
     int focused = 0;
     int dropDowns = 0;
 };

@@ -286,6 +286,26 @@ TEST_F(CursValutarDetaliuTest, PastedSignsAndLettersAreRefused) {
     }
 }
 
+TEST_F(CursValutarDetaliuTest, TheEditorSaysItsCurrency) {
+    const CursValutarDetaliu& window = OpenToAdd();
+    keyboard.Press(key::Enter);
+    EXPECT_EQ(window.txtCursValutar.Accessible().name, "Valoare Curs, EUR");
+    keyboard.Press(key::Down);
+    EXPECT_EQ(window.txtCursValutar.Accessible().name, "Valoare Curs, USD");
+    keyboard.Press(key::Up);
+    EXPECT_EQ(window.txtCursValutar.Accessible().name, "Valoare Curs, EUR");
+}
+
+TEST_F(CursValutarDetaliuTest, AKeyThatTheGridHasNoUseForBeeps) {
+    CursValutarDetaliu& window = OpenToAdd();
+    window.Grid.SetFocus();
+    keyboard.Type("x,");
+    EXPECT_EQ(desktop.beeps, 2);
+    keyboard.Type("7");
+    EXPECT_EQ(desktop.beeps, 2);
+    EXPECT_EQ(EditorText(), "7");
+}
+
 TEST_F(CursValutarDetaliuTest, TheSixteenthDigitBeepsAndIsNotTaken) {
     CursValutarDetaliu& entry = OpenToAdd();
     keyboard.Type("\r12345678901234567890");

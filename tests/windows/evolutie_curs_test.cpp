@@ -294,7 +294,9 @@ TEST_F(EvolutieCursTest, AMonthWithoutRatesSaysSo) {
     EvolutieCurs& window = OpenAndDraw(5);
     window.cmbLuna.SetListIndex(0);
     connection->ClearRecord();
+    const CountingPeer* notice = CountingPeer::Give(window.lblMesaj2);
     window.cmdAction[1].Click();
+    EXPECT_EQ(notice->announced, 1);
     EXPECT_EQ(connection->Statements().size(), 1U);
     EXPECT_FALSE(window.MSChart1.Visible());
     EXPECT_FALSE(window.Line2.Visible());
@@ -568,6 +570,22 @@ TEST_F(EvolutieCursTest, RightOnAButtonIsSwallowed) {
     window.cmdAction[1].SetFocus();
     keyboard.Press(key::Right);
     EXPECT_EQ(FocusedControl(), "cmdAction(1)");
+    EXPECT_EQ(desktop.beeps, 1);
+}
+
+TEST_F(EvolutieCursTest, AKeyThatAListIgnoresBeeps) {
+    EvolutieCurs& window = Open();
+    window.cmbLuna.SetFocus();
+    window.cmbLuna.SetListIndex(0);
+    for (const int code : {key::Left, key::Up})
+        keyboard.Press(code);
+    EXPECT_EQ(desktop.beeps, 2);
+    keyboard.Press(key::Down);
+    EXPECT_EQ(desktop.beeps, 2);
+    window.cmbLuna.SetListIndex(window.cmbLuna.ListCount() - 1);
+    keyboard.Press(key::Down);
+    EXPECT_EQ(desktop.beeps, 3);
+    EXPECT_EQ(window.cmbLuna.ListIndex(), window.cmbLuna.ListCount() - 1);
 }
 
 TEST_F(EvolutieCursTest, EscapeClosesFromEveryControl) {

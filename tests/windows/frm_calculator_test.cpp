@@ -4,6 +4,7 @@
 
 #include "calculator_fixture.h"
 #include "data/value.h"
+#include "support/counting_peer.h"
 
 namespace tavrin::tests {
 namespace {
@@ -288,6 +289,57 @@ TEST_F(FrmCalculatorTest, AKeyThatDoesNothingBeeps) {
     EXPECT_EQ(desktop.beeps, 4);
     ClickWithMouse(window.Operator[6]);
     EXPECT_EQ(desktop.beeps, 5) << "a minus stays";
+}
+
+TEST_F(FrmCalculatorTest, KeysAreReadOutByName) {
+    const FrmCalculator& window = Open();
+    const auto spoken = [](const forms::Control& control) { return control.Accessible().name; };
+    std::vector<std::string> operators;
+    for (const auto& button : window.Operator)
+        operators.push_back(spoken(*button));
+    EXPECT_THAT(operators,
+                ElementsAre("împărțit", "plus", "înmulțit", "minus", "egal", "procent", "schimbă semnul"));
+    EXPECT_EQ(spoken(window.Number[7]), "7");
+    EXPECT_EQ(spoken(window.Decimal), "virgulă");
+    EXPECT_EQ(spoken(window.Cancel), "șterge tot");
+    EXPECT_EQ(spoken(window.CancelEntry), "șterge numărul");
+    EXPECT_EQ(spoken(window.cmdMC), "golește memoria");
+    EXPECT_EQ(spoken(window.cmdMR), "citește memoria");
+    EXPECT_EQ(spoken(window.cmdMPlus), "adună la memorie");
+    EXPECT_EQ(spoken(window.cmdMMinus), "scade din memorie");
+    EXPECT_EQ(window.Operator[2].Caption(), "X");
+    EXPECT_EQ(window.cmdMC.Caption(), "MC");
+}
+
+TEST_F(FrmCalculatorTest, TheDecimalKeyIsReadOutAsTheUsersSeparator) {
+    SpeakEnglish();
+    EXPECT_EQ(Open().Decimal.Accessible().name, "punct");
+}
+
+TEST_F(FrmCalculatorTest, ResultsAreReadOutAndTypingIsNot) {
+    FrmCalculator& window = Open();
+    const CountingPeer* lei = CountingPeer::Give(window.ValLei);
+    const CountingPeer* currency = CountingPeer::Give(window.ValValuta);
+    keyboard.Type("12.5c7");
+    EXPECT_EQ(lei->announced, 0);
+    keyboard.Type("+");
+    EXPECT_EQ(lei->announced, 1);
+    keyboard.Type("5\r");
+    EXPECT_EQ(lei->announced, 2);
+    EXPECT_EQ(window.ValLei.Accessible().name, "Lei: 12,00");
+    window.cmdMR.Click();
+    EXPECT_EQ(lei->announced, 3);
+    EXPECT_EQ(currency->announced, 0) << "nobody works in it";
+    window.cmbUM.SetListIndex(1);
+    EXPECT_EQ(currency->announced, 1);
+    EXPECT_EQ(lei->announced, 3);
+}
+
+TEST_F(FrmCalculatorTest, TheRateLineIsReadOutWhenARateIsChosen) {
+    FrmCalculator& window = Open();
+    const CountingPeer* line = CountingPeer::Give(window.lblCurs);
+    OpenChooser().cmdAction[0].Click();
+    EXPECT_EQ(line->announced, 1);
 }
 
 TEST_F(FrmCalculatorTest, KeysThatAreNoCharactersDoNotBeep) {

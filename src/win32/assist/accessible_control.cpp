@@ -2,11 +2,10 @@
 
 #include <objbase.h>
 
+#include <iterator>
 #include <utility>
 
-#include "forms/command_button.h"
 #include "forms/form.h"
-#include "forms/text_box.h"
 #include "win32/assist/accessible_state.h"
 #include "win32/base/text.h"
 #include "win32/base/translation.h"
@@ -35,17 +34,14 @@ HRESULT PutText(BSTR* target, std::string_view text) {
     return S_OK;
 }
 
-forms::MouseInput CentreOf(const forms::Rect& area) {
-    return {forms::MouseButton::Left, {area.left + area.width / 2, area.top + area.height / 2}, {}};
-}
-
 }  // namespace
 
 AccessibleControl::AccessibleControl(forms::Control& control, HWND window, std::shared_ptr<const void> inUse)
     : control_(&control),
+      kind_(AccessibleKind::Of(control)),
       window_(window),
       inUse_(std::move(inUse)),
-      lastValue_(control.Accessible().value),
+      last_(control.Accessible()),
       lastSelected_(SelectedChild()) {}
 
 void AccessibleControl::Disconnect() noexcept {
@@ -55,38 +51,56 @@ void AccessibleControl::Disconnect() noexcept {
 
 void AccessibleControl::NotifyChanges() {
     if (control_ == nullptr) return;
-    if (std::string value = control_->Accessible().value; value != lastValue_) {
-        lastValue_ = std::move(value);
-        NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, window_, OBJID_CLIENT, CHILDID_SELF);
-    }
-    if (const LONG selected = SelectedChild(); selected != lastSelected_) {
-        lastSelected_ = selected;
-        NotifyWinEvent(EVENT_OBJECT_SELECTION, window_, OBJID_CLIENT, selected);
-        if (control_->HasFocus()) NotifyWinEvent(EVENT_OBJECT_FOCUS, window_, OBJID_CLIENT, selected);
-    }
+    forms::AccessibleNode node = control_->Accessible();
+    if (node.name != last_.name) Tell(EVENT_OBJECT_NAMECHANGE);
+    if (node.value != last_.value) Tell(EVENT_OBJECT_VALUECHANGE);
+    if (node.expanded != last_.expanded) Tell(EVENT_OBJECT_STATECHANGE);
+    last_ = std::move(node);
+    const LONG selected = SelectedChild();
+    if (selected == lastSelected_) return;
+    lastSelected_ = selected;
+    Tell(EVENT_OBJECT_SELECTION, selected);
+    if (last_.focused) Tell(EVENT_OBJECT_FOCUS, selected);
+}
+
+void AccessibleControl::Tell(DWORD event, LONG child) const {
+    NotifyWinEvent(event, window_, OBJID_CLIENT, child);
+}
+
+// One for all bodies: what catches is larger than what most of them do.
+HRESULT AccessibleControl::Answer(ErasedBody* body, const void* state) const noexcept {
+    if (control_ == nullptr) return CO_E_OBJNOTCONNECTED;
+    const forms::Desktop::DispatchScope scope(control_->OwnerForm().OwnerDesktop());
+    return Translated([=] { return body(state); });
+}
+
+HRESULT AccessibleControl::AnswerNode(const VARIANT& child, ErasedNodeBody* body,
+                                      const void* state) const noexcept {
+    return Answer([&]() -> HRESULT {
+        if (child.vt != VT_I4) return E_INVALIDARG;
+        if (child.lVal == CHILDID_SELF) return body(state, control_->Accessible());
+        if (!HasChild(child.lVal)) return E_INVALIDARG;
+        return body(state, control_->AccessibleChild(static_cast<int>(child.lVal) - 1));
+    });
 }
 
 template <class Body>
-HRESULT AccessibleControl::Answer(Body&& body) const noexcept {
-    if (control_ == nullptr) return CO_E_OBJNOTCONNECTED;
-    const forms::Desktop::DispatchScope scope(control_->OwnerForm().OwnerDesktop());
-    return Translated(std::forward<Body>(body));
+HRESULT AccessibleControl::AnswerNode(const VARIANT& child, const Body& body) const noexcept {
+    const auto run = [](const void* state, const forms::AccessibleNode& node) -> HRESULT {
+        return (*static_cast<const Body*>(state))(node);
+    };
+    return AnswerNode(child, run, &body);
+}
+
+template <class Body>
+HRESULT AccessibleControl::Answer(const Body& body) const noexcept {
+    return Answer([](const void* state) -> HRESULT { return (*static_cast<const Body*>(state))(); }, &body);
 }
 
 HRESULT AccessibleControl::AnswerText(VARIANT child, BSTR* text,
                                       std::string forms::AccessibleNode::*member) const noexcept {
     if (!Clear(text)) return E_POINTER;
-    return Answer([&] {
-        const auto node = Node(child);
-        return node ? PutText(text, (*node).*member) : E_INVALIDARG;
-    });
-}
-
-std::optional<forms::AccessibleNode> AccessibleControl::Node(const VARIANT& child) const {
-    if (child.vt != VT_I4) return std::nullopt;
-    if (child.lVal == CHILDID_SELF) return control_->Accessible();
-    if (!HasChild(child.lVal)) return std::nullopt;
-    return control_->AccessibleChild(static_cast<int>(child.lVal) - 1);
+    return AnswerNode(child, [&](const forms::AccessibleNode& node) { return PutText(text, node.*member); });
 }
 
 bool AccessibleControl::HasChild(LONG child) const {
@@ -124,18 +138,16 @@ HRESULT AccessibleControl::get_accChildCount(LONG* count) noexcept {
 HRESULT AccessibleControl::get_accChild(VARIANT child, IDispatch** object) noexcept {
     if (!Clear(object)) return E_POINTER;
     // Parts are no objects of their own.
-    return Answer([&] { return Node(child) ? S_FALSE : E_INVALIDARG; });
+    return AnswerNode(child, [](const forms::AccessibleNode&) { return S_FALSE; });
 }
 
 HRESULT AccessibleControl::accLocation(LONG* left, LONG* top, LONG* width, LONG* height,
                                        VARIANT child) noexcept {
     if (!Clear(left) || !Clear(top) || !Clear(width) || !Clear(height)) return E_POINTER;
-    return Answer([&] {
-        const auto node = Node(child);
-        if (!node) return E_INVALIDARG;
+    return AnswerNode(child, [&](const forms::AccessibleNode& node) -> HRESULT {
         // From the control's own corner: the window of an edit field stands inside the frame.
         const forms::Rect& control = control_->Bounds();
-        const forms::Rect& part = node->bounds;
+        const forms::Rect& part = node.bounds;
         RECT place = PixelScale().ToPixels(
             {control.left + part.left, control.top + part.top, part.width, part.height});
         MapWindowPoints(GetParent(window_), nullptr, reinterpret_cast<POINT*>(&place), 2);
@@ -211,20 +223,16 @@ HRESULT AccessibleControl::get_accDescription(VARIANT child, BSTR* description) 
 
 HRESULT AccessibleControl::get_accRole(VARIANT child, VARIANT* role) noexcept {
     if (!Clear(role)) return E_POINTER;
-    return Answer([&] {
-        const auto node = Node(child);
-        if (!node) return E_INVALIDARG;
-        PutLong(role, RoleOf(*node));
+    return AnswerNode(child, [&](const forms::AccessibleNode& node) -> HRESULT {
+        PutLong(role, RoleOf(node));
         return S_OK;
     });
 }
 
 HRESULT AccessibleControl::get_accState(VARIANT child, VARIANT* state) noexcept {
     if (!Clear(state)) return E_POINTER;
-    return Answer([&] {
-        const auto node = Node(child);
-        if (!node) return E_INVALIDARG;
-        PutLong(state, StateOf(*node));
+    return AnswerNode(child, [&](const forms::AccessibleNode& node) -> HRESULT {
+        PutLong(state, StateOf(node));
         return S_OK;
     });
 }
@@ -239,10 +247,10 @@ HRESULT AccessibleControl::get_accHelpTopic(BSTR* file, VARIANT, LONG* topic) no
 
 HRESULT AccessibleControl::get_accKeyboardShortcut(VARIANT child, BSTR* shortcut) noexcept {
     if (!Clear(shortcut)) return E_POINTER;
-    return Answer([&] {
-        const auto* button = dynamic_cast<const forms::CommandButton*>(control_);
-        if (button == nullptr || button->Accelerator() == 0 || !Node(child)) return S_FALSE;
-        *shortcut = Bstr(std::wstring(L"Alt+") + static_cast<wchar_t>(button->Accelerator())).Detach();
+    return AnswerNode(child, [&](const forms::AccessibleNode& node) {
+        if (node.accelerator == 0) return S_FALSE;
+        const wchar_t keys[] = {L'A', L'l', L't', L'+', static_cast<wchar_t>(node.accelerator)};
+        *shortcut = Bstr(std::wstring_view(keys, std::size(keys))).Detach();
         return S_OK;
     });
 }
@@ -267,46 +275,28 @@ HRESULT AccessibleControl::get_accSelection(VARIANT* children) noexcept {
 
 HRESULT AccessibleControl::get_accDefaultAction(VARIANT child, BSTR* action) noexcept {
     if (!Clear(action)) return E_POINTER;
-    return Answer([&] {
-        const auto node = Node(child);
-        if (!node) return E_INVALIDARG;
-        const wchar_t* name = DefaultActionOf(*node);
-        return name != nullptr ? PutText(action, ToUtf8(name)) : S_FALSE;
+    return AnswerNode(child, [&](const forms::AccessibleNode& node) -> HRESULT {
+        const char* name = kind_.DefaultAction(node);
+        return name != nullptr ? PutText(action, name) : S_FALSE;
     });
 }
 
 // What it does.
 
 HRESULT AccessibleControl::accSelect(LONG flags, VARIANT child) noexcept {
-    return Answer([&] {
-        const auto node = Node(child);
-        if (!node) return E_INVALIDARG;
+    return AnswerNode(child, [&](const forms::AccessibleNode& node) -> HRESULT {
         if (flags & SELFLAG_TAKEFOCUS) control_->SetFocus();
-        if ((flags & SELFLAG_TAKESELECTION) && child.lVal != CHILDID_SELF) Press(*node);
+        if ((flags & SELFLAG_TAKESELECTION) && child.lVal != CHILDID_SELF) Press(*control_, node);
         return S_OK;
     });
 }
 
 HRESULT AccessibleControl::accDoDefaultAction(VARIANT child) noexcept {
-    return Answer([&]() -> HRESULT {
-        const auto node = Node(child);
-        if (!node) return E_INVALIDARG;
-        if (DefaultActionOf(*node) == nullptr) return DISP_E_MEMBERNOTFOUND;
-        if (node->role == forms::Role::PushButton) {
-            control_->Click();
-        } else if (node->role == forms::Role::Cell) {
-            Press(*node);
-        } else if (control_->IsEffectivelyEnabled() && control_->Peer() != nullptr) {
-            control_->Peer()->DropDown();
-        }
+    return AnswerNode(child, [&](const forms::AccessibleNode& node) -> HRESULT {
+        if (kind_.DefaultAction(node) == nullptr) return DISP_E_MEMBERNOTFOUND;
+        kind_.DoDefaultAction(*control_, node);
         return S_OK;
     });
-}
-
-void AccessibleControl::Press(const forms::AccessibleNode& node) {
-    const forms::MouseInput input = CentreOf(node.bounds);
-    control_->HandleMouseDown(input);
-    if (control_ != nullptr) control_->HandleMouseUp(input);
 }
 
 HRESULT AccessibleControl::put_accName(VARIANT, BSTR) noexcept {
@@ -314,15 +304,7 @@ HRESULT AccessibleControl::put_accName(VARIANT, BSTR) noexcept {
 }
 
 HRESULT AccessibleControl::put_accValue(VARIANT, BSTR value) noexcept {
-    return Answer([&] { return SetText(value); });
-}
-
-HRESULT AccessibleControl::SetText(BSTR value) {
-    auto* field = dynamic_cast<forms::TextBox*>(control_);
-    if (field == nullptr || field->Locked() || !field->IsEffectivelyEnabled()) return E_ACCESSDENIED;
-    field->SelectAll();
-    field->ReplaceSelection(ToUtf8({value, SysStringLen(value)}));
-    return S_OK;
+    return Answer([&] { return kind_.Write(*control_, ToUtf8({value, SysStringLen(value)})); });
 }
 
 HRESULT AccessibleControl::GetTypeInfoCount(UINT* count) noexcept {

@@ -5,10 +5,10 @@
 #include <oleacc.h>
 
 #include <memory>
-#include <optional>
 #include <string>
 
 #include "forms/control.h"
+#include "win32/assist/accessible_kind.h"
 #include "win32/base/com_ptr.h"
 #include "win32/base/unknown_object.h"
 #include "win32/system/dpi.h"
@@ -16,9 +16,9 @@
 
 namespace tavrin::win32 {
 
-/// What assistive tools and test programs see of one control: its role, name, value and state, its cells if
-/// it is a grid, and its default action. Everything is asked of the control at the moment of the call. Once
-/// the control is gone every call answers CO_E_OBJNOTCONNECTED.
+/// What assistive tools and test programs see of one control: its role, name, value and state, its place and
+/// its parts. Everything is asked of the control at the moment of the call; what can be done with it is its
+/// kind's business. Once the control is gone every call answers CO_E_OBJNOTCONNECTED.
 class AccessibleControl final : public UnknownObject<IAccessible> {
   public:
     /// `inUse` is held as long as somebody holds this.
@@ -27,7 +27,7 @@ class AccessibleControl final : public UnknownObject<IAccessible> {
     /// Called before the control or its window goes; lets go of what other processes hold.
     void Disconnect() noexcept;
 
-    /// Tells listening tools of a new value or selection since the last call.
+    /// Tells listening tools of what is new since the last call.
     void NotifyChanges();
 
     // IAccessible.
@@ -64,25 +64,31 @@ class AccessibleControl final : public UnknownObject<IAccessible> {
   private:
     /// Runs the body of a call unless the control is gone. Nothing is thrown to the caller.
     template <class Body>
-    HRESULT Answer(Body&& body) const noexcept;
+    HRESULT Answer(const Body& body) const noexcept;
+    using ErasedBody = HRESULT(const void* state);
+    HRESULT Answer(ErasedBody* body, const void* state) const noexcept;
+    /// The same with the control for CHILDID_SELF, one of its parts else; refuses an id that it does not
+    /// have.
+    template <class Body>
+    HRESULT AnswerNode(const VARIANT& child, const Body& body) const noexcept;
+    using ErasedNodeBody = HRESULT(const void* state, const forms::AccessibleNode& node);
+    HRESULT AnswerNode(const VARIANT& child, ErasedNodeBody* body, const void* state) const noexcept;
     /// Answers with one text of a node; S_FALSE where it is empty.
     HRESULT AnswerText(VARIANT child, BSTR* text, std::string forms::AccessibleNode::*member) const noexcept;
 
-    /// The control for CHILDID_SELF, one of its parts else; nothing for an id that it does not have.
-    std::optional<forms::AccessibleNode> Node(const VARIANT& child) const;
     bool HasChild(LONG child) const;
     LONG SelectedChild() const;
-    void Press(const forms::AccessibleNode& node);
+    void Tell(DWORD event, LONG child = CHILDID_SELF) const;
     HRESULT Navigate(LONG direction, LONG from, VARIANT* end) const;
-    HRESULT SetText(BSTR value);
     /// The system's own object for the window, for what the control has nothing to add to.
     ComPtr<IAccessible> Standard() const;
     Scale PixelScale() const { return Scale(DpiOf(window_)); }
 
     forms::Control* control_;
+    const AccessibleKind& kind_;
     HWND window_;
     std::shared_ptr<const void> inUse_;
-    std::string lastValue_;
+    forms::AccessibleNode last_;  ///< as it was told of last
     LONG lastSelected_ = 0;
 };
 

@@ -22,6 +22,8 @@ LONG RoleOf(const forms::AccessibleNode& node) {
             return ROLE_SYSTEM_TABLE;
         case forms::Role::Cell:
             return ROLE_SYSTEM_CELL;
+        case forms::Role::ColumnHeader:
+            return ROLE_SYSTEM_COLUMNHEADER;
         case forms::Role::Chart:
             return ROLE_SYSTEM_CHART;
         case forms::Role::DateField:
@@ -40,21 +42,8 @@ LONG StateOf(const forms::AccessibleNode& node) {
     if (node.readOnly) state |= STATE_SYSTEM_READONLY;
     if (node.invisible) state |= STATE_SYSTEM_INVISIBLE;
     if (node.unavailable) state |= STATE_SYSTEM_UNAVAILABLE;
+    if (node.expandable) state |= node.expanded ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED;
     return state;
-}
-
-const wchar_t* DefaultActionOf(const forms::AccessibleNode& node) {
-    switch (node.role) {
-        case forms::Role::PushButton:
-            return L"Press";
-        case forms::Role::Cell:
-            return L"Select";
-        case forms::Role::ComboBox:
-        case forms::Role::DateField:
-            return L"Open";
-        default:
-            return nullptr;
-    }
 }
 
 }  // namespace tavrin::win32

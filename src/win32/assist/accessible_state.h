@@ -10,7 +10,4 @@ namespace tavrin::win32 {
 LONG RoleOf(const forms::AccessibleNode& node);
 LONG StateOf(const forms::AccessibleNode& node);
 
-/// What the default action of a node is called, null where it has none.
-const wchar_t* DefaultActionOf(const forms::AccessibleNode& node);
-
 }  // namespace tavrin::win32

@@ -9,6 +9,7 @@
 #include "data/error.h"
 #include "forms/color.h"
 #include "win32/base/library.h"
+#include "win32/system/contrast.h"
 
 namespace tavrin::win32 {
 
@@ -127,7 +128,8 @@ void CalendarPopup::CreateCalendar(const Toolkit& toolkit, HFONT font) {
                                   .parent = Handle()}),
         {});
     const HWND calendar = calendar_.Handle();
-    Darken(calendar);
+    // Left alone it has the system's colours.
+    if (!HighContrast()) Darken(calendar);
     SendMessageW(calendar, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     SYSTEMTIME range[] = {ToSystemTime(days_.minimum), ToSystemTime(days_.maximum)};
     Require(SendMessageW(calendar, MCM_SETRANGE, GDTR_MIN | GDTR_MAX, reinterpret_cast<LPARAM>(range)) != 0);

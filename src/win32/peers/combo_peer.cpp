@@ -12,6 +12,7 @@
 #include "win32/peers/disagreement.h"
 #include "win32/peers/edit_text.h"
 #include "win32/peers/edit_window.h"
+#include "win32/system/contrast.h"
 #include "win32/window/mouse_message.h"
 #include "win32/window/window_painter.h"
 
@@ -105,6 +106,7 @@ void ComboPeer::Changed(forms::Aspect aspect) {
 }
 
 void ComboPeer::DropDown() {
+    if (IsOpen()) return CloseList();
     SendMessageW(Handle(), CB_SHOWDROPDOWN, TRUE, 0);
     // The platform hides the pointer until the mouse moves.
     SetCursor(LoadCursorW(nullptr, IDC_ARROW));
@@ -264,11 +266,13 @@ LRESULT ComboPeer::OnDrawItem(const Message& message) {
     const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam);
     if (item.itemState & ODS_COMBOBOXEDIT) return TRUE;  // the closed field is painted as a whole
     const bool selected = (item.itemState & ODS_SELECTED) != 0;
-    SetDCBrushColor(item.hDC, selected ? forms::scheme::CurrentRow : forms::scheme::Field);
+    SetDCBrushColor(item.hDC, OnScreen(forms::ColorUse::Area,
+                                       selected ? forms::scheme::CurrentRow : forms::scheme::Field));
     FillRect(item.hDC, &item.rcItem, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
     const int index = static_cast<int>(item.itemID);
     if (index < 0 || index >= control_.ListCount()) return TRUE;
-    SetTextColor(item.hDC, control_.ForeColor());
+    SetTextColor(item.hDC, OnScreen(selected ? forms::ColorUse::SelectedText : forms::ColorUse::Text,
+                                    control_.ForeColor()));
     SetBkMode(item.hDC, TRANSPARENT);
     RECT place = item.rcItem;
     place.left += PixelScale().ToPixels(forms::look::Padding);

@@ -4,6 +4,7 @@
 
 #include "win32/base/text.h"
 #include "win32/peers/disagreement.h"
+#include "win32/system/contrast.h"
 
 namespace tavrin::win32 {
 
@@ -47,9 +48,11 @@ int ControlWindow::LineHeight() const {
 
 LRESULT ControlWindow::ApplyColors(HDC dc) const {
     const bool enabled = control_.IsEffectivelyEnabled();
-    SetTextColor(dc, enabled ? control_.ForeColor() : forms::scheme::TextDisabled);
-    SetBkColor(dc, control_.BackColor());
-    SetDCBrushColor(dc, control_.BackColor());
+    const forms::Color ground = OnScreen(forms::ColorUse::Area, control_.BackColor());
+    SetTextColor(
+        dc, OnScreen(forms::ColorUse::Text, enabled ? control_.ForeColor() : forms::scheme::TextDisabled));
+    SetBkColor(dc, ground);
+    SetDCBrushColor(dc, ground);
     return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
 }
 
@@ -71,6 +74,8 @@ void ControlWindow::Changed(forms::Aspect aspect) {
             return EnableOrDisable();
         case forms::Aspect::ToolTip:
             return form_.Tips().Set(Handle(), control_.ToolTip());
+        case forms::Aspect::Announcement:
+            return Announce();
         default:
             InvalidateRect(Handle(), nullptr, FALSE);
             NotifyAssistiveTools();
@@ -135,6 +140,12 @@ void ControlWindow::EnableOrDisable() {
 
 void ControlWindow::NotifyAssistiveTools() {
     if (accessible_) accessible_->NotifyChanges();
+}
+
+void ControlWindow::Announce() {
+    constexpr DWORD LiveRegionChanged = 0x8019;  // EVENT_OBJECT_LIVEREGIONCHANGED, of newer headers
+    NotifyAssistiveTools();
+    NotifyWinEvent(LiveRegionChanged, Handle(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 // What the platform tells.

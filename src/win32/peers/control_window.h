@@ -70,6 +70,7 @@ class ControlWindow : public forms::ControlPeer, public Window {
     void ShowOrHide();
     void EnableOrDisable();
     void NotifyAssistiveTools();
+    void Announce();
 
     forms::Control& control_;
     FormPeer& form_;

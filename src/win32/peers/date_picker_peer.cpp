@@ -23,7 +23,14 @@ void DatePickerPeer::DropDown() {
     GetWindowRect(Handle(), &settings.field);
     calendar_ = std::make_unique<CalendarPopup>(
         OwnerForm().OwnerDesktop(), SharedToolkit(), settings,
-        [this](data::OleDate date) { control_.HandleChosen(date); }, [this] { calendar_.reset(); });
+        [this](data::OleDate date) { control_.HandleChosen(date); }, [this] { Forget(); });
+    control_.HandleDropped(true);
+}
+
+/// The calendar calls this, and is gone at the end of it.
+void DatePickerPeer::Forget() {
+    control_.HandleDropped(false);
+    calendar_.reset();
 }
 
 }  // namespace tavrin::win32

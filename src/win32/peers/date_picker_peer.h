@@ -20,6 +20,7 @@ class DatePickerPeer final : public DrawnPeer {
 
   private:
     CalendarPopup::Days FieldDays() const;
+    void Forget();
 
     forms::DatePicker& control_;
     std::unique_ptr<CalendarPopup> calendar_;

@@ -8,6 +8,7 @@
 #include "win32/base/text.h"
 #include "win32/peers/disagreement.h"
 #include "win32/peers/edit_text.h"
+#include "win32/system/contrast.h"
 
 namespace tavrin::win32 {
 
@@ -169,8 +170,8 @@ void EditPeer::PaintBrowsed(HDC dc) const {
     GetClientRect(Handle(), &area);
     RECT line = area;
     SendMessageW(Handle(), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&line));
-    SetTextColor(dc, control_.ForeColor());
-    SetBkColor(dc, control_.BackColor());
+    SetTextColor(dc, OnScreen(forms::ColorUse::Text, control_.ForeColor()));
+    SetBkColor(dc, Ground());
     const LONG x = StartOf(control_.Alignment(), line);
     SetTextAlign(dc, PlatformAlign(control_.Alignment()));
     const std::wstring text = ToWide(control_.Text());
@@ -212,12 +213,16 @@ LRESULT EditPeer::OnCalculateClientArea(const Message& message) {
 }
 
 LRESULT EditPeer::OnPaintFrame(const Message&) {
-    PaintEditFrame(Handle(), control_.BackColor(), Frame());
+    PaintEditFrame(Handle(), Ground(), Frame());
     return 0;
 }
 
+forms::Color EditPeer::Ground() const {
+    return OnScreen(forms::ColorUse::Area, control_.BackColor());
+}
+
 EditFrame EditPeer::Frame() const {
-    return control_.Bordered() ? FocusFrame() : EditFrame{control_.BackColor(), 0};
+    return control_.Bordered() ? FocusFrame() : EditFrame{Ground(), 0};
 }
 
 LRESULT EditPeer::OnHitTest(const Message&) {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "forms/look.h"
+#include "win32/system/contrast.h"
 #include "win32/window/mouse_message.h"
 
 namespace tavrin::win32 {
@@ -99,7 +100,8 @@ bool EditWindow::TellModelOfMouse(const Message& message) {
 
 EditFrame EditWindow::FocusFrame() const {
     const forms::look::Edge edge = forms::look::EdgeOf(OwnControl(), HoldsFocus());
-    return {edge.color, std::max(1, PixelScale().ToPixels(edge.width)), edge.isLine};
+    return {OnScreen(forms::ColorUse::Line, edge.color), std::max(1, PixelScale().ToPixels(edge.width)),
+            edge.isLine};
 }
 
 }  // namespace tavrin::win32

@@ -168,6 +168,8 @@ LRESULT FormPeer::HandleMessage(const Message& message) {
         {WM_MOVE, &FormPeer::OnMove},
         {WM_DPICHANGED, &FormPeer::OnDpiChanged},
         {WM_DISPLAYCHANGE, &FormPeer::OnDisplayChange},
+        {WM_SYSCOLORCHANGE, &FormPeer::OnColorsChanged},
+        {WM_SETTINGCHANGE, &FormPeer::OnColorsChanged},
         {WM_PAINT, &FormPeer::OnPaint},
         {WM_PRINTCLIENT, &FormPeer::OnPaint},
         {WM_ERASEBKGND, &FormPeer::OnEraseBackground},
@@ -241,6 +243,13 @@ LRESULT FormPeer::OnDisplayChange(const Message& message) {
     const POINT place = ReachablePlace(outer);
     if (place.x != outer.left || place.y != outer.top)
         SetWindowPos(Handle(), nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return CallDefault(message);
+}
+
+/// High contrast may be on or off now.
+LRESULT FormPeer::OnColorsChanged(const Message& message) {
+    if (tips_) tips_->ShowColors();
+    RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN);
     return CallDefault(message);
 }
 

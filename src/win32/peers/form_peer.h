@@ -49,6 +49,7 @@ class FormPeer final : public forms::FormPeer, public Window {
     LRESULT OnMove(const Message& message);
     LRESULT OnDpiChanged(const Message& message);
     LRESULT OnDisplayChange(const Message& message);
+    LRESULT OnColorsChanged(const Message& message);
     LRESULT OnPaint(const Message& message);
     LRESULT OnEraseBackground(const Message& message);
     LRESULT OnMouseButton(const Message& message);

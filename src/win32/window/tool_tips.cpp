@@ -2,8 +2,8 @@
 
 #include <commctrl.h>
 
-#include "forms/color.h"
 #include "win32/base/text.h"
+#include "win32/system/contrast.h"
 
 namespace tavrin::win32 {
 
@@ -27,8 +27,12 @@ ToolTips::ToolTips(const Toolkit& toolkit, HWND form)
                                         .extendedStyle = WS_EX_TOPMOST,
                                         .parent = form})),
       form_(form) {
-    SendMessageW(window_.get(), TTM_SETTIPBKCOLOR, forms::scheme::Face, 0);
-    SendMessageW(window_.get(), TTM_SETTIPTEXTCOLOR, forms::scheme::Text, 0);
+    ShowColors();
+}
+
+void ToolTips::ShowColors() {
+    SendMessageW(window_.get(), TTM_SETTIPBKCOLOR, OnScreen(forms::ColorUse::Area, forms::scheme::Face), 0);
+    SendMessageW(window_.get(), TTM_SETTIPTEXTCOLOR, OnScreen(forms::ColorUse::Text, forms::scheme::Text), 0);
 }
 
 void ToolTips::Set(HWND control, const std::string& text) {

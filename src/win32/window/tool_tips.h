@@ -17,6 +17,8 @@ class ToolTips {
     /// Sets the text that a control shows, none when it is empty.
     void Set(HWND control, const std::string& text);
     void Remove(HWND control);
+    /// The system's colours may have changed.
+    void ShowColors();
 
   private:
     OwnedWindow window_;

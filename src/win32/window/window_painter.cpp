@@ -1,5 +1,7 @@
 #include "win32/window/window_painter.h"
 
+#include "win32/system/contrast.h"
+
 namespace tavrin::win32 {
 
 WindowPainter::Target::Target(HWND target, const Message& message)
@@ -20,7 +22,9 @@ WindowPainter::WindowPainter(HWND window, const Message& message, Toolkit& toolk
                              forms::Point origin)
     : target_(window, message),
       canvas_(Reserved(toolkit)),
-      surface_(canvas_, toolkit.Fonts(), scale, origin, target_.paint.rcPaint) {}
+      surface_(canvas_, toolkit.Fonts(), scale, origin, target_.paint.rcPaint) {
+    if (const auto colors = HighContrast()) contrast_.emplace(surface_, *colors);
+}
 
 WindowPainter::~WindowPainter() {
     SelectClipRgn(canvas_.Dc(), nullptr);

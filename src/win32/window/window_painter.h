@@ -2,6 +2,9 @@
 
 #include <windows.h>
 
+#include <optional>
+
+#include "forms/contrast.h"
 #include "win32/paint/dib_surface.h"
 #include "win32/window/toolkit.h"
 #include "win32/window/window.h"
@@ -18,7 +21,8 @@ class WindowPainter {
     WindowPainter(const WindowPainter&) = delete;
     WindowPainter& operator=(const WindowPainter&) = delete;
 
-    forms::Surface& Surface() { return surface_; }
+    /// What is drawn in a window's own colours appears in those that the user has set.
+    forms::Surface& Surface() { return contrast_ ? static_cast<forms::Surface&>(*contrast_) : surface_; }
 
   private:
     /// Begins and ends the painting, or takes the device context that came along.
@@ -38,6 +42,7 @@ class WindowPainter {
     Target target_;
     DibCanvas& canvas_;
     DibSurface surface_;
+    std::optional<forms::ContrastSurface> contrast_;
 };
 
 }  // namespace tavrin::win32

@@ -1,5 +1,7 @@
 #include "e2e/driver/accessible_reader.h"
 
+#include <algorithm>
+
 #include "e2e/driver/wait.h"
 #include "win32/base/com_ptr.h"
 #include "win32/base/text.h"
@@ -33,6 +35,7 @@ AccessibleFacts ReadFacts(IAccessible& object, int part) {
     AccessibleFacts facts;
     facts.name = ReadText(object, part, &IAccessible::get_accName);
     facts.value = ReadText(object, part, &IAccessible::get_accValue);
+    facts.description = ReadText(object, part, &IAccessible::get_accDescription);
     facts.shortcut = ReadText(object, part, &IAccessible::get_accKeyboardShortcut);
     facts.defaultAction = ReadText(object, part, &IAccessible::get_accDefaultAction);
     Variant role, state;
@@ -78,14 +81,12 @@ std::vector<AccessibleFacts> ReadParts(UiThread& thread, const Window& control) 
 
 TableTexts ReadTable(UiThread& thread, const Window& table) {
     const std::vector<AccessibleFacts> parts = ReadParts(thread, table);
-    // The name of a cell is its column's header, so the first one comes back with the second row.
-    std::size_t columns = 1;
-    while (columns < parts.size() && parts[columns].name != parts[0].name)
-        ++columns;
+    const auto isHeader = [](const AccessibleFacts& part) { return part.role == ROLE_SYSTEM_COLUMNHEADER; };
+    const auto columns = static_cast<std::size_t>(std::ranges::count_if(parts, isHeader));
     TableTexts rows;
     for (std::size_t i = 0; i < parts.size(); ++i) {
         if (i % columns == 0) rows.emplace_back();
-        rows.back().push_back(parts[i].value);
+        rows.back().push_back(isHeader(parts[i]) ? parts[i].name : parts[i].value);
     }
     return rows;
 }

@@ -17,6 +17,7 @@ namespace tavrin::e2e {
 struct AccessibleFacts {
     std::string name;
     std::string value;
+    std::string description;
     std::string shortcut;
     std::string defaultAction;
     long role = 0;   ///< ROLE_SYSTEM_...
@@ -32,7 +33,7 @@ win32::ComPtr<IAccessible> OpenAccessible(const Window& control);
 /// answer.
 AccessibleFacts ReadAccessible(UiThread& thread, const Window& control);
 
-/// The texts of a table's cells row by row, the header first. No two columns may have one header.
+/// The texts of a table's cells row by row, the header first.
 using TableTexts = std::vector<std::vector<std::string>>;
 TableTexts ReadTable(UiThread& thread, const Window& table);
 

@@ -15,8 +15,8 @@ EventWatch* watching = nullptr;  // NOLINT(cppcoreguidelines-avoid-non-const-glo
 EventWatch::EventWatch(UiThread& thread) : thread_(thread) {
     watching = this;
     thread_.Call([&] {
-        hook_ = SetWinEventHook(EVENT_OBJECT_FOCUS, EVENT_OBJECT_VALUECHANGE, nullptr, Hear,
-                                GetCurrentProcessId(), thread_.Id(), WINEVENT_OUTOFCONTEXT);
+        hook_ = SetWinEventHook(EVENT_OBJECT_FOCUS, LiveRegionChanged, nullptr, Hear, GetCurrentProcessId(),
+                                thread_.Id(), WINEVENT_OUTOFCONTEXT);
     });
     if (hook_ == nullptr) throw DriverError("the system gives no events");
 }

@@ -11,6 +11,9 @@
 
 namespace tavrin::e2e {
 
+/// EVENT_OBJECT_LIVEREGIONCHANGED, of newer headers: a control wants to be read out.
+inline constexpr DWORD LiveRegionChanged = 0x8019;
+
 /// Listens, as an assistive tool does, to the accessibility events of a host's thread: which control raised
 /// which. Lives outside that thread; one at a time.
 class EventWatch {

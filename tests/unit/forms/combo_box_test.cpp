@@ -163,8 +163,10 @@ TEST_F(ComboBoxTest, ALetterChoosesTheNextEntryThatBeginsWithIt) {
     EXPECT_EQ(list.Text(), "Iunie");
     keyboard.Type("i");
     EXPECT_EQ(list.Text(), "Ianuarie");
+    EXPECT_EQ(desktop.beeps, 0);
     keyboard.Type("x");
     EXPECT_EQ(list.Text(), "Ianuarie");
+    EXPECT_EQ(desktop.beeps, 1) << "no entry begins with it";
 }
 
 TEST_F(ComboBoxTest, InAFieldTheCaretKeysStayWithTheCaret) {
@@ -183,11 +185,25 @@ TEST_F(ComboBoxTest, AnOpenListKeepsItsKeys) {
     EXPECT_EQ(list.ListIndex(), -1);
 }
 
+TEST_F(ComboBoxTest, TellsAssistiveToolsWhetherItsListIsOpen) {
+    const CountingPeer* peer = CountingPeer::Give(list);
+    EXPECT_TRUE(list.Accessible().expandable);
+    EXPECT_FALSE(list.Accessible().expanded);
+    list.HandleDropped(true);
+    EXPECT_TRUE(list.Accessible().expanded);
+    list.HandleDropped(false);
+    EXPECT_FALSE(list.Accessible().expanded);
+    EXPECT_EQ(peer->changes, 2);
+}
+
 TEST_F(ComboBoxTest, AltDownAndF4OpenTheList) {
     const CountingPeer* peer = CountingPeer::Give(list);
     keyboard.Press(key::F4);
     keyboard.Press(key::Down, {.alt = true});
     EXPECT_EQ(peer->dropDowns, 2);
+    list.HandleDropped(true);
+    keyboard.Press(key::F4);
+    EXPECT_EQ(peer->dropDowns, 2) << "it is open";
     EXPECT_EQ(list.ListIndex(), -1);
 }
 

@@ -282,9 +282,12 @@ TEST_F(DatePickerTest, LeavingTheFieldEndsTheTyping) {
     EXPECT_EQ(picker.Text(), "02/05/2003");
 }
 
-TEST_F(DatePickerTest, OtherKeysAreLeftToOthers) {
+TEST_F(DatePickerTest, OtherKeysAreLeftToOthersAndCharactersBeep) {
     EXPECT_EQ(form->HandleKeyDown(key::Enter, {}), forms::KeyOutcome::Default);
-    EXPECT_EQ(form->HandleKeyPress(U'x'), forms::KeyOutcome::Default);
+    EXPECT_EQ(form->HandleKeyPress(key::Enter), forms::KeyOutcome::Default);
+    EXPECT_EQ(desktop.beeps, 0);
+    EXPECT_EQ(form->HandleKeyPress(U'x'), forms::KeyOutcome::Done);
+    EXPECT_EQ(desktop.beeps, 1);
     EXPECT_EQ(picker.Text(), "20/05/2003");
 }
 
@@ -339,6 +342,10 @@ TEST_F(DatePickerTest, DigitsInTypingAreShownAsTheyAre) {
 TEST_F(DatePickerTest, AssistiveToolsReadTheDay) {
     EXPECT_EQ(picker.Accessible().role, forms::Role::DateField);
     EXPECT_EQ(picker.Accessible().value, "20/05/2003");
+    EXPECT_TRUE(picker.Accessible().expandable);
+    EXPECT_FALSE(picker.Accessible().expanded);
+    picker.HandleDropped(true);
+    EXPECT_TRUE(picker.Accessible().expanded);
 }
 
 TEST_F(DatePickerTest, AFormatWithoutPartsIsJustText) {

@@ -202,12 +202,16 @@ TEST_F(GridTest, AssistiveToolsWalkTheShownCells) {
     grid.SetColumnWidth(1, 0);
     ASSERT_EQ(grid.AccessibleChildCount(), 9);
     const forms::AccessibleNode header = grid.AccessibleChild(1);
-    EXPECT_EQ(header.role, forms::Role::Cell);
+    EXPECT_EQ(header.role, forms::Role::ColumnHeader);
     EXPECT_EQ(header.name, "EUR");
+    EXPECT_EQ(header.value, "");
+    EXPECT_EQ(header.description, "");
     EXPECT_FALSE(header.selectable);
     const forms::AccessibleNode cell = grid.AccessibleChild(4);
-    EXPECT_EQ(cell.name, "EUR");
+    EXPECT_EQ(cell.role, forms::Role::Cell);
+    EXPECT_EQ(cell.name, "EUR, 01/05/2003");
     EXPECT_EQ(cell.value, "37500");
+    EXPECT_EQ(cell.description, "rândul 1 din 2");
     EXPECT_EQ(cell.bounds, grid.CellBounds(1, 2));
     EXPECT_FALSE(cell.selected);
     EXPECT_TRUE(grid.AccessibleChild(3).selected);
@@ -215,6 +219,29 @@ TEST_F(GridTest, AssistiveToolsWalkTheShownCells) {
     EXPECT_EQ(grid.AccessibleChild(9).name, "");
     EXPECT_EQ(grid.Accessible().role, forms::Role::Table);
     EXPECT_EQ(grid.Accessible().value, "01/05/2003");
+}
+
+TEST_F(GridTest, TheFirstCellOfARowIsNamedByItsColumnAlone) {
+    grid.SetDataSource(Rates());
+    grid.SetFormatString("^Data|<D|>EUR|>USD");
+    EXPECT_EQ(grid.AccessibleChild(4).name, "Data");
+    grid.SetColumnWidth(0, 0);
+    EXPECT_EQ(grid.AccessibleChild(3).name, "D");
+    EXPECT_EQ(grid.CellName(1, 2), "EUR, " + grid.TextMatrix(1, 1));
+}
+
+TEST_F(GridTest, TheCurrentCellOfASelectedRowReadsTheRow) {
+    grid.SetDataSource(Rates());
+    grid.SetFormatString("^Data|<D|>EUR|>USD");
+    grid.SetColumnWidth(1, 0);
+    grid.SetRow(2);
+    grid.SetColSel(3);
+    EXPECT_EQ(grid.AccessibleChild(6).description,
+              "EUR " + grid.TextMatrix(2, 2) + ", USD " + grid.TextMatrix(2, 3) + ", rândul 2 din 2");
+    EXPECT_EQ(grid.AccessibleChild(7).description, "rândul 2 din 2");
+    EXPECT_EQ(grid.AccessibleChild(3).description, "rândul 1 din 2");
+    grid.SetColSel(2);
+    EXPECT_EQ(grid.AccessibleChild(6).description, "EUR " + grid.TextMatrix(2, 2) + ", rândul 2 din 2");
 }
 
 TEST_F(GridTest, CellsScrolledAwayAreToldSo) {

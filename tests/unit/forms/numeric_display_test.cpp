@@ -147,11 +147,13 @@ TEST_F(NumericDisplayTest, TellsAssistiveToolsWhatItShows) {
     display.SetValue(1234.5);
     const forms::AccessibleNode node = display.Accessible();
     EXPECT_EQ(node.role, forms::Role::StaticText);
-    EXPECT_EQ(node.name, "Lei");
+    EXPECT_EQ(node.name, "Lei: 1.234,50 EUR");
     EXPECT_EQ(node.value, "1.234,50");
     EXPECT_EQ(node.description, "EUR");
     EXPECT_TRUE(node.readOnly);
     EXPECT_FALSE(node.focusable);
+    display.SetUnitText("Lei");
+    EXPECT_EQ(display.Accessible().name, "Lei: 1.234,50") << "a unit that is the name is said once";
 }
 
 TEST_F(NumericDisplayTest, DrawsTheNumberAtTheRightInItsOwnFontWhereThereIsRoom) {
