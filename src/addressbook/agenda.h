@@ -3,10 +3,10 @@
 #include <cstddef>
 #include <string>
 
-#include "addressbook/addressbook_statements.h"
 #include "addressbook/agenda_design.h"
 #include "addressbook/arrow_moves.h"
 #include "addressbook/edit_rules.h"
+#include "addressbook/person.h"
 #include "addressbook/person_store.h"
 #include "forms/image_list.h"
 #include "shell/module.h"

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <optional>
 
-#include "addressbook/addressbook_statements.h"
+#include "addressbook/person.h"
 
 namespace tavrin::addressbook {
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "addressbook/addressbook_statements.h"
 #include "addressbook/text_rules.h"
 #include "data/error.h"
 

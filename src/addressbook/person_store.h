@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "addressbook/addressbook_statements.h"
+#include "addressbook/person.h"
 #include "data/connection.h"
 #include "shell/host_context.h"
 

@@ -13,6 +13,7 @@
 #include "rates/currency_names.h"
 #include "rates/rate_rules.h"
 #include "rates/rate_store.h"
+#include "rates/rate_values.h"
 #include "shell/module.h"
 
 namespace tavrin::rates {

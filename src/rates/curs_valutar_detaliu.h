@@ -14,8 +14,8 @@
 #include "forms/text_box.h"
 #include "rates/currency_names.h"
 #include "rates/rate_rules.h"
-#include "rates/rate_statements.h"
 #include "rates/rate_store.h"
+#include "rates/rate_values.h"
 #include "shell/module.h"
 
 namespace tavrin::rates {

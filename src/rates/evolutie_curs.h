@@ -13,8 +13,8 @@
 #include "forms/grid.h"
 #include "forms/image_list.h"
 #include "forms/label.h"
-#include "rates/evolution_statements.h"
 #include "rates/rate_store.h"
+#include "rates/rate_values.h"
 #include "shell/module.h"
 
 namespace tavrin::rates {

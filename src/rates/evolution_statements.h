@@ -1,17 +1,11 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
-namespace tavrin::rates {
+#include "rates/rate_values.h"
 
-/// What an evolution chart shows: one currency over one month, or over a whole year in monthly averages.
-struct EvolutionChoice {
-    std::string year;          ///< as the list shows it
-    std::optional<int> month;  ///< 1 to 12; none for the whole year
-    std::string currency;      ///< a column's name; blanks around it are dropped
-};
+namespace tavrin::rates {
 
 inline constexpr std::string_view RateYearsStatement =
     "SELECT DISTINCT YEAR(Data) AS AN FROM [Curs Valutar] ORDER BY YEAR(Data)";

@@ -7,6 +7,7 @@
 
 #include "data/value.h"
 #include "rates/currency_names.h"
+#include "rates/rate_values.h"
 
 namespace tavrin::rates {
 
@@ -19,12 +20,6 @@ std::string FrozenDateStatement(std::int32_t companyId);
 /// Asks for the table's columns. The rate list's text ends in a blank, the other windows' does not.
 inline constexpr std::string_view ListColumnsStatement = "SELECT * FROM [Curs Valutar] ";
 inline constexpr std::string_view ColumnsStatement = "SELECT * FROM [Curs Valutar]";
-
-/// Days from the first to the last, both among them.
-struct DateRange {
-    data::OleDate first;
-    data::OleDate last;
-};
 
 /// Select list and table of the rate list, without filter and order.
 std::string ListBaseQuery(const CurrencyNames& currencies);
@@ -42,12 +37,6 @@ std::string DeleteDayStatement(std::string_view dayMonthYear);
 std::string CountDayStatement(data::OleDate day);
 /// A row if the day exists; asked when the user has chosen a day.
 std::string ProbeDayStatement(data::OleDate day);
-
-/// One line of the entry grid as the user sees it: the value carries its thousands separators.
-struct RateEntry {
-    std::string currency;
-    std::string value;
-};
 
 std::string InsertDayStatement(std::string_view dayMonthYear, const std::vector<RateEntry>& rates);
 std::string UpdateDayStatement(std::string_view dayMonthYear, const std::vector<RateEntry>& rates);

@@ -4,6 +4,7 @@
 #include "data/date.h"
 #include "data/error.h"
 #include "rates/chooser_statements.h"
+#include "rates/evolution_statements.h"
 #include "rates/rate_statements.h"
 #include "rates/rate_text.h"
 

@@ -9,17 +9,10 @@
 #include "data/table.h"
 #include "data/value.h"
 #include "rates/currency_names.h"
-#include "rates/evolution_statements.h"
-#include "rates/rate_statements.h"
+#include "rates/rate_values.h"
 #include "shell/host_context.h"
 
 namespace tavrin::rates {
-
-/// The lowest and the highest rate of a choice; zeros where there is none.
-struct RateLimits {
-    double lowest = 0;
-    double highest = 0;
-};
 
 /// The daily rates in the host's database. Keeps nothing: every question is a statement on the host's
 /// connection. What the provider refuses comes out as data::Error.

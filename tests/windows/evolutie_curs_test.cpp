@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "data/error.h"
+#include "rates/evolution_statements.h"
 #include "support/counting_peer.h"
 #include "support/pass_through_connection.h"
 #include "support/rates_test.h"

@@ -5,6 +5,7 @@
 
 #include <limits>
 
+#include "addressbook/addressbook_statements.h"
 #include "data/error.h"
 #include "support/pass_through_connection.h"
 #include "support/recording_connection.h"
