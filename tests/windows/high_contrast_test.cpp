@@ -93,7 +93,9 @@ TEST_F(HighContrastTest, ADisabledControlIsGreyed) {
     list.ShowForm();
     list.cmdRefresh.SetEnabled(false);
     for (const Drawn& drawn : Draw(list.cmdRefresh)) {
-        if (drawn.kind == Drawing::Text) EXPECT_EQ(drawn.style.color, System.disabled);
+        if (drawn.kind == Drawing::Text) {
+            EXPECT_EQ(drawn.style.color, System.disabled);
+        }
     }
 }
 
