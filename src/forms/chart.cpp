@@ -31,7 +31,7 @@ constexpr double MarkRadius = 90;
 constexpr double MarkWidth = 30;
 
 std::string TickText(double value, bool grouped) {
-    const std::string text = data::ShortestDecimal(data::RoundHalfEven(value, TickDecimals));
+    std::string text = data::ShortestDecimal(data::RoundHalfEven(value, TickDecimals));
     if (!grouped) return text;
     const std::size_t point = text.find('.');
     const int decimals = point == std::string::npos ? 0 : static_cast<int>(text.size() - point - 1);
