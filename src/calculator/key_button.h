@@ -15,7 +15,6 @@ class KeyButton : public forms::CommandButton {
 
     void SetKind(KeyKind kind);
     /// Whether the keyboard holds the key down.
-    bool IsStruck() const { return isStruck_; }
     void SetStruck(bool struck);
     void Draw(forms::Surface& surface) const override;
 
