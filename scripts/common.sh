@@ -64,4 +64,4 @@ require_arch() {
 # Under Wine a process that has had some sixty apartments hangs in the next one's first marshalling, and each
 # end-to-end test has one of its own. So the tests are dealt to several processes.
 # shellcheck disable=SC2034 # for those who source this file
-e2e_shards=6
+e2e_shards=8

@@ -67,6 +67,16 @@ TEST_P(CalendarTest, OpensOnTheDayOfEveryField) {
     }
 }
 
+TEST_P(CalendarTest, IsWrittenInTheFieldsFont) {
+    OpenOn({2003, 5, 20});
+    const HWND month = FindWindowExW(FindForm("Calendar")->Handle(), nullptr, MONTHCAL_CLASSW, nullptr);
+    const auto font = reinterpret_cast<HFONT>(SendMessageW(month, WM_GETFONT, 0, 0));
+    LOGFONTW look{};
+    ASSERT_NE(GetObjectW(font, sizeof look, &look), 0) << "the system's font";
+    EXPECT_STREQ(look.lfFaceName, L"Arial");
+    Press(VK_ESCAPE);
+}
+
 TEST_P(CalendarTest, KeysWalkFromTheFieldsDay) {
     ExpectKey({2003, 5, 20}, VK_LEFT, {2003, 5, 19});
     ExpectKey({2003, 5, 20}, VK_RIGHT, {2003, 5, 21});

@@ -337,12 +337,14 @@ TEST_F(NotesTest, TheBarShowsWhatTheMouseIsOver) {
 
 TEST_F(NotesTest, TheFocusIsToBeSeen) {
     constexpr COLORREF Focus = 0x00FF00;
+    constexpr COLORREF FocusOnPage = 0x008000;
     Open();
-    EXPECT_TRUE(WaitUntil([&] { return ShowsColor(Note(), Focus); }));
+    EXPECT_TRUE(WaitUntil([&] { return ShowsColor(Note(), FocusOnPage); }));
+    EXPECT_FALSE(ShowsColor(Note(), Focus));
     Press(VK_TAB, {VK_SHIFT});
     EXPECT_TRUE(AwaitFocus("ImgBouton(7)"));
     EXPECT_TRUE(WaitUntil([&] { return ShowsColor(ButtonOf(Leave), Focus); }));
-    EXPECT_TRUE(WaitUntil([&] { return !ShowsColor(Note(), Focus); }));
+    EXPECT_TRUE(WaitUntil([&] { return !ShowsColor(Note(), FocusOnPage); }));
     Press(VK_TAB);
     EXPECT_TRUE(AwaitFocus("txtNota"));
 }
