@@ -1,6 +1,7 @@
 // A form that unloads while the platform is still busy with one of its windows, and what is left afterwards.
 
 #include "e2e/driver/accessible_reader.h"
+#include "e2e/driver/platform.h"
 #include "e2e/driver/resource_count.h"
 #include "e2e/peers_test.h"
 
@@ -118,10 +119,13 @@ TEST_P(PeersUnloadingTest, NothingIsLeftOfAForm) {
     };
     openAndUse();  // what the system keeps once for all
     openAndUse();
-    const ResourceCount before = ResourceCount::Take();
-    for (int i = 0; i < 10; ++i)
+    constexpr int Lives = 10;
+    ResourceCount expected = ResourceCount::Take();
+    for (int i = 0; i < Lives; ++i)
         openAndUse();
-    EXPECT_EQ(ResourceCount::Take(), before);
+    // Wine's calendar makes a bold font whenever it is given one, and forgets the one before.
+    if (IsWine()) expected.gdiObjects["font"] += Lives;
+    EXPECT_EQ(ResourceCount::Take(), expected);
 }
 
 }  // namespace
