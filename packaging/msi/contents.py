@@ -113,6 +113,7 @@ class Contents:
         """What both bitnesses share is one component for both, so that it goes with the last of them."""
         own = self.key_of(DLL)
         shared = "Shared"
+        self.server_key = next(key for _, key, name, value in registration if value == "<file>" and not name)
         for part, key, name, value in registration:
             value = f"[#{own}]" if value == "<file>" else value
             self.add_value(f"Software\\Classes\\{key}", name or None, value,

@@ -23,15 +23,18 @@ FOR_ALL = ("Acest pachet este pentru toți utilizatorii; pentru unul singur exis
 FOR_ONE = ("Acest pachet este pentru un singur utilizator; pentru toți există pachetul fără -user. "
            "This package is for one user; the one without -user is for all.")
 
+# Another copy may have registered itself since: its registration stays when this package goes.
+REGISTERED_IS_OURS = "NOT REGISTEREDDLL OR REGISTEREDDLL ~= OWNDLL"
+
 # What an installation does, in this order. No part of the component is run, so that all can be rolled back. The version
 # before is removed inside the transaction: it is there again if the installation fails, and what this version has not
 # any more is gone.
 EXECUTE = [
     ("FindRelatedProducts", None), ("AppSearch", None), ("LaunchConditions", None),
     ("SetFolder", "FORMERFOLDER AND NOT INSTALLDIR"), ("ValidateProductID", None), ("CostInitialize", None),
-    ("FileCost", None), ("CostFinalize", None), ("SetLocation", None), ("SetHelpLink", None),
+    ("FileCost", None), ("CostFinalize", None), ("SetLocation", None), ("SetOwnDll", None), ("SetHelpLink", None),
     ("InstallValidate", None), ("InstallInitialize", None), ("RemoveExistingProducts", None),
-    ("ProcessComponents", None), ("UnpublishFeatures", None), ("RemoveRegistryValues", None),
+    ("ProcessComponents", None), ("UnpublishFeatures", None), ("RemoveRegistryValues", REGISTERED_IS_OURS),
     ("RemoveShortcuts", None), ("RemoveFiles", None), ("RemoveFolders", None), ("CreateFolders", None),
     ("InstallFiles", None), ("CreateShortcuts", None), ("WriteRegistryValues", None), ("RegisterUser", None),
     ("RegisterProduct", None), ("PublishFeatures", None), ("PublishProduct", None), ("InstallFinalize", None),
@@ -71,7 +74,7 @@ def properties(product, product_code, upgrade_code):
         # The user's programs are neither closed nor is his computer started anew: a DLL in use is answered with 3010.
         "MSIRESTARTMANAGERCONTROL": "Disable",
         "REBOOT": "ReallySuppress",
-        "SecureCustomProperties": "FORMERFOLDER;INSTALLDIR;NEWERVERSION;OLDERVERSION",
+        "SecureCustomProperties": "FORMERFOLDER;INSTALLDIR;NEWERVERSION;OLDERVERSION;REGISTEREDDLL",
     }
     if product["scope"] == "machine":
         values["ALLUSERS"] = 1
@@ -100,21 +103,24 @@ def conditions(product):
     return table
 
 
-def search(product):
-    """The folder that was chosen for the version before."""
+def search(product, server_key):
+    """The folder that was chosen for the version before, and the DLL that is registered now."""
     signature = Table("AppSearch", ["Property s72", "Signature_ s72"], 2)
     signature.add("FORMERFOLDER", "FormerFolder")
     locator = Table("RegLocator", ["Signature_ s72", "Root i2", "Key s255", "Name S255", "Type I2"], 1)
     kind = RAW_VALUE | (IN_64_BIT_VIEW if product["arch"] == "x64" else 0)
     root = LOCAL_MACHINE if product["scope"] == "machine" else CURRENT_USER
     locator.add("FormerFolder", root, f"Software\\Tavrin\\{product['arch']}", "Folder", kind)
+    signature.add("REGISTEREDDLL", "RegisteredDll")
+    locator.add("RegisteredDll", root, f"Software\\Classes\\{server_key}", None, kind)
     return [signature, locator]
 
 
-def sequences(guide):
+def sequences(guide, dll_key):
     action = Table("CustomAction", ["Action s72", "Type i2", "Source S64", "Target S255"], 1)
     action.add("SetFolder", SET_PROPERTY, "INSTALLDIR", "[FORMERFOLDER]")
     action.add("SetLocation", SET_PROPERTY, "ARPINSTALLLOCATION", "[ProductFolder]")
+    action.add("SetOwnDll", SET_PROPERTY, "OWNDLL", f"[#{dll_key}]")
     action.add("SetHelpLink", SET_PROPERTY, "ARPHELPLINK", f"[ProductFolder]{guide}".replace("/", "\\"))
     tables = [action]
     for name, steps in [("InstallExecuteSequence", EXECUTE), ("InstallUISequence", UI)]:
