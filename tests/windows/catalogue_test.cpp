@@ -61,7 +61,9 @@ TEST_F(CatalogueTest, EveryFolderWithAWindowHasAUtility) {
         described.insert(utility.folder);
     for (const auto& folder : std::filesystem::directory_iterator(TAVRIN_SOURCE_FOLDER "/src")) {
         const std::string name = "src/" + folder.path().filename().string();
-        if (folder.is_directory() && CountForms(name) > 0) EXPECT_EQ(described.count(name), 1U) << name;
+        if (folder.is_directory() && CountForms(name) > 0) {
+            EXPECT_EQ(described.count(name), 1U) << name;
+        }
     }
 }
 

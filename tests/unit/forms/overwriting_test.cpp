@@ -120,8 +120,12 @@ TEST(OverwritingTest, WhatIsToldIsTrueWhereverADiskFailsAndHowLong) {
             for (int last = step + 1; last < 12; ++last) {
                 FailingFile file(before, step, last);
                 const Outcome outcome = OutcomeOf(file, after);
-                if (outcome == Outcome::Written) EXPECT_EQ(file.content, after);
-                if (outcome == Outcome::Failed) EXPECT_EQ(file.content, before) << step << " to " << last;
+                if (outcome == Outcome::Written) {
+                    EXPECT_EQ(file.content, after);
+                }
+                if (outcome == Outcome::Failed) {
+                    EXPECT_EQ(file.content, before) << step << " to " << last;
+                }
                 damaged += outcome == Outcome::Damaged ? 1 : 0;
             }
         }
