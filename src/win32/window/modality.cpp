@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/form.h"
 #include "win32/base/translation.h"
 #include "win32/window/window.h"
 

@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include "forms/form.h"
+
 namespace tavrin::win32 {
 
 namespace {
