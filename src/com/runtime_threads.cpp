@@ -81,21 +81,21 @@ int pthread_cond_broadcast(pthread_cond_t*) {
     return 0;
 }
 
-int pthread_once(pthread_once_t* once, void (*run)()) {
-    if (InterlockedCompareExchange(once, Begun, NotYet) == NotYet) {
-        run();
-        InterlockedExchange(once, Done);
+int pthread_once(pthread_once_t* o, void (*func)()) {
+    if (InterlockedCompareExchange(o, Begun, NotYet) == NotYet) {
+        func();
+        InterlockedExchange(o, Done);
     }
-    while (InterlockedCompareExchange(once, Done, Done) != Done)
+    while (InterlockedCompareExchange(o, Done, Done) != Done)
         Sleep(0);
     return 0;
 }
 
-int pthread_key_create(pthread_key_t* key, void (*end)(void*)) {
+int pthread_key_create(pthread_key_t* key, void (*dest)(void*)) {
     if (threadSlot != FLS_OUT_OF_INDEXES) return EAGAIN;  // the runtime makes one
     threadSlot = FlsAlloc(LeaveThread);
     if (threadSlot == FLS_OUT_OF_INDEXES) return EAGAIN;
-    endOfThread = end;
+    endOfThread = dest;
     *key = threadSlot;
     return 0;
 }
@@ -109,15 +109,15 @@ int pthread_setspecific(pthread_key_t key, const void* value) {
 }
 
 /// The clock that never goes back; nothing here asks for another.
-int clock_gettime(clockid_t, struct timespec* time) {
+int clock_gettime(clockid_t, struct timespec* tp) {
     constexpr LONGLONG NanosecondsPerSecond = 1000000000;
     LARGE_INTEGER now{};
     LARGE_INTEGER frequency{};
     QueryPerformanceCounter(&now);
     QueryPerformanceFrequency(&frequency);
     const LONGLONG rest = now.QuadPart % frequency.QuadPart;
-    time->tv_sec = static_cast<time_t>(now.QuadPart / frequency.QuadPart);
-    time->tv_nsec = static_cast<long>(rest * NanosecondsPerSecond / frequency.QuadPart);
+    tp->tv_sec = static_cast<time_t>(now.QuadPart / frequency.QuadPart);
+    tp->tv_nsec = static_cast<long>(rest * NanosecondsPerSecond / frequency.QuadPart);
     return 0;
 }
 }

@@ -180,15 +180,15 @@ class RtfWriter {
     void ChangeLooks(const RunFormat& format) {
         const std::size_t before = rtf_.size();
         const bool first = !looksAreKnown_;
-        if (first || format.font != looks_.font) Word("\\f"sv, format.font);
-        if (first || format.halfPoints != looks_.halfPoints) Word("\\fs"sv, format.halfPoints);
-        Switch("\\b"sv, format.bold, looks_.bold);
-        Switch("\\i"sv, format.italic, looks_.italic);
-        if (format.underline != looks_.underline) rtf_ += format.underline ? "\\ul" : "\\ulnone";
-        Switch("\\strike"sv, format.strikeThru, looks_.strikeThru);
+        if (first || format.font != looks_.font) Word(R"(\f)"sv, format.font);
+        if (first || format.halfPoints != looks_.halfPoints) Word(R"(\fs)"sv, format.halfPoints);
+        Switch(R"(\b)"sv, format.bold, looks_.bold);
+        Switch(R"(\i)"sv, format.italic, looks_.italic);
+        if (format.underline != looks_.underline) rtf_ += format.underline ? R"(\ul)" : R"(\ulnone)";
+        Switch(R"(\strike)"sv, format.strikeThru, looks_.strikeThru);
         if (format.script != looks_.script) rtf_ += Scripts[static_cast<std::size_t>(format.script)];
-        if (format.color != looks_.color) Word("\\cf"sv, NumberOf(format.color));
-        if (format.background != looks_.background) Word("\\highlight"sv, NumberOf(format.background));
+        if (format.color != looks_.color) Word(R"(\cf)"sv, NumberOf(format.color));
+        if (format.background != looks_.background) Word(R"(\highlight)"sv, NumberOf(format.background));
         looks_ = format;
         looksAreKnown_ = true;
         if (rtf_.size() != before) rtf_ += ' ';
@@ -220,7 +220,7 @@ class RtfWriter {
             case character::ParagraphEnd:
                 return EndParagraph();
             case character::Tab:
-                rtf_ += "\\tab "sv;
+                rtf_ += R"(\tab )"sv;
                 return;
             case character::LineBreak:
                 rtf_ += "\\line ";
@@ -241,7 +241,7 @@ class RtfWriter {
     /// A signed number of 16 bits, and what readers show that know none of these. A symbol's is its place in
     /// its font.
     void WriteUnit(char32_t unit) {
-        Word("\\u"sv, static_cast<std::int16_t>(unit));
+        Word(R"(\u)"sv, static_cast<std::int16_t>(unit));
         if (unit >= 0xF020 && unit <= 0xF0FF) {
             rtf_ += "\\'";
             WriteHexByte(static_cast<unsigned char>(unit));

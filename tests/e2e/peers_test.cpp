@@ -4,8 +4,8 @@
 
 namespace tavrin::e2e {
 
-SampleForm::SampleForm(forms::Desktop& desktop, std::string name)
-    : Form(desktop, std::move(name), "Proba", forms::BorderStyle::FixedDialog) {
+SampleForm::SampleForm(forms::Desktop& desktop, const std::string& name)
+    : Form(desktop, name, "Proba", forms::BorderStyle::FixedDialog) {
     SetClientSize({6000, 4000});
     MoveTo(600, 600);
     for (const char* entry : {"Lei", "Valuta"})

@@ -27,7 +27,7 @@ namespace tavrin::e2e {
 /// A form with one control of each kind that the platform has a part in.
 class SampleForm : public forms::Form {
   public:
-    SampleForm(forms::Desktop& desktop, std::string name);
+    SampleForm(forms::Desktop& desktop, const std::string& name);
 
     int activations = 0;
     int deactivations = 0;

@@ -49,9 +49,10 @@ class DemoWindowsTest : public EveryWindowTest {
 };
 
 TEST_F(DemoWindowsTest, NoButtonOfTheDemoLeadsToAnError) {
-    for (const WindowEntry& window : host::AllWindows())
+    for (const WindowEntry& window : host::AllWindows()) {
         for (const WindowState& state : window.states)
             ClickEach(window, state);
+    }
     EXPECT_GT(clicked, 60);
 }
 

@@ -112,8 +112,8 @@ TEST_F(NotesBarTest, TheButtonsAreOfTheBarsColor) {
 TEST_F(NotesBarTest, SizeAndPlaceFollowTheScreen) {
     const Notes& window = Open();
     const forms::Size screen = desktop.ScreenSize();
-    EXPECT_NEAR(window.Bounds().width, screen.width / 3, desktop.TwipsPerPixelX());
-    EXPECT_NEAR(window.Bounds().height, screen.height / 2, desktop.TwipsPerPixelY());
+    EXPECT_NEAR(window.Bounds().width, screen.width / 3.0, desktop.TwipsPerPixelX());
+    EXPECT_NEAR(window.Bounds().height, screen.height / 2.0, desktop.TwipsPerPixelY());
     EXPECT_GE(window.Bounds().left, screen.width / 2);
     EXPECT_LT(window.Bounds().Right(), screen.width);
     EXPECT_GT(window.Bounds().top, 0);

@@ -56,7 +56,7 @@ Clipboard::Clipboard(HWND owner) {
 
 void Clipboard::Put(UINT format, OwnedGlobal memory) const {
     if (SetClipboardData(format, memory.get()) == nullptr) ThrowLastError();
-    memory.release();  // the clipboard's now
+    static_cast<void>(memory.release());  // the clipboard's now
 }
 
 OwnedGlobal TextMemory(const std::string& text) {
@@ -81,9 +81,10 @@ OwnedGlobal PictureMemory(const forms::Copied& copied, DibCanvas& canvas, FontCa
     OwnedGlobal memory = Allocate(sizeof header + row * static_cast<std::size_t>(height));
     const Locked locked(memory);
     locked.Write(0, &header, sizeof header);
-    for (int y = 0; y < height; ++y)
+    for (int y = 0; y < height; ++y) {
         locked.Write(sizeof header + row * static_cast<std::size_t>(height - 1 - y), canvas.Row(y).data(),
                      row);
+    }
     return memory;
 }
 

@@ -220,9 +220,9 @@ TEST_F(PersonStoreTest, ARowBeyondTheLastIsTheLast) {
 }
 
 TEST_F(PersonStoreTest, ARowBeyondTheOnlyOneIsThatOne) {
-    const PersonSearch Somebody{"somebody", ""};
-    connection->Script().AnswerRows(QueryOf(Somebody), {Columns.begin(), Columns.end()}, {Row("Ene", "Dan")});
-    store.Load(Somebody);
+    const PersonSearch somebody{"somebody", ""};
+    connection->Script().AnswerRows(QueryOf(somebody), {Columns.begin(), Columns.end()}, {Row("Ene", "Dan")});
+    store.Load(somebody);
     for (const int row : {0, 1, 2, 1000}) {
         store.MoveTo(row);
         EXPECT_EQ(Current()[PrenumeColumn], "Dan") << row;

@@ -186,8 +186,8 @@ TEST_F(ChartTest, TheMarkedRowHasARingAroundItsPoint) {
         const Rect& point = points[static_cast<std::size_t>(row - 1)].area;
         ASSERT_EQ(rings().size(), 1U) << row;
         const Rect ring = rings().front();
-        EXPECT_NEAR(ring.left + ring.width / 2, point.left + point.width / 2, 15) << row;
-        EXPECT_NEAR(ring.top + ring.height / 2, point.top + point.height / 2, 15) << row;
+        EXPECT_NEAR(ring.left + ring.width / 2.0, point.left + point.width / 2.0, 15) << row;
+        EXPECT_NEAR(ring.top + ring.height / 2.0, point.top + point.height / 2.0, 15) << row;
         EXPECT_THAT(surface.Outside({0, 0, 9000, 5400}), IsEmpty());
     }
     for (const int row : {0, 3, 4}) {

@@ -25,8 +25,8 @@ using Events = std::vector<std::string>;
 /// told.
 class ProbeForm : public forms::Form {
   public:
-    ProbeForm(forms::Desktop& desktop, Events& events, std::string name = "Probe")
-        : Form(desktop, std::move(name), "Probe", forms::BorderStyle::FixedDialog), events_(events) {
+    ProbeForm(forms::Desktop& desktop, Events& events, const std::string& name = "Probe")
+        : Form(desktop, name, "Probe", forms::BorderStyle::FixedDialog), events_(events) {
         button.SetAccelerator(U'B');
         for (forms::Control* control : AllControls()) {
             control->onGotFocus = [this, control] { events_.push_back("got " + control->QualifiedName()); };

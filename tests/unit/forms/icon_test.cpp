@@ -54,7 +54,8 @@ std::vector<int> Stretches(const std::vector<forms::Color>& picture, int pixels,
     std::vector<int> lengths;
     bool wasBright = false;
     for (int x = 0; x < pixels; ++x) {
-        const forms::Color pixel = *(picture.begin() + row * pixels + x);
+        const forms::Color pixel = picture[static_cast<std::size_t>(row) * static_cast<std::size_t>(pixels) +
+                                           static_cast<std::size_t>(x)];
         const bool isBright = (pixel >> 8 & 0xFF) > 0x60;
         if (lengths.empty() && !isBright) continue;
         if (lengths.empty() || isBright != wasBright) lengths.push_back(0);

@@ -237,7 +237,7 @@ TEST(RtfThorough, TimeGrowsWithTheFileAlone) {
                               "{\\footnote a}",
                               R"({\field{\*\fldinst SYMBOL 183 \\f a}})",
                               R"({\field{\*\fldinst FORMCHECKBOX}{\fldrslt}})",
-                              "{\\nonshppict{\\pict\\jpegblip 00}}",
+                              R"({\nonshppict{\pict\jpegblip 00}})",
                               "\\caps\\'e3",
                               "\\cf1\\cf2",
                               R"(\fonttbl\f0;\f1;)"}) {
