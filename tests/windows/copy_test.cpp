@@ -13,7 +13,7 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-constexpr forms::Modifiers Control{false, true, false};
+constexpr forms::Modifiers WithControl{.control = true};
 constexpr forms::Modifiers Shift{true, false, false};
 
 class CopyTest : public EveryWindowTest {
@@ -29,7 +29,7 @@ class CopyTest : public EveryWindowTest {
     /// What Ctrl+C in a window took along; "nothing" where it did not.
     std::string Copy(std::string_view name) {
         desktop.copied.reset();
-        Window(name).HandleKeyDown(forms::key::C, Control);
+        Window(name).HandleKeyDown(forms::key::C, WithControl);
         return desktop.copied ? desktop.copied->text : "nothing";
     }
 };
