@@ -16,8 +16,6 @@ namespace key = forms::key;
 namespace layout = shell::layout;
 namespace message = shell::message;
 
-constexpr std::array<const char*, 7> SpokenOperators = {"împărțit", "plus",    "înmulțit",      "minus",
-                                                        "egal",     "procent", "schimbă semnul"};
 constexpr std::array<const char*, 4> Precisions = {"0 zecimale", "2 zecimale", "4 zecimale", "6 zecimale"};
 constexpr int TwoDecimals = 1;
 constexpr const char* LeiUnit = "Lei";
@@ -175,8 +173,8 @@ void FrmCalculator::NameKeys() {
     };
     for (const auto& [key, name] : spoken)
         (this->*key).SetAccessibleName(name);
-    for (const auto& key : Operator)
-        key->SetAccessibleName(SpokenOperators[static_cast<std::size_t>(key->Index())]);
+    for (std::size_t i = 0; i < OperatorKeys.size(); ++i)
+        Operator[static_cast<int>(i)].SetAccessibleName(OperatorKeys[i].spoken);
 }
 
 // Events.
@@ -359,9 +357,8 @@ std::optional<forms::Copied> FrmCalculator::Copy() const {
 }
 
 void FrmCalculator::ReleaseKeys() {
-    for (forms::Control* control : AllControls()) {
-        if (auto* button = dynamic_cast<KeyButton*>(control)) button->SetStruck(false);
-    }
+    for (KeyButton* key : keys_)
+        if (key != nullptr) key->SetStruck(false);
 }
 
 void FrmCalculator::OnDeactivate() {

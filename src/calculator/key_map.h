@@ -14,16 +14,17 @@ std::optional<Command> CommandOfCharacter(char32_t character);
 /// The keys of the array Operator: element 0 divides, and so on.
 struct OperatorKey {
     const char* caption;
+    const char* spoken;  ///< the name for assistive tools
     Command command;
 };
 inline constexpr std::array<OperatorKey, 7> OperatorKeys = {{
-    {"/", Command::Divide},
-    {"+", Command::Add},
-    {"X", Command::Multiply},
-    {"-", Command::Subtract},
-    {"=", Command::Equals},
-    {"%", Command::Percent},
-    {"+/-", Command::ChangeSign},
+    {"/", "împărțit", Command::Divide},
+    {"+", "plus", Command::Add},
+    {"X", "înmulțit", Command::Multiply},
+    {"-", "minus", Command::Subtract},
+    {"=", "egal", Command::Equals},
+    {"%", "procent", Command::Percent},
+    {"+/-", "schimbă semnul", Command::ChangeSign},
 }};
 
 }  // namespace tavrin::calculator

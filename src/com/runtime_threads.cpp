@@ -17,8 +17,8 @@
 namespace tavrin::com {
 namespace {
 
-/// What stands in a mutex that is held; a free one holds anything else, at first what its initialiser put
-/// there.
+/// The runtime takes none of its locks twice in one thread, so that a word is enough for one. What stands in
+/// a mutex that is held; a free one holds anything else, at first what its initialiser put there.
 constexpr LONG Held = 1;
 
 enum OnceState : LONG { NotYet, Begun, Done };

@@ -306,10 +306,11 @@ std::string InOneCell(std::string text) {
 }  // namespace
 
 std::string Grid::TextOfRows(int first, int last) const {
+    const std::vector<int> columns = ShownColumns();
     std::string text;
     const auto add = [&](int row) {
         const char* before = "";
-        for (const int column : ShownColumns()) {
+        for (const int column : columns) {
             text += before + InOneCell(TextMatrix(row, column));
             before = "\t";
         }

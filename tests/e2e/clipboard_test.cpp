@@ -5,41 +5,11 @@
 
 #include <string>
 
+#include "e2e/driver/clipboard.h"
 #include "e2e/host_test.h"
-#include "win32/base/text.h"
 
 namespace tavrin::e2e {
 namespace {
-
-class OpenClipboardScope {
-  public:
-    OpenClipboardScope() {
-        Require("the clipboard", [] { return OpenClipboard(nullptr) != FALSE; });
-    }
-    ~OpenClipboardScope() { CloseClipboard(); }
-    OpenClipboardScope(const OpenClipboardScope&) = delete;
-    OpenClipboardScope& operator=(const OpenClipboardScope&) = delete;
-};
-
-std::string ClipboardText() {
-    const OpenClipboardScope clipboard;
-    const HANDLE memory = GetClipboardData(CF_UNICODETEXT);
-    if (memory == nullptr) return "no text";
-    std::string text = win32::ToUtf8(static_cast<const wchar_t*>(GlobalLock(memory)));
-    GlobalUnlock(memory);
-    return text;
-}
-
-/// The picture's size in pixels, 0 by 0 without one.
-SIZE ClipboardPicture() {
-    const OpenClipboardScope clipboard;
-    const HANDLE memory = GetClipboardData(CF_DIB);
-    if (memory == nullptr) return {0, 0};
-    const auto* header = static_cast<const BITMAPINFOHEADER*>(GlobalLock(memory));
-    const SIZE size{header->biWidth, header->biHeight};
-    GlobalUnlock(memory);
-    return size;
-}
 
 class ClipboardTest : public HostTest {};
 
@@ -49,10 +19,10 @@ TEST_F(ClipboardTest, ARowOfTheListIsTextForATable) {
     ASSERT_TRUE(AwaitFocus("Grid"));
     PressKey('C', {VK_CONTROL});
     host->Ui().Settle();
-    const std::string text = ClipboardText();
+    const std::string text = TextOnClipboard();
     EXPECT_TRUE(text.starts_with("Data\t")) << text;
     EXPECT_EQ(text.find("\r\n", text.find("\r\n") + 2), text.size() - 2) << "the header and one row";
-    EXPECT_EQ(ClipboardPicture().cx, 0);
+    EXPECT_EQ(PictureOnClipboard().cx, 0);
 }
 
 TEST_F(ClipboardTest, AChartIsAPictureToo) {
@@ -63,10 +33,10 @@ TEST_F(ClipboardTest, AChartIsAPictureToo) {
     host->Ui().Settle();
     PressKey('C', {VK_CONTROL});
     host->Ui().Settle();
-    EXPECT_TRUE(ClipboardText().find('\t') != std::string::npos);
+    EXPECT_TRUE(TextOnClipboard().find('\t') != std::string::npos);
     const RECT chart = evolution.Control("MSChart1").ScreenBounds();
-    EXPECT_EQ(ClipboardPicture().cx, chart.right - chart.left);
-    EXPECT_EQ(ClipboardPicture().cy, chart.bottom - chart.top);
+    EXPECT_EQ(PictureOnClipboard().cx, chart.right - chart.left);
+    EXPECT_EQ(PictureOnClipboard().cy, chart.bottom - chart.top);
 }
 
 TEST_F(ClipboardTest, WhatAnotherProgramKeepsIsAnErrorAndLeavesTheWindowAsItIs) {

@@ -1,7 +1,5 @@
 #include "e2e/driver/clipboard.h"
 
-#include <windows.h>
-
 #include <cstring>
 
 #include "e2e/driver/wait.h"
@@ -34,6 +32,25 @@ void PutOnClipboard(const std::string& text) {
     std::memcpy(GlobalLock(memory), wide.c_str(), bytes);
     GlobalUnlock(memory);
     if (SetClipboardData(CF_UNICODETEXT, memory) == nullptr) throw DriverError("the clipboard takes no text");
+}
+
+std::string TextOnClipboard() {
+    const OpenClipboardScope scope;
+    const HANDLE memory = GetClipboardData(CF_UNICODETEXT);
+    if (memory == nullptr) return "no text";
+    std::string text = win32::ToUtf8(static_cast<const wchar_t*>(GlobalLock(memory)));
+    GlobalUnlock(memory);
+    return text;
+}
+
+SIZE PictureOnClipboard() {
+    const OpenClipboardScope scope;
+    const HANDLE memory = GetClipboardData(CF_DIB);
+    if (memory == nullptr) return {0, 0};
+    const auto* header = static_cast<const BITMAPINFOHEADER*>(GlobalLock(memory));
+    const SIZE size{header->biWidth, header->biHeight};
+    GlobalUnlock(memory);
+    return size;
 }
 
 }  // namespace tavrin::e2e
