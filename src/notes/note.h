@@ -130,5 +130,6 @@ inline constexpr std::size_t MaximumPictureBytes = std::size_t{32} << 20;  ///< 
 inline constexpr std::size_t MaximumPixels = std::size_t{16} << 20;        ///< of one picture
 inline constexpr std::size_t LongestFontName = 31;  ///< in UTF-16, as platforms keep it
 inline constexpr int LongestLength = 31'680;        ///< 22 inches, as far as editors count
+inline constexpr int StandardTab = 720;             ///< from one stop to the next where a paragraph has none
 
 }  // namespace tavrin::notes

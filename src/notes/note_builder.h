@@ -40,6 +40,7 @@ class NoteBuilder {
 
     std::size_t BytesOfText() const { return note_.text.size(); }
     bool IsParagraphEmpty() const { return paragraphStart_ == note_.text.size(); }
+    bool HasTabInParagraph() const { return note_.text.find('\t', paragraphStart_) != std::string::npos; }
     bool IsTooLarge() const { return tooLarge_; }
     /// Whether a paragraph was too long, and goes on in another.
     bool HasDivided() const { return divided_; }

@@ -296,6 +296,9 @@ void RtfDocumentReader::DoOfDocument(const RtfWord& word, int number) {
         case Action::DefaultFont:
             defaultFont_ = number;
             return;
+        case Action::DefaultTab:
+            defaultTab_ = number;
+            return;
         case Action::FontCharacterSet:
             return fonts_.SetCharacterSet(number);
         case Action::FontPage:

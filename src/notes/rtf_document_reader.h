@@ -90,6 +90,7 @@ class RtfDocumentReader {
     bool IsSeen() const { return !state_.hidden && !state_.deleted; }
     bool IsBody() const;
     char32_t AsSeen(char32_t character);
+    RunFormat LookOfSmallCapitals();
     void Insert(char32_t character);
     void InsertAll(std::string_view ascii);
     void InsertOfFootnote(char32_t character);
@@ -131,6 +132,7 @@ class RtfDocumentReader {
     int toSkip_ = 0;                ///< characters that follow one in Unicode and say the same
     unsigned char byteBefore_ = 0;  ///< the end of a line that was given by its number just before
     std::size_t pendingTabs_ = 0;
+    int defaultTab_ = StandardTab;
     std::optional<ParagraphFormat> row_;  ///< how the row stands whose cells are being read
     bool bullet_ = false;                 ///< before this paragraph
     bool inFootnote_ = false;

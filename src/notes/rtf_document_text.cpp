@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 #include "notes/capitals.h"
@@ -30,6 +31,22 @@ char32_t CharacterOf(char32_t place, bool symbols) {
     return CodePageDecoder().Put(code_page::Western, static_cast<unsigned char>(place)).value_or(0);
 }
 
+/// Whether tabs stand where they do in an editor. Who measures in centimetres has them closer by a sixtieth,
+/// which nobody sees; and nobody reads by stops that are closer than a letter.
+bool IsStandardTab(int width) {
+    constexpr int Invisible = StandardTab / 60;
+    constexpr int OneLetter = 72;
+    return width < OneLetter || width > LongestLength || std::abs(width - StandardTab) <= Invisible;
+}
+
+/// Behind the stops that a paragraph has those of the document, as far as there is room for them.
+void AddStops(TabStops& tabs, int width) {
+    const int last = tabs.count == 0 ? 0 : tabs.stops[tabs.count - 1].position;
+    for (int next = (last / width + 1) * width; next <= LongestLength && tabs.count < tabs.stops.size();
+         next += width)
+        tabs.stops[tabs.count++] = {static_cast<std::int16_t>(next), TabAlignment::Left};
+}
+
 /// What is no blank, and divides nothing: a font is asked for only where it will be used.
 bool IsSign(char32_t character) {
     return NoteBuilder::IsText(character) && character > ' ' && character != character::LineSeparator &&
@@ -53,7 +70,7 @@ void RtfDocumentReader::OnText(std::string_view ascii) {
     }
     if (ascii.empty()) return;
     EndBrokenCharacters();
-    if (IsBody() && !state_.capitals) {
+    if (IsBody() && !state_.capitals && !state_.smallCapitals) {
         FlushTabs();
         builder_.AddAscii(ascii, LookOfText(), state_.paragraph);
         hasContent_ = true;
@@ -182,7 +199,7 @@ void RtfDocumentReader::PutSign(const RtfFieldSign& sign) {
     if (IsSign(character)) {
         if (font == &named) state_.run.font = builder_.Font(named.name, named.symbols);
         if (font == &named) state_.fontIsKnown = true;
-        state_.capitals = false;
+        state_.capitals = state_.smallCapitals = false;
         Put(character);
     }
     state_ = before;
@@ -221,15 +238,27 @@ void RtfDocumentReader::Insert(char32_t character) {
     if (character == character::LineSeparator) character = character::LineBreak;
     if (!NoteBuilder::IsText(character)) return;
     FlushTabs();
-    builder_.Add(AsSeen(character), LookOfText(), state_.paragraph);
+    const char32_t seen = AsSeen(character);
+    if (seen == character || state_.capitals) {
+        builder_.Add(seen, LookOfText(), state_.paragraph);
+    } else {
+        builder_.Add(seen, LookOfSmallCapitals(), state_.paragraph);
+    }
     hasContent_ = true;
 }
 
 /// In a font of symbols no letter is one.
 char32_t RtfDocumentReader::AsSeen(char32_t character) {
-    if (!state_.capitals) return character;
+    if (!state_.capitals && !state_.smallCapitals) return character;
     const RtfFont* const font = CurrentFont();
     return font != nullptr && font->symbols ? character : ToCapital(character);
+}
+
+/// Four fifths of the size, as text programs show them.
+RunFormat RtfDocumentReader::LookOfSmallCapitals() {
+    RunFormat look = LookOfText();
+    look.halfPoints = static_cast<std::uint16_t>(std::max(look.halfPoints * 4 / 5, 2));
+    return look;
 }
 
 /// A row is one line, which stands as its first cell does.
@@ -260,6 +289,7 @@ void RtfDocumentReader::PutParagraphEnd() {
     ParagraphFormat format = row_.value_or(state_.paragraph);
     row_.reset();
     format.bullet |= std::exchange(bullet_, false);
+    if (!IsStandardTab(defaultTab_) && builder_.HasTabInParagraph()) AddStops(format.tabs, defaultTab_);
     builder_.EndParagraph(builder_.IsParagraphEmpty() ? LookOfText() : state_.run, format);
 }
 

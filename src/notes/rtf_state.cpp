@@ -32,6 +32,7 @@ void BePlain(RtfState& state) {
     state.run = {};
     SetFont(state, RtfState::DefaultFont);
     state.capitals = false;
+    state.smallCapitals = false;
     state.hidden = false;
     state.deleted = false;
 }
@@ -114,6 +115,9 @@ bool ApplyToCharacters(RtfState& state, const RtfWord& word, int number, bool ha
             return true;
         case RtfAction::Capitals:
             state.capitals = on;
+            return true;
+        case RtfAction::SmallCapitals:
+            state.smallCapitals = on;
             return true;
         case RtfAction::Hidden:
             state.hidden = on;

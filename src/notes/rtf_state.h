@@ -17,6 +17,7 @@ struct RtfState {
     bool fontIsKnown = false;  ///< run.font is that of fontNumber
     CodePage page = 0;         ///< that of fontNumber; 0 where nobody has asked yet
     bool capitals = false;
+    bool smallCapitals = false;
     bool hidden = false;
     bool deleted = false;
 

@@ -18,7 +18,8 @@ std::vector<NoteSample> LookSamples() {
          "aB\u00C9\u0218\u01781cDe"},
         {"capitals of other alphabets", R"({\rtf1\caps\u969?\u1078?\u322?\u382?\u223?\u247?})",
          "\u03A9\u0416\u0141\u017D\u00DF\u00F7"},
-        {"small capitals stay letters", R"({\rtf1 a\scaps b\scaps0 c})", "abc"},
+        {"small capitals", R"({\rtf1 a\scaps Ion 2\u537?\caps d\caps0\scaps0 e\scaps\fs40 f\plain g})",
+         "aI{fs19|ON} 2{fs19|\u0218}De{fs32|F}g"},
         {"high and low", R"({\rtf1 m{\super 2} H{\sub 2}O x\super y\nosupersub z})",
          "m{super|2} H{sub|2}O x{super|y}z"},
         {"high and low by points", R"({\rtf1 a\up6 b\up0 c\dn6 d\dn0 e})", "a{super|b}c{sub|d}e"},
@@ -34,8 +35,8 @@ std::vector<NoteSample> LookSamples() {
         {"marked text",
          R"({\rtf1{\colortbl;\red255\green255\blue0;}a\highlight1 b\highlight0 c\cb1 d\cb0 e\chcbpat1 f})",
          "a{on FFFF00|b}c{on FFFF00|d}e{on FFFF00|f}"},
-        {"what looks nobody can show", R"({\rtf1 a\scaps b\outl c\shad d\expnd4 e\kerning1 f\lang1048 g})",
-         "abcdefg"},
+        {"what looks nobody can show", R"({\rtf1 a b\outl c\shad d\expnd4 e\kerning1 f\lang1048 g})",
+         "a bcdefg"},
         {"styles also say what they mean",
          R"({\rtf1{\stylesheet{\s0 Normal;}{\s1\b\fs32 heading 1;}}\s1\b\fs32 Titlu})", "{fs32 b|Titlu}"},
 
@@ -55,6 +56,15 @@ std::vector<NoteSample> LookSamples() {
          "<before120 after240>a\nb"},
         {"tab stops", R"({\rtf1\pard\tx720\tqr\tx1440\tqc\tx2880\tqdec\tx4320 a\tab b\par})",
          R"(<tab720 rtab1440 ctab2880 dtab4320>a\tb)"},
+        {"tabs of another width than usual", R"({\rtf1\deftab6000 a\tab b\par c\par\tx7000 d\tab e\par})",
+         R"(<tab6000 tab12000 tab18000 tab24000 tab30000>a\tb)"
+         "\nc\n"
+         R"(<tab7000 tab12000 tab18000 tab24000 tab30000>d\te)"},
+        {"tabs as wide as a centimetre's user has them", R"({\rtf1\deftab708 a\tab b})", R"(a\tb)"},
+        {"tabs of no width", R"({\rtf1\deftab0 a\tab b\deftab-5\par c\tab d\deftab99999999})",
+         R"(a\tb)"
+         "\n"
+         R"(c\td)"},
         {"tab stops before the page", R"({\rtf1\ansi\tx-1080 a\par})", "a"},
         {"tab stops in disorder, and twice", R"({\rtf1\pard\tx1440\tx720\tx1440\tx0 a\par})",
          "<tab720 tab1440>a"},
