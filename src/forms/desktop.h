@@ -44,6 +44,8 @@ class Desktop {
     /// Makes the window of a form and the peers of its controls (Control::SetPeer), not yet visible.
     virtual std::unique_ptr<FormPeer> CreatePeer(Form& form) = 0;
     virtual Size ScreenSize() const = 0;
+    /// The part of the screen that the system leaves to windows.
+    virtual Rect WorkArea() const { return {0, 0, ScreenSize().width, ScreenSize().height}; }
     virtual int TwipsPerPixelX() const = 0;
     virtual int TwipsPerPixelY() const = 0;
     /// How much wider and higher a window is than the area of its controls.

@@ -139,8 +139,8 @@ void Notes::ShowForm() {
 
 void Notes::OnLoad() {
     module_.CreateMessageService();
-    PlaceOnScreen();
     PlaceControls();
+    PlaceOnScreen();
     SetPictures();
 }
 

@@ -31,6 +31,7 @@ class HeadlessDesktop : public forms::Desktop {
 
     std::unique_ptr<forms::FormPeer> CreatePeer(forms::Form& form) override;
     forms::Size ScreenSize() const override { return {1280 * 15, 1024 * 15}; }
+    forms::Rect WorkArea() const override { return workArea.value_or(forms::Desktop::WorkArea()); }
     int TwipsPerPixelX() const override { return twipsPerPixel; }
     int TwipsPerPixelY() const override { return twipsPerPixel; }
     forms::Size FrameSize(forms::BorderStyle border) const override;
@@ -57,6 +58,8 @@ class HeadlessDesktop : public forms::Desktop {
     forms::PixelPoint cursor{500, 400};
     forms::Locale locale;
     int twipsPerPixel = 15;
+    /// The whole screen unless set.
+    std::optional<forms::Rect> workArea;
     RecordingDialogs dialogs;
     MemoryFiles files;
     std::vector<Report> reports;

@@ -48,6 +48,14 @@ forms::Size Desktop::ScreenSize() const {
     return {scale.ToTwips(GetSystemMetrics(SM_CXSCREEN)), scale.ToTwips(GetSystemMetrics(SM_CYSCREEN))};
 }
 
+forms::Rect Desktop::WorkArea() const {
+    RECT area{};
+    if (SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0) == FALSE) return forms::Desktop::WorkArea();
+    const Scale scale = SystemScale();
+    return {scale.ToTwips(area.left), scale.ToTwips(area.top), scale.ToTwips(Width(area)),
+            scale.ToTwips(Height(area))};
+}
+
 int Desktop::TwipsPerPixelX() const {
     return SystemScale().ToTwips(1);
 }

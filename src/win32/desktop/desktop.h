@@ -25,6 +25,7 @@ class Desktop final : public forms::Desktop {
 
     std::unique_ptr<forms::FormPeer> CreatePeer(forms::Form& form) override;
     forms::Size ScreenSize() const override;
+    forms::Rect WorkArea() const override;
     int TwipsPerPixelX() const override;
     int TwipsPerPixelY() const override;
     forms::Size FrameSize(forms::BorderStyle border) const override;

@@ -1,5 +1,6 @@
 #include "win32/peers/form_peer.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "forms/decoration.h"
@@ -101,14 +102,17 @@ void FormPeer::Reconcile() noexcept {
 
 void FormPeer::Place() {
     const Scale screen = SystemScale();
-    const forms::Size client = form_.ClientSize();
-    const FormStyle kind = FormStyle::Of(form_.Border());
-    const RECT outer = WindowAround({0, 0, scale_.ToPixels(client.width), scale_.ToPixels(client.height)},
-                                    kind.style, kind.extendedStyle, scale_.Dpi());
+    const RECT outer = OuterOf(form_.ClientSize());
     isPlacing_ = true;
     SetWindowPos(Handle(), nullptr, screen.ToPixels(form_.Bounds().left), screen.ToPixels(form_.Bounds().top),
                  Width(outer), Height(outer), SWP_NOZORDER | SWP_NOACTIVATE);
     isPlacing_ = false;
+}
+
+RECT FormPeer::OuterOf(forms::Size client) const {
+    const FormStyle kind = FormStyle::Of(form_.Border());
+    return WindowAround({0, 0, scale_.ToPixels(client.width), scale_.ToPixels(client.height)}, kind.style,
+                        kind.extendedStyle, scale_.Dpi());
 }
 
 void FormPeer::Activate() {
@@ -166,6 +170,9 @@ LRESULT FormPeer::HandleMessage(const Message& message) {
         {WM_CLOSE, &FormPeer::OnClose},
         {WM_DESTROY, &FormPeer::OnDestroy},
         {WM_MOVE, &FormPeer::OnMove},
+        {WM_SIZE, &FormPeer::OnSize},
+        {WM_SIZING, &FormPeer::OnSizing},
+        {WM_GETMINMAXINFO, &FormPeer::OnSizeLimits},
         {WM_DPICHANGED, &FormPeer::OnDpiChanged},
         {WM_DISPLAYCHANGE, &FormPeer::OnDisplayChange},
         {WM_SYSCOLORCHANGE, &FormPeer::OnColorsChanged},
@@ -221,6 +228,39 @@ LRESULT FormPeer::OnMove(const Message& message) {
     GetWindowRect(Handle(), &outer);
     form_.HandleMoved({screen.ToTwips(outer.left), screen.ToTwips(outer.top)});
     return CallDefault(message);
+}
+
+LRESULT FormPeer::OnSize(const Message& message) {
+    const bool isByUser = !isPlacing_ && message.wParam == SIZE_RESTORED;
+    if (isByUser && form_.Border() == forms::BorderStyle::Sizable)
+        form_.HandleSized({scale_.ToTwips(LOWORD(message.lParam)), scale_.ToTwips(HIWORD(message.lParam))});
+    return CallDefault(message);
+}
+
+LRESULT FormPeer::OnSizing(const Message& message) {
+    RECT outer{};
+    GetWindowRect(Handle(), &outer);
+    StopAtEdge(*reinterpret_cast<RECT*>(message.lParam), message.wParam, WorkAreaOf(outer));
+    return TRUE;
+}
+
+LRESULT FormPeer::OnSizeLimits(const Message& message) {
+    const LRESULT answer = CallDefault(message);
+    if (form_.Border() != forms::BorderStyle::Sizable) return answer;
+    auto& limits = *reinterpret_cast<MINMAXINFO*>(message.lParam);
+    if (isPlacing_) {  // the form knows what it wants
+        limits.ptMaxTrackSize = {SHRT_MAX, SHRT_MAX};
+        limits.ptMinTrackSize = {};
+        return 0;
+    }
+    RECT outer{};
+    GetWindowRect(Handle(), &outer);
+    const RECT area = WorkAreaOf(outer);
+    const RECT smallest = OuterOf(form_.SmallestClientSize());
+    limits.ptMaxTrackSize = {Width(area), Height(area)};
+    limits.ptMinTrackSize = {std::min(Width(smallest), Width(area)),
+                             std::min(Height(smallest), Height(area))};
+    return 0;
 }
 
 LRESULT FormPeer::OnDpiChanged(const Message& message) {
