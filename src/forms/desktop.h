@@ -104,7 +104,7 @@ class Desktop {
       public:
         explicit DispatchScope(Desktop& desktop) : desktop_(desktop) { ++desktop_.dispatchDepth_; }
         ~DispatchScope() {
-            if (--desktop_.dispatchDepth_ == 0) desktop_.ReleaseUnloaded();
+            if (--desktop_.dispatchDepth_ == 0) desktop_.EndDispatch();
         }
         DispatchScope(const DispatchScope&) = delete;
         DispatchScope& operator=(const DispatchScope&) = delete;
@@ -113,6 +113,10 @@ class Desktop {
         Desktop& desktop_;
     };
     bool IsDispatching() const { return dispatchDepth_ > 0; }
+
+    /// What the running handler does next may take its time: a statement, a file. From a quarter of a second
+    /// on the pointer says so, until the handler has ended or a message has come up.
+    void ExpectWait();
 
     /// While a message, a report or a dialog is up, every window of the thread waits for it: ours take no
     /// input, whatever shows it, and count as neither left nor entered again. Afterwards the platform's
@@ -158,6 +162,9 @@ class Desktop {
     virtual void HoldWindows() {}
     /// Lets input in again where HoldWindows has kept it out.
     virtual void ReleaseWindows() noexcept {}
+    /// Until EndWait the thread may look at no message: what is to be seen meanwhile is shown now.
+    virtual void BeginWait() {}
+    virtual void EndWait() noexcept {}
 
   private:
     friend class Form;
@@ -165,6 +172,8 @@ class Desktop {
     void Remove(Form& form);
     void ReportCurrentException(const Origin& origin) noexcept;
     void TellOf(const Form& form, std::string_view happening) const noexcept;
+    void EndDispatch() noexcept;
+    void StopWaiting() noexcept;
     void ReleaseUnloaded() noexcept;
     void BeginMessage();
     void EndMessage() noexcept;
@@ -177,6 +186,7 @@ class Desktop {
     int messageDepth_ = 0;
     int popupDepth_ = 0;
     std::size_t messageCount_ = 0;
+    bool waits_ = false;
     std::shared_ptr<data::Diagnosis> listener_;
 };
 

@@ -66,6 +66,9 @@ class HeadlessDesktop : public forms::Desktop {
     /// Of the last report: "Curs Valutar: Sterge Curs (clic)".
     std::string reportedPlace;
     int beeps = 0;
+    /// How often a wait has begun, and whether one goes on.
+    int waits = 0;
+    bool isWaiting = false;
     /// What was copied last.
     std::optional<forms::Copied> copied;
     /// Whether a window of the host is in sight, to which the keyboard may go.
@@ -86,6 +89,11 @@ class HeadlessDesktop : public forms::Desktop {
   protected:
     void HoldWindows() override;
     void ReleaseWindows() noexcept override;
+    void BeginWait() override {
+        ++waits;
+        isWaiting = true;
+    }
+    void EndWait() noexcept override { isWaiting = false; }
 
   private:
     class Window;

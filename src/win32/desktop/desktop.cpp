@@ -1,6 +1,9 @@
 #include "win32/desktop/desktop.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
+#include <vector>
 
 #include "win32/base/text.h"
 #include "win32/desktop/clipboard.h"
@@ -136,6 +139,15 @@ void Desktop::HoldWindows() {
 
 void Desktop::ReleaseWindows() noexcept {
     heldWindows_.Release();
+}
+
+void Desktop::BeginWait() {
+    std::vector<HWND> windows;
+    std::ranges::transform(Forms(), std::back_inserter(windows), [](auto* form) { return WindowOf(*form); });
+    for (const HWND window : windows) {
+        if (window != nullptr) RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    }
+    waitPointer_.Begin();
 }
 
 }  // namespace tavrin::win32
