@@ -30,7 +30,7 @@ class HeadlessDesktop : public forms::Desktop {
     ~HeadlessDesktop() override;
 
     std::unique_ptr<forms::FormPeer> CreatePeer(forms::Form& form) override;
-    forms::Size ScreenSize() const override { return {1280 * 15, 1024 * 15}; }
+    forms::Size ScreenSize() const override { return screen; }
     forms::Rect WorkArea() const override { return workArea.value_or(forms::Desktop::WorkArea()); }
     int TwipsPerPixelX() const override { return twipsPerPixel; }
     int TwipsPerPixelY() const override { return twipsPerPixel; }
@@ -58,6 +58,7 @@ class HeadlessDesktop : public forms::Desktop {
     forms::PixelPoint cursor{500, 400};
     forms::Locale locale;
     int twipsPerPixel = 15;
+    forms::Size screen{1280 * 15, 1024 * 15};
     /// The whole screen unless set.
     std::optional<forms::Rect> workArea;
     RecordingDialogs dialogs;

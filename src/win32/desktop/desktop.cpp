@@ -70,7 +70,7 @@ int Desktop::TwipsPerPixelY() const {
 forms::Size Desktop::FrameSize(forms::BorderStyle border) const {
     const Scale scale = SystemScale();
     const FormStyle form = FormStyle::Of(border);
-    const RECT frame = WindowAround({}, form.style, form.extendedStyle, scale.Dpi());
+    const RECT frame = WindowAround({}, form.style, form.extendedStyle, scale.ScreenDpi());
     return {scale.ToTwips(Width(frame)), scale.ToTwips(Height(frame))};
 }
 

@@ -37,7 +37,7 @@ FormPeer::FormPeer(forms::Desktop& desktop, forms::Form& form, std::shared_ptr<T
                                        .style = kind.style,
                                        .extendedStyle = kind.extendedStyle}),
            form.Name());
-    scale_ = Scale(DpiOf(Handle()));
+    scale_ = ScaleOf(Handle());
     tips_.emplace(*toolkit_, Handle());
     DarkenTitleBar();
     EnableOrDisable();
@@ -112,7 +112,7 @@ void FormPeer::Place() {
 RECT FormPeer::OuterOf(forms::Size client) const {
     const FormStyle kind = FormStyle::Of(form_.Border());
     return WindowAround({0, 0, scale_.ToPixels(client.width), scale_.ToPixels(client.height)}, kind.style,
-                        kind.extendedStyle, scale_.Dpi());
+                        kind.extendedStyle, scale_.ScreenDpi());
 }
 
 void FormPeer::Activate() {
@@ -176,7 +176,7 @@ LRESULT FormPeer::HandleMessage(const Message& message) {
         {WM_DPICHANGED, &FormPeer::OnDpiChanged},
         {WM_DISPLAYCHANGE, &FormPeer::OnDisplayChange},
         {WM_SYSCOLORCHANGE, &FormPeer::OnColorsChanged},
-        {WM_SETTINGCHANGE, &FormPeer::OnColorsChanged},
+        {WM_SETTINGCHANGE, &FormPeer::OnSettingChanged},
         {WM_PAINT, &FormPeer::OnPaint},
         {WM_PRINTCLIENT, &FormPeer::OnPaint},
         {WM_ERASEBKGND, &FormPeer::OnEraseBackground},
@@ -265,15 +265,35 @@ LRESULT FormPeer::OnSizeLimits(const Message& message) {
 
 LRESULT FormPeer::OnDpiChanged(const Message& message) {
     const auto& suggested = *reinterpret_cast<const RECT*>(message.lParam);
+    Rescale(Scale(HIWORD(message.wParam), TextPercent()), {suggested.left, suggested.top});
+    return 0;
+}
+
+void FormPeer::Rescale(Scale scale, POINT topLeft) {
     const Scale screen = SystemScale();
-    scale_ = Scale(HIWORD(message.wParam));
-    form_.HandleMoved({screen.ToTwips(suggested.left), screen.ToTwips(suggested.top)});
+    scale_ = scale;
+    form_.HandleMoved({screen.ToTwips(topLeft.x), screen.ToTwips(topLeft.y)});
     Place();
     for (forms::Control* control : form_.AllControls()) {
         if (auto* peer = dynamic_cast<ControlWindow*>(control->Peer())) peer->Rescale();
     }
     Changed(forms::FormAspect::Look);
-    return 0;
+}
+
+/// The user may want texts of another size.
+LRESULT FormPeer::OnSettingChanged(const Message& message) {
+    const Scale scale(scale_.ScreenDpi(), TextPercent());
+    if (scale != scale_) {
+        RECT outer{};
+        RECT client{};
+        GetWindowRect(Handle(), &outer);
+        GetClientRect(Handle(), &client);
+        // The frame, which does not grow along, is another one in twips.
+        form_.HandleSized({scale_.ToTwips(client.right), scale_.ToTwips(client.bottom)});
+        Rescale(scale, {outer.left, outer.top});
+        form_.KeepInWorkArea();
+    }
+    return OnColorsChanged(message);
 }
 
 /// A monitor may have gone, and this window with it.

@@ -52,6 +52,7 @@ class FormPeer final : public forms::FormPeer, public Window {
     LRESULT OnSizeLimits(const Message& message);
     LRESULT OnDpiChanged(const Message& message);
     LRESULT OnDisplayChange(const Message& message);
+    LRESULT OnSettingChanged(const Message& message);
     LRESULT OnColorsChanged(const Message& message);
     LRESULT OnPaint(const Message& message);
     LRESULT OnEraseBackground(const Message& message);
@@ -63,6 +64,8 @@ class FormPeer final : public forms::FormPeer, public Window {
     void Place();
     /// In pixels, around an area of controls.
     RECT OuterOf(forms::Size client) const;
+    /// Shows everything in another scale.
+    void Rescale(Scale scale, POINT topLeft);
     void ShowOrHide();
     void EnableOrDisable();
     void DarkenTitleBar() const;
