@@ -73,9 +73,10 @@ class SizingTest : public EveryWindowTest {
         };
         const Size screen = desktop.ScreenSize();
         std::vector<Size> sizes;
-        for (const double part : {0.0, 0.001, 0.01, 0.13, 0.377, 0.5, 0.9, 1.0})
+        for (const double part : {0.0, 0.001, 0.01, 0.13, 0.377, 0.5, 0.9, 1.0}) {
             sizes.push_back({whole(std::lerp(smallest.width, screen.width, part)),
                              whole(std::lerp(smallest.height, screen.height, part))});
+        }
         return sizes;
     }
 };

@@ -40,7 +40,9 @@ class FontLikeSurface : public RecordingSurface {
 
   private:
     static double Width(char character) {
-        const auto isOneOf = [character](std::string_view all) { return all.find(character) != all.npos; };
+        const auto isOneOf = [character](std::string_view all) {
+            return all.find(character) != std::string_view::npos;
+        };
         if ((character & 0xC0) == 0x80) return 0;  // what follows in a character of several bytes
         if (isOneOf(" .,:;/!'ijltfI")) return 0.28;
         if (isOneOf("r-(|)")) return 0.34;
