@@ -1,6 +1,7 @@
 #include "forms/desktop.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "data/error.h"
 #include "forms/form.h"
@@ -38,6 +39,7 @@ void Desktop::UnloadAll() {
 }
 
 void Desktop::BeginMessage() {
+    StopWaiting();
     if (messageDepth_ == 0) {
         // The button that is down will come up over the message.
         for (Form* form : forms_)
@@ -49,6 +51,7 @@ void Desktop::BeginMessage() {
 }
 
 void Desktop::EndMessage() noexcept {
+    StopWaiting();
     if (--messageDepth_ > 0) return;
     ReleaseWindows();
     ReconcileForms();
@@ -74,6 +77,21 @@ void Desktop::ReportCurrentException(const Origin& origin) noexcept try {
 
 void Desktop::TellOf(const Form& form, std::string_view happening) const noexcept {
     data::Tell(listener_.get(), [&] { return ("window " + form.Name()).append(happening); });
+}
+
+void Desktop::ExpectWait() {
+    if (waits_ || !IsDispatching()) return;
+    waits_ = true;
+    BeginWait();
+}
+
+void Desktop::StopWaiting() noexcept {
+    if (std::exchange(waits_, false)) EndWait();
+}
+
+void Desktop::EndDispatch() noexcept {
+    StopWaiting();
+    ReleaseUnloaded();
 }
 
 void Desktop::ReleaseUnloaded() noexcept {

@@ -44,6 +44,8 @@ class Desktop {
     /// Makes the window of a form and the peers of its controls (Control::SetPeer), not yet visible.
     virtual std::unique_ptr<FormPeer> CreatePeer(Form& form) = 0;
     virtual Size ScreenSize() const = 0;
+    /// The part of the screen that the system leaves to windows.
+    virtual Rect WorkArea() const { return {0, 0, ScreenSize().width, ScreenSize().height}; }
     virtual int TwipsPerPixelX() const = 0;
     virtual int TwipsPerPixelY() const = 0;
     /// How much wider and higher a window is than the area of its controls.
@@ -102,7 +104,7 @@ class Desktop {
       public:
         explicit DispatchScope(Desktop& desktop) : desktop_(desktop) { ++desktop_.dispatchDepth_; }
         ~DispatchScope() {
-            if (--desktop_.dispatchDepth_ == 0) desktop_.ReleaseUnloaded();
+            if (--desktop_.dispatchDepth_ == 0) desktop_.EndDispatch();
         }
         DispatchScope(const DispatchScope&) = delete;
         DispatchScope& operator=(const DispatchScope&) = delete;
@@ -111,6 +113,10 @@ class Desktop {
         Desktop& desktop_;
     };
     bool IsDispatching() const { return dispatchDepth_ > 0; }
+
+    /// What the running handler does next may take its time: a statement, a file. From a quarter of a second
+    /// on the pointer says so, until the handler has ended or a message has come up.
+    void ExpectWait();
 
     /// While a message, a report or a dialog is up, every window of the thread waits for it: ours take no
     /// input, whatever shows it, and count as neither left nor entered again. Afterwards the platform's
@@ -156,6 +162,9 @@ class Desktop {
     virtual void HoldWindows() {}
     /// Lets input in again where HoldWindows has kept it out.
     virtual void ReleaseWindows() noexcept {}
+    /// Until EndWait the thread may look at no message: what is to be seen meanwhile is shown now.
+    virtual void BeginWait() {}
+    virtual void EndWait() noexcept {}
 
   private:
     friend class Form;
@@ -163,6 +172,8 @@ class Desktop {
     void Remove(Form& form);
     void ReportCurrentException(const Origin& origin) noexcept;
     void TellOf(const Form& form, std::string_view happening) const noexcept;
+    void EndDispatch() noexcept;
+    void StopWaiting() noexcept;
     void ReleaseUnloaded() noexcept;
     void BeginMessage();
     void EndMessage() noexcept;
@@ -175,6 +186,7 @@ class Desktop {
     int messageDepth_ = 0;
     int popupDepth_ = 0;
     std::size_t messageCount_ = 0;
+    bool waits_ = false;
     std::shared_ptr<data::Diagnosis> listener_;
 };
 

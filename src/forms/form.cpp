@@ -47,11 +47,27 @@ void Form::SetBounds(const Rect& bounds) {
     if (bounds_ == bounds) return;
     bounds_ = bounds;
     if (peer_) peer_->Changed(FormAspect::Bounds);
+    layout_.Apply();
 }
 
 void Form::CenterOnScreen() {
     const Size screen = desktop_.ScreenSize();
     MoveTo((screen.width - bounds_.width) / 2, (screen.height - bounds_.height) / 2);
+}
+
+void Form::KeepInWorkArea() {
+    const Rect area = desktop_.WorkArea();
+    const bool isThere = bounds_.left < area.Right() && bounds_.top < area.Bottom() &&
+                         bounds_.Right() > area.left && bounds_.Bottom() > area.top;
+    if (!isThere) return;
+    Rect kept = bounds_;
+    if (border_ == BorderStyle::Sizable) {
+        kept.width = std::min(kept.width, area.width);
+        kept.height = std::min(kept.height, area.height);
+    }
+    kept.left = std::min(kept.left, std::max(area.left, area.Right() - kept.width));
+    kept.top = std::min(kept.top, std::max(area.top, area.Bottom() - kept.height));
+    SetBounds(kept);
 }
 
 Size Form::ClientSize() const {
@@ -62,6 +78,11 @@ Size Form::ClientSize() const {
 void Form::SetClientSize(Size size) {
     const Size frame = desktop_.FrameSize(border_);
     SetBounds({bounds_.left, bounds_.top, size.width + frame.width, size.height + frame.height});
+}
+
+void Form::Anchor(Control& control, Anchors anchors) {
+    smallest_ = ClientSize();
+    layout_.Add(control, anchors);
 }
 
 void Form::SetBackColor(Color color) {
@@ -325,6 +346,13 @@ void Form::HandleMouseMove(const MouseInput& input) {
 void Form::HandleMoved(Point topLeft) {
     bounds_.left = topLeft.x;
     bounds_.top = topLeft.y;
+}
+
+void Form::HandleSized(Size client) {
+    const Size frame = desktop_.FrameSize(border_);
+    bounds_.width = client.width + frame.width;
+    bounds_.height = client.height + frame.height;
+    layout_.Apply();
 }
 
 // Controls.

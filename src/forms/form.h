@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/anchors.h"
 #include "forms/container.h"
 #include "forms/control.h"
 #include "forms/desktop.h"
@@ -15,7 +16,7 @@
 
 namespace tavrin::forms {
 
-enum class BorderStyle { Borderless, FixedDialog };
+enum class BorderStyle { Borderless, FixedDialog, Sizable };
 
 /// A window: its controls, which of them has the focus, and its life from load to unload. A derived class
 /// declares the controls as members and overrides the handlers it needs.
@@ -37,9 +38,14 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     void SetBounds(const Rect& bounds);
     void MoveTo(int left, int top) { SetBounds({left, top, bounds_.width, bounds_.height}); }
     void CenterOnScreen();
+    /// A window that reaches beyond the right or the lower edge of the work area moves in; one that can be
+    /// sized and is larger than the work area gets its size.
+    void KeepInWorkArea();
     /// The area that the controls stand in.
     Size ClientSize() const;
     void SetClientSize(Size size);
+    /// That the user can make of a sizable window.
+    Size SmallestClientSize() const { return smallest_; }
 
     Color BackColor() const { return backColor_; }
     void SetBackColor(Color color);
@@ -102,6 +108,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     void HandleClose() { Unload(); }
     /// The platform moved the window.
     void HandleMoved(Point topLeft);
+    /// The platform gave the controls an area of another size.
+    void HandleSized(Size client);
 
     // Container.
     Form& OwnerForm() override { return *this; }
@@ -118,6 +126,10 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     Control* FindControl(std::string_view qualifiedName) const;
 
   protected:
+    /// From now on a control follows the window's size, of which that of this moment is the smallest. A frame
+    /// is anchored before what is in it.
+    void Anchor(Control& control, Anchors anchors);
+
     virtual void OnLoad() {}
     virtual void OnActivate() {}
     virtual void OnDeactivate() {}
@@ -151,6 +163,8 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     std::string caption_;
     BorderStyle border_;
     Rect bounds_;
+    Size smallest_;
+    AnchorLayout layout_;
     Color backColor_ = scheme::Window;
     Locale locale_;
     bool visible_ = false;

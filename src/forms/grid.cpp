@@ -17,7 +17,8 @@ void Append(std::string& text, const char* separator, const std::string& more) {
 
 }  // namespace
 
-Grid::Grid(Container& parent, std::string_view name, Rect bounds) : Control(parent, name, bounds) {
+Grid::Grid(Container& parent, std::string_view name, Rect bounds)
+    : Control(parent, name, bounds), placedSize_{bounds.width, bounds.height} {
     SetBackColor(scheme::Field);
     SetForeColor(scheme::Value);
 }
@@ -273,6 +274,7 @@ void Grid::HandleDblClick(const MouseInput& input) {
 
 void Grid::Notify(Aspect aspect) {
     Control::Notify(aspect);
+    if (aspect == Aspect::Bounds) KeepInSight();
     Raise(event::Layout, onLayout);
 }
 

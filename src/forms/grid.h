@@ -113,10 +113,13 @@ class Grid : public Control {
     void Restart();
 
     // Scrolling.
-    GridViewport Viewport() const;
+    GridViewport Viewport() const { return ViewportOf({Bounds().width, Bounds().height}); }
+    GridViewport ViewportOf(Size size) const;
     /// Puts that many of the columns that are not hidden to the left of what is in sight.
     void PassColumns(int count);
     void BringIntoSight();
+    /// After the grid has become another size.
+    void KeepInSight();
     void BringColumnIntoSight();
     bool PressScrollBar(Point at);
     void ScrollTo(const ScrollBar& bar, int first);
@@ -145,6 +148,7 @@ class Grid : public Control {
     int column_ = 0;
     int rowSel_ = 0;
     int columnSel_ = 0;
+    Size placedSize_;  ///< in which topRow_ was looked at last
     int topRow_ = 1;
     int columnsPassed_ = 0;
     /// The scroll bar whose thumb the mouse holds, and how far from the thumb's start.

@@ -15,9 +15,9 @@ int Grid::RowHeight() const {
     return static_cast<int>(std::ceil((lineHeight + Unit / 2.0) / Unit)) * Unit;
 }
 
-GridViewport Grid::Viewport() const {
+GridViewport Grid::ViewportOf(Size size) const {
     GridExtent extent;
-    extent.size = {Bounds().width, Bounds().height};
+    extent.size = size;
     extent.rowHeight = RowHeight();
     extent.rows = DataRowCount();
     extent.topRow = topRow_;
@@ -53,6 +53,12 @@ void Grid::BringIntoSight() {
     if (row_ < view.topRow) SetTopRow(row_);
     if (row_ >= view.topRow + view.wholeRows) SetTopRow(row_ - view.wholeRows + 1);
     BringColumnIntoSight();
+}
+
+void Grid::KeepInSight() {
+    const GridViewport before = ViewportOf(placedSize_);
+    placedSize_ = {Bounds().width, Bounds().height};
+    if (row_ >= before.topRow && row_ < before.topRow + before.wholeRows) BringIntoSight();
 }
 
 void Grid::BringColumnIntoSight() {

@@ -139,8 +139,8 @@ void Notes::ShowForm() {
 
 void Notes::OnLoad() {
     module_.CreateMessageService();
-    PlaceOnScreen();
     PlaceControls();
+    PlaceOnScreen();
     SetPictures();
 }
 
@@ -244,6 +244,7 @@ Notices Notes::OpenNote() {
     dlgCommonDialog.dialogTitle = text::OpenTitle;
     dlgCommonDialog.filter = text::NoteFilter;
     if (!dlgCommonDialog.ShowOpen()) return {};
+    OwnerDesktop().ExpectWait();
     return LoadNote(OwnerDesktop().PlatformFiles().Read(dlgCommonDialog.fileName, LongestFile));
 }
 
@@ -299,6 +300,7 @@ Notices Notes::SaveNote() {
     dlgCommonDialog.dialogTitle = text::SaveTitle;
     dlgCommonDialog.filter = text::NoteFilter;
     if (!dlgCommonDialog.ShowSave()) return {};
+    OwnerDesktop().ExpectWait();
     const RtfReading reading = ReadWritten(txtNota.Save());
     if (reading.outcome != RtfOutcome::Whole) {
         const bool tooLarge = reading.outcome == RtfOutcome::TooLarge;

@@ -51,7 +51,7 @@ const ButtonLook& LookOf(int button) {
 }  // namespace
 
 NotesDesign::NotesDesign(forms::Desktop& desktop)
-    : Form(desktop, "Notes", "Bloc Notes", forms::BorderStyle::FixedDialog),
+    : Form(desktop, "Notes", "Bloc Notes", forms::BorderStyle::Sizable),
       ImgBouton(*this, "ImgBouton"),
       PctBarreFond(*this, "PctBarreFond"),
       txtNota(*this, "txtNota"),
@@ -81,15 +81,21 @@ void NotesDesign::PlaceOnScreen() {
         Floor(std::clamp(screen.height / 2, SmallestHeight, LargestHeight), OwnerDesktop().TwipsPerPixelY());
     const int left = screen.width - width - screen.width / 20;
     SetBounds({std::max(0, left), std::max(0, (screen.height - height) / 3), width, height});
+    KeepInWorkArea();
 }
 
 void NotesDesign::PlaceControls() {
+    using forms::Anchors;
+    SetBounds({0, 0, SmallestWidth, SmallestHeight});
     const forms::Size client = ClientSize();
     PctBarreFond.SetBounds({0, 0, client.width, BarHeight});
     PlaceButtons();
     const int top = BarHeight + layout::Unit;
     txtNota.SetBounds(
         {layout::Unit, top, client.width - 2 * layout::Unit, client.height - top - layout::Unit});
+    Anchor(PctBarreFond, Anchors::Top);
+    Anchor(ImgBouton[Leave], Anchors::TopRight);
+    Anchor(txtNota, Anchors::All);
 }
 
 void NotesDesign::PlaceButtons() {

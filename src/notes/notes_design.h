@@ -24,10 +24,10 @@ class NotesDesign : public forms::Form {
     forms::CommonDialog dlgCommonDialog;
 
   protected:
-    /// Size and place of the window follow the screen: a third of its width and half of its height, within
-    /// bounds, near the right edge.
+    /// Size and place of the window as it opens follow the screen: a third of its width and half of its
+    /// height, within bounds, near the right edge.
     void PlaceOnScreen();
-    /// Lays the bar and the text out in the window.
+    /// Lays the bar and the text out in the smallest window; from then on they follow its size.
     void PlaceControls();
     void SetPictures();
 

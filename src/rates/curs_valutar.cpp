@@ -43,6 +43,14 @@ constexpr std::array<ActionLook, 6> Actions = {{
     {CursValutar::Close, "Iesire", forms::Icon::Exit},
 }};
 
+/// Of a list that shows so many currencies whole, beside a scroll bar.
+forms::Size SizeOfGrid(int currencies, int rowHeight) {
+    using forms::GridViewport;
+    const forms::Size whole =
+        GridViewport::SizeFor(DayWidth + currencies * CurrencyWidth, DaysInSight, rowHeight);
+    return {layout::RoundedUp(whole.width + forms::ScrollBar::Thickness), whole.height};
+}
+
 constexpr auto ActionIndices() {
     std::array<int, Actions.size()> indices{};
     for (std::size_t i = 0; i < indices.size(); ++i)
@@ -53,7 +61,7 @@ constexpr auto ActionIndices() {
 }  // namespace
 
 CursValutar::CursValutar(shell::Module& module)
-    : Form(module.Desktop(), "CursValutar", "Curs Valutar", forms::BorderStyle::FixedDialog),
+    : Form(module.Desktop(), "CursValutar", "Curs Valutar", forms::BorderStyle::Sizable),
       fraGrid(*this, "fraGrid"),
       Grid(fraGrid, "Grid"),
       lblLabels(*this, "lblLabels"),
@@ -80,28 +88,42 @@ void CursValutar::PlaceControls() {
         cmdAction[look.action].SetCaption(look.caption);
         cmdAction[look.action].SetPicture(look.picture);
     }
+    const forms::Size grid = SizeOfGrid(1, Grid.RowHeight());
+    Grid.SetBounds({0, 0, grid.width, grid.height});
+    fraGrid.SetBounds({layout::Margin, layout::Margin, grid.width, grid.height});
+    PlaceBesideGrid();
+    SetClientSize(SizeAround(grid));
+    AnchorControls();
     FitToCurrencies();
 }
 
-void CursValutar::FitToCurrencies() {
-    using forms::GridViewport;
-    const int currencies = std::max(1, currencyNames_.UpperBound() - CurrencyNames::FirstCurrency + 1);
-    const forms::Size whole =
-        GridViewport::SizeFor(DayWidth + currencies * CurrencyWidth, DaysInSight, Grid.RowHeight());
-    const int wanted = layout::RoundedUp(whole.width + forms::ScrollBar::Thickness);
-    const int screen = OwnerDesktop().ScreenSize().width;
-    const int room = screen - OwnerDesktop().FrameSize(Border()).width - SideWidth - Margins;
-    const int width = std::min(wanted, layout::RoundedDown(room));
-    const int height = whole.height + (width < wanted ? forms::ScrollBar::Thickness : 0);
-    Grid.SetBounds({0, 0, width, height});
-    fraGrid.SetBounds({layout::Margin, layout::Margin, width, height});
-    PlaceBesideGrid();
-    SetClientSize({width + SideWidth + Margins, height + 2 * layout::Margin});
-    if (!Visible()) {
-        CenterOnScreen();
-    } else if (Bounds().left < screen && Bounds().Right() > screen) {
-        MoveTo(screen - Bounds().width, Bounds().top);
+void CursValutar::AnchorControls() {
+    using forms::Anchors;
+    Anchor(fraGrid, Anchors::All);
+    Anchor(Grid, Anchors::All);
+    for (forms::Control* control : AllControls()) {
+        if (control->Bounds().left > fraGrid.Bounds().Right())
+            Anchor(*control, control == &cmdAction[Close] ? Anchors::BottomRight : Anchors::TopRight);
     }
+}
+
+forms::Size CursValutar::SizeAround(forms::Size grid) const {
+    return {grid.width + SideWidth + Margins, grid.height + 2 * layout::Margin};
+}
+
+void CursValutar::FitToCurrencies() {
+    const int currencies = std::max(1, currencyNames_.UpperBound() - CurrencyNames::FirstCurrency + 1);
+    if (currencies == fittedCurrencies_) return;
+    fittedCurrencies_ = currencies;
+    const int frame = OwnerDesktop().FrameSize(Border()).width;
+    const int room = layout::RoundedDown(OwnerDesktop().WorkArea().width - frame);
+    forms::Size size = SizeAround(SizeOfGrid(currencies, Grid.RowHeight()));
+    if (size.width > room) size = {room, size.height + forms::ScrollBar::Thickness};
+    if (Visible())
+        size = {std::max(size.width, ClientSize().width), std::max(size.height, ClientSize().height)};
+    SetClientSize(size);
+    if (!Visible()) CenterOnScreen();
+    KeepInWorkArea();
 }
 
 void CursValutar::PlaceBesideGrid() {

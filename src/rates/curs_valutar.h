@@ -64,9 +64,12 @@ class CursValutar : public forms::Form {
 
   private:
     void PlaceControls();
-    /// Gives the grid the width of all currencies, as far as the screen reaches, and the window with it.
+    /// Gives the grid the width of all currencies, as far as the screen reaches, and the window with it. As
+    /// long as there are as many, the window has the size that the user has given it.
     void FitToCurrencies();
+    forms::Size SizeAround(forms::Size grid) const;
     void PlaceBesideGrid();
+    void AnchorControls();
     void ConnectEvents();
 
     void SetActionsEnabled(bool enabled);
@@ -98,6 +101,7 @@ class CursValutar : public forms::Form {
     RateStore store_;
     shell::ConnectionMark mark_;  ///< of the connection that the list was read on
     CurrencyNames currencyNames_;
+    int fittedCurrencies_ = 0;
     DateRange range_;  ///< of the days in sight
 };
 

@@ -48,7 +48,7 @@ void Refill(forms::ComboBox& list, std::vector<std::string> entries) {
 }  // namespace
 
 EvolutieCurs::EvolutieCurs(shell::Module& module)
-    : Form(module.Desktop(), "EvolutieCurs", "Evolutie Curs", forms::BorderStyle::FixedDialog),
+    : Form(module.Desktop(), "EvolutieCurs", "Evolutie Curs", forms::BorderStyle::Sizable),
       Label1(*this, "Label1", "An"),
       cmbAn(*this, "cmbAn", forms::ComboStyle::DropDownList),
       Label2(*this, "Label2", "Luna"),
@@ -125,6 +125,20 @@ void EvolutieCurs::PlaceControls() {
     Line3.SetBounds({Line1.Bounds().Right(), lineTop, width - layout::Margin - Line1.Bounds().Right(), 0});
     Line2.SetBounds({layout::Margin, bottom + layout::Unit, width - 2 * layout::Margin, 0});
     SetClientSize({width, bottom + layout::Margin});
+    AnchorControls();
+}
+
+/// The chart takes what the user adds; the table beside it grows downwards alone.
+void EvolutieCurs::AnchorControls() {
+    using forms::Anchors;
+    for (forms::Control* control :
+         std::initializer_list<forms::Control*>{&fraMesaj, &lblMesaj1, &lblMesaj2, &fraGrafic, &MSChart1})
+        Anchor(*control, Anchors::All);
+    Anchor(cmdAction[Close], Anchors::TopRight);
+    Anchor(Grid, Anchors::Right);
+    Anchor(Line1, Anchors::Top);
+    Anchor(Line3, Anchors::TopRight);
+    Anchor(Line2, Anchors::Bottom);
 }
 
 void EvolutieCurs::ConnectEvents() {
@@ -149,6 +163,7 @@ void EvolutieCurs::OnLoad() {
     cmdAction[Close].SetPicture(lstImages_.Picture(1));
     cmdAction[Redraw].SetPicture(lstImages_.Picture(2));
     CenterOnScreen();
+    KeepInWorkArea();
     SetHeader();
     MSChart1.SetVisible(false);
     Line2.SetVisible(false);

@@ -54,6 +54,7 @@ class EvolutieCurs : public forms::Form {
 
   private:
     void PlaceControls();
+    void AnchorControls();
     void ConnectEvents();
     void SetHeader();
     /// The currency, the time and the unit of a choice: what the chart shows, whatever the lists say by then.

@@ -6,6 +6,7 @@ namespace tavrin::shell {
 
 data::Connection& HostContext::Database() const {
     if (!connection) throw data::ObjectNotSet();
+    if (beforeQuery) beforeQuery();
     if (!trace) return *connection;
     trace->Follow(connection);
     return *trace;

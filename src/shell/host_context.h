@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 #include "data/connection.h"
@@ -28,6 +29,8 @@ struct HostContext {
     std::shared_ptr<CallingObject> caller;
     /// Stands before the connection while somebody is told of statements, else null.
     std::shared_ptr<data::TracedConnection> trace;
+    /// Called before each query; empty where nobody wants to know.
+    std::function<void()> beforeQuery;
 
     /// The connection that every query runs on. \throws Error 91 when the host passed none.
     data::Connection& Database() const;

@@ -18,7 +18,9 @@ std::string Describe(const HostContext& context) {
 }  // namespace
 
 Module::Module(forms::Desktop& desktop, MessageServiceFactory createMessageService)
-    : desktop_(desktop), createMessageService_(std::move(createMessageService)) {}
+    : desktop_(desktop), createMessageService_(std::move(createMessageService)) {
+    context.beforeQuery = [this] { desktop_.ExpectWait(); };
+}
 
 void Module::SetListener(std::shared_ptr<data::Diagnosis> listener) {
     data::Tell(listener.get(), [&] { return "Apel with " + Describe(context); });

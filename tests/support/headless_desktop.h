@@ -30,7 +30,8 @@ class HeadlessDesktop : public forms::Desktop {
     ~HeadlessDesktop() override;
 
     std::unique_ptr<forms::FormPeer> CreatePeer(forms::Form& form) override;
-    forms::Size ScreenSize() const override { return {1280 * 15, 1024 * 15}; }
+    forms::Size ScreenSize() const override { return screen; }
+    forms::Rect WorkArea() const override { return workArea.value_or(forms::Desktop::WorkArea()); }
     int TwipsPerPixelX() const override { return twipsPerPixel; }
     int TwipsPerPixelY() const override { return twipsPerPixel; }
     forms::Size FrameSize(forms::BorderStyle border) const override;
@@ -57,12 +58,18 @@ class HeadlessDesktop : public forms::Desktop {
     forms::PixelPoint cursor{500, 400};
     forms::Locale locale;
     int twipsPerPixel = 15;
+    forms::Size screen{1280 * 15, 1024 * 15};
+    /// The whole screen unless set.
+    std::optional<forms::Rect> workArea;
     RecordingDialogs dialogs;
     MemoryFiles files;
     std::vector<Report> reports;
     /// Of the last report: "Curs Valutar: Sterge Curs (clic)".
     std::string reportedPlace;
     int beeps = 0;
+    /// How often a wait has begun, and whether one goes on.
+    int waits = 0;
+    bool isWaiting = false;
     /// What was copied last.
     std::optional<forms::Copied> copied;
     /// Whether a window of the host is in sight, to which the keyboard may go.
@@ -83,6 +90,11 @@ class HeadlessDesktop : public forms::Desktop {
   protected:
     void HoldWindows() override;
     void ReleaseWindows() noexcept override;
+    void BeginWait() override {
+        ++waits;
+        isWaiting = true;
+    }
+    void EndWait() noexcept override { isWaiting = false; }
 
   private:
     class Window;

@@ -68,6 +68,24 @@ TEST_F(CursValutarTest, TheWindowIsAsWideAsItsCurrencies) {
     }
 }
 
+TEST_F(CursValutarTest, TheSizeThatTheUserHasGivenStays) {
+    CursValutar& list = OpenList();
+    const forms::Size before = list.ClientSize();
+    const forms::Size larger{before.width + 600, before.height + 900};
+    const forms::Size narrower{before.width - 1400, before.height + 900};
+    for (const forms::Size size : {larger, narrower}) {
+        list.HandleSized(size);
+        list.ApplyDateFilter();
+        EXPECT_EQ(list.ClientSize(), size);
+    }
+    EXPECT_NEAR(list.SmallestClientSize().width, before.width - 1400, 15) << "that of one currency";
+    EXPECT_EQ(list.SmallestClientSize().height, before.height);
+    Run("ALTER TABLE [Curs Valutar] ADD [CHF] float");
+    list.ApplyDateFilter();
+    EXPECT_NEAR(list.ClientSize().width, before.width + 1400, 60) << "a new column is shown";
+    EXPECT_EQ(list.ClientSize().height, before.height + 900);
+}
+
 TEST_F(CursValutarTest, AWindowOfManyCurrenciesEndsAtTheScreen) {
     for (int added = 0; added < 20; ++added)
         Run("ALTER TABLE [Curs Valutar] ADD [C" + std::to_string(added) + "] float");

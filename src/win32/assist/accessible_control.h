@@ -82,7 +82,7 @@ class AccessibleControl final : public UnknownObject<IAccessible> {
     HRESULT Navigate(LONG direction, LONG from, VARIANT* end) const;
     /// The system's own object for the window, for what the control has nothing to add to.
     ComPtr<IAccessible> Standard() const;
-    Scale PixelScale() const { return Scale(DpiOf(window_)); }
+    Scale PixelScale() const { return ScaleOf(window_); }
 
     forms::Control* control_;
     const AccessibleKind& kind_;

@@ -1,6 +1,9 @@
 #include "win32/desktop/desktop.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
+#include <vector>
 
 #include "win32/base/text.h"
 #include "win32/desktop/clipboard.h"
@@ -48,6 +51,14 @@ forms::Size Desktop::ScreenSize() const {
     return {scale.ToTwips(GetSystemMetrics(SM_CXSCREEN)), scale.ToTwips(GetSystemMetrics(SM_CYSCREEN))};
 }
 
+forms::Rect Desktop::WorkArea() const {
+    RECT area{};
+    if (SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0) == FALSE) return forms::Desktop::WorkArea();
+    const Scale scale = SystemScale();
+    return {scale.ToTwips(area.left), scale.ToTwips(area.top), scale.ToTwips(Width(area)),
+            scale.ToTwips(Height(area))};
+}
+
 int Desktop::TwipsPerPixelX() const {
     return SystemScale().ToTwips(1);
 }
@@ -59,7 +70,7 @@ int Desktop::TwipsPerPixelY() const {
 forms::Size Desktop::FrameSize(forms::BorderStyle border) const {
     const Scale scale = SystemScale();
     const FormStyle form = FormStyle::Of(border);
-    const RECT frame = WindowAround({}, form.style, form.extendedStyle, scale.Dpi());
+    const RECT frame = WindowAround({}, form.style, form.extendedStyle, scale.ScreenDpi());
     return {scale.ToTwips(Width(frame)), scale.ToTwips(Height(frame))};
 }
 
@@ -128,6 +139,15 @@ void Desktop::HoldWindows() {
 
 void Desktop::ReleaseWindows() noexcept {
     heldWindows_.Release();
+}
+
+void Desktop::BeginWait() {
+    std::vector<HWND> windows;
+    std::ranges::transform(Forms(), std::back_inserter(windows), [](auto* form) { return WindowOf(*form); });
+    for (const HWND window : windows) {
+        if (window != nullptr) RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    }
+    waitPointer_.Begin();
 }
 
 }  // namespace tavrin::win32

@@ -8,6 +8,7 @@
 
 #include "forms/desktop.h"
 #include "win32/desktop/platform_dialogs.h"
+#include "win32/desktop/wait_pointer.h"
 #include "win32/system/user_locale.h"
 #include "win32/system/whole_files.h"
 #include "win32/window/modality.h"
@@ -25,6 +26,7 @@ class Desktop final : public forms::Desktop {
 
     std::unique_ptr<forms::FormPeer> CreatePeer(forms::Form& form) override;
     forms::Size ScreenSize() const override;
+    forms::Rect WorkArea() const override;
     int TwipsPerPixelX() const override;
     int TwipsPerPixelY() const override;
     forms::Size FrameSize(forms::BorderStyle border) const override;
@@ -46,6 +48,8 @@ class Desktop final : public forms::Desktop {
   protected:
     void HoldWindows() override;
     void ReleaseWindows() noexcept override;
+    void BeginWait() override;
+    void EndWait() noexcept override { waitPointer_.End(); }
 
   private:
     std::shared_ptr<Toolkit> SharedToolkit();
@@ -57,6 +61,7 @@ class Desktop final : public forms::Desktop {
     std::shared_ptr<const void> inUse_;
     std::weak_ptr<Toolkit> toolkit_;
     HeldWindows heldWindows_;
+    WaitPointer waitPointer_;
     win32::PlatformDialogs dialogs_{heldWindows_};
     std::deque<forms::ErrorReport> reports_;
     bool isReporting_ = false;

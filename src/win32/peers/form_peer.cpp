@@ -1,5 +1,6 @@
 #include "win32/peers/form_peer.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "forms/decoration.h"
@@ -36,7 +37,7 @@ FormPeer::FormPeer(forms::Desktop& desktop, forms::Form& form, std::shared_ptr<T
                                        .style = kind.style,
                                        .extendedStyle = kind.extendedStyle}),
            form.Name());
-    scale_ = Scale(DpiOf(Handle()));
+    scale_ = ScaleOf(Handle());
     tips_.emplace(*toolkit_, Handle());
     DarkenTitleBar();
     EnableOrDisable();
@@ -101,14 +102,17 @@ void FormPeer::Reconcile() noexcept {
 
 void FormPeer::Place() {
     const Scale screen = SystemScale();
-    const forms::Size client = form_.ClientSize();
-    const FormStyle kind = FormStyle::Of(form_.Border());
-    const RECT outer = WindowAround({0, 0, scale_.ToPixels(client.width), scale_.ToPixels(client.height)},
-                                    kind.style, kind.extendedStyle, scale_.Dpi());
+    const RECT outer = OuterOf(form_.ClientSize());
     isPlacing_ = true;
     SetWindowPos(Handle(), nullptr, screen.ToPixels(form_.Bounds().left), screen.ToPixels(form_.Bounds().top),
                  Width(outer), Height(outer), SWP_NOZORDER | SWP_NOACTIVATE);
     isPlacing_ = false;
+}
+
+RECT FormPeer::OuterOf(forms::Size client) const {
+    const FormStyle kind = FormStyle::Of(form_.Border());
+    return WindowAround({0, 0, scale_.ToPixels(client.width), scale_.ToPixels(client.height)}, kind.style,
+                        kind.extendedStyle, scale_.ScreenDpi());
 }
 
 void FormPeer::Activate() {
@@ -166,10 +170,13 @@ LRESULT FormPeer::HandleMessage(const Message& message) {
         {WM_CLOSE, &FormPeer::OnClose},
         {WM_DESTROY, &FormPeer::OnDestroy},
         {WM_MOVE, &FormPeer::OnMove},
+        {WM_SIZE, &FormPeer::OnSize},
+        {WM_SIZING, &FormPeer::OnSizing},
+        {WM_GETMINMAXINFO, &FormPeer::OnSizeLimits},
         {WM_DPICHANGED, &FormPeer::OnDpiChanged},
         {WM_DISPLAYCHANGE, &FormPeer::OnDisplayChange},
         {WM_SYSCOLORCHANGE, &FormPeer::OnColorsChanged},
-        {WM_SETTINGCHANGE, &FormPeer::OnColorsChanged},
+        {WM_SETTINGCHANGE, &FormPeer::OnSettingChanged},
         {WM_PAINT, &FormPeer::OnPaint},
         {WM_PRINTCLIENT, &FormPeer::OnPaint},
         {WM_ERASEBKGND, &FormPeer::OnEraseBackground},
@@ -223,17 +230,70 @@ LRESULT FormPeer::OnMove(const Message& message) {
     return CallDefault(message);
 }
 
+LRESULT FormPeer::OnSize(const Message& message) {
+    const bool isByUser = !isPlacing_ && message.wParam == SIZE_RESTORED;
+    if (isByUser && form_.Border() == forms::BorderStyle::Sizable)
+        form_.HandleSized({scale_.ToTwips(LOWORD(message.lParam)), scale_.ToTwips(HIWORD(message.lParam))});
+    return CallDefault(message);
+}
+
+LRESULT FormPeer::OnSizing(const Message& message) {
+    RECT outer{};
+    GetWindowRect(Handle(), &outer);
+    StopAtEdge(*reinterpret_cast<RECT*>(message.lParam), message.wParam, WorkAreaOf(outer));
+    return TRUE;
+}
+
+LRESULT FormPeer::OnSizeLimits(const Message& message) {
+    const LRESULT answer = CallDefault(message);
+    if (form_.Border() != forms::BorderStyle::Sizable) return answer;
+    auto& limits = *reinterpret_cast<MINMAXINFO*>(message.lParam);
+    if (isPlacing_) {  // the form knows what it wants
+        limits.ptMaxTrackSize = {SHRT_MAX, SHRT_MAX};
+        limits.ptMinTrackSize = {};
+        return 0;
+    }
+    RECT outer{};
+    GetWindowRect(Handle(), &outer);
+    const RECT area = WorkAreaOf(outer);
+    const RECT smallest = OuterOf(form_.SmallestClientSize());
+    limits.ptMaxTrackSize = {Width(area), Height(area)};
+    limits.ptMinTrackSize = {std::min(Width(smallest), Width(area)),
+                             std::min(Height(smallest), Height(area))};
+    return 0;
+}
+
 LRESULT FormPeer::OnDpiChanged(const Message& message) {
     const auto& suggested = *reinterpret_cast<const RECT*>(message.lParam);
+    Rescale(Scale(HIWORD(message.wParam), TextPercent()), {suggested.left, suggested.top});
+    return 0;
+}
+
+void FormPeer::Rescale(Scale scale, POINT topLeft) {
     const Scale screen = SystemScale();
-    scale_ = Scale(HIWORD(message.wParam));
-    form_.HandleMoved({screen.ToTwips(suggested.left), screen.ToTwips(suggested.top)});
+    scale_ = scale;
+    form_.HandleMoved({screen.ToTwips(topLeft.x), screen.ToTwips(topLeft.y)});
     Place();
     for (forms::Control* control : form_.AllControls()) {
         if (auto* peer = dynamic_cast<ControlWindow*>(control->Peer())) peer->Rescale();
     }
     Changed(forms::FormAspect::Look);
-    return 0;
+}
+
+/// The user may want texts of another size.
+LRESULT FormPeer::OnSettingChanged(const Message& message) {
+    const Scale scale(scale_.ScreenDpi(), TextPercent());
+    if (scale != scale_) {
+        RECT outer{};
+        RECT client{};
+        GetWindowRect(Handle(), &outer);
+        GetClientRect(Handle(), &client);
+        // The frame, which does not grow along, is another one in twips.
+        form_.HandleSized({scale_.ToTwips(client.right), scale_.ToTwips(client.bottom)});
+        Rescale(scale, {outer.left, outer.top});
+        form_.KeepInWorkArea();
+    }
+    return OnColorsChanged(message);
 }
 
 /// A monitor may have gone, and this window with it.

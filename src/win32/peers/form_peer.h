@@ -47,8 +47,12 @@ class FormPeer final : public forms::FormPeer, public Window {
     LRESULT OnClose(const Message& message);
     LRESULT OnDestroy(const Message& message);
     LRESULT OnMove(const Message& message);
+    LRESULT OnSize(const Message& message);
+    LRESULT OnSizing(const Message& message);
+    LRESULT OnSizeLimits(const Message& message);
     LRESULT OnDpiChanged(const Message& message);
     LRESULT OnDisplayChange(const Message& message);
+    LRESULT OnSettingChanged(const Message& message);
     LRESULT OnColorsChanged(const Message& message);
     LRESULT OnPaint(const Message& message);
     LRESULT OnEraseBackground(const Message& message);
@@ -58,6 +62,10 @@ class FormPeer final : public forms::FormPeer, public Window {
     LRESULT OnDisagreementQuestion(const Message& message);
 
     void Place();
+    /// In pixels, around an area of controls.
+    RECT OuterOf(forms::Size client) const;
+    /// Shows everything in another scale.
+    void Rescale(Scale scale, POINT topLeft);
     void ShowOrHide();
     void EnableOrDisable();
     void DarkenTitleBar() const;

@@ -17,7 +17,9 @@ struct FormStyle {
         const DWORD extended = WS_EX_TOPMOST | WS_EX_TOOLWINDOW;
         // The system menu moves a window without a caption by the keyboard, too.
         if (border == forms::BorderStyle::Borderless) return {common | WS_SYSMENU, extended};
-        return {common | WS_CAPTION | WS_SYSMENU, extended | WS_EX_DLGMODALFRAME};
+        const DWORD titled = common | WS_CAPTION | WS_SYSMENU;
+        if (border == forms::BorderStyle::Sizable) return {titled | WS_THICKFRAME, extended};
+        return {titled, extended | WS_EX_DLGMODALFRAME};
     }
 };
 

@@ -1,5 +1,7 @@
 #include "win32/peers/rich_edit_peer.h"
 
+#include <utility>
+
 #include "data/error.h"
 #include "win32/base/handles.h"
 #include "win32/base/library.h"
@@ -45,6 +47,19 @@ RichEditPeer::RichEditPeer(forms::RichTextBox& control, FormPeer& form)
     SendMessageW(Handle(), EM_SETUNDOLIMIT, UndoLimit, 0);
     SendMessageW(Handle(), EM_SETBKGNDCOLOR, TRUE, 0);
     UseStandardFormat();
+    ShowZoom();
+}
+
+void RichEditPeer::Rescale() {
+    EditWindow::Rescale();
+    ShowZoom();
+}
+
+/// The control knows the screen's resolution by itself, but not how much larger the user wants texts.
+void RichEditPeer::ShowZoom() {
+    const int percent = PixelScale().TextPercent();
+    if (std::exchange(zoom_, percent) == percent) return;  // the user may have zoomed by himself
+    SendMessageW(Handle(), EM_SETZOOM, static_cast<WPARAM>(percent), 100);
 }
 
 void RichEditPeer::UseStandardFormat() {

@@ -22,6 +22,8 @@ class RichEditPeer final : public EditWindow, public forms::RichTextEditor {
     std::string Save() const override;
     bool ExchangesIndents() const override;
 
+    void Rescale() override;
+
   protected:
     LRESULT HandleMessage(const Message& message) override;
     void ReportSelection() override;
@@ -34,9 +36,11 @@ class RichEditPeer final : public EditWindow, public forms::RichTextEditor {
     LRESULT OnMouseWheel(const Message& message);
 
     void UseStandardFormat();
+    void ShowZoom();
     bool WritesEveryLetter() const;
 
     forms::RichTextBox& control_;
+    int zoom_ = 100;  ///< percent
     mutable std::optional<bool> writesEveryLetter_;
     mutable std::optional<bool> exchangesIndents_;
 };

@@ -1,5 +1,8 @@
 #include "win32/system/dpi.h"
 
+#include <algorithm>
+
+#include "forms/text_scale.h"
 #include "win32/base/handles.h"
 #include "win32/base/library.h"
 
@@ -8,6 +11,18 @@ namespace tavrin::win32 {
 int SystemDpi() {
     const int dpi = GetDeviceCaps(WindowDc(nullptr).Get(), LOGPIXELSX);
     return dpi > 0 ? dpi : USER_DEFAULT_SCREEN_DPI;
+}
+
+int TextPercent() {
+    DWORD wanted = 0;
+    DWORD size = sizeof wanted;
+    const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Accessibility",
+                                        L"TextScaleFactor", RRF_RT_REG_DWORD, nullptr, &wanted, &size);
+    RECT area{};
+    if (status != ERROR_SUCCESS || SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0) == FALSE) wanted = 0;
+    const Scale screen(SystemDpi());
+    return forms::UsableTextScale(static_cast<int>(std::min<DWORD>(wanted, 1000)),
+                                  {screen.ToTwips(Width(area)), screen.ToTwips(Height(area))});
 }
 
 int DpiOf(HWND window) {

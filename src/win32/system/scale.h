@@ -12,10 +12,14 @@ namespace tavrin::win32 {
 /// that neighbours meet.
 class Scale {
   public:
-    explicit Scale(int dpi) : dpi_(dpi) {}
+    /// \param textPercent how much larger the user wants texts: whole windows are shown so much larger
+    explicit Scale(int dpi, int textPercent = 100) : screenDpi_(dpi), textPercent_(textPercent) {}
 
-    int Dpi() const { return dpi_; }
-    double TwipsPerPixel() const { return static_cast<double>(forms::TwipsPerInch) / dpi_; }
+    int Dpi() const { return Round(ExactDpi()); }
+    /// That of the platform's own parts of a window.
+    int ScreenDpi() const { return screenDpi_; }
+    int TextPercent() const { return textPercent_; }
+    double TwipsPerPixel() const { return forms::TwipsPerInch / ExactDpi(); }
 
     int ToPixels(double twips) const { return Round(twips / TwipsPerPixel()); }
     int ToTwips(int pixels) const { return Round(pixels * TwipsPerPixel()); }
@@ -27,9 +31,11 @@ class Scale {
     bool operator==(const Scale&) const = default;
 
   private:
+    double ExactDpi() const { return screenDpi_ * textPercent_ / 100.0; }
     static int Round(double value) { return static_cast<int>(std::floor(value + 0.5)); }
 
-    int dpi_;
+    int screenDpi_;
+    int textPercent_;
 };
 
 inline int Width(const RECT& area) {
