@@ -20,6 +20,14 @@ if(TAVRIN_PRECOMPILE)
   endif()
 endif()
 
+# What tests include beside that. It is made with the options of the folder that calls this.
+function(tavrin_add_precompiled_tests)
+  if(TAVRIN_PRECOMPILE)
+    tavrin_add_precompiled(tavrin_precompiled_tests <gmock/gmock.h> <gtest/gtest.h>)
+    target_link_libraries(tavrin_precompiled_tests PRIVATE GTest::gtest_main GTest::gmock)
+  endif()
+endfunction()
+
 # tavrin_precompile(<folder> <precompiled>): every library and program of the folder, and of those below, uses them.
 function(tavrin_precompile folder precompiled)
   if(NOT TARGET ${precompiled})
@@ -28,7 +36,7 @@ function(tavrin_precompile folder precompiled)
   tavrin_collect_targets(targets ${folder})
   foreach(target ${targets})
     get_target_property(type ${target} TYPE)
-    if(NOT type STREQUAL INTERFACE_LIBRARY)
+    if(NOT type STREQUAL INTERFACE_LIBRARY AND NOT target STREQUAL precompiled)
       target_precompile_headers(${target} REUSE_FROM ${precompiled})
     endif()
   endforeach()
