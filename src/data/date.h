@@ -4,9 +4,14 @@
 #include <string>
 #include <string_view>
 
-#include "data/value.h"
-
 namespace tavrin::data {
+
+/// A point in time as COM counts it: days since 1899-12-30, the time of day in the fraction.
+/// For days before 1899-12-30 the integral part is negative and the fraction still counts forward.
+struct OleDate {
+    double days = 0;
+    bool operator==(const OleDate&) const = default;
+};
 
 /// A day of the proleptic Gregorian calendar.
 struct CalendarDay {

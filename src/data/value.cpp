@@ -6,7 +6,6 @@
 #include <limits>
 #include <optional>
 
-#include "data/date.h"
 #include "data/decimal.h"
 #include "data/error.h"
 

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <variant>
 
+#include "data/date.h"
+
 namespace tavrin::data {
 
 /// A field that was never given a value.
@@ -15,13 +17,6 @@ struct Empty {
 /// The database's NULL.
 struct Null {
     bool operator==(const Null&) const = default;
-};
-
-/// A point in time as COM counts it: days since 1899-12-30, the time of day in the fraction.
-/// For days before 1899-12-30 the integral part is negative and the fraction still counts forward.
-struct OleDate {
-    double days = 0;
-    bool operator==(const OleDate&) const = default;
 };
 
 /// One field of one row. Text is UTF-8.

@@ -16,9 +16,8 @@ class CommandButton : public Control {
 
     const std::string& Caption() const { return caption_; }
     void SetCaption(std::string_view caption);
-    /// The letter that clicks the button together with Alt, 0 for none; its first place in the caption is
-    /// underlined.
-    char32_t Accelerator() const { return accelerator_; }
+    /// Its first place in the caption is underlined.
+    char32_t Accelerator() const override { return accelerator_; }
     void SetAccelerator(char32_t letter);
     Icon Picture() const { return picture_; }
     void SetPicture(Icon picture);

@@ -48,6 +48,8 @@ class Control {
     Container& Parent() const { return parent_; }
     Form& OwnerForm() const { return parent_.OwnerForm(); }
     virtual ControlKind Kind() const { return ControlKind::Drawn; }
+    /// The letter that clicks the control together with Alt, 0 for none.
+    virtual char32_t Accelerator() const { return 0; }
 
     // Properties.
     const Rect& Bounds() const { return bounds_; }  ///< from the parent's top left corner

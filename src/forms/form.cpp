@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cwctype>
 
-#include "forms/command_button.h"
-
 namespace tavrin::forms {
 
 namespace {
@@ -272,10 +270,9 @@ bool Form::HandleAccelerator(char32_t letter) {
     const Desktop::DispatchScope scope(desktop_);
     if (!AcceptsInput()) return false;
     for (Control* control : AllControls()) {
-        auto* button = dynamic_cast<CommandButton*>(control);
-        if (button == nullptr || button->Accelerator() == 0 || !button->CanTakeFocus()) continue;
-        if (!SameLetter(button->Accelerator(), letter)) continue;
-        if (button->SetFocusByUser()) button->Click();
+        if (control->Accelerator() == 0 || !control->CanTakeFocus()) continue;
+        if (!SameLetter(control->Accelerator(), letter)) continue;
+        if (control->SetFocusByUser()) control->Click();
         return true;
     }
     return false;
