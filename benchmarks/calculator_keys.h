@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "forms/grouped_number.h"
+#include "data/text/grouped_number.h"
 #include "unit/calculator/two_displays.h"
 
 namespace tavrin::bench {

@@ -10,15 +10,15 @@
 #include <string>
 #include <string_view>
 
-#include "calculator/number_text.h"
-#include "data/date.h"
 #include "data/error.h"
-#include "data/rounding.h"
+#include "data/text/date.h"
+#include "data/text/date_format.h"
+#include "data/text/grouped_number.h"
+#include "data/text/number_format.h"
+#include "data/text/number_text.h"
+#include "data/text/rounding.h"
+#include "data/text/utf8.h"
 #include "data/value.h"
-#include "forms/date_format.h"
-#include "forms/grouped_number.h"
-#include "forms/number_format.h"
-#include "forms/utf8.h"
 #include "host/embedded/dialect/date_literal.h"
 #include "host/embedded/money_text.h"
 #include "host/embedded/text_rules.h"

@@ -6,8 +6,8 @@
 
 #include "data/memory_table.h"
 #include "data/value.h"
-#include "forms/form.h"
-#include "forms/grid.h"
+#include "forms/controls/grid.h"
+#include "forms/model/form.h"
 #include "win32/base/text.h"
 #include "win32/desktop/desktop.h"
 #include "windows/accounting_host.h"

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <random>
 
-#include "data/date.h"
+#include "data/text/date.h"
 
 namespace tavrin::host {
 namespace {

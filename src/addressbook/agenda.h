@@ -8,7 +8,7 @@
 #include "addressbook/edit_rules.h"
 #include "addressbook/person.h"
 #include "addressbook/person_store.h"
-#include "forms/image_list.h"
+#include "forms/drawing/image_list.h"
 #include "shell/module.h"
 
 namespace tavrin::addressbook {

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "forms/command_button.h"
-#include "forms/control_array.h"
-#include "forms/decoration.h"
-#include "forms/form.h"
-#include "forms/frame.h"
-#include "forms/grid.h"
-#include "forms/image.h"
-#include "forms/label.h"
-#include "forms/text_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/decoration.h"
+#include "forms/controls/frame.h"
+#include "forms/controls/grid.h"
+#include "forms/controls/image.h"
+#include "forms/controls/label.h"
+#include "forms/controls/text_box.h"
+#include "forms/model/control_array.h"
+#include "forms/model/form.h"
 
 namespace tavrin::addressbook {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "calculator/number_text.h"
+#include "data/text/number_text.h"
 
 namespace tavrin::calculator {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/command_button.h"
+#include "forms/controls/command_button.h"
 
 namespace tavrin::calculator {
 

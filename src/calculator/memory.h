@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "data/checked_arithmetic.h"
-#include "data/decimal.h"
+#include "data/text/decimal.h"
 
 namespace tavrin::calculator {
 

@@ -6,8 +6,8 @@
 #include <limits>
 #include <optional>
 
-#include "data/decimal.h"
 #include "data/error.h"
+#include "data/text/decimal.h"
 
 namespace tavrin::data {
 namespace {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <variant>
 
-#include "data/date.h"
+#include "data/text/date.h"
 
 namespace tavrin::data {
 

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "notes/capitals.h"
+#include "data/text/capitals.h"
 #include "notes/rtf_document_reader.h"
 
 // What a document's text becomes; groups and words are in rtf_document_reader.cpp.

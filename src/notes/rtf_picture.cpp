@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "notes/hex_digit.h"
+#include "data/text/hex_digit.h"
 #include "notes/picture_size.h"
 
 namespace tavrin::notes {

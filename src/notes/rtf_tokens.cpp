@@ -6,7 +6,7 @@
 #include <limits>
 #include <system_error>
 
-#include "notes/hex_digit.h"
+#include "data/text/hex_digit.h"
 #include "notes/plain_ascii.h"
 
 namespace tavrin::notes {

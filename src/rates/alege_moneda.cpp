@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "data/error.h"
-#include "forms/utf8.h"
+#include "data/text/utf8.h"
 #include "rates/rate_text.h"
 #include "shell/layout.h"
 #include "shell/window_helpers.h"

@@ -4,8 +4,8 @@
 #include <array>
 #include <utility>
 
-#include "data/date.h"
 #include "data/error.h"
+#include "data/text/date.h"
 #include "rates/cere_moneda.h"
 #include "rates/curs_valutar_detaliu.h"
 #include "rates/evolutie_curs.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "rates/curs_valutar.h"
 #include "shell/layout.h"
 #include "shell/window_helpers.h"

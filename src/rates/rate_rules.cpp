@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <string>
 
-#include "data/date.h"
-#include "data/decimal.h"
+#include "data/text/date.h"
+#include "data/text/decimal.h"
 
 namespace tavrin::rates {
 

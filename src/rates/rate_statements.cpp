@@ -1,6 +1,6 @@
 #include "rates/rate_statements.h"
 
-#include "data/date.h"
+#include "data/text/date.h"
 
 namespace tavrin::rates {
 

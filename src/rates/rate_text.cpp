@@ -3,7 +3,7 @@
 #include <string_view>
 #include <utility>
 
-#include "forms/number_format.h"
+#include "data/text/number_format.h"
 
 namespace tavrin::rates {
 

@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 
+#include "data/text/locale.h"
 #include "data/value.h"
-#include "forms/locale.h"
 
 namespace tavrin::rates {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "data/traced_connection.h"
 
 namespace tavrin::shell {

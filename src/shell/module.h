@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "data/diagnosis.h"
-#include "forms/desktop.h"
-#include "forms/form.h"
+#include "forms/model/desktop.h"
+#include "forms/model/form.h"
 #include "shell/host_context.h"
 #include "shell/message_service.h"
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "forms/command_button.h"
-#include "forms/control_array.h"
-#include "forms/form.h"
-#include "forms/image.h"
-#include "forms/image_list.h"
-#include "forms/label.h"
-#include "forms/picture_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/image.h"
+#include "forms/controls/label.h"
+#include "forms/controls/picture_box.h"
+#include "forms/drawing/image_list.h"
+#include "forms/model/control_array.h"
+#include "forms/model/form.h"
 #include "shell/module.h"
 
 namespace tavrin::shell {

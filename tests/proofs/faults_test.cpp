@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "forms/text_box.h"
+#include "forms/controls/text_box.h"
 #include "proofs/fault_runner.h"
 
 namespace tavrin::tests {

@@ -3,7 +3,7 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/grid.h"
+#include "forms/controls/grid.h"
 #include "rates/curs_valutar.h"
 #include "support/fake_rich_text.h"
 

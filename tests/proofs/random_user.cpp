@@ -5,9 +5,9 @@
 #include <string_view>
 #include <utility>
 
-#include "forms/combo_box.h"
-#include "forms/date_picker.h"
-#include "forms/text_box.h"
+#include "forms/controls/combo_box.h"
+#include "forms/controls/date_picker.h"
+#include "forms/controls/text_box.h"
 #include "rates/curs_valutar.h"
 #include "support/fake_rich_text.h"
 #include "support/recording_surface.h"

@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "data/date.h"
-#include "forms/form.h"
+#include "data/text/date.h"
+#include "forms/model/form.h"
 #include "host/embedded/embedded_database.h"
 #include "proofs/fault_plan.h"
 #include "shell/module.h"

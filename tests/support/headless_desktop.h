@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/desktop.h"
-#include "forms/form.h"
+#include "forms/model/desktop.h"
+#include "forms/model/form.h"
 #include "support/memory_files.h"
 #include "support/recording_dialogs.h"
 

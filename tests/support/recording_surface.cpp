@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "forms/utf8.h"
+#include "data/text/utf8.h"
 #include "support/text_metrics.h"
 
 namespace tavrin::tests {

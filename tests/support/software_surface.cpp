@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "forms/utf8.h"
+#include "data/text/utf8.h"
 #include "support/text_metrics.h"
 
 namespace tavrin::tests {

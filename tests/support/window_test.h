@@ -5,8 +5,8 @@
 #include <memory>
 #include <string>
 
-#include "data/date.h"
-#include "forms/form.h"
+#include "data/text/date.h"
+#include "forms/model/form.h"
 #include "shell/module.h"
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"

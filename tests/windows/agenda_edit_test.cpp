@@ -1,6 +1,6 @@
 // Adding, modifying and deleting persons.
 
-#include "forms/look.h"
+#include "forms/controls/look.h"
 #include "windows/agenda_fixture.h"
 
 namespace tavrin::tests {

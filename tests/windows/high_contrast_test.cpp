@@ -1,13 +1,13 @@
 // Every window of a user who has set high contrast is drawn in the system's colours and in no others.
 
-#include "forms/contrast.h"
+#include "forms/drawing/contrast.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <array>
 
-#include "forms/decoration.h"
+#include "forms/controls/decoration.h"
 #include "support/recording_surface.h"
 #include "windows/every_window.h"
 

@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "forms/desktop.h"
+#include "forms/model/desktop.h"
 #include "win32/desktop/platform_dialogs.h"
 #include "win32/system/user_locale.h"
 #include "win32/system/whole_files.h"

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "data/error.h"
-#include "forms/color.h"
+#include "forms/drawing/color.h"
 #include "win32/base/library.h"
 #include "win32/system/contrast.h"
 

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "data/value.h"
 #include "win32/system/scale.h"
 #include "win32/window/toolkit.h"

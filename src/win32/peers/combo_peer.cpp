@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "forms/look.h"
+#include "forms/controls/look.h"
 #include "win32/base/library.h"
 #include "win32/base/text.h"
 #include "win32/peers/disagreement.h"

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "forms/control.h"
+#include "forms/model/control.h"
 #include "win32/assist/accessible_control.h"
 #include "win32/base/com_ptr.h"
 #include "win32/peers/form_peer.h"

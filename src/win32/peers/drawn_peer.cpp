@@ -1,7 +1,7 @@
 #include "win32/peers/drawn_peer.h"
 
-#include "forms/container.h"
-#include "forms/decoration.h"
+#include "forms/controls/decoration.h"
+#include "forms/model/container.h"
 #include "win32/window/mouse_message.h"
 #include "win32/window/reflection.h"
 #include "win32/window/window_painter.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/text_box.h"
+#include "forms/controls/text_box.h"
 #include "win32/peers/edit_window.h"
 
 namespace tavrin::win32 {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/look.h"
+#include "forms/controls/look.h"
 #include "win32/system/contrast.h"
 #include "win32/window/mouse_message.h"
 

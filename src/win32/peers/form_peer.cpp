@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "forms/decoration.h"
+#include "forms/controls/decoration.h"
 #include "win32/base/library.h"
 #include "win32/base/text.h"
 #include "win32/peers/control_window.h"

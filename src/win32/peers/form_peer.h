@@ -5,7 +5,7 @@
 #include <memory>
 #include <optional>
 
-#include "forms/form.h"
+#include "forms/model/form.h"
 #include "win32/system/scale.h"
 #include "win32/window/tool_tips.h"
 #include "win32/window/toolkit.h"

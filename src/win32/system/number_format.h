@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "forms/number_format.h"
+#include "data/text/number_format.h"
 
 namespace tavrin::win32 {
 

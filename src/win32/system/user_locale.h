@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/locale.h"
+#include "data/text/locale.h"
 
 namespace tavrin::win32 {
 

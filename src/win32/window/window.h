@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "forms/desktop.h"
+#include "forms/model/desktop.h"
 #include "win32/window/name_property.h"
 
 namespace tavrin::win32 {

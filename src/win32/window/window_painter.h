@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "forms/contrast.h"
+#include "forms/drawing/contrast.h"
 #include "win32/paint/dib_surface.h"
 #include "win32/window/toolkit.h"
 #include "win32/window/window.h"

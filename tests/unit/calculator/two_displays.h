@@ -5,7 +5,7 @@
 
 #include "calculator/conversion.h"
 #include "calculator/engine.h"
-#include "forms/grouped_number.h"
+#include "data/text/grouped_number.h"
 
 namespace tavrin::tests {
 

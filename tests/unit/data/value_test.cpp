@@ -6,8 +6,8 @@
 #include <limits>
 #include <random>
 
-#include "data/date.h"
 #include "data/error.h"
+#include "data/text/date.h"
 
 namespace tavrin::data {
 namespace {

@@ -1,11 +1,11 @@
-#include "forms/numeric_display.h"
+#include "forms/controls/numeric_display.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "forms/form.h"
-#include "forms/grouped_number.h"
+#include "data/text/grouped_number.h"
+#include "forms/model/form.h"
 #include "support/headless_desktop.h"
 
 namespace tavrin::tests {

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "data/date.h"
+#include "data/text/date.h"
 
 namespace tavrin::rates {
 namespace {
