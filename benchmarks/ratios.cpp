@@ -13,6 +13,7 @@
 #include "addressbook/agenda.h"
 #include "alternating.h"
 #include "calculator_keys.h"
+#include "data/text/number_text.h"
 #include "host/embedded/embedded_connection.h"
 #include "host/embedded/embedded_database.h"
 #include "note_speed.h"
@@ -88,7 +89,7 @@ void FillRates(host::EmbeddedDatabase& database, int rows, int currencies) {
                       row % perDay / 60, row % perDay % 60);
         std::string values = "'" + std::string(text) + "',0";
         for (int i = 0; i < currencies; ++i)
-            values += "," + data::ShortestDecimal(30000 + row % 977 + i / 4.0);
+            values += "," + data::NumberText(30000 + row % 977 + i / 4.0);
         database.Run("INSERT INTO [Curs Valutar] VALUES(" + values + ")");
     }
     transaction.Commit();

@@ -4,6 +4,7 @@
 
 #include "addressbook/messages.h"
 #include "addressbook/text_rules.h"
+#include "data/text/trim.h"
 #include "shell/window_helpers.h"
 
 namespace tavrin::addressbook {
@@ -342,8 +343,8 @@ void Agenda::ModifyPerson() {
 void Agenda::DeletePerson() {
     if (!ShowsCurrentList()) return;
     store_.DemandNames();
-    const std::string nume(Trimmed(TextBoxes[NumeBox].Text()));
-    const std::string prenume(Trimmed(TextBoxes[PrenumeBox].Text()));
+    const std::string nume(data::Trimmed(TextBoxes[NumeBox].Text()));
+    const std::string prenume(data::Trimmed(TextBoxes[PrenumeBox].Text()));
     module_.lastQuestion = text::DeleteQuestion + nume + " " + prenume + text::DeleteQuestionEnd;
     const int row = Grid.Row();
     const Answer answer = module_.Ask(*this, module_.lastQuestion, Caption());

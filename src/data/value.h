@@ -44,7 +44,7 @@ class Value {
     /// \throws Error 94 for NULL, 13 for text that is no "yyyy-mm-dd" or "dd/mm/yyyy" date.
     OleDate ToDate() const;
 
-    /// The form in which grids show a value: doubles as ShortestDecimal writes them whatever the locale,
+    /// The form in which grids show a value: doubles as NumberText writes them whatever the locale,
     /// integers with all their digits, dates as "dd/mm/yyyy" (with " hh:mm:ss" where they carry a time),
     /// nothing for empty and NULL.
     std::string ToText() const;
@@ -58,9 +58,5 @@ class Value {
   private:
     std::variant<Empty, Null, std::int64_t, double, OleDate, std::string> content_;
 };
-
-/// The decimal that a number stands for (DecimalOf) as text: "." as separator, never an exponent, zero
-/// without a sign.
-std::string ShortestDecimal(double number);
 
 }  // namespace tavrin::data

@@ -229,7 +229,7 @@ void RtfDocumentReader::Insert(char32_t character) {
 char32_t RtfDocumentReader::AsSeen(char32_t character) {
     if (!state_.capitals) return character;
     const RtfFont* const font = CurrentFont();
-    return font != nullptr && font->symbols ? character : ToCapital(character);
+    return font != nullptr && font->symbols ? character : data::ToCapital(character);
 }
 
 /// A row is one line, which stands as its first cell does.

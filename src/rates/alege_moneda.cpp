@@ -163,7 +163,7 @@ void AlegeMoneda::cmdAction_Click(int index) {
 void AlegeMoneda::TakeRate() {
     if (!caller_) throw data::ObjectNotSet();
     CurrencyTarget& target = caller_->DefaultInstance();
-    const forms::Locale& locale = UserLocale();
+    const data::Locale& locale = UserLocale();
     const std::string& currency = cmbMoneda.Text();
     // The amount keeps its value in lei, which the rate of until now says.
     const double amountInLei = target.AmountInLei();
@@ -176,7 +176,7 @@ void AlegeMoneda::TakeRate() {
 void AlegeMoneda::cmbMoneda_GotFocus() {
     if (!cmbMoneda.Enabled()) return;
     cmbMoneda.SetBackColor(forms::FocusGrey);
-    cmbMoneda.Select(cmbMoneda.SelStart(), forms::CountCharacters(cmbMoneda.Text()));
+    cmbMoneda.Select(cmbMoneda.SelStart(), data::CountCharacters(cmbMoneda.Text()));
 }
 
 void AlegeMoneda::cmbMoneda_LostFocus() {

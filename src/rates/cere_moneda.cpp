@@ -1,6 +1,7 @@
 #include "rates/cere_moneda.h"
 
 #include "data/error.h"
+#include "data/text/trim.h"
 #include "rates/curs_valutar.h"
 #include "shell/layout.h"
 #include "shell/window_helpers.h"
@@ -105,7 +106,7 @@ void CereMoneda::cmdAction_Click(int index) {
 }
 
 bool CereMoneda::AddCurrency() {
-    if (IsBlank(txtMoneda.Text())) {
+    if (data::IsBlank(txtMoneda.Text())) {
         module_.ShowMessage("Nume Obligatoriu", message::Information, message::Ok, Caption());
         txtMoneda.SetFocus();
         return false;

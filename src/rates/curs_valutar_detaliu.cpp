@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "data/text/date.h"
+#include "data/text/digits.h"
+#include "data/text/number_text.h"
 #include "rates/curs_valutar.h"
 #include "shell/layout.h"
 #include "shell/window_helpers.h"
@@ -22,10 +24,6 @@ constexpr int ValueWidth = 1500;
 constexpr int CurrenciesInSight = 11;
 constexpr int LabelWidth = 1740;
 constexpr int ThousandsGrouping = 3;
-
-bool IsDigit(char32_t character) {
-    return character >= U'0' && character <= U'9';
-}
 
 const char* ReasonOf(ValueRefusal refusal) {
     switch (refusal) {
@@ -178,8 +176,8 @@ void CursValutarDetaliu::Refuse(ValueRefusal refusal) {
 
 void CursValutarDetaliu::CommitCell() {
     if (!editor_.IsEdited()) return editor_.Close();
-    const double number = NumberIn(txtCursValutar.Text()).value_or(0);
-    editor_.Commit(FormatRate(data::ShortestDecimal(number), 0, ThousandsGrouping));
+    const double number = TypedRate(txtCursValutar.Text()).value_or(0);
+    editor_.Commit(FormatRate(data::NumberText(number), 0, ThousandsGrouping));
 }
 
 void CursValutarDetaliu::LeaveCell(Step step) {
@@ -230,7 +228,7 @@ void CursValutarDetaliu::txtCursValutar_KeyPress(char32_t& character) {
     // Backspace, and what the platform's field makes of Ctrl and a letter: copying, pasting, taking back.
     // None of them is a character of the text.
     if (character < U' ') return;
-    if (IsDigit(character) && HasRoomForDigit(txtCursValutar.Text(), txtCursValutar.SelText())) return;
+    if (data::IsDigit(character) && HasRoomForDigit(txtCursValutar.Text(), txtCursValutar.SelText())) return;
     // Who types a comma must not take 95 for 9,5.
     OwnerDesktop().Beep();
     character = 0;
@@ -260,7 +258,7 @@ void CursValutarDetaliu::Grid_KeyDown(int& keyCode) {
 }
 
 void CursValutarDetaliu::Grid_KeyPress(char32_t& character) {
-    if (!IsDigit(character) || Grid.Row() < 1) return;
+    if (!data::IsDigit(character) || Grid.Row() < 1) return;
     BeginCellEdit();
     txtCursValutar.ReplaceSelection(std::string(1, static_cast<char>(character)));
     character = 0;

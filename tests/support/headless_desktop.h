@@ -36,7 +36,7 @@ class HeadlessDesktop : public forms::Desktop {
     forms::Size FrameSize(forms::BorderStyle border) const override;
     forms::PixelPoint CursorPosition() const override { return cursor; }
     void SetCursorPosition(forms::PixelPoint position) override { cursor = position; }
-    forms::Locale UserLocale() const override { return locale; }
+    data::Locale UserLocale() const override { return locale; }
     void Beep() override { ++beeps; }
     void CopyToClipboard(const forms::Copied& content) override { copied = content; }
     bool ActivateHost() override;
@@ -55,7 +55,7 @@ class HeadlessDesktop : public forms::Desktop {
     };
 
     forms::PixelPoint cursor{500, 400};
-    forms::Locale locale;
+    data::Locale locale;
     int twipsPerPixel = 15;
     RecordingDialogs dialogs;
     MemoryFiles files;

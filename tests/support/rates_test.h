@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "data/text/number_text.h"
 #include "host/embedded/embedded_connection.h"
 #include "host/embedded/embedded_database.h"
 #include "rates/curs_valutar.h"
@@ -53,7 +54,7 @@ class RatesTest : public WindowTest {
 
     void AddDay(const std::string& monthDayYear, double euro, double dollar) {
         Run("INSERT INTO [Curs Valutar]([Data],[EUR],[USD]) VALUES('" + monthDayYear + "'," +
-            data::ShortestDecimal(euro) + "," + data::ShortestDecimal(dollar) + ")");
+            data::NumberText(euro) + "," + data::NumberText(dollar) + ")");
     }
 
     std::int64_t CountOf(const std::string& fromAndWhere) {

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "calculator_fixture.h"
+#include "data/text/number_text.h"
 #include "data/value.h"
 #include "support/counting_peer.h"
 
@@ -700,7 +701,7 @@ TEST_F(FrmCalculatorTest, ARateOfManyDigitsIsTakenAsItIsListed) {
         const FrmCalculator& window = Open();
         EXPECT_EQ(OpenChooser().Grid.TextMatrix(1, 1), rate.listed);
         keyboard.Press(key::Enter);
-        EXPECT_EQ(data::ShortestDecimal(window.CursCurent()), rate.listed);
+        EXPECT_EQ(data::NumberText(window.CursCurent()), rate.listed);
         EXPECT_EQ(window.lblCurs.Caption(),
                   std::string("Cursul este de  ") + rate.caption + " Lei pentru 1 $");
         Calculator()->Unload();

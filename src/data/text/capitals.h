@@ -1,6 +1,6 @@
 #pragma once
 
-namespace tavrin::notes {
+namespace tavrin::data {
 
 /// A letter as a capital, for text that is shown so: Latin, Greek and Cyrillic letters that have one of their
 /// own. Everything else as it is.
@@ -27,4 +27,4 @@ constexpr char32_t ToCapital(char32_t letter) {
     return letter;
 }
 
-}  // namespace tavrin::notes
+}  // namespace tavrin::data

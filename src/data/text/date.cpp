@@ -3,46 +3,29 @@
 
 #include <algorithm>
 #include <charconv>
+#include <chrono>
 #include <cmath>
+
+#include "data/text/digits.h"
 
 namespace tavrin::data {
 namespace {
 
 constexpr double FirstDay = -657434;  // 1 January 100
 constexpr double LastDay = 2958465;   // 31 December 9999
-constexpr long long OleEpochFromUnixEpoch = 25569;
+constexpr int FarthestYear = 32'000;  // of std::chrono's, with room for months to carry over
+constexpr std::chrono::sys_days OleEpoch = std::chrono::year(1899) / std::chrono::December / 30;
 
-// Counts from 1 January 1970 in eras of 400 years whose years begin in March, so that the leap day comes
-// last.
-long long DaysFromUnixEpoch(long long year, int month, long long day) {
-    if (month <= 2) --year;
-    const long long era = (year >= 0 ? year : year - 399) / 400;
-    const long long yearOfEra = year - era * 400;
-    const long long dayOfYear = (153LL * (month + (month > 2 ? -3 : 9)) + 2) / 5 + day - 1;
-    const long long dayOfEra = yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear;
-    return era * 146097 + dayOfEra - 719468;
-}
-
-CalendarDay FromUnixEpoch(long long days) {
-    days += 719468;
-    const long long era = (days >= 0 ? days : days - 146096) / 146097;
-    const long long dayOfEra = days - era * 146097;
-    const long long yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
-    const long long dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
-    const long long marchMonth = (5 * dayOfYear + 2) / 153;
-    const int month = static_cast<int>(marchMonth < 10 ? marchMonth + 3 : marchMonth - 9);
-    const long long year = yearOfEra + era * 400 + (month <= 2 ? 1 : 0);
-    return {static_cast<int>(year), month, static_cast<int>(dayOfYear - (153 * marchMonth + 2) / 5 + 1)};
+/// The first day of a month; months beyond December are of the next year, and so on, and those before January
+/// of the last.
+std::chrono::year_month_day FirstOfMonth(int year, int month) {
+    const std::chrono::year_month january =
+        std::chrono::year(std::clamp(year, -FarthestYear, FarthestYear)) / std::chrono::January;
+    return (january + std::chrono::months(month - 1)) / 1;
 }
 
 double ClampedDay(double days) {
     return std::isnan(days) ? 0 : std::clamp(std::trunc(days), FirstDay, LastDay);
-}
-
-std::string Padded(int number, std::size_t width) {
-    std::string digits = std::to_string(number);
-    if (digits.size() < width) digits.insert(0, width - digits.size(), '0');
-    return digits;
 }
 
 std::optional<int> Digits(std::string_view text) {
@@ -63,19 +46,22 @@ std::optional<OleDate> ExistingDay(std::optional<int> year, std::optional<int> m
 }  // namespace
 
 OleDate ToOleDate(CalendarDay day) {
-    const long long months = static_cast<long long>(day.year) * 12 + day.month - 1;
-    const long long year = (months >= 0 ? months : months - 11) / 12;
-    const int month = static_cast<int>(months - year * 12) + 1;
-    return {static_cast<double>(DaysFromUnixEpoch(year, month, day.day) + OleEpochFromUnixEpoch)};
+    const auto date =
+        std::chrono::sys_days(FirstOfMonth(day.year, day.month)) + std::chrono::days(day.day - 1);
+    return {static_cast<double>((date - OleEpoch).count())};
 }
 
 CalendarDay ToCalendarDay(OleDate date) {
-    return FromUnixEpoch(static_cast<long long>(ClampedDay(date.days)) - OleEpochFromUnixEpoch);
+    const std::chrono::days days(static_cast<int>(ClampedDay(date.days)));
+    const std::chrono::year_month_day day(OleEpoch + days);
+    return {static_cast<int>(day.year()), static_cast<int>(static_cast<unsigned>(day.month())),
+            static_cast<int>(static_cast<unsigned>(day.day()))};
 }
 
 int DaysInMonth(int year, int month) {
-    const double first = ToOleDate({year, month, 1}).days;
-    return static_cast<int>(ToOleDate({year, month + 1, 1}).days - first);
+    const std::chrono::year_month_day first = FirstOfMonth(year, month);
+    const std::chrono::day last = (first.year() / first.month() / std::chrono::last).day();
+    return static_cast<int>(static_cast<unsigned>(last));
 }
 
 long long RoundedDay(OleDate date) {
@@ -87,12 +73,12 @@ long long RoundedDay(OleDate date) {
 
 std::string FormatYearMonthDay(OleDate date) {
     const CalendarDay day = ToCalendarDay(date);
-    return Padded(day.year, 4) + "-" + Padded(day.month, 2) + "-" + Padded(day.day, 2);
+    return ZeroPadded(day.year, 4) + "-" + ZeroPadded(day.month, 2) + "-" + ZeroPadded(day.day, 2);
 }
 
 std::string FormatDayMonthYear(OleDate date) {
     const CalendarDay day = ToCalendarDay(date);
-    return Padded(day.day, 2) + "/" + Padded(day.month, 2) + "/" + Padded(day.year, 4);
+    return ZeroPadded(day.day, 2) + "/" + ZeroPadded(day.month, 2) + "/" + ZeroPadded(day.year, 4);
 }
 
 std::optional<OleDate> ParseDayMonthYear(std::string_view text) {

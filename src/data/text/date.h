@@ -13,7 +13,8 @@ struct OleDate {
     bool operator==(const OleDate&) const = default;
 };
 
-/// A day of the proleptic Gregorian calendar.
+/// A day of the proleptic Gregorian calendar. Years beyond 32,000 count as that one, before and after our
+/// era.
 struct CalendarDay {
     int year = 1899;
     int month = 12;  ///< 1 to 12
@@ -28,7 +29,7 @@ OleDate ToOleDate(CalendarDay day);
 /// no OLE date can be, are clamped to the first or last day of that span.
 CalendarDay ToCalendarDay(OleDate date);
 
-/// 1 to 31, the length of a month.
+/// 28 to 31. Out-of-range months carry over.
 int DaysInMonth(int year, int month);
 
 /// The day count rounded to the nearest whole day, ties to even.

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 
-namespace tavrin::forms {
+#include "data/text/digits.h"
+
+namespace tavrin::data {
 
 namespace {
 
@@ -23,7 +25,7 @@ constexpr std::array<Token, 5> Tokens = {{
     {"dd", DatePart::Day, 2, false},
 }};
 
-int NumberOf(const DatePiece& piece, const data::CalendarDay& day) {
+int NumberOf(const DatePiece& piece, const CalendarDay& day) {
     switch (piece.part) {
         case DatePart::Day:
             return day.day;
@@ -44,13 +46,10 @@ const Token* FindToken(std::string_view format) {
 
 }  // namespace
 
-std::string DatePiece::Text(const data::CalendarDay& day, const Locale& locale) const {
+std::string DatePiece::Text(const CalendarDay& day, const Locale& locale) const {
     if (part == DatePart::None) return fixedText;
     if (showsName) return locale.monthAbbreviations[static_cast<std::size_t>(day.month - 1)];
-    std::string number = std::to_string(NumberOf(*this, day));
-    const auto width = static_cast<std::size_t>(digits);
-    if (number.size() < width) number.insert(0, width - number.size(), '0');
-    return number;
+    return ZeroPadded(NumberOf(*this, day), static_cast<std::size_t>(digits));
 }
 
 std::vector<DatePiece> ParseDateFormat(std::string_view format) {
@@ -73,4 +72,4 @@ int FullYear(int year) {
     return year < 30 ? 2000 + year : 1900 + year;
 }
 
-}  // namespace tavrin::forms
+}  // namespace tavrin::data

@@ -7,7 +7,7 @@
 #include "data/text/date.h"
 #include "data/text/locale.h"
 
-namespace tavrin::forms {
+namespace tavrin::data {
 
 /// The parts of a day that a user changes one at a time.
 enum class DatePart { None, Day, Month, Year };
@@ -19,7 +19,7 @@ struct DatePiece {
     bool showsName = false;
     std::string fixedText;
 
-    std::string Text(const data::CalendarDay& day, const Locale& locale) const;
+    std::string Text(const CalendarDay& day, const Locale& locale) const;
 };
 
 /// Takes a custom format apart: dd, MM, MMM, yy and yyyy are parts, all else is fixed text.
@@ -28,4 +28,4 @@ std::vector<DatePiece> ParseDateFormat(std::string_view format);
 /// Years of two digits: 0 to 29 are of this century, 30 to 99 of the last one; others stand as they are.
 int FullYear(int year);
 
-}  // namespace tavrin::forms
+}  // namespace tavrin::data

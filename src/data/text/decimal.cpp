@@ -8,7 +8,7 @@
 
 #include "data/text/big_natural.h"
 #include "data/text/binary_parts.h"
-#include "data/text/powers_of_ten.h"
+#include "data/text/digits.h"
 
 namespace tavrin::data {
 
@@ -88,10 +88,6 @@ Decimal ExactDecimal(double magnitude) {
     return WithPlaces(whole.Digits(), std::max(-exponent, 0));
 }
 
-bool IsDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
 /// Takes a text apart from its front.
 class Scanner {
   public:
@@ -157,14 +153,14 @@ Decimal FromParts(std::string_view whole, std::string_view fraction, int exponen
 
 }  // namespace
 
-void Decimal::RoundToDigits(int count) {
+void Decimal::RoundToDigits(int count, Ties ties) {
     const auto kept = static_cast<std::size_t>(std::max(count, 0));
     if (kept >= digits.Size()) return;
     const bool isOdd = kept > 0 && (digits[kept - 1] - '0') % 2 == 1;
     const bool isTie = digits[kept] == '5' && kept + 1 == digits.Size();
-    const bool isUp = count >= 0 && (isTie ? isOdd : digits[kept] >= '5');
+    const bool isUp = isTie && ties == Ties::ToEven ? isOdd : digits[kept] >= '5';
     digits.Resize(kept);
-    if (isUp) CountUp();
+    if (isUp && count >= 0) CountUp();
     digits.DropLast('0');
     if (digits.IsEmpty()) point = 0;
 }
@@ -195,7 +191,7 @@ double Decimal::ToDouble() const {
     if (digits.IsEmpty() || point < -HugePoint) return 0;
     if (point > HugePoint) return Limits::infinity();
     const int places = static_cast<int>(digits.Size()) - point;
-    if (digits.Size() <= SafeDigits && places >= 0 && places <= SafeDigits)
+    if (digits.Size() <= SignificantDigits && places >= 0 && places <= SignificantDigits)
         return static_cast<double>(NumberOf(digits.View())) / PowersOfTen[static_cast<std::size_t>(places)];
     double nearest = Estimate(*this);
     while (std::isfinite(nearest)) {
@@ -214,7 +210,7 @@ Decimal DecimalOf(double magnitude) {
     if (const auto millionths = Millionths(magnitude))
         return WithPlaces(BigNatural(*millionths).Digits(), MillionthPlaces);
     Decimal decimal = ExactDecimal(magnitude);
-    decimal.RoundToDigits(SafeDigits);
+    decimal.RoundToDigits(SignificantDigits);
     return decimal;
 }
 
@@ -224,7 +220,7 @@ std::optional<std::uint64_t> Millionths(double magnitude) {
     constexpr double SafelyNear = 3.5e-16;
     constexpr double Million = PowersOfTen[MillionthPlaces];
     const double scaled = magnitude * Million;
-    if (!(scaled < PowersOfTen[SafeDigits])) return std::nullopt;
+    if (!(scaled < PowersOfTen[SignificantDigits])) return std::nullopt;
     // Never negative, and a tie is none of the numbers looked for.
     // NOLINTNEXTLINE(bugprone-incorrect-roundings)
     const auto nearest = static_cast<std::int64_t>(scaled + 0.5);
@@ -233,7 +229,15 @@ std::optional<std::uint64_t> Millionths(double magnitude) {
     return static_cast<std::uint64_t>(nearest);
 }
 
-ReadNumber ReadDecimal(std::string_view text, Exponents exponents, std::string_view separator) {
+std::optional<Decimal> DecimalIn(std::string_view text) {
+    Scanner scanner(text);
+    const std::string_view whole = scanner.TakeDigits();
+    const std::string_view fraction = scanner.Skip(".") ? scanner.TakeDigits() : std::string_view();
+    if (scanner.At() < text.size() || (whole.empty() && fraction.empty())) return std::nullopt;
+    return FromParts(whole, fraction, 0);
+}
+
+LeadingNumber ReadDecimal(std::string_view text, Exponents exponents, std::string_view separator) {
     Scanner scanner(text);
     const bool isNegative = scanner.Skip("-");
     const std::string_view whole = scanner.TakeDigits();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -9,6 +10,19 @@
 #include "data/text/digit_text.h"
 
 namespace tavrin::data {
+
+/// The rule by which numbers become texts and texts numbers: a number stands for the decimal of that many
+/// digits that is nearest to its exact value, a tie to the even one. Up to so many, decimals and doubles tell
+/// each other apart; what a double keeps behind them is nothing that anybody typed or could read.
+inline constexpr int SignificantDigits = 15;
+
+/// Exact, as all powers up to 1e22 are: a whole number of no more than SignificantDigits divided by one of
+/// them is the double of that decimal.
+inline constexpr std::array<double, SignificantDigits + 1> PowersOfTen = {
+    1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
+/// What becomes of a number in the middle between two that have as many digits as are kept.
+enum class Ties { ToEven, AwayFromZero };
 
 /// A number from 0 on as decimal digits. The point stands behind that many of them; where it lies before the
 /// first (negative) or behind the last, zeros fill the gap. Neither the first nor the last digit is 0; zero
@@ -20,10 +34,10 @@ struct Decimal {
     DigitText digits;
     int point = 0;
 
-    /// Keeps so many digits, a tie to the even one.
-    void RoundToDigits(int count);
+    /// Keeps so many digits.
+    void RoundToDigits(int count, Ties ties = Ties::ToEven);
     /// Keeps so many digits behind the point.
-    void RoundToPlaces(int places) { RoundToDigits(point + places); }
+    void RoundToPlaces(int places, Ties ties = Ties::ToEven) { RoundToDigits(point + places, ties); }
 
     /// Adds the number without an exponent and with no more zeros than it needs.
     void AppendTo(std::string& text, std::string_view separator) const;
@@ -36,9 +50,7 @@ struct Decimal {
     void CountUp();
 };
 
-/// The decimal that a number stands for, for its text and for rounding alike: its exact value to 15
-/// significant digits, a tie to the even one. What a double keeps behind them is nothing that anybody typed
-/// or could read. \pre finite, not negative
+/// The decimal that a number stands for, for its text and for rounding alike. \pre finite, not negative
 Decimal DecimalOf(double magnitude);
 
 inline constexpr int MillionthPlaces = 6;
@@ -49,13 +61,14 @@ std::optional<std::uint64_t> Millionths(double magnitude);
 
 enum class Exponents { Read, NotRead };
 
+/// The decimal of a text that is digits with at most one point, nothing where it is anything else.
+std::optional<Decimal> DecimalIn(std::string_view text);
+
 /// What a text begins with: a minus, digits, a separator and digits, an exponent.
-struct ReadNumber {
-    double number = 0;
+struct LeadingNumber {
+    double number = 0;       ///< infinite where it is too large
     std::size_t length = 0;  ///< of what was read; 0 where there is no digit
 };
-
-/// Infinite where the number is too large.
-ReadNumber ReadDecimal(std::string_view text, Exponents exponents, std::string_view separator = ".");
+LeadingNumber ReadDecimal(std::string_view text, Exponents exponents, std::string_view separator = ".");
 
 }  // namespace tavrin::data

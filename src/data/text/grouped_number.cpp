@@ -9,7 +9,7 @@
 #include "data/text/decimal.h"
 #include "data/text/rounding.h"
 
-namespace tavrin::forms {
+namespace tavrin::data {
 
 namespace {
 
@@ -86,7 +86,7 @@ void WriteUnits(BackwardWriter& writer, std::uint64_t units, int decimals, const
 
 /// For a number so large that zeros follow the digits of its decimal.
 void WriteLarge(BackwardWriter& writer, double magnitude, int decimals, const Locale& locale) {
-    data::Decimal number = data::DecimalOf(magnitude);
+    Decimal number = DecimalOf(magnitude);
     const int size = number.point + decimals;
     number.digits.Resize(static_cast<std::size_t>(size));
     const std::string_view digits = number.digits.View();
@@ -103,7 +103,7 @@ void WriteLarge(BackwardWriter& writer, double magnitude, int decimals, const Lo
 }
 
 void AppendWithExponent(std::string& text, double magnitude, const Locale& locale) {
-    const data::Decimal number = data::DecimalOf(magnitude);
+    const Decimal number = DecimalOf(magnitude);
     const std::string_view digits = number.digits.View();
     text += digits.front();
     if (digits.size() > 1) {
@@ -119,7 +119,7 @@ void WriteGroupedNumber(std::string& text, double number, int decimals, const Lo
     text.clear();
     if (!std::isfinite(number)) return;
     const double magnitude = std::fabs(number);
-    const std::optional<std::uint64_t> units = data::RoundedUnits(number, decimals);
+    const std::optional<std::uint64_t> units = RoundedUnits(number, decimals);
     if (magnitude >= ExponentFrom) {
         if (number < 0) text += '-';
         AppendWithExponent(text, magnitude, locale);
@@ -135,4 +135,4 @@ void WriteGroupedNumber(std::string& text, double number, int decimals, const Lo
     text += writer.Written();
 }
 
-}  // namespace tavrin::forms
+}  // namespace tavrin::data

@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-namespace tavrin::forms {
+namespace tavrin::data {
 
 /// The user's locale, as far as windows show numbers and dates in it.
 struct Locale {
@@ -13,4 +13,4 @@ struct Locale {
                                                       "iul", "aug", "sep", "oct", "nov", "dec"};
 };
 
-}  // namespace tavrin::forms
+}  // namespace tavrin::data

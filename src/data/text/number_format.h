@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace tavrin::forms {
+namespace tavrin::data {
 
 /// How a number's text is set for reading; the fields are those of the platform's NUMBERFMT.
 struct NumberFormat {
@@ -19,4 +19,4 @@ struct NumberFormat {
 /// A whole zero without decimals and without a leading zero is an empty text.
 std::string FormatNumber(std::string_view number, const NumberFormat& format);
 
-}  // namespace tavrin::forms
+}  // namespace tavrin::data

@@ -6,10 +6,9 @@
 #include <cmath>
 #include <cstdint>
 
-#include "data/text/decimal.h"
-#include "data/text/powers_of_ten.h"
+#include "data/text/digits.h"
 
-namespace tavrin::calculator {
+namespace tavrin::data {
 
 namespace {
 
@@ -19,7 +18,7 @@ void WriteUnits(std::string& text, std::uint64_t units, int decimals, std::strin
         units /= 10;
         --decimals;
     }
-    std::array<char, data::SafeDigits + 1> digits;
+    std::array<char, SignificantDigits + 1> digits;
     const char* const begin = digits.data();
     const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), units).ptr;
     const auto places = static_cast<std::ptrdiff_t>(decimals);
@@ -40,10 +39,9 @@ struct PlainNumber {
     /// What follows the digits that a text begins with.
     std::string_view Take(std::string_view text) {
         std::size_t taken = 0;
-        for (; taken < text.size() && digits < data::SafeDigits; ++taken, ++digits) {
-            const auto digit = static_cast<unsigned char>(text[taken] - '0');
-            if (digit > 9) break;
-            units = units * 10 + digit;
+        for (; taken < text.size() && digits < SignificantDigits; ++taken, ++digits) {
+            if (!IsDigit(text[taken])) break;
+            units = units * 10 + static_cast<std::uint64_t>(text[taken] - '0');
         }
         return text.substr(taken);
     }
@@ -55,11 +53,19 @@ void WriteNumber(std::string& text, double number, std::string_view separator) {
     text.clear();
     if (number < 0) text += '-';
     const double magnitude = std::fabs(number);
-    if (const auto millionths = data::Millionths(magnitude)) {
-        WriteUnits(text, *millionths, data::MillionthPlaces, separator);
+    if (const auto millionths = Millionths(magnitude)) {
+        WriteUnits(text, *millionths, MillionthPlaces, separator);
     } else {
-        data::DecimalOf(magnitude).AppendTo(text, separator);
+        DecimalOf(magnitude).AppendTo(text, separator);
     }
+}
+
+std::string NumberText(double number) {
+    if (std::isnan(number)) return "nan";
+    if (std::isinf(number)) return number < 0 ? "-inf" : "inf";
+    std::string text;
+    WriteNumber(text, number, ".");
+    return text;
 }
 
 double ReadNumber(std::string_view text, std::string_view separator) {
@@ -73,13 +79,18 @@ double ReadNumber(std::string_view text, std::string_view separator) {
         places = number.digits - whole;
     }
     if (!rest.empty()) {
-        const double any = data::ReadDecimal(text, data::Exponents::NotRead, separator).number;
+        const double any = ReadDecimal(text, Exponents::NotRead, separator).number;
         return any == 0 ? 0 : any;
     }
     if (number.units == 0) return 0;
     const double magnitude =
-        static_cast<double>(number.units) / data::PowersOfTen[static_cast<std::size_t>(places)];
+        static_cast<double>(number.units) / PowersOfTen[static_cast<std::size_t>(places)];
     return negative ? -magnitude : magnitude;
 }
 
-}  // namespace tavrin::calculator
+std::optional<double> NumberIn(std::string_view text, Exponents exponents) {
+    const auto [number, length] = ReadDecimal(text, exponents);
+    return length > 0 && length == text.size() ? std::optional(number) : std::nullopt;
+}
+
+}  // namespace tavrin::data

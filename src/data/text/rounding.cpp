@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "data/text/decimal.h"
-#include "data/text/powers_of_ten.h"
 
 namespace tavrin::data {
 
@@ -52,7 +51,7 @@ std::optional<std::uint64_t> RoundedUnits(double number, int decimals) {
     const double magnitude = std::fabs(number);
     if (const auto units = UnitsClearOfTies(magnitude, places)) return units;
     if (const auto millionths = Millionths(magnitude)) return MillionthsToUnits(*millionths, places);
-    if (!(magnitude < PowersOfTen[SafeDigits - places])) return std::nullopt;
+    if (!(magnitude < PowersOfTen[SignificantDigits - places])) return std::nullopt;
     return DecimalToUnits(DecimalOf(magnitude), decimals);
 }
 

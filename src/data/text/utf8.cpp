@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace tavrin::forms {
+namespace tavrin::data {
 
 namespace {
 
@@ -24,4 +24,4 @@ std::size_t OffsetOfCharacter(std::string_view text, int character) {
     return offset;
 }
 
-}  // namespace tavrin::forms
+}  // namespace tavrin::data

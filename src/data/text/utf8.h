@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace tavrin::forms {
+namespace tavrin::data {
 
 // Positions in edit fields count characters (code points); texts are UTF-8. A byte that cannot begin or
 // continue a character counts as part of the one before it.
@@ -19,4 +19,4 @@ constexpr char32_t LowerCase(char32_t letter) {
     return letter >= U'A' && letter <= U'Z' ? letter + (U'a' - U'A') : letter;
 }
 
-}  // namespace tavrin::forms
+}  // namespace tavrin::data

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "data/text/number_format.h"
+#include "data/text/number_text.h"
 #include "data/text/rounding.h"
 #include "data/value.h"
 #include "forms/controls/chart_layout.h"
@@ -31,11 +32,11 @@ constexpr double MarkRadius = 90;
 constexpr double MarkWidth = 30;
 
 std::string TickText(double value, bool grouped) {
-    std::string text = data::ShortestDecimal(data::RoundHalfEven(value, TickDecimals));
+    std::string text = data::NumberText(data::RoundHalfEven(value, TickDecimals));
     if (!grouped) return text;
     const std::size_t point = text.find('.');
     const int decimals = point == std::string::npos ? 0 : static_cast<int>(text.size() - point - 1);
-    return FormatNumber(text, {.decimals = decimals, .grouping = 3, .leadingZero = true});
+    return data::FormatNumber(text, {.decimals = decimals, .grouping = 3, .leadingZero = true});
 }
 
 std::array<PointF, PointCorners> CircleAround(const PointF& middle, double radius) {
@@ -234,7 +235,7 @@ AccessibleNode Chart::Accessible() const {
     node.readOnly = true;
     for (const int row : RowsWithValue()) {
         if (!node.value.empty()) node.value += "; ";
-        node.value += Row(row).label + ": " + data::ShortestDecimal(*Row(row).value);
+        node.value += Row(row).label + ": " + data::NumberText(*Row(row).value);
     }
     return node;
 }
@@ -250,7 +251,7 @@ AccessibleNode Chart::AccessibleChild(int child) const {
     AccessibleNode node;
     node.role = Role::Graphic;
     node.name = Row(row).label;
-    node.value = data::ShortestDecimal(*Row(row).value);
+    node.value = data::NumberText(*Row(row).value);
     node.readOnly = true;
     node.bounds = {(row - 1) * ColumnWidth(), 0, ColumnWidth(), Bounds().height};
     return node;

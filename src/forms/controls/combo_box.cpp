@@ -15,7 +15,7 @@ constexpr int PageStep = 10;
 
 bool BeginsWith(const std::string& item, char32_t letter) {
     return !item.empty() && letter < 0x80 &&
-           LowerCase(static_cast<unsigned char>(item.front())) == LowerCase(letter);
+           data::LowerCase(static_cast<unsigned char>(item.front())) == data::LowerCase(letter);
 }
 
 }  // namespace
@@ -60,7 +60,7 @@ void ComboBox::TakeEntry(int index) {
     listIndex_ = index;
     text_ = index < 0 ? std::string() : Item(index);
     selStart_ = 0;
-    selLength_ = CountCharacters(text_);
+    selLength_ = data::CountCharacters(text_);
     Notify(Aspect::List);
     Notify(Aspect::Selection);
 }
@@ -88,7 +88,7 @@ void ComboBox::HandleTyped(std::string text) {
         return;
     }
     TakeText(std::move(text));
-    selStart_ = CountCharacters(text_);
+    selStart_ = data::CountCharacters(text_);
     Raise(event::Change, onChange);
 }
 
@@ -99,7 +99,7 @@ void ComboBox::TakeText(std::string text) {
 }
 
 void ComboBox::Select(int start, int length) {
-    const int characters = CountCharacters(text_);
+    const int characters = data::CountCharacters(text_);
     selStart_ = std::clamp(start, 0, characters);
     selLength_ = std::clamp(length, 0, characters - selStart_);
     Notify(Aspect::Selection);

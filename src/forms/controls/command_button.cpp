@@ -17,7 +17,7 @@ constexpr int LargestIcon = 480;
 int FindAccelerator(std::string_view caption, char32_t letter) {
     if (letter == 0) return -1;
     const auto matches = [letter](char byte) {
-        return LowerCase(static_cast<unsigned char>(byte)) == LowerCase(letter);
+        return data::LowerCase(static_cast<unsigned char>(byte)) == data::LowerCase(letter);
     };
     const auto* const found = std::ranges::find_if(caption, matches);
     return found == caption.end() ? -1 : static_cast<int>(found - caption.begin());

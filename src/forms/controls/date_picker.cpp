@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "data/text/digits.h"
 #include "forms/controls/look.h"
 #include "forms/model/form.h"
 
@@ -40,20 +41,16 @@ bool EndsTyping(int keyCode) {
     return keyCode < '0' && keyCode != key::Space;
 }
 
-bool IsDigit(char32_t character) {
-    return character >= U'0' && character <= U'9';
-}
-
 }  // namespace
 
 DatePicker::DatePicker(Container& parent, std::string_view name, const std::string& customFormat, Rect bounds)
     : Control(parent, name, bounds),
-      pieces_(ParseDateFormat(customFormat)),
+      pieces_(data::ParseDateFormat(customFormat)),
       minDate_(data::ToOleDate(FirstDay)),
       maxDate_(data::ToOleDate(LastDay)) {
     SetBackColor(scheme::Field);
     SetForeColor(scheme::Value);
-    while (active_ < pieces_.size() && pieces_[active_].part == DatePart::None)
+    while (active_ < pieces_.size() && pieces_[active_].part == data::DatePart::None)
         ++active_;
 }
 
@@ -83,13 +80,13 @@ void DatePicker::Take(data::OleDate date) {
 std::string DatePicker::Text() const {
     const data::CalendarDay day = data::ToCalendarDay(value_);
     std::string text;
-    for (const DatePiece& piece : pieces_)
+    for (const data::DatePiece& piece : pieces_)
         text += piece.Text(day, OwnerForm().UserLocale());
     return text;
 }
 
-DatePart DatePicker::ActivePart() const {
-    return active_ < pieces_.size() ? pieces_[active_].part : DatePart::None;
+data::DatePart DatePicker::ActivePart() const {
+    return active_ < pieces_.size() ? pieces_[active_].part : data::DatePart::None;
 }
 
 // Up, Down and the wheel.
@@ -102,16 +99,16 @@ void DatePicker::Step(int step) {
     EndTyping();
     data::CalendarDay day = data::ToCalendarDay(value_);
     switch (ActivePart()) {
-        case DatePart::Day:
+        case data::DatePart::Day:
             day.day = Wrapped(day.day + step, data::DaysInMonth(day.year, day.month));
             break;
-        case DatePart::Month:
+        case data::DatePart::Month:
             day.month = Wrapped(day.month + step, 12);
             break;
-        case DatePart::Year:
+        case data::DatePart::Year:
             day.year += step;
             break;
-        case DatePart::None:
+        case data::DatePart::None:
             return;
     }
     SetDate(data::ToOleDate(Existing(day)));
@@ -120,9 +117,9 @@ void DatePicker::Step(int step) {
 // Typing.
 
 void DatePicker::TypeDigit(int digit) {
-    if (ActivePart() == DatePart::None) return;
-    const DatePiece& piece = pieces_[active_];
-    const int most = piece.part == DatePart::Day ? 31 : piece.part == DatePart::Month ? 12 : 9999;
+    if (ActivePart() == data::DatePart::None) return;
+    const data::DatePiece& piece = pieces_[active_];
+    const int most = piece.part == data::DatePart::Day ? 31 : piece.part == data::DatePart::Month ? 12 : 9999;
     // Digits that can name no day or month begin anew with the last one.
     if (!typed_.empty() && std::stoi(typed_) * 10 + digit > most) typed_.clear();
     typed_ += static_cast<char>('0' + digit);
@@ -136,18 +133,18 @@ void DatePicker::ApplyTyped() {
     const int number = std::stoi(typed_);
     Repaint();
     switch (ActivePart()) {
-        case DatePart::Day:
+        case data::DatePart::Day:
             if (number == 0) return;
             wanted_.day = number;
             break;
-        case DatePart::Month:
+        case data::DatePart::Month:
             if (number == 0) return;
             wanted_.month = number;
             break;
         default:
             // Three digits are on the way to four.
             if (typed_.size() == 3) return;
-            wanted_.year = typed_.size() < 3 ? FullYear(number) : number;
+            wanted_.year = typed_.size() < 3 ? data::FullYear(number) : number;
             break;
     }
     Take(data::ToOleDate(Existing(wanted_)));
@@ -185,7 +182,7 @@ KeyOutcome DatePicker::DefaultKeyDown(int keyCode, Modifiers modifiers) {
 }
 
 KeyOutcome DatePicker::DefaultKeyPress(char32_t character) {
-    if (IsDigit(character)) {
+    if (data::IsDigit(character)) {
         TypeDigit(static_cast<int>(character - U'0'));
         return KeyOutcome::Done;
     }
@@ -210,7 +207,7 @@ void DatePicker::ActivateNeighbour(int step) {
     EndTyping();
     const auto count = static_cast<std::ptrdiff_t>(pieces_.size());
     for (auto i = static_cast<std::ptrdiff_t>(active_) + step; i >= 0 && i < count; i += step) {
-        if (pieces_[static_cast<std::size_t>(i)].part == DatePart::None) continue;
+        if (pieces_[static_cast<std::size_t>(i)].part == data::DatePart::None) continue;
         ActivatePiece(static_cast<std::size_t>(i));
         return;
     }
@@ -235,7 +232,7 @@ void DatePicker::DefaultMouseDown(const MouseInput& input) {
         return;
     }
     for (std::size_t i = std::min(drawnAt_.size(), pieces_.size()); i-- > 0;) {
-        if (pieces_[i].part == DatePart::None || input.at.x < drawnAt_[i]) continue;
+        if (pieces_[i].part == data::DatePart::None || input.at.x < drawnAt_[i]) continue;
         ActivatePiece(i);
         return;
     }

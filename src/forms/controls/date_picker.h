@@ -34,7 +34,7 @@ class DatePicker : public Control {
     /// The value in the custom format.
     std::string Text() const;
     /// The part that Up, Down and digits change.
-    DatePart ActivePart() const;
+    data::DatePart ActivePart() const;
 
     /// Entry points of the calendar: the user chose a day; it has opened or closed.
     void HandleChosen(data::OleDate date) {
@@ -67,7 +67,7 @@ class DatePicker : public Control {
     /// What a piece reads: while it is being typed, the digits so far.
     std::string ShownText(std::size_t piece) const;
 
-    std::vector<DatePiece> pieces_;
+    std::vector<data::DatePiece> pieces_;
     data::OleDate value_;
     data::OleDate minDate_;
     data::OleDate maxDate_;

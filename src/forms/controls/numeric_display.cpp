@@ -57,7 +57,7 @@ void NumericDisplay::SetUnitText(std::string unitText) {
 }
 
 void NumericDisplay::Format() {
-    WriteGroupedNumber(text_, value_, decimals_, OwnerForm().UserLocale());
+    data::WriteGroupedNumber(text_, value_, decimals_, OwnerForm().UserLocale());
     Repaint();
 }
 

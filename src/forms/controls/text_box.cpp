@@ -23,7 +23,7 @@ void TextBox::SetText(std::string text) {
 }
 
 int TextBox::TextLength() const {
-    return CountCharacters(text_);
+    return data::CountCharacters(text_);
 }
 
 void TextBox::SetLocked(bool locked) {
@@ -50,8 +50,8 @@ void TextBox::Select(int start, int length) {
 }
 
 std::string TextBox::SelText() const {
-    const std::size_t from = OffsetOfCharacter(text_, selStart_);
-    return text_.substr(from, OffsetOfCharacter(text_, selStart_ + selLength_) - from);
+    const std::size_t from = data::OffsetOfCharacter(text_, selStart_);
+    return text_.substr(from, data::OffsetOfCharacter(text_, selStart_ + selLength_) - from);
 }
 
 void TextBox::HandleSelection(int selStart, int selLength) {
@@ -73,13 +73,13 @@ void TextBox::HandleEdited(std::string text, int selStart, int selLength) {
 
 void TextBox::ReplaceSelection(const std::string& text) {
     if (locked_ || !OwnerForm().AcceptsInput()) return;
-    const std::size_t from = OffsetOfCharacter(text_, selStart_);
-    const std::size_t to = OffsetOfCharacter(text_, selStart_ + selLength_);
+    const std::size_t from = data::OffsetOfCharacter(text_, selStart_);
+    const std::size_t to = data::OffsetOfCharacter(text_, selStart_ + selLength_);
     std::string edited = text_;
     edited.replace(from, to - from, text);
     const bool differs = text_ != edited;
     text_ = std::move(edited);
-    HandleSelection(selStart_ + CountCharacters(text), 0);
+    HandleSelection(selStart_ + data::CountCharacters(text), 0);
     Notify(Aspect::Text);
     Notify(Aspect::Selection);
     if (differs) Raise(event::Change, onChange);

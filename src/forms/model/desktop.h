@@ -51,10 +51,10 @@ class Desktop {
     virtual PixelPoint CursorPosition() const = 0;
     virtual void SetCursorPosition(PixelPoint position) = 0;
     /// As the user has set it at this moment. A form keeps the one that it is loaded with (Form::UserLocale).
-    virtual Locale UserLocale() const = 0;
+    virtual data::Locale UserLocale() const = 0;
     /// Sets a number's text for reading. The platform's own service where there is one.
-    virtual std::string FormatNumber(std::string_view number, const NumberFormat& format) const {
-        return forms::FormatNumber(number, format);
+    virtual std::string FormatNumber(std::string_view number, const data::NumberFormat& format) const {
+        return data::FormatNumber(number, format);
     }
     /// The sound of input that nothing takes.
     virtual void Beep() = 0;

@@ -62,7 +62,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     void Show();
     void Unload();
     /// The user's settings as they were when the window was loaded: one that is open goes on in them.
-    const Locale& UserLocale() const { return locale_; }
+    const data::Locale& UserLocale() const { return locale_; }
     /// Called once the window has unloaded, before it is let go.
     std::function<void(Form&)> whenUnloaded;
 
@@ -152,7 +152,7 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
     BorderStyle border_;
     Rect bounds_;
     Color backColor_ = scheme::Window;
-    Locale locale_;
+    data::Locale locale_;
     bool visible_ = false;
     bool enabled_ = true;
     bool loaded_ = false;

@@ -73,7 +73,7 @@ void Desktop::SetCursorPosition(forms::PixelPoint position) {
     SetCursorPos(position.x, position.y);
 }
 
-std::string Desktop::FormatNumber(std::string_view number, const forms::NumberFormat& format) const {
+std::string Desktop::FormatNumber(std::string_view number, const data::NumberFormat& format) const {
     return FormatPlatformNumber(number, format);
 }
 

@@ -30,8 +30,8 @@ class Desktop final : public forms::Desktop {
     forms::Size FrameSize(forms::BorderStyle border) const override;
     forms::PixelPoint CursorPosition() const override;
     void SetCursorPosition(forms::PixelPoint position) override;
-    forms::Locale UserLocale() const override { return ReadUserLocale(); }
-    std::string FormatNumber(std::string_view number, const forms::NumberFormat& format) const override;
+    data::Locale UserLocale() const override { return ReadUserLocale(); }
+    std::string FormatNumber(std::string_view number, const data::NumberFormat& format) const override;
     void Beep() override;
     void CopyToClipboard(const forms::Copied& copied) override;
     bool ActivateHost() override;

@@ -5,6 +5,6 @@
 namespace tavrin::win32 {
 
 /// The separators and the months' abbreviations that the user has set.
-forms::Locale ReadUserLocale();
+data::Locale ReadUserLocale();
 
 }  // namespace tavrin::win32

@@ -16,8 +16,8 @@ namespace tavrin::tests {
 namespace {
 
 namespace key = forms::key;
+using data::DatePart;
 using data::ToOleDate;
-using forms::DatePart;
 using testing::IsEmpty;
 
 class PickerForm : public forms::Form {

@@ -9,8 +9,8 @@ namespace {
 
 std::string Format(std::string_view format, const data::CalendarDay& day) {
     std::string text;
-    for (const forms::DatePiece& piece : forms::ParseDateFormat(format))
-        text += piece.Text(day, forms::Locale{});
+    for (const data::DatePiece& piece : data::ParseDateFormat(format))
+        text += piece.Text(day, data::Locale{});
     return text;
 }
 
@@ -33,18 +33,18 @@ TEST(DateFormatTest, FirstAndLastYears) {
 }
 
 TEST(DateFormatTest, FixedTextIsOnePiece) {
-    const auto pieces = forms::ParseDateFormat("dd - MM");
+    const auto pieces = data::ParseDateFormat("dd - MM");
     ASSERT_EQ(pieces.size(), 3U);
     EXPECT_EQ(pieces[1].fixedText, " - ");
-    EXPECT_EQ(pieces[1].part, forms::DatePart::None);
+    EXPECT_EQ(pieces[1].part, data::DatePart::None);
 }
 
 TEST(DateFormatTest, TwoDigitsNameAYearNearby) {
-    EXPECT_EQ(forms::FullYear(0), 2000);
-    EXPECT_EQ(forms::FullYear(29), 2029);
-    EXPECT_EQ(forms::FullYear(30), 1930);
-    EXPECT_EQ(forms::FullYear(99), 1999);
-    EXPECT_EQ(forms::FullYear(2003), 2003);
+    EXPECT_EQ(data::FullYear(0), 2000);
+    EXPECT_EQ(data::FullYear(29), 2029);
+    EXPECT_EQ(data::FullYear(30), 1930);
+    EXPECT_EQ(data::FullYear(99), 1999);
+    EXPECT_EQ(data::FullYear(2003), 2003);
 }
 
 }  // namespace

@@ -31,6 +31,13 @@ TEST(OleDates, MonthsAndDaysCarryOver) {
     EXPECT_EQ(ToOleDate({2003, 1, 32}), ToOleDate({2003, 2, 1}));
 }
 
+TEST(OleDates, YearsThatNoDateHasStayOutOfReach) {
+    for (const int year : {32766, 32767, 32768, 2'000'000'000}) {
+        EXPECT_EQ(ToCalendarDay(ToOleDate({year, 12, 31})), (CalendarDay{9999, 12, 31})) << year;
+        EXPECT_EQ(ToCalendarDay(ToOleDate({-year, 1, 1})), (CalendarDay{100, 1, 1})) << year;
+    }
+}
+
 TEST(OleDates, TheDayDropsTheTime) {
     EXPECT_EQ(ToCalendarDay({37761.999}), (CalendarDay{2003, 5, 20}));
     EXPECT_EQ(ToCalendarDay({-1.75}), (CalendarDay{1899, 12, 29}));

@@ -13,7 +13,7 @@
 #include <limits>
 #include <random>
 
-#include "data/value.h"
+#include "data/text/number_text.h"
 
 namespace tavrin::data {
 namespace {
@@ -147,7 +147,7 @@ TEST(DecimalThorough, ReadsWhatTheStandardLibraryReads) {
             text += static_cast<char>('0' + pick(10));
         if (pick(2) == 0) text.insert(static_cast<std::size_t>(pick(static_cast<int>(text.size()))), ".");
         if (pick(2) == 0) text += "e" + std::to_string(pick(680) - 350);
-        const ReadNumber read = ReadDecimal(text, Exponents::Read);
+        const LeadingNumber read = ReadDecimal(text, Exponents::Read);
         EXPECT_EQ(read.length, text.size());
         double expected = 0;
         const auto error = std::from_chars(text.data(), text.data() + text.size(), expected).ec;
@@ -205,8 +205,8 @@ TEST(DecimalTest, WritesZerosWhereThePointLiesOutside) {
 
 TEST(DecimalThorough, IsTheShortestTextWithoutAnExponent) {
     for (const double sample : Samples()) {
-        EXPECT_EQ(ShortestDecimal(sample), Fixed(StandardDecimal(sample)));
-        EXPECT_EQ(ShortestDecimal(-sample), "-" + Fixed(StandardDecimal(sample)));
+        EXPECT_EQ(NumberText(sample), Fixed(StandardDecimal(sample)));
+        EXPECT_EQ(NumberText(-sample), "-" + Fixed(StandardDecimal(sample)));
     }
 }
 

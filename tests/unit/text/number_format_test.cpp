@@ -5,7 +5,7 @@
 namespace tavrin::tests {
 namespace {
 
-using forms::FormatNumber;
+using data::FormatNumber;
 
 TEST(NumberFormatTest, GroupsThousands) {
     EXPECT_EQ(FormatNumber("1", {}), "1");

@@ -8,7 +8,7 @@
 #include <limits>
 #include <random>
 
-namespace tavrin::calculator {
+namespace tavrin::data {
 namespace {
 
 std::string Written(double number, std::string_view separator = ",") {
@@ -97,4 +97,4 @@ TEST(NumberTextAgainstItsReader, ReadsBackDecimalsOfUpToFifteenDigits) {
 }
 
 }  // namespace
-}  // namespace tavrin::calculator
+}  // namespace tavrin::data
