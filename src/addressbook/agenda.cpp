@@ -332,7 +332,7 @@ void Agenda::AddPerson() {
 
 void Agenda::ModifyPerson() {
     if (!ShowsCurrentList()) return;
-    store_.DemandNames();
+    store_.RequireNames();
     SavedRow = Grid.Row();
     Mode = EditMode::Modify;
     SetEditMode(true);
@@ -342,7 +342,7 @@ void Agenda::ModifyPerson() {
 
 void Agenda::DeletePerson() {
     if (!ShowsCurrentList()) return;
-    store_.DemandNames();
+    store_.RequireNames();
     const std::string nume(data::Trimmed(TextBoxes[NumeBox].Text()));
     const std::string prenume(data::Trimmed(TextBoxes[PrenumeBox].Text()));
     module_.lastQuestion = text::DeleteQuestion + nume + " " + prenume + text::DeleteQuestionEnd;

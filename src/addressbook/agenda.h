@@ -48,10 +48,10 @@ class Agenda : public AgendaDesign {
     void FormatGrid();
     void SelectRow();
     int RowOfShownPerson() const;
-    /// Moves the list to a row and shows its person. What of it cannot be read is left empty.
+    /// Moves the list to a row and shows its person. Fields that cannot be read stay empty.
     void ShowRow(int row);
-    /// Whether the list in sight is that of the host's database of this moment. Where it is not, it is read
-    /// there, and whoever was to be changed is to be looked at again first.
+    /// Whether the list shown was read from the host's current connection. If not, reads it again and answers
+    /// false: the user has to look at the person again before changing it.
     bool ShowsCurrentList();
 
     // The layouts and modes.

@@ -12,8 +12,8 @@
 
 namespace tavrin::addressbook {
 
-/// The address book's window as it is drawn up, before anything happens in it: its controls, their places and
-/// captions, and the state they open in, which is that of browsing. It has no behaviour.
+/// The layout of the address book's window: its controls, their places and captions, and the state in which
+/// they open, which is browsing. It has no behaviour.
 class AgendaDesign : public forms::Form {
   public:
     enum Action { Accept, Cancel, Add, Modify, Delete };

@@ -68,7 +68,7 @@ void PersonStore::ReadColumns(Person& person, std::size_t count) const {
     }
 }
 
-void PersonStore::DemandNames() const {
+void PersonStore::RequireNames() const {
     Person person;
     ReadColumns(person, FirstDetailColumn);
 }
@@ -78,7 +78,7 @@ void PersonStore::Add(const Person& person) const {
 }
 
 void PersonStore::Change(const Person& person) const {
-    mark_.Demand(context_);
+    mark_.RequireCurrent(context_);
     context_.Database().Execute(UpdateStatement(person));
 }
 

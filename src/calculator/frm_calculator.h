@@ -91,11 +91,11 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     void Press(Command command);
     void PressAndFocus(Command command);
     KeyButton*& KeyOf(Command command) { return keys_[static_cast<std::size_t>(command)]; }
-    /// No key is held down any more.
+    /// Releases the keys that the keyboard holds down.
     void ReleaseKeys();
 
     shell::Module& module_;
-    std::array<KeyButton*, CommandCount> keys_{};  ///< by command; no key takes back, but a character does
+    std::array<KeyButton*, CommandCount> keys_{};  ///< by command; Backspace has a character but no key
     Conversion conversion_;
     Engine engine_;
     std::string currency_;  ///< the code that the chooser was last called with

@@ -20,7 +20,7 @@ class Server {
     HINSTANCE Instance() const { return instance_; }
     TypeLibrary& Types() { return types_; }
 
-    /// The objects that the outside holds. The windows' own references are none of them.
+    /// The objects that clients hold; references of the windows themselves do not count.
     win32::ObjectCount& Objects() { return objects_; }
     void Lock() { ++locks_; }
     void Unlock() { --locks_; }

@@ -210,7 +210,7 @@ void Notes::Perform(int index) {
         case NewOrOpen:
             return NewOrOpenNote();
         case Save:
-            return TellingOfFailure(text::NotSaved, [this] { return SaveNote(); });
+            return ReportingFailure(text::NotSaved, [this] { return SaveNote(); });
         case ChooseFont:
             return Quietly([this] { ChooseSelectionFont(); });
         case ChooseColor:
@@ -233,7 +233,7 @@ void Notes::NewOrOpenNote() {
         case Answer::Yes:
             return txtNota.SetText({});
         case Answer::No:
-            return TellingOfFailure(text::NotLoaded, [this] { return OpenNote(); });
+            return ReportingFailure(text::NotLoaded, [this] { return OpenNote(); });
         case Answer::Withdrawn:
             break;
     }
@@ -326,7 +326,7 @@ void Notes::Tell(const std::string& prompt, int icon) {
 /// Runs an action that loads or saves. Where it fails the user is told so, and of what the platform says.
 /// What there is to tell is told once the action has ended: a message that fails makes no failure of it.
 template <class Action>
-void Notes::TellingOfFailure(const char* failure, const Action& action) {
+void Notes::ReportingFailure(const char* failure, const Action& action) {
     std::string reason;
     const Notices notices = NoticesOf(failure, reason, action);
     for (const Notice& each : notices) {

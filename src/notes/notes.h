@@ -10,7 +10,7 @@
 
 namespace tavrin::notes {
 
-/// What a file's action has to tell. It takes no memory, as what is told must not be what telling lacked.
+/// What a file action has to report. It allocates nothing, so that a lack of memory can be reported too.
 struct Notice {
     const char* prompt = nullptr;  ///< null for nothing
     int icon = shell::message::Exclamation;
@@ -59,7 +59,7 @@ class Notes : public NotesDesign {
     RtfReading ReadWritten(const std::string& written) const;
     void Tell(const std::string& prompt, int icon);
     template <class Action>
-    void TellingOfFailure(const char* failure, const Action& action);
+    void ReportingFailure(const char* failure, const Action& action);
     void ChooseSelectionFont();
     void ChooseSelectionColor();
     void Toggle(std::optional<bool> forms::CharacterFormat::*property);

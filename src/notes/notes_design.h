@@ -10,7 +10,7 @@
 
 namespace tavrin::notes {
 
-/// The note window as it is drawn up: the bar with its buttons, the text below it. It has no behaviour.
+/// The layout of the note window: the bar with its buttons, the text below it. It has no behaviour.
 class NotesDesign : public forms::Form {
   public:
     enum Button { NewOrOpen, Save, ChooseFont, ChooseColor, Bold, Italic, Underline, Leave, ButtonCount };

@@ -41,7 +41,7 @@ bool IsSign(char32_t character) {
 // From the file's bytes to characters.
 
 void RtfDocumentReader::OnText(std::string_view ascii) {
-    if (state_.destination == Destination::Nothing) return;
+    if (state_.destination == Destination::Ignored) return;
     const auto skipped = std::min(ascii.size(), static_cast<std::size_t>(toSkip_));
     toSkip_ -= static_cast<int>(skipped);
     ascii.remove_prefix(skipped);
@@ -64,7 +64,7 @@ void RtfDocumentReader::OnText(std::string_view ascii) {
 }
 
 void RtfDocumentReader::OnByte(const RtfToken& token) {
-    if (state_.destination == Destination::Nothing || IsSkipped()) return;
+    if (state_.destination == Destination::Ignored || IsSkipped()) return;
     const bool raw = !token.text.empty();
     if (!raw && IsLineEnd(token.byte)) return OnLineEnd(token.byte);
     PutByte(raw && rawIsUtf8_ ? code_page::Utf8 : PageOfBytes(), token.byte);

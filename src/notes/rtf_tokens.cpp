@@ -16,7 +16,7 @@ namespace {
 using Kind = RtfToken::Kind;
 
 /// What a byte is outside of words.
-enum class Class : unsigned char { Plain, Brace, Backslash, Nothing, Other };
+enum class Class : unsigned char { Plain, Brace, Backslash, Skipped, Other };
 
 constexpr std::array<Class, 256> MakeClasses() {
     std::array<Class, 256> classes{};
@@ -24,7 +24,7 @@ constexpr std::array<Class, 256> MakeClasses() {
         classes[i] = PlainBytes[i] ? Class::Plain : Class::Other;
     classes['{'] = classes['}'] = Class::Brace;
     classes['\\'] = Class::Backslash;
-    classes['\r'] = classes['\n'] = classes['\0'] = Class::Nothing;
+    classes['\r'] = classes['\n'] = classes['\0'] = Class::Skipped;
     return classes;
 }
 
@@ -56,7 +56,7 @@ int NumberIn(std::string_view digits) {
 }  // namespace
 
 RtfToken RtfTokens::Next() {
-    while (!rest_.empty() && ClassOf(rest_.front()) == Class::Nothing)
+    while (!rest_.empty() && ClassOf(rest_.front()) == Class::Skipped)
         rest_.remove_prefix(1);
     if (rest_.empty()) return {};
     switch (ClassOf(rest_.front())) {

@@ -95,7 +95,7 @@ void CereMoneda::FillCurrencies() {
 }
 
 void CereMoneda::OnUnload() {
-    if (auto* list = module_.Loaded<CursValutar>()) list->LetIn();
+    if (auto* list = module_.Loaded<CursValutar>()) list->Reenable();
 }
 
 // The actions.

@@ -308,7 +308,7 @@ bool CursValutar::IsHeld() const {
     return module_.Loaded<CursValutarDetaliu>() != nullptr || module_.Loaded<CereMoneda>() != nullptr;
 }
 
-void CursValutar::LetIn() {
+void CursValutar::Reenable() {
     SetEnabled(!IsHeld());
 }
 

@@ -37,8 +37,8 @@ class CursValutar : public forms::Form {
 
     void cmdAction_Click(int index);
 
-    /// Enables the window again, unless another one that was opened from it still holds it.
-    void LetIn();
+    /// Enables the window again, unless another window that was opened from it still keeps it disabled.
+    void Reenable();
 
     const CurrencyNames& Currencies() const { return currencyNames_; }
     /// The day of the grid's current row, "dd/mm/yyyy".

@@ -142,7 +142,7 @@ void CursValutarDetaliu::FillGrid() {
 void CursValutarDetaliu::OnUnload() {
     auto* list = module_.Loaded<CursValutar>();
     if (list == nullptr) return;
-    list->LetIn();
+    list->Reenable();
     list->SelectWholeRow();
     list->Grid.SetFocus();
 }
@@ -295,7 +295,7 @@ std::vector<RateEntry> CursValutarDetaliu::Entries() const {
 }
 
 bool CursValutarDetaliu::SaveRates() {
-    mark_.Demand(module_.context);
+    mark_.RequireCurrent(module_.context);
     if (mode_ == EntryMode::Add) return InsertDay();
     // The rate list has refused frozen days before it opened this window.
     store_.UpdateDay(DataCurs.Date(), Entries());

@@ -170,7 +170,7 @@ void EvolutieCurs::SetHeader() {
 
 void EvolutieCurs::OnUnload() {
     // The list went away when this window opened; what is enabled here is the one that opens next.
-    module_.Default<CursValutar>().LetIn();
+    module_.Default<CursValutar>().Reenable();
 }
 
 // The lists.

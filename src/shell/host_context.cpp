@@ -7,7 +7,7 @@ namespace tavrin::shell {
 data::Connection& HostContext::Database() const {
     if (!connection) throw data::ObjectNotSet();
     if (!trace) return *connection;
-    trace->Follow(connection);
+    trace->SetTarget(connection);
     return *trace;
 }
 
@@ -15,7 +15,7 @@ bool ConnectionMark::IsCurrent(const HostContext& context) const {
     return context.connection != nullptr && connection_.lock() == context.connection;
 }
 
-void ConnectionMark::Demand(const HostContext& context) const {
+void ConnectionMark::RequireCurrent(const HostContext& context) const {
     context.Database();
     if (IsCurrent(context)) return;
     throw data::RuntimeError(data::error_number::InvalidConnection);

@@ -10,7 +10,7 @@ constexpr char32_t ToCapital(char32_t letter) {
     if (within(0xE0, 0xFE)) return letter != 0xF7 ? letter - 0x20 : letter;
     if (letter == 0xFF) return 0x178;
     if (letter == 0x131) return 'I';
-    // Capitals and small letters by turns: even and odd, or odd and even.
+    // Capitals and small letters alternate: even and odd, or odd and even.
     if (within(0x100, 0x137) || within(0x14A, 0x177) || within(0x200, 0x21F) || within(0x222, 0x233) ||
         within(0x460, 0x481) || within(0x48A, 0x4BF) || within(0x4D0, 0x52F) || within(0x1E00, 0x1E95) ||
         within(0x1EA0, 0x1EFF))

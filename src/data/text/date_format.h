@@ -22,7 +22,7 @@ struct DatePiece {
     std::string Text(const CalendarDay& day, const Locale& locale) const;
 };
 
-/// Takes a custom format apart: dd, MM, MMM, yy and yyyy are parts, all else is fixed text.
+/// Splits a custom format into its pieces: dd, MM, MMM, yy and yyyy are parts, everything else is fixed text.
 std::vector<DatePiece> ParseDateFormat(std::string_view format);
 
 /// Years of two digits: 0 to 29 are of this century, 30 to 99 of the last one; others stand as they are.

@@ -39,7 +39,7 @@ struct Decimal {
     /// Keeps so many digits behind the point.
     void RoundToPlaces(int places, Ties ties = Ties::ToEven) { RoundToDigits(point + places, ties); }
 
-    /// Adds the number without an exponent and with no more zeros than it needs.
+    /// Appends the number without an exponent and without superfluous zeros.
     void AppendTo(std::string& text, std::string_view separator) const;
 
     /// The nearest double, a tie to the even one; infinity where it is too large.

@@ -7,8 +7,8 @@
 
 namespace tavrin::data {
 
-/// Decimal digits in memory of their own: numbers become text at every key, which is to cost no allocation.
-/// What has no room is left out.
+/// Decimal digits in a fixed buffer: numbers become text at every key, which must not cost an allocation.
+/// Digits beyond the capacity are dropped.
 class DigitText {
   public:
     /// More digits than any double has, and than decide which double is the nearest.
@@ -43,7 +43,7 @@ class DigitText {
             digits_[size_++] = '0';
         size_ = size;
     }
-    /// Takes that character off the end as often as it stands there.
+    /// Removes every trailing occurrence of that digit.
     void DropLast(char digit) { size_ = View().find_last_not_of(digit) + 1; }
 
   private:

@@ -8,7 +8,7 @@
 
 namespace tavrin::data {
 
-/// Of the ten between 0 and 9; whatever other alphabets count with is none.
+/// One of 0 to 9; digits of other scripts do not count.
 constexpr bool IsDigit(std::integral auto character) {
     return character >= '0' && character <= '9';
 }

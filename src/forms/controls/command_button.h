@@ -9,14 +9,14 @@
 namespace tavrin::forms {
 
 /// A push button with a caption, a picture, or both. Enter and Space click it, as does Alt with its
-/// accelerator; the arrows walk to its neighbours.
+/// accelerator; the arrows move the focus to its neighbours.
 class CommandButton : public Control {
   public:
     CommandButton(Container& parent, std::string_view name, std::string_view caption = {}, Rect bounds = {});
 
     const std::string& Caption() const { return caption_; }
     void SetCaption(std::string_view caption);
-    /// Its first place in the caption is underlined.
+    /// Its first occurrence in the caption is underlined.
     char32_t Accelerator() const override { return accelerator_; }
     void SetAccelerator(char32_t letter);
     Icon Picture() const { return picture_; }

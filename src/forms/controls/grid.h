@@ -12,9 +12,9 @@
 
 namespace tavrin::forms {
 
-/// A table of texts with one fixed header row (row 0) and a current cell; the user walks it with the arrows,
-/// Page Up and Down, Home, End, the mouse and the wheel. It reads the cells of a data source when it paints
-/// them and copies none. Without a data source the cells are its own (SetRows, SetTextMatrix).
+/// A table of texts with one fixed header row (row 0) and a current cell, which the user moves with the
+/// arrows, Page Up and Down, Home, End, the mouse and the wheel. It reads the cells of a data source when it
+/// paints them and copies none. Without a data source the cells are its own (SetRows, SetTextMatrix).
 class Grid : public Control {
   public:
     Grid(Container& parent, std::string_view name, Rect bounds = {});
@@ -41,7 +41,7 @@ class Grid : public Control {
     void SetColumnWidth(int column, int width);
     Align ColumnAlignment(int column) const;
     void SetColumnAlignment(int column, Align align);
-    /// Sets a text "0" of the column apart from the other numbers, dimmer and slanted: it stands for none.
+    /// Draws a text "0" of the column dimmer and slanted: it stands for a missing value.
     void SetZerosApart(int column);
     int RowHeight() const;  ///< twips, the same for every row; follows the font
 
@@ -56,7 +56,7 @@ class Grid : public Control {
     int ColSel() const { return columnSel_; }
     void SetColSel(int column);
 
-    /// What tells a cell from the others: its column, and what its row begins with. "EUR, 05/05/2003".
+    /// A cell's column and the first text of its row: "EUR, 05/05/2003".
     std::string CellName(int row, int column) const;
 
     /// Where a cell lies in the grid, empty when it is scrolled or hidden away.

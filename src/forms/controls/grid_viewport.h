@@ -24,7 +24,7 @@ struct ScrollBar {
     int Last() const { return IsNeeded() ? total - shown : 0; }
     /// The part that the user drags.
     Rect Thumb() const;
-    /// How far along the track a place lies.
+    /// The distance of a place from the start of the track, in twips.
     int Along(Point place) const;
     /// The first step in sight when the thumb starts that far along the track.
     int FirstAt(int along) const;

@@ -10,7 +10,7 @@ namespace tavrin::forms::look {
 
 namespace {
 
-constexpr int Beyond = 600;  ///< twips; sides of a frame that lie this far outside the clip are not seen
+constexpr int OutsideClip = 600;  ///< twips; sides of a frame that lie this far outside the clip are not seen
 
 void DrawClipped(Surface& surface, const Rect& area, const Rect& frame, Color color) {
     const ClipScope clip(surface, area);
@@ -65,13 +65,15 @@ void DrawDropArrow(Surface& surface, const Control& control) {
 
 void DrawRightEdge(Surface& surface, const Rect& area, Color color) {
     DrawClipped(surface, area,
-                {area.left - Beyond, area.top - Beyond, area.width + Beyond, area.height + 2 * Beyond},
+                {area.left - OutsideClip, area.top - OutsideClip, area.width + OutsideClip,
+                 area.height + 2 * OutsideClip},
                 color);
 }
 
 void DrawBottomEdge(Surface& surface, const Rect& area, Color color) {
     DrawClipped(surface, area,
-                {area.left - Beyond, area.top - Beyond, area.width + 2 * Beyond, area.height + Beyond},
+                {area.left - OutsideClip, area.top - OutsideClip, area.width + 2 * OutsideClip,
+                 area.height + OutsideClip},
                 color);
 }
 

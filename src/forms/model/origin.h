@@ -8,8 +8,7 @@ namespace tavrin::forms {
 class Control;
 class Form;
 
-/// Something that forms and controls have handlers for: its name in the code, and the words in which a report
-/// tells the user of it.
+/// An event of forms and controls: its name in the code, and its name for users in an error report.
 struct Event {
     std::string_view name;
     std::string_view words;
@@ -38,7 +37,7 @@ inline constexpr Event Content{"Content", "afisare"};
 inline constexpr Event Layout{"Layout", "afisare"};
 }  // namespace event
 
-/// Which handler runs, so that what it throws can be told from where it came.
+/// The handler that runs, for the report of what it throws.
 struct Origin {
     const Form* form = nullptr;        ///< null where no handler runs but the platform's own doing
     const Control* control = nullptr;  ///< null where the handler is the form's

@@ -12,16 +12,16 @@ class OpenFile {
     virtual ~OpenFile() = default;
 
     virtual std::string ReadAll() = 0;
-    /// What a file gains by it is anything.
+    /// Bytes that a larger size adds have no defined content.
     virtual void SetSize(std::size_t size) = 0;
-    /// From the file's beginning. Where it throws, some of it may have been written.
+    /// Writes from the beginning of the file. If it throws, part of it may have been written.
     virtual void Write(std::string_view content) = 0;
-    /// Until it returns, nothing of the above needs to be on the disk.
+    /// Returns once everything written before is on the disk.
     virtual void Flush() = 0;
 };
 
-/// Writes a file anew that stays the one it is. Where that fails half-way the file gets its old content back,
-/// and the failure is thrown. \throws DamagedFile where it could not be given back
+/// Replaces the content of a file in place. If that fails halfway, restores the old content and rethrows the
+/// failure. \throws DamagedFile if the old content could not be restored
 void Overwrite(OpenFile& file, std::string_view content);
 
 }  // namespace tavrin::forms

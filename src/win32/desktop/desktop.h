@@ -14,7 +14,7 @@
 
 namespace tavrin::win32 {
 
-class Toolkit;
+class WindowResources;
 
 /// The screen of the host's process. Lives on the host's user-interface thread.
 class Desktop final : public forms::Desktop {
@@ -48,14 +48,14 @@ class Desktop final : public forms::Desktop {
     void ReleaseWindows() noexcept override;
 
   private:
-    std::shared_ptr<Toolkit> SharedToolkit();
+    std::shared_ptr<WindowResources> SharedResources();
     void ShowReports();
     void Show(const forms::ErrorReport& report);
 
     HINSTANCE module_;
     WholeFiles files_;
     std::shared_ptr<const void> inUse_;
-    std::weak_ptr<Toolkit> toolkit_;
+    std::weak_ptr<WindowResources> resources_;
     HeldWindows heldWindows_;
     win32::PlatformDialogs dialogs_{heldWindows_};
     std::deque<forms::ErrorReport> reports_;

@@ -37,7 +37,7 @@ class EditPeer final : public EditWindow {
     void ShowFont();
     EditFrame Frame() const;
     /// The colour beneath the text, as it goes to the screen.
-    forms::Color Ground() const;
+    forms::Color BackgroundColor() const;
 
     forms::TextBox& control_;
     /// Set while the model's state is written into the field, whose notifications are no news then.

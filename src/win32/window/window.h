@@ -58,8 +58,8 @@ class Window {
 
     /// The answer of a table's handler, nothing where the table has none.
     template <class Receiver>
-    static std::optional<LRESULT> Follow(std::span<const Route<Receiver>> routes, Receiver& receiver,
-                                         const Message& message) {
+    static std::optional<LRESULT> HandleBy(std::span<const Route<Receiver>> routes, Receiver& receiver,
+                                           const Message& message) {
         for (const Route<Receiver>& route : routes) {
             if (route.message == message.id) return (receiver.*route.handle)(message);
         }

@@ -1,4 +1,4 @@
-#include "win32/window/toolkit.h"
+#include "win32/window/window_resources.h"
 
 #include <commctrl.h>
 
@@ -10,13 +10,13 @@
 
 namespace tavrin::win32 {
 
-Toolkit::Toolkit(HINSTANCE module, std::shared_ptr<const void> inUse)
+WindowResources::WindowResources(HINSTANCE module, std::shared_ptr<const void> inUse)
     : module_(module), inUse_(std::move(inUse)), context_(module), classes_(module) {
     const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_DATE_CLASSES | ICC_BAR_CLASSES};
     InitCommonControlsEx(&controls);
 }
 
-HWND Toolkit::CreateWindowWith(const WindowParameters& parameters) const {
+HWND WindowResources::CreateWindowWith(const WindowParameters& parameters) const {
     const ActivationContext::Scope scope(context_);
     const RECT& place = parameters.place;
     const HWND window = CreateWindowExW(

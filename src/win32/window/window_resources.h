@@ -23,14 +23,14 @@ struct WindowParameters {
     HWND parent = nullptr;
 };
 
-/// What all windows share: classes, fonts, the canvas, the keyboard's state. It is there while a window is,
-/// and takes everything along with the last one.
-class Toolkit {
+/// What all windows share: classes, fonts, the canvas, the keyboard's state. Every window holds a reference;
+/// the last one frees it.
+class WindowResources {
   public:
-    /// `inUse` is held as long as the toolkit is.
-    Toolkit(HINSTANCE module, std::shared_ptr<const void> inUse);
+    /// `inUse` is held as long as this object lives.
+    WindowResources(HINSTANCE module, std::shared_ptr<const void> inUse);
 
-    HINSTANCE Module() const { return module_; }
+    HINSTANCE Instance() const { return module_; }
     FontCache& Fonts() { return fonts_; }
     DibCanvas& Canvas() { return canvas_; }
     KeyInput& Keys() { return keys_; }
