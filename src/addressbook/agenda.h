@@ -9,7 +9,7 @@
 #include "addressbook/person.h"
 #include "addressbook/person_store.h"
 #include "forms/drawing/image_list.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::addressbook {
 
@@ -19,7 +19,7 @@ namespace tavrin::addressbook {
 /// sent it.
 class Agenda : public AgendaDesign {
   public:
-    explicit Agenda(shell::Module& module);
+    explicit Agenda(shell::Application& application);
 
     void ShowForm();
 
@@ -87,7 +87,7 @@ class Agenda : public AgendaDesign {
     void TextBoxes_GotFocus(int index);
     void Grid_KeyDown(int keyCode);
 
-    shell::Module& module_;
+    shell::Application& application_;
     PersonStore store_;
     forms::ImageList lstImages_;
     bool isEditing_ = false;  ///< as SetEditMode was last told

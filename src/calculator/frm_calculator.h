@@ -15,7 +15,7 @@
 #include "forms/model/control_array.h"
 #include "forms/model/form.h"
 #include "rates/currency_target.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::calculator {
 
@@ -23,7 +23,7 @@ namespace tavrin::calculator {
 /// and in a currency at one rate. The user chooses in which of the two the numbers are typed.
 class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private EngineListener {
   public:
-    explicit FrmCalculator(shell::Module& module);
+    explicit FrmCalculator(shell::Application& application);
 
     /// Lei for one unit of the currency. Setting it converts nothing by itself.
     double CursCurent() const { return conversion_.Rate(); }
@@ -31,7 +31,7 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
 
     // For the currency chooser.
     Form& CallingWindow() override { return *this; }
-    CurrencyTarget& DefaultInstance() override { return module_.Default<FrmCalculator>(); }
+    CurrencyTarget& DefaultInstance() override { return application_.Default<FrmCalculator>(); }
     double AmountInLei() const override { return conversion_.WorthInLei(); }
     void TakeChoice(const rates::CurrencyChoice& choice) override;
 
@@ -94,7 +94,7 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     /// Releases the keys that the keyboard holds down.
     void ReleaseKeys();
 
-    shell::Module& module_;
+    shell::Application& application_;
     std::array<KeyButton*, CommandCount> keys_{};  ///< by command; Backspace has a character but no key
     Conversion conversion_;
     Engine engine_;

@@ -6,7 +6,7 @@
 
 #include "notes/notes_design.h"
 #include "notes/rtf_reader.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::notes {
 
@@ -23,7 +23,7 @@ using Notices = std::array<Notice, 3>;
 /// written is told, with the text and the old file as they were, or that the old file is not.
 class Notes : public NotesDesign {
   public:
-    explicit Notes(shell::Module& module);
+    explicit Notes(shell::Application& application);
 
     void ShowForm();
 
@@ -65,7 +65,7 @@ class Notes : public NotesDesign {
     void Toggle(std::optional<bool> forms::CharacterFormat::*property);
     void ShowSelectionFormat();
 
-    shell::Module& module_;
+    shell::Application& application_;
     int lastButton_;  ///< the one under the mouse, NoButton where it is elsewhere
 };
 

@@ -30,14 +30,14 @@ constexpr int CancelPicture = 22;
 
 }  // namespace
 
-AlegeMoneda::AlegeMoneda(shell::Module& module)
-    : Form(module.Desktop(), "AlegeMoneda", "Alege Moneda", forms::BorderStyle::FixedDialog),
+AlegeMoneda::AlegeMoneda(shell::Application& application)
+    : Form(application.Desktop(), "AlegeMoneda", "Alege Moneda", forms::BorderStyle::FixedDialog),
       Label2(*this, "Label2", "Moneda"),
       cmbMoneda(*this, "cmbMoneda", forms::ComboStyle::DropDown),
       Grid(*this, "Grid"),
       cmdAction(*this, "cmdAction"),
-      module_(module),
-      store_(module.context),
+      application_(application),
+      store_(application.context),
       lstImages_{{AcceptPicture, forms::Icon::Accept}, {CancelPicture, forms::Icon::Cancel}} {
     PlaceControls();
     ConnectEvents();
@@ -87,7 +87,7 @@ void AlegeMoneda::ShowForm(CurrencyTarget& caller, const std::string& currency) 
 void AlegeMoneda::OnLoad() {
     cmdAction[Accept].SetPicture(lstImages_.Picture(AcceptPicture));
     cmdAction[Cancel].SetPicture(lstImages_.Picture(CancelPicture));
-    module_.CreateMessageService();
+    application_.CreateMessageService();
     CenterOnScreen();
 }
 

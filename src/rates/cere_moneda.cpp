@@ -18,16 +18,16 @@ constexpr int FrameWidth = 3600;
 
 }  // namespace
 
-CereMoneda::CereMoneda(shell::Module& module)
-    : Form(module.Desktop(), "CereMoneda", "Adauga Moneda", forms::BorderStyle::FixedDialog),
+CereMoneda::CereMoneda(shell::Application& application)
+    : Form(application.Desktop(), "CereMoneda", "Adauga Moneda", forms::BorderStyle::FixedDialog),
       Frame1(*this, "Frame1"),
       lblLabels(Frame1, "lblLabels"),
       Shape14(Frame1, "Shape14"),
       txtMoneda(Frame1, "txtMoneda"),
       cmbMoneda(Frame1, "cmbMoneda", forms::ComboStyle::DropDownList),
       cmdAction(*this, "cmdAction"),
-      module_(module),
-      store_(module.context),
+      application_(application),
+      store_(application.context),
       lstImages_{forms::Icon::Accept, forms::Icon::Cancel} {
     PlaceControls();
     ConnectEvents();
@@ -78,7 +78,7 @@ void CereMoneda::ConnectEvents() {
 // Life.
 
 void CereMoneda::OnLoad() {
-    module_.CreateMessageService();
+    application_.CreateMessageService();
     CenterOnScreen();
     cmdAction[Accept].SetPicture(lstImages_.Picture(1));
     cmdAction[Cancel].SetPicture(lstImages_.Picture(2));
@@ -95,7 +95,7 @@ void CereMoneda::FillCurrencies() {
 }
 
 void CereMoneda::OnUnload() {
-    if (auto* list = module_.Loaded<CursValutar>()) list->Reenable();
+    if (auto* list = application_.Loaded<CursValutar>()) list->Reenable();
 }
 
 // The actions.
@@ -107,7 +107,7 @@ void CereMoneda::cmdAction_Click(int index) {
 
 bool CereMoneda::AddCurrency() {
     if (data::IsBlank(txtMoneda.Text())) {
-        module_.ShowMessage("Nume Obligatoriu", message::Information, message::Ok, Caption());
+        application_.ShowMessage("Nume Obligatoriu", message::Information, message::Ok, Caption());
         txtMoneda.SetFocus();
         return false;
     }
@@ -115,12 +115,13 @@ bool CereMoneda::AddCurrency() {
         store_.AddCurrency(txtMoneda.Text());
     } catch (const data::Error& error) {
         const bool exists = error.Number() == data::error_number::ErrorsInCommand;
-        module_.ShowMessage(exists ? "Moneda deja existenta ! Alegeti alta moneda !" : error.Description(),
-                            message::Information, message::Ok, Caption());
+        application_.ShowMessage(
+            exists ? "Moneda deja existenta ! Alegeti alta moneda !" : error.Description(),
+            message::Information, message::Ok, Caption());
         txtMoneda.SetFocus();
         return false;
     }
-    if (auto* list = module_.Loaded<CursValutar>()) list->ApplyDateFilter();
+    if (auto* list = application_.Loaded<CursValutar>()) list->ApplyDateFilter();
     return true;
 }
 

@@ -11,7 +11,7 @@
 #include "forms/model/form.h"
 #include "rates/rate_rules.h"
 #include "rates/rate_store.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::rates {
 
@@ -21,7 +21,7 @@ class CereMoneda : public forms::Form {
   public:
     enum Action { Accept, Cancel };
 
-    explicit CereMoneda(shell::Module& module);
+    explicit CereMoneda(shell::Application& application);
 
     /// Set by the opener before the window is loaded.
     CurrencyMode Mode = CurrencyMode::Remove;
@@ -50,7 +50,7 @@ class CereMoneda : public forms::Form {
     void cmbMoneda_KeyDown(int& keyCode);
     void CancelOnEscape(int keyCode);
 
-    shell::Module& module_;
+    shell::Application& application_;
     RateStore store_;
     forms::ImageList lstImages_;
 };

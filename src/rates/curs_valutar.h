@@ -14,7 +14,7 @@
 #include "rates/rate_rules.h"
 #include "rates/rate_store.h"
 #include "rates/rate_values.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::rates {
 
@@ -24,7 +24,7 @@ class CursValutar : public forms::Form {
     /// The indices of cmdAction. No button carries RemoveCurrency; the action is there for code alone.
     enum Action { AddDay, ModifyDay, DeleteDay, AddCurrency, RemoveCurrency, ShowEvolution, Close };
 
-    explicit CursValutar(shell::Module& module);
+    explicit CursValutar(shell::Application& application);
 
     void ShowForm();
 
@@ -94,7 +94,7 @@ class CursValutar : public forms::Form {
     void dpDataFin_KeyDown(int keyCode);
     void cmdRefresh_Click();
 
-    shell::Module& module_;
+    shell::Application& application_;
     RateStore store_;
     shell::ConnectionMark mark_;  ///< of the connection that the list was read on
     CurrencyNames currencyNames_;

@@ -16,7 +16,7 @@
 #include "rates/rate_rules.h"
 #include "rates/rate_store.h"
 #include "rates/rate_values.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::rates {
 
@@ -26,7 +26,7 @@ class CursValutarDetaliu : public forms::Form {
   public:
     enum Action { Accept, Cancel };
 
-    explicit CursValutarDetaliu(shell::Module& module);
+    explicit CursValutarDetaliu(shell::Application& application);
 
     /// Adds a day, or corrects the one that is selected in the rate list.
     void ShowForm(const CurrencyNames& names, EntryMode mode);
@@ -76,7 +76,7 @@ class CursValutarDetaliu : public forms::Form {
     void cmdAction_Click(int index);
     void CancelOnEscape(int keyCode);
 
-    shell::Module& module_;
+    shell::Application& application_;
     RateStore store_;
     shell::ConnectionMark mark_;  ///< of the connection that the entry was begun on
     forms::CellEditor editor_{Grid, txtCursValutar};

@@ -15,7 +15,7 @@
 #include "forms/model/form.h"
 #include "rates/rate_store.h"
 #include "rates/rate_values.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::rates {
 
@@ -25,7 +25,7 @@ class EvolutieCurs : public forms::Form {
   public:
     enum Action { Close, Redraw };
 
-    explicit EvolutieCurs(shell::Module& module);
+    explicit EvolutieCurs(shell::Application& application);
 
     forms::Label Label1;
     forms::ComboBox cmbAn;
@@ -80,7 +80,7 @@ class EvolutieCurs : public forms::Form {
     /// Swallows a key that leads nowhere, and lets it sound.
     void Ignore(int& keyCode) const;
 
-    shell::Module& module_;
+    shell::Application& application_;
     RateStore store_;
     forms::ImageList lstImages_;
     shell::ConnectionMark mark_;  ///< of the connection that the lists were read on

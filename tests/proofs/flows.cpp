@@ -288,7 +288,7 @@ std::vector<Flow> CurrencyFlows() {
         {"currency: cancelled", OpenCurrency, [](Session& user) { user.Click(Currency, "cmdAction(1)"); }},
         {"currency: removal", OpenList,
          [](Session& user) {
-             auto* list = user.module.Loaded<rates::CursValutar>();
+             auto* list = user.application.Loaded<rates::CursValutar>();
              if (list != nullptr && list->Enabled())
                  user.desktop.Guard([&] { list->cmdAction_Click(rates::CursValutar::RemoveCurrency); });
              user.Choose(Currency, "cmbMoneda", 1);

@@ -237,7 +237,7 @@ void RandomUser::Do(const RandomEvent& event) {
             DoDatabase(event);
             break;
         case EventKind::Operation:
-            if (auto* list = session_.module.Loaded<rates::CursValutar>();
+            if (auto* list = session_.application.Loaded<rates::CursValutar>();
                 list != nullptr && list->AcceptsInput()) {
                 session_.desktop.Guard([&] { list->cmdAction_Click(event.choice % 7); });
             }

@@ -39,10 +39,10 @@ class RatesTest : public WindowTest {
         AddDay("05-14-2003", 37500, 32100);
         connection =
             std::make_shared<RecordingConnection>(std::make_shared<host::EmbeddedConnection>(database));
-        module.context.connection = connection;
-        module.context.workDate = Day(2003, 5, 20);
-        module.context.workYear = 2003;
-        module.context.companyId = 7;
+        application.context.connection = connection;
+        application.context.workDate = Day(2003, 5, 20);
+        application.context.workYear = 2003;
+        application.context.companyId = 7;
     }
 
     static data::OleDate Day(int year, int month, int day) { return data::ToOleDate({year, month, day}); }
@@ -62,7 +62,7 @@ class RatesTest : public WindowTest {
     }
 
     rates::CursValutar& OpenList() {
-        auto& list = module.Default<rates::CursValutar>();
+        auto& list = application.Default<rates::CursValutar>();
         list.ShowForm();
         return list;
     }

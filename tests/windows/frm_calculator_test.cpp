@@ -52,7 +52,7 @@ class FrmCalculatorTest : public CalculatorTest {
 // Opening and closing.
 
 TEST_F(FrmCalculatorTest, ItsRateLineIsNamedByItsDesignUntilItLoads) {
-    EXPECT_EQ(module.Default<FrmCalculator>().lblCurs.Caption(), "Curs Valutar:");
+    EXPECT_EQ(application.Default<FrmCalculator>().lblCurs.Caption(), "Curs Valutar:");
 }
 
 TEST_F(FrmCalculatorTest, OpensWithZeroInLeiAndTwoDecimals) {
@@ -72,7 +72,7 @@ TEST_F(FrmCalculatorTest, OpensWithZeroInLeiAndTwoDecimals) {
 }
 
 TEST_F(FrmCalculatorTest, LoadingAloneShowsIt) {
-    module.Default<FrmCalculator>().Load();
+    application.Default<FrmCalculator>().Load();
     EXPECT_EQ(ActiveWindow(), "frmCalculator");
 }
 
@@ -449,7 +449,7 @@ TEST_F(FrmCalculatorTest, DividingByZeroIsReportedThroughANewServiceWhereThereIs
 }
 
 TEST_F(FrmCalculatorTest, DividingByZeroUsesTheServiceOfTheOtherWindows) {
-    module.CreateMessageService();
+    application.CreateMessageService();
     Open();
     keyboard.Type("5/0%");
     EXPECT_THAT(messages.shown, ElementsAre(ShownMessage{"Impartire la 0 !!", 48, 0, "Eroare"}));

@@ -72,7 +72,7 @@ TEST_F(HighContrastTest, EveryWindowIsDrawnInTheSystemsColors) {
 }
 
 TEST_F(HighContrastTest, ASelectedRowIsHighlightedWithTheTextThatBelongsToIt) {
-    auto& list = module.Default<rates::CursValutar>();
+    auto& list = application.Default<rates::CursValutar>();
     list.ShowForm();
     list.SelectWholeRow();
     list.Grid.SetFocus();
@@ -89,7 +89,7 @@ TEST_F(HighContrastTest, ASelectedRowIsHighlightedWithTheTextThatBelongsToIt) {
 }
 
 TEST_F(HighContrastTest, ADisabledControlIsGreyed) {
-    auto& list = module.Default<rates::CursValutar>();
+    auto& list = application.Default<rates::CursValutar>();
     list.ShowForm();
     list.cmdRefresh.SetEnabled(false);
     for (const Drawn& drawn : Draw(list.cmdRefresh)) {

@@ -18,15 +18,15 @@ namespace tavrin::shell {
 /// Everything that the windows of one loaded component share: the host's values, the desktop they stand on,
 /// the message service and one default instance per window class. A window keeps a reference to it and to no
 /// other window; it reaches those through Default and Loaded.
-class Module {
+class Application {
   public:
     using MessageServiceFactory = std::function<std::unique_ptr<MessageService>()>;
-    using Launcher = std::function<void(Module&)>;
+    using Launcher = std::function<void(Application&)>;
 
-    Module(forms::Desktop& desktop, MessageServiceFactory createMessageService);
-    ~Module();
-    Module(const Module&) = delete;
-    Module& operator=(const Module&) = delete;
+    Application(forms::Desktop& desktop, MessageServiceFactory createMessageService);
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
 
     HostContext context;
 
