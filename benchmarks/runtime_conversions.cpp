@@ -1,7 +1,6 @@
 // Whether the C runtime's conversions of doubles, which know no locale, could stand in the place of the
 // component's own: how often they answer something else, by kinds of numbers, and how long they take as a
-// ratio to them. Numbers that the quick way for amounts takes are left out; so is nothing that a window could
-// be given.
+// ratio to them. Numbers that the quick way for amounts takes are left out.
 //
 //     runtime_conversions [thousands of numbers of each kind, 1000 unless given]
 
