@@ -85,12 +85,12 @@ void ReadRows(benchmark::State& state) {
 void OpenWindow(benchmark::State& state) {
     tavrin::tests::HeadlessDesktop desktop;
     tavrin::tests::RecordingMessages messages;
-    tavrin::shell::Module module(desktop, [&] { return messages.CreateService(); });
-    module.context.connection = Book(state.range(0));
+    tavrin::shell::Application application(desktop, [&] { return messages.CreateService(); });
+    application.context.connection = Book(state.range(0));
     for (auto each : state) {
         (void)each;
         const double start = ProcessorTime();
-        auto& window = module.Default<Agenda>();
+        auto& window = application.Default<Agenda>();
         window.ShowForm();
         state.SetIterationTime(ProcessorTime() - start);
         window.Unload();

@@ -44,8 +44,8 @@ void PressKeys(benchmark::State& state, std::string_view keys) {
 void TypeIntoTheWindow(benchmark::State& state, std::string_view keys) {
     tests::HeadlessDesktop desktop;
     tests::RecordingMessages messages;
-    tavrin::shell::Module module(desktop, [&] { return messages.CreateService(); });
-    auto& window = module.Default<tavrin::calculator::FrmCalculator>();
+    tavrin::shell::Application application(desktop, [&] { return messages.CreateService(); });
+    auto& window = application.Default<tavrin::calculator::FrmCalculator>();
     window.Load();
     window.SetCursCurent(Rate);
     tests::HeadlessKeyboard keyboard(desktop);

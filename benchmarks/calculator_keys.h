@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "forms/grouped_number.h"
+#include "data/text/grouped_number.h"
 #include "unit/calculator/two_displays.h"
 
 namespace tavrin::bench {
@@ -22,11 +22,11 @@ class TextDisplays : public tests::TwoDisplays {
   public:
     void ShowValues() override {
         TwoDisplays::ShowValues();
-        forms::WriteGroupedNumber(leiText, conversion.Lei(), 2, locale);
-        forms::WriteGroupedNumber(currencyText, conversion.Currency(), 2, locale);
+        data::WriteGroupedNumber(leiText, conversion.Lei(), 2, locale);
+        data::WriteGroupedNumber(currencyText, conversion.Currency(), 2, locale);
     }
 
-    forms::Locale locale;
+    data::Locale locale;
     std::string leiText;
     std::string currencyText;
 };

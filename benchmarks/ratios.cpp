@@ -13,6 +13,7 @@
 #include "addressbook/agenda.h"
 #include "alternating.h"
 #include "calculator_keys.h"
+#include "data/text/number_text.h"
 #include "host/embedded/embedded_connection.h"
 #include "host/embedded/embedded_database.h"
 #include "note_speed.h"
@@ -47,12 +48,12 @@ struct Component {
         std::make_shared<host::EmbeddedConnection>(database);
     tests::HeadlessDesktop desktop;
     tests::RecordingMessages messages;
-    shell::Module module{desktop, [this] { return messages.CreateService(); }};
+    shell::Application application{desktop, [this] { return messages.CreateService(); }};
 
     Component() {
-        module.context.connection = connection;
-        module.context.workDate = data::ToOleDate({2004, 1, 31});
-        module.context.workYear = 2003;
+        application.context.connection = connection;
+        application.context.workDate = data::ToOleDate({2004, 1, 31});
+        application.context.workYear = 2003;
     }
 };
 
@@ -88,7 +89,7 @@ void FillRates(host::EmbeddedDatabase& database, int rows, int currencies) {
                       row % perDay / 60, row % perDay % 60);
         std::string values = "'" + std::string(text) + "',0";
         for (int i = 0; i < currencies; ++i)
-            values += "," + data::ShortestDecimal(30000 + row % 977 + i / 4.0);
+            values += "," + data::NumberText(30000 + row % 977 + i / 4.0);
         database.Run("INSERT INTO [Curs Valutar] VALUES(" + values + ")");
     }
     transaction.Commit();
@@ -100,7 +101,7 @@ void CompareRateList(int rows, int currencies) {
     rates::CurrencyNames names;
     for (int i = 0; i < currencies; ++i)
         names.Add(CurrencyName(i));
-    auto& list = component.module.Default<CursValutar>();
+    auto& list = component.application.Default<CursValutar>();
     list.ShowForm();
     list.dpDataIn.SetDate(data::ToOleDate({2003, 1, 1}));
     list.ApplyDateFilter();
@@ -157,15 +158,15 @@ void Print(const char* what, int persons, const bench::Comparison& compared) {
 void CompareOpening(Component& component, int persons) {
     const bench::Comparison compared = bench::Compare(
         Rounds, [&] { ReadBare(*component.connection, addressbook::ListStatement("%", "%")); },
-        [&] { component.module.Default<Agenda>().ShowForm(); },
+        [&] { component.application.Default<Agenda>().ShowForm(); },
         [&] {
-            if (auto* window = component.module.Loaded<Agenda>()) window->Unload();
+            if (auto* window = component.application.Loaded<Agenda>()) window->Unload();
         });
     Print("open", persons, compared);
 }
 
 void CompareSearch(Component& component, int persons) {
-    auto& window = component.module.Default<Agenda>();
+    auto& window = component.application.Default<Agenda>();
     window.ShowForm();
     window.TextBoxes[Agenda::SearchNumeBox].SetText("Nume 0%");
     tests::HeadlessKeyboard keyboard(component.desktop);
@@ -181,7 +182,7 @@ void CompareSearch(Component& component, int persons) {
 
 /// One person more, found and shown again. The bare work is the statement and the list read anew.
 void CompareInsertion(Component& component, int persons) {
-    auto& window = component.module.Default<Agenda>();
+    auto& window = component.application.Default<Agenda>();
     window.ShowForm();
     const auto list = component.connection->CreateRecordset();
     list->Open(addressbook::ListStatement("%", "%"));

@@ -10,15 +10,15 @@
 #include <string>
 #include <string_view>
 
-#include "calculator/number_text.h"
-#include "data/date.h"
 #include "data/error.h"
-#include "data/rounding.h"
+#include "data/text/date.h"
+#include "data/text/date_format.h"
+#include "data/text/grouped_number.h"
+#include "data/text/number_format.h"
+#include "data/text/number_text.h"
+#include "data/text/rounding.h"
+#include "data/text/utf8.h"
 #include "data/value.h"
-#include "forms/date_format.h"
-#include "forms/grouped_number.h"
-#include "forms/number_format.h"
-#include "forms/utf8.h"
 #include "host/embedded/dialect/date_literal.h"
 #include "host/embedded/money_text.h"
 #include "host/embedded/text_rules.h"
@@ -52,21 +52,21 @@ void ReadDates(const std::string& text) {
     MayRefuse([&] { static_cast<void>(value.ToDate()); });
     for (const auto type : {host::dialect::TypeKind::DateTime, host::dialect::TypeKind::SmallDateTime})
         MayRefuse([&] { static_cast<void>(host::dialect::ParseDateLiteral(text, type)); });
-    for (const forms::DatePiece& piece : forms::ParseDateFormat(text))
-        static_cast<void>(piece.Text({2003, 5, 20}, forms::Locale()));
+    for (const data::DatePiece& piece : data::ParseDateFormat(text))
+        static_cast<void>(piece.Text({2003, 5, 20}, data::Locale()));
 }
 
 /// A text has at most 15 significant digits and stands for a number that has the same text.
 void DemandSameText(double number) {
-    const std::string text = data::ShortestDecimal(number);
+    const std::string text = data::NumberText(number);
     Demand(text.find_first_of("eE") == std::string::npos, "exponent", text);
-    Demand(data::ShortestDecimal(data::Value(text).ToDouble()) == text, "read back", text);
-    Demand(data::ShortestDecimal(data::RoundHalfEven(number, 6)).size() <= text.size(), "rounded", text);
+    Demand(data::NumberText(data::Value(text).ToDouble()) == text, "read back", text);
+    Demand(data::NumberText(data::RoundHalfEven(number, 6)).size() <= text.size(), "rounded", text);
 }
 
 void DemandRewritten(const std::string& text, double read) {
     std::string again;
-    calculator::WriteNumber(again, read, ",");
+    data::WriteNumber(again, read, ",");
     Demand(again == text, "written", text);
 }
 
@@ -78,15 +78,15 @@ void ReadNumbers(const std::string& text) {
     });
     MayRefuse([&] { static_cast<void>(value.ToInteger()); });
     for (const char* separator : {",", "."}) {
-        forms::Locale locale;
+        data::Locale locale;
         locale.decimalSeparator = separator;
         locale.thousandsSeparator = *separator == ',' ? "." : ",";
         MayRefuse([&] { static_cast<void>(rates::NumberOfRateText(text, locale)); });
-        const double number = calculator::ReadNumber(text, separator);
+        const double number = data::ReadNumber(text, separator);
         Demand(!std::isnan(number), "no number", text);
     }
     for (const int decimals : {0, 2, 6})
-        static_cast<void>(forms::FormatNumber(text, {.decimals = decimals, .leadingZero = true}));
+        static_cast<void>(data::FormatNumber(text, {.decimals = decimals, .leadingZero = true}));
 }
 
 void ReadTexts(const std::string& text) {
@@ -96,7 +96,7 @@ void ReadTexts(const std::string& text) {
     const std::size_t units = host::Utf16Length(text);
     Demand(host::Utf16Prefix(text, units) == text, "its own prefix", text);
     Demand(host::Utf16Length(host::Utf16Prefix(text, units / 2)) <= units / 2, "half", text);
-    Demand(forms::CountCharacters(text) >= 0, "characters", text);
+    Demand(data::CountCharacters(text) >= 0, "characters", text);
     const std::size_t half = text.size() / 2;
     const std::string left = text.substr(0, half);
     const std::string right = text.substr(half);
@@ -110,12 +110,12 @@ void WriteNumbers(double number) {
     std::string text;
     if (std::isfinite(number)) {
         MayRefuse([&] { DemandSameText(number); });
-        calculator::WriteNumber(text, number, ",");
-        const double read = calculator::ReadNumber(text, ",");
+        data::WriteNumber(text, number, ",");
+        const double read = data::ReadNumber(text, ",");
         if (std::isfinite(read)) DemandRewritten(text, read);
     }
     for (int decimals = 0; decimals <= 6; ++decimals)
-        forms::WriteGroupedNumber(text, number, decimals, forms::Locale());
+        data::WriteGroupedNumber(text, number, decimals, data::Locale());
     const data::OleDate date{number};
     MayRefuse([&] { static_cast<void>(data::Value(number).ToInteger()); });
     static_cast<void>(data::Value(date).ToText());
@@ -127,7 +127,7 @@ void WriteNumbers(double number) {
         static_cast<void>(host::MoneyText(*money, host::Thousands::Grouped));
         static_cast<void>(host::MoneyText(*money, host::Thousands::Plain));
     }
-    static_cast<void>(rates::RateCaption(number, "EUR", forms::Locale()));
+    static_cast<void>(rates::RateCaption(number, "EUR", data::Locale()));
 }
 
 }  // namespace

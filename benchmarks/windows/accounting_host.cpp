@@ -2,7 +2,7 @@
 
 #include <objbase.h>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "e2e/driver/wait.h"
 #include "host/embedded/demo_data.h"
 #include "windows/message_loop.h"

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <memory>
 
-#include "forms/chart.h"
-#include "forms/form.h"
+#include "forms/controls/chart.h"
+#include "forms/model/form.h"
 #include "win32/desktop/desktop.h"
 #include "windows/costs.h"
 #include "windows/gdiplus_chart.h"

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/chart.h"
+#include "forms/controls/chart.h"
 
 namespace tavrin::bench {
 

@@ -5,9 +5,10 @@
 #include <string>
 
 #include "data/memory_table.h"
+#include "data/text/number_text.h"
 #include "data/value.h"
-#include "forms/form.h"
-#include "forms/grid.h"
+#include "forms/controls/grid.h"
+#include "forms/model/form.h"
 #include "win32/base/text.h"
 #include "win32/desktop/desktop.h"
 #include "windows/accounting_host.h"
@@ -48,7 +49,7 @@ void FillRates(host::EmbeddedDatabase& database, int rows) {
                       second / 60 % 60, second % 60);
         std::string statement = "INSERT INTO [Curs Valutar] VALUES('" + std::string(text) + "',0";
         for (std::size_t i = 0; i < currencies; ++i)
-            statement += "," + data::ShortestDecimal(30000 + row % 977 + static_cast<double>(i) / 4);
+            statement += "," + data::NumberText(30000 + row % 977 + static_cast<double>(i) / 4);
         database.Run(statement + ")");
     }
     transaction.Commit();

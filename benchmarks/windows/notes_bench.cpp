@@ -18,8 +18,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/form.h"
-#include "forms/rich_text_box.h"
+#include "forms/controls/rich_text_box.h"
+#include "forms/model/form.h"
 #include "notes/rtf_reader.h"
 #include "notes/rtf_writer.h"
 #include "sample_note.h"

@@ -37,13 +37,13 @@ constexpr Way Ways[] = {{"Notes", "Utilitati", "cmdAction(0)"},
                         {"EvolutieCurs", "CursValutar", "cmdAction(5)"},
                         {"AlegeMoneda", "frmCalculator", "cmdVal"}};
 
-e2e::Window Follow(const Way& way) {
+e2e::Window OpenBy(const Way& way) {
     return AccountingHost::Open(e2e::AwaitForm(way.opener), way.control, way.window);
 }
 
 void Open(const char* window) {
     if (e2e::FindForm(window)) return;
-    Follow(*std::ranges::find(Ways, std::string_view(window), &Way::window));
+    OpenBy(*std::ranges::find(Ways, std::string_view(window), &Way::window));
 }
 
 SIZE SizeOf(const e2e::Window& window) {
@@ -82,7 +82,7 @@ void CompareWindow(const Way& way) {
     const auto ours = [&] {
         Open(way.opener);  // one of them closes it
         Settle();
-        const double time = MillisecondsOf([&] { Follow(way); });
+        const double time = MillisecondsOf([&] { OpenBy(way); });
         const e2e::Window window = e2e::AwaitForm(way.window);
         size = SizeOf(window);
         AccountingHost::Close(window);

@@ -5,7 +5,7 @@
 #include <map>
 #include <vector>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "doctor/core/questions.h"
 #include "doctor/core/window_statements.h"
 #include "rates/rate_statements.h"

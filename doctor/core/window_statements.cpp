@@ -1,6 +1,6 @@
 #include "doctor/core/window_statements.h"
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "rates/chooser_statements.h"
 #include "rates/evolution_statements.h"
 #include "rates/rate_statements.h"

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <random>
 
-#include "data/date.h"
+#include "data/text/date.h"
 
 namespace tavrin::host {
 namespace {
@@ -24,9 +24,9 @@ constexpr std::array<Trend, 6> Trends{{{"EUR", 1, 25200, 40600},
                                        {"$", 2, 26300, 32900}}};
 
 /// A rate that strays from its trend and is drawn back to it.
-class Walk {
+class RandomWalk {
   public:
-    explicit Walk(const Trend& trend) : trend_(trend), random_(trend.seed) {}
+    explicit RandomWalk(const Trend& trend) : trend_(trend), random_(trend.seed) {}
 
     /// \param progress from 0 on the first day to 1 at the end of the last year
     long long Next(double progress) {
@@ -63,7 +63,7 @@ void CreateRateTables(EmbeddedDatabase& database) {
 
 void CreateDemoRates(EmbeddedDatabase& database) {
     CreateRateTables(database);
-    std::vector<Walk> walks;
+    std::vector<RandomWalk> walks;
     walks.reserve(Trends.size());
     for (const Trend& trend : Trends)
         walks.emplace_back(trend);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "host/embedded/embedded_database.h"
 
 namespace tavrin::host {

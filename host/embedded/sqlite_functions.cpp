@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "host/embedded/dialect/function_names.h"
 #include "host/embedded/dialect/provider_error.h"
 #include "host/embedded/money_text.h"

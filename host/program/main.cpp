@@ -10,8 +10,8 @@
 #include <stdexcept>
 #include <vector>
 
-#include "data/date.h"
 #include "data/error.h"
+#include "data/text/date.h"
 #include "host/ado/connection_object.h"
 #include "host/ado/recordset_factory.h"
 #include "host/embedded/demo_data.h"

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "host/embedded/demo_rates.h"
 
 namespace tavrin::host {

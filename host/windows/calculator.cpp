@@ -1,4 +1,4 @@
-#include "forms/keys.h"
+#include "forms/model/keys.h"
 #include "host/windows/catalogue.h"
 
 namespace tavrin::host {

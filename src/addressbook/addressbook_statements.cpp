@@ -1,6 +1,6 @@
 #include "addressbook/addressbook_statements.h"
 
-#include "addressbook/text_rules.h"
+#include "data/text/trim.h"
 
 namespace tavrin::addressbook {
 
@@ -24,7 +24,7 @@ std::string InsertStatement(const Person& person) {
         "VALUES ( '";
     std::string_view separator;
     for (const std::string& value : person) {
-        statement.append(separator).append(Trimmed(value));
+        statement.append(separator).append(data::Trimmed(value));
         separator = "','";
     }
     return statement.append("')");
@@ -34,17 +34,20 @@ std::string UpdateStatement(const Person& person) {
     std::string statement = "UPDATE [AGENDA] ";
     std::string_view lead = "   SET ";
     for (std::size_t column = FirstDetailColumn; column < Columns.size(); ++column) {
-        statement.append(lead).append(Columns[column]).append(" ='").append(Trimmed(person[column]));
+        statement.append(lead).append(Columns[column]).append(" ='").append(data::Trimmed(person[column]));
         statement.append(column + 1 < Columns.size() ? "'," : "'");
         lead = "       ";
     }
-    statement.append(" WHERE Nume ='").append(Trimmed(person[NumeColumn]));
-    return statement.append("' AND Prenume ='").append(Trimmed(person[PrenumeColumn])).append("'");
+    statement.append(" WHERE Nume ='").append(data::Trimmed(person[NumeColumn]));
+    return statement.append("' AND Prenume ='").append(data::Trimmed(person[PrenumeColumn])).append("'");
 }
 
 std::string DeleteStatement(std::string_view nume, std::string_view prenume) {
     std::string statement = "DELETE FROM [AGENDA] WHERE Nume = '";
-    statement.append(Trimmed(nume)).append("' AND Prenume = '").append(Trimmed(prenume)).append("'");
+    statement.append(data::Trimmed(nume))
+        .append("' AND Prenume = '")
+        .append(data::Trimmed(prenume))
+        .append("'");
     return statement;
 }
 

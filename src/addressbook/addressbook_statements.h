@@ -11,8 +11,8 @@ namespace tavrin::addressbook {
 // built here, runs of blanks included. Values are trimmed, and nothing is escaped: an apostrophe that was
 // pasted into a box makes a statement that the server refuses.
 
-/// Everybody whose names match, in the order of their names. Patterns are the server's own: see
-/// SearchPattern.
+/// Everybody whose names match, ordered by name. The patterns are LIKE patterns of the server
+/// (SearchPattern).
 std::string ListStatement(std::string_view numePattern, std::string_view prenumePattern);
 
 std::string InsertStatement(const Person& person);

@@ -4,6 +4,7 @@
 
 #include "addressbook/messages.h"
 #include "addressbook/text_rules.h"
+#include "data/text/trim.h"
 #include "shell/window_helpers.h"
 
 namespace tavrin::addressbook {
@@ -13,7 +14,7 @@ namespace {
 namespace key = forms::key;
 namespace message = shell::message;
 using forms::Icon;
-using Answer = shell::Module::Answer;
+using Answer = shell::Application::Answer;
 
 constexpr std::uint8_t DarkMode = 1;
 constexpr int FirstRow = 1;
@@ -26,10 +27,10 @@ constexpr int ButtonsComeShort = 20;
 
 }  // namespace
 
-Agenda::Agenda(shell::Module& module)
-    : AgendaDesign(module.Desktop()),
-      module_(module),
-      store_(module.context),
+Agenda::Agenda(shell::Application& application)
+    : AgendaDesign(application.Desktop()),
+      application_(application),
+      store_(application.context),
       lstImages_{{3, Icon::Modify},  {17, Icon::Add},    {22, Icon::Accept},
                  {23, Icon::Cancel}, {27, Icon::Remove}, {30, Icon::AddressBook}} {
     ConnectEvents();
@@ -65,7 +66,7 @@ void Agenda::OnLoad() {
     Mode = EditMode::Browse;
     // A list that cannot be read is reported, and the rest of the window is made all the same.
     OwnerDesktop().Guard({this, nullptr, forms::event::Load}, [this] { LoadList(); });
-    module_.CreateMessageService();
+    application_.CreateMessageService();
 }
 
 void Agenda::SetPictures() {
@@ -230,8 +231,8 @@ void Agenda::ClearFields() {
 }
 
 void Agenda::Refuse(std::size_t missingColumn) {
-    module_.ShowMessage(missingColumn == NumeColumn ? text::NumeRequired : text::PrenumeRequired,
-                        message::Error, message::Ok, Caption());
+    application_.ShowMessage(missingColumn == NumeColumn ? text::NumeRequired : text::PrenumeRequired,
+                             message::Error, message::Ok, Caption());
     TextBoxes[FirstColumnBox + static_cast<int>(missingColumn)].SetFocus();
 }
 
@@ -316,7 +317,7 @@ void Agenda::CancelEdit() {
 }
 
 void Agenda::AskToLeave() {
-    if (module_.Ask(*this, text::LeaveQuestion, text::LeaveTitle) == Answer::Yes) Unload();
+    if (application_.Ask(*this, text::LeaveQuestion, text::LeaveTitle) == Answer::Yes) Unload();
 }
 
 void Agenda::AddPerson() {
@@ -331,7 +332,7 @@ void Agenda::AddPerson() {
 
 void Agenda::ModifyPerson() {
     if (!ShowsCurrentList()) return;
-    store_.DemandNames();
+    store_.RequireNames();
     SavedRow = Grid.Row();
     Mode = EditMode::Modify;
     SetEditMode(true);
@@ -341,12 +342,12 @@ void Agenda::ModifyPerson() {
 
 void Agenda::DeletePerson() {
     if (!ShowsCurrentList()) return;
-    store_.DemandNames();
-    const std::string nume(Trimmed(TextBoxes[NumeBox].Text()));
-    const std::string prenume(Trimmed(TextBoxes[PrenumeBox].Text()));
-    module_.lastQuestion = text::DeleteQuestion + nume + " " + prenume + text::DeleteQuestionEnd;
+    store_.RequireNames();
+    const std::string nume(data::Trimmed(TextBoxes[NumeBox].Text()));
+    const std::string prenume(data::Trimmed(TextBoxes[PrenumeBox].Text()));
+    application_.lastQuestion = text::DeleteQuestion + nume + " " + prenume + text::DeleteQuestionEnd;
     const int row = Grid.Row();
-    const Answer answer = module_.Ask(*this, module_.lastQuestion, Caption());
+    const Answer answer = application_.Ask(*this, application_.lastQuestion, Caption());
     if (answer == Answer::No) Grid.SetFocus();
     // The person that the question named, and in the data that it was about: a host may call while it is up.
     if (answer != Answer::Yes || Mode != EditMode::Browse || Grid.Row() != row) return;

@@ -8,8 +8,8 @@
 #include "addressbook/edit_rules.h"
 #include "addressbook/person.h"
 #include "addressbook/person_store.h"
-#include "forms/image_list.h"
-#include "shell/module.h"
+#include "forms/drawing/image_list.h"
+#include "shell/application.h"
 
 namespace tavrin::addressbook {
 
@@ -19,7 +19,7 @@ namespace tavrin::addressbook {
 /// sent it.
 class Agenda : public AgendaDesign {
   public:
-    explicit Agenda(shell::Module& module);
+    explicit Agenda(shell::Application& application);
 
     void ShowForm();
 
@@ -48,10 +48,10 @@ class Agenda : public AgendaDesign {
     void FormatGrid();
     void SelectRow();
     int RowOfShownPerson() const;
-    /// Moves the list to a row and shows its person. What of it cannot be read is left empty.
+    /// Moves the list to a row and shows its person. Fields that cannot be read stay empty.
     void ShowRow(int row);
-    /// Whether the list in sight is that of the host's database of this moment. Where it is not, it is read
-    /// there, and whoever was to be changed is to be looked at again first.
+    /// Whether the list shown was read from the host's current connection. If not, reads it again and answers
+    /// false: the user has to look at the person again before changing it.
     bool ShowsCurrentList();
 
     // The layouts and modes.
@@ -87,7 +87,7 @@ class Agenda : public AgendaDesign {
     void TextBoxes_GotFocus(int index);
     void Grid_KeyDown(int keyCode);
 
-    shell::Module& module_;
+    shell::Application& application_;
     PersonStore store_;
     forms::ImageList lstImages_;
     bool isEditing_ = false;  ///< as SetEditMode was last told

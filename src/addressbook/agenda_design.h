@@ -1,19 +1,19 @@
 #pragma once
 
-#include "forms/command_button.h"
-#include "forms/control_array.h"
-#include "forms/decoration.h"
-#include "forms/form.h"
-#include "forms/frame.h"
-#include "forms/grid.h"
-#include "forms/image.h"
-#include "forms/label.h"
-#include "forms/text_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/decoration.h"
+#include "forms/controls/frame.h"
+#include "forms/controls/grid.h"
+#include "forms/controls/image.h"
+#include "forms/controls/label.h"
+#include "forms/controls/text_box.h"
+#include "forms/model/control_array.h"
+#include "forms/model/form.h"
 
 namespace tavrin::addressbook {
 
-/// The address book's window as it is drawn up, before anything happens in it: its controls, their places and
-/// captions, and the state they open in, which is that of browsing. It has no behaviour.
+/// The layout of the address book's window: its controls, their places and captions, and the state in which
+/// they open, which is browsing. It has no behaviour.
 class AgendaDesign : public forms::Form {
   public:
     enum Action { Accept, Cancel, Add, Modify, Delete };

@@ -4,7 +4,7 @@
 #include <array>
 #include <span>
 
-#include "forms/keys.h"
+#include "forms/model/keys.h"
 
 namespace tavrin::addressbook {
 

@@ -1,6 +1,6 @@
 #include "addressbook/edit_rules.h"
 
-#include "addressbook/text_rules.h"
+#include "data/text/trim.h"
 
 namespace tavrin::addressbook {
 
@@ -14,7 +14,7 @@ bool CancelsEdit(const EditState& state) {
 
 std::optional<std::size_t> MissingColumn(const Person& person) {
     for (const std::size_t column : {NumeColumn, PrenumeColumn}) {
-        if (Trimmed(person[column]).empty()) return column;
+        if (data::IsBlank(person[column])) return column;
     }
     return std::nullopt;
 }

@@ -13,7 +13,7 @@ enum class EditMode { Browse, Add, Modify };
 
 struct EditState {
     EditMode mode = EditMode::Browse;
-    /// Whether the buttons of an edit are in sight. An edit that failed midway has its mode still.
+    /// Whether the buttons of an edit are visible. An edit that failed halfway is still in its mode.
     bool isEditing = false;
 };
 
@@ -26,7 +26,7 @@ struct OpenBoxes {
 /// A name that is in the book never changes.
 OpenBoxes OpenBoxesOf(const EditState& state);
 
-/// Whether the button that cancels an edit and leaves the window does the first.
+/// Whether the Cancel button cancels an edit; otherwise it leaves the window.
 bool CancelsEdit(const EditState& state);
 
 /// The first column that a person may not be saved without; nothing when all are filled.

@@ -14,8 +14,7 @@ inline constexpr char LeaveTitle[] = "Iesire";
 inline constexpr char DeleteQuestion[] = "Doriti sa stergeti din agenda persoana ";
 inline constexpr char DeleteQuestionEnd[] = " ?";
 
-/// For a delete that the database refuses. Nothing shows it: such a refusal is reported as the provider words
-/// it.
+/// For a delete that the database refuses. Never shown: such a refusal is reported in the provider's words.
 inline constexpr char PersonInUse[] =
     "Nu poate fi stearsa aceasta inregistrare deoarece exista inregistrari conexe care o utilizeaza ! ";
 

@@ -7,7 +7,7 @@
 
 namespace tavrin::addressbook {
 
-/// The table's columns, in the order of the list's fields. The first two are what tells persons apart.
+/// The table's columns, in the order of the list's fields. The first two identify a person.
 inline constexpr std::array<std::string_view, 16> Columns = {
     "Nume",         "Prenume", "AdresaHome",     "OrasHome",    "JudetHome", "TelefonAcasa",
     "TelefonMobil", "Email",   "DescriereFirma", "AdresaFirma", "OrasFirma", "JudetFirma",

@@ -8,6 +8,7 @@
 #include "addressbook/addressbook_statements.h"
 #include "addressbook/text_rules.h"
 #include "data/error.h"
+#include "data/text/trim.h"
 
 namespace tavrin::addressbook {
 
@@ -15,8 +16,8 @@ namespace {
 
 bool IsNamed(const data::Value& value, std::string_view name) {
     // A text is compared where it lies: the search goes through every row of a long list.
-    if (const auto* text = std::get_if<std::string>(&value.Content())) return Trimmed(*text) == name;
-    return Trimmed(value.ToText()) == name;
+    if (const auto* text = std::get_if<std::string>(&value.Content())) return data::Trimmed(*text) == name;
+    return data::Trimmed(value.ToText()) == name;
 }
 
 std::string StatementOf(const PersonSearch& search) {
@@ -67,7 +68,7 @@ void PersonStore::ReadColumns(Person& person, std::size_t count) const {
     }
 }
 
-void PersonStore::DemandNames() const {
+void PersonStore::RequireNames() const {
     Person person;
     ReadColumns(person, FirstDetailColumn);
 }
@@ -77,7 +78,7 @@ void PersonStore::Add(const Person& person) const {
 }
 
 void PersonStore::Change(const Person& person) const {
-    mark_.Demand(context_);
+    mark_.RequireCurrent(context_);
     context_.Database().Execute(UpdateStatement(person));
 }
 
@@ -87,8 +88,8 @@ void PersonStore::Remove(std::string_view nume, std::string_view prenume) const 
 
 int FindPerson(const data::Table& persons, std::string_view nume, std::string_view prenume) {
     if (persons.FieldCount() <= PrenumeColumn) return 0;
-    const std::string_view wantedNume = Trimmed(nume);
-    const std::string_view wantedPrenume = Trimmed(prenume);
+    const std::string_view wantedNume = data::Trimmed(nume);
+    const std::string_view wantedPrenume = data::Trimmed(prenume);
     for (std::size_t row = 0; row < persons.RowCount(); ++row) {
         if (IsNamed(persons.At(row, NumeColumn), wantedNume) &&
             IsNamed(persons.At(row, PrenumeColumn), wantedPrenume)) {

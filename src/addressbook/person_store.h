@@ -11,45 +11,45 @@
 
 namespace tavrin::addressbook {
 
-/// Whom the list is to show, as the search boxes have it: blank for everybody, "/" for any text.
+/// The text of the search boxes: blank finds everybody, "/" stands for any text.
 struct PersonSearch {
     std::string nume;
     std::string prenume;
 };
 
-/// The persons in the host's database: the list of those that a search finds, and what changes them. The list
-/// is one recordset that lives as long as its window: opened, requeried and walked, but never written
-/// through. Rows are counted from 1, as the window's grid counts them. It is opened on the host's connection
-/// of that moment. Before the first Load, and after Release, every use of it fails with error 91; what the
-/// provider refuses comes out as data::Error.
+/// The persons in the host's database: the list that a search finds, and the changes to it. The list is one
+/// recordset that lives as long as its window: opened, requeried and navigated, but never written through.
+/// Rows are counted from 1, as the window's grid counts them. It is opened on the host's connection of that
+/// moment. Before the first Load, and after Release, every use of it fails with error 91; what the provider
+/// refuses comes out as data::Error.
 class PersonStore {
   public:
     explicit PersonStore(const shell::HostContext& context) : context_(context) {}
 
-    /// Closes what was open, and lists whom the search finds.
+    /// Closes the open list and opens one of the persons that the search finds.
     void Load(const PersonSearch& search);
-    /// Runs again what is open. A list that is not, or that was opened on a connection which is not the
-    /// host's any more, is loaded.
+    /// Runs the open query again. If none is open, or it was opened on a connection that is no longer the
+    /// host's, loads the list.
     void Refresh(const PersonSearch& search);
     void Release();
 
-    /// Whether the list is open, and where a statement would run now.
+    /// Whether the list is open on the host's current connection.
     bool IsCurrent() const { return IsOpen() && mark_.IsCurrent(context_); }
     /// An unopened list has none.
     bool HasRows() const { return IsOpen() && recordset_->HasRows(); }
     data::TablePtr ReadAll() { return Rows().ReadAll(); }
 
-    /// Moves to a row; beyond the last one, which other users' deletions make possible, to the last. A
-    /// provider that does not count its rows is taken at the word of the row.
+    /// Moves to a row, or to the last if there are fewer, as after other users' deletions. If the provider
+    /// does not count its rows, the row is not checked.
     void MoveTo(int row);
     /// Fills in the columns of the current row in their order.
     /// \throws data::Error 94 at the first that is NULL, which no text box can show; the rest stay as they
     /// are
     void Read(Person& person) const { ReadColumns(person, Columns.size()); }
     /// \throws data::Error 94 where no statement could name the current row, because a name is NULL
-    void DemandNames() const;
+    void RequireNames() const;
 
-    /// A new person belongs into whatever book the host is at.
+    /// Runs on the host's current connection, whichever the list was read from.
     void Add(const Person& person) const;
     /// The details of the person of that name, in the book that the list was read from.
     /// \throws data::Error 91 without a connection, 3709 where the host has turned to another one

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "data/text/trim.h"
+
 namespace tavrin::addressbook {
 
 namespace {
@@ -10,18 +12,12 @@ constexpr char UserWildcard = '/';
 constexpr char ServerWildcard = '%';
 }  // namespace
 
-std::string_view Trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 bool IsRefused(char32_t character) {
     return RefusedCharacters.find(character) != std::u32string_view::npos;
 }
 
 std::string SearchPattern(std::string_view boxText) {
-    if (Trimmed(boxText).empty()) return std::string(1, ServerWildcard);
+    if (data::IsBlank(boxText)) return std::string(1, ServerWildcard);
     std::string pattern(boxText);
     std::ranges::replace(pattern, UserWildcard, ServerWildcard);
     return pattern;

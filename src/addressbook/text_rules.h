@@ -7,9 +7,6 @@ namespace tavrin::addressbook {
 
 // What may stand in a box of the address book and how it is read.
 
-/// Without the blanks around it; other white space counts as text.
-std::string_view Trimmed(std::string_view text);
-
 /// The characters that no box takes from the keyboard. They are all that keeps quotes and wildcards out of
 /// the statements: pasted text is not looked at.
 bool IsRefused(char32_t character);

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "data/checked_arithmetic.h"
-#include "data/rounding.h"
+#include "data/text/rounding.h"
 
 namespace tavrin::calculator {
 

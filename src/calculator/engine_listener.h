@@ -2,15 +2,15 @@
 
 namespace tavrin::calculator {
 
-/// What the engine needs of whoever shows its numbers. An error thrown from here ends the command; a
-/// calculation that it cuts short begins anew.
+/// What the engine needs from whoever shows its numbers. An error thrown from here ends the command, and a
+/// calculation that it interrupts starts over.
 class EngineListener {
   public:
     virtual ~EngineListener() = default;
 
     /// The conversion's values may have changed.
     virtual void ShowValues() = 0;
-    /// Somebody divides by zero. Returns when the user has taken note.
+    /// Reports a division by zero. Returns once the user has acknowledged it.
     virtual void ReportDivisionByZero() = 0;
     virtual void ShowMemoryMark(bool visible) = 0;
 };

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "calculator/number_text.h"
+#include "data/text/number_text.h"
 
 namespace tavrin::calculator {
 
@@ -20,7 +20,7 @@ Entry::Entry(std::string separator) : separator_(std::move(separator)) {
 }
 
 double Entry::Value() const {
-    return ReadNumber(text_, separator_);
+    return data::ReadNumber(text_, separator_);
 }
 
 bool Entry::TypeDigit(int digit, int decimals) {
@@ -64,7 +64,7 @@ void Entry::DropLast() {
 }
 
 void Entry::SetNumber(double number) {
-    WriteNumber(text_, number, separator_);
+    data::WriteNumber(text_, number, separator_);
     separatorAt_ = text_.find(separator_);
 }
 

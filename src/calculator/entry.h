@@ -13,14 +13,14 @@ class Entry {
     /// `separator` is the locale's decimal separator, as UTF-8.
     explicit Entry(std::string separator);
 
-    /// Until the entry changes.
+    /// Valid until the entry changes.
     std::string_view Text() const { return text_; }
     double Value() const;
 
     /// Whether the next digit begins a new number.
     bool StartsAnew() const { return startsAnew_; }
     void StartAnew() { startsAnew_ = true; }
-    /// The same, and no separator is waited for any more.
+    /// The same, and forgets a separator that was asked for.
     void Restart() {
         startsAnew_ = true;
         separatorPending_ = false;
@@ -29,11 +29,11 @@ class Entry {
     /// False when the digit has no room: after fifteen characters, or after the last decimal. A separator
     /// that was asked for comes with its digit, so a full fourteen digits may become sixteen characters.
     bool TypeDigit(int digit, int decimals);
-    /// Nothing is seen of the separator before the next digit. False where there is one, or is waited for.
+    /// The separator appears with the next digit. False if there is one already, or one was asked for.
     bool TypeSeparator();
-    /// One way only: a number that has its minus keeps it, and zero takes none. False when nothing changed.
+    /// One way only: a negative number stays negative, and zero takes no sign. False if nothing changed.
     bool ChangeSign();
-    /// Takes the last character back, and with it a separator that would be left at the end.
+    /// Deletes the last character, and a separator that would then stand at the end.
     void DropLast();
 
     void SetNumber(double number);

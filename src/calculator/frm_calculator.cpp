@@ -59,8 +59,8 @@ void PlaceKey(KeyButton& button, int column, int row, KeyKind kind) {
 
 }  // namespace
 
-FrmCalculator::FrmCalculator(shell::Module& module)
-    : Form(module.Desktop(), "frmCalculator", "Calculator", forms::BorderStyle::Borderless),
+FrmCalculator::FrmCalculator(shell::Application& application)
+    : Form(application.Desktop(), "frmCalculator", "Calculator", forms::BorderStyle::Borderless),
       z(*this, "z"),
       lblCurs(z, "lblCurs", "Curs Valutar:"),
       lblM(z, "lblM", "M"),
@@ -81,7 +81,7 @@ FrmCalculator::FrmCalculator(shell::Module& module)
       cmbPrecizie(z, "cmbPrecizie", forms::ComboStyle::DropDownList),
       cmdVal(z, "cmdVal", "Alege Moneda"),
       cmdUnload(z, "cmdUnload"),
-      module_(module),
+      application_(application),
       engine_(conversion_, *this, UserLocale().decimalSeparator) {
     PlaceDisplays();
     PlaceLists();
@@ -275,7 +275,7 @@ forms::NumericDisplay& FrmCalculator::ActiveDisplay() {
 }
 
 void FrmCalculator::ReportDivisionByZero() {
-    module_.ShowMessage("Impartire la 0 !!", message::Exclamation, message::Ok, "Eroare");
+    application_.ShowMessage("Impartire la 0 !!", message::Exclamation, message::Ok, "Eroare");
 }
 
 void FrmCalculator::ShowMemoryMark(bool visible) {
@@ -315,7 +315,7 @@ void FrmCalculator::TakeChoice(const rates::CurrencyChoice& choice) {
 
 void FrmCalculator::cmdVal_Click() {
     currency_ = "$";
-    module_.Default<rates::AlegeMoneda>().ShowForm(*this, currency_);
+    application_.Default<rates::AlegeMoneda>().ShowForm(*this, currency_);
 }
 
 // The keys.

@@ -6,16 +6,16 @@
 #include "calculator/conversion.h"
 #include "calculator/engine.h"
 #include "calculator/key_button.h"
-#include "forms/combo_box.h"
-#include "forms/command_button.h"
-#include "forms/control_array.h"
-#include "forms/decoration.h"
-#include "forms/form.h"
-#include "forms/frame.h"
-#include "forms/label.h"
-#include "forms/numeric_display.h"
+#include "forms/controls/combo_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/decoration.h"
+#include "forms/controls/frame.h"
+#include "forms/controls/label.h"
+#include "forms/controls/numeric_display.h"
+#include "forms/model/control_array.h"
+#include "forms/model/form.h"
 #include "rates/currency_target.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::calculator {
 
@@ -23,7 +23,7 @@ namespace tavrin::calculator {
 /// and in a currency at one rate. The user chooses in which of the two the numbers are typed.
 class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private EngineListener {
   public:
-    explicit FrmCalculator(shell::Module& module);
+    explicit FrmCalculator(shell::Application& application);
 
     /// Lei for one unit of the currency. Setting it converts nothing by itself.
     double CursCurent() const { return conversion_.Rate(); }
@@ -31,7 +31,7 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
 
     // For the currency chooser.
     Form& CallingWindow() override { return *this; }
-    CurrencyTarget& DefaultInstance() override { return module_.Default<FrmCalculator>(); }
+    CurrencyTarget& DefaultInstance() override { return application_.Default<FrmCalculator>(); }
     double AmountInLei() const override { return conversion_.WorthInLei(); }
     void TakeChoice(const rates::CurrencyChoice& choice) override;
 
@@ -91,11 +91,11 @@ class FrmCalculator : public forms::Form, public rates::CurrencyTarget, private 
     void Press(Command command);
     void PressAndFocus(Command command);
     KeyButton*& KeyOf(Command command) { return keys_[static_cast<std::size_t>(command)]; }
-    /// No key is held down any more.
+    /// Releases the keys that the keyboard holds down.
     void ReleaseKeys();
 
-    shell::Module& module_;
-    std::array<KeyButton*, CommandCount> keys_{};  ///< by command; no key takes back, but a character does
+    shell::Application& application_;
+    std::array<KeyButton*, CommandCount> keys_{};  ///< by command; Backspace has a character but no key
     Conversion conversion_;
     Engine engine_;
     std::string currency_;  ///< the code that the chooser was last called with

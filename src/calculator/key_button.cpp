@@ -1,6 +1,6 @@
 #include "calculator/key_button.h"
 
-#include "forms/look.h"
+#include "forms/controls/look.h"
 
 namespace tavrin::calculator {
 

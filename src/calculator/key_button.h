@@ -1,14 +1,14 @@
 #pragma once
 
-#include "forms/command_button.h"
+#include "forms/controls/command_button.h"
 
 namespace tavrin::calculator {
 
 /// What a key is for; keys of one kind look alike.
 enum class KeyKind { Digit, Operator, Result, Clear, Memory };
 
-/// A key of the calculator: a button whose cap tells its kind by colour. While it is held down, by the mouse
-/// or by the keyboard, cap and caption change their colours.
+/// A key of the calculator: a button whose colour tells its kind. While it is held down, by mouse or
+/// keyboard, background and caption change colour.
 class KeyButton : public forms::CommandButton {
   public:
     using CommandButton::CommandButton;

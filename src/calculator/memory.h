@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "data/checked_arithmetic.h"
-#include "data/decimal.h"
+#include "data/text/decimal.h"
 
 namespace tavrin::calculator {
 
@@ -16,7 +16,7 @@ class Memory {
     void Subtract(double number) { Keep(value_ - number); }
 
   private:
-    /// What is kept is what recalling it shows: sums of amounts come out even.
+    /// Keeps exactly what recalling it shows, so that sums of amounts do not drift.
     void Keep(double number) {
         const double magnitude = data::DecimalOf(std::fabs(data::CheckedResult(number))).ToDouble();
         value_ = data::CheckedResult(number < 0 ? -magnitude : magnitude);

@@ -11,25 +11,26 @@ namespace {
 
 constexpr int CalculatorButton = 2;
 
-void OpenCalculator(shell::Module& module) {
-    auto& window = module.Default<calculator::FrmCalculator>();
+void OpenCalculator(shell::Application& application) {
+    auto& window = application.Default<calculator::FrmCalculator>();
     window.Load();
     window.Show();
 }
 
 }  // namespace
 
-void AddWindows(shell::Module& module) {
-    module.AddLauncher("Notes", [](shell::Module& owner) { owner.Default<notes::Notes>().ShowForm(); });
-    module.AddLauncher("Agenda",
-                       [](shell::Module& owner) { owner.Default<addressbook::Agenda>().ShowForm(); });
-    module.AddLauncher("frmCalculator", OpenCalculator);
-    module.AddLauncher("CursValutar",
-                       [](shell::Module& owner) { owner.Default<rates::CursValutar>().ShowForm(); });
+void AddWindows(shell::Application& application) {
+    application.AddLauncher("Notes",
+                            [](shell::Application& owner) { owner.Default<notes::Notes>().ShowForm(); });
+    application.AddLauncher(
+        "Agenda", [](shell::Application& owner) { owner.Default<addressbook::Agenda>().ShowForm(); });
+    application.AddLauncher("frmCalculator", OpenCalculator);
+    application.AddLauncher(
+        "CursValutar", [](shell::Application& owner) { owner.Default<rates::CursValutar>().ShowForm(); });
 }
 
-void OpenPalette(shell::Module& module) {
-    auto& palette = module.Default<shell::Utilitati>();
+void OpenPalette(shell::Application& application) {
+    auto& palette = application.Default<shell::Utilitati>();
     palette.Load();
     palette.Show();
     palette.cmdAction[CalculatorButton].SetFocus();

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::com {
 
 /// Fills the catalogue through which the palette opens the windows.
-void AddWindows(shell::Module& module);
+void AddWindows(shell::Application& application);
 
 /// Shows the palette, its calculator button focused.
-void OpenPalette(shell::Module& module);
+void OpenPalette(shell::Application& application);
 
 }  // namespace tavrin::com

@@ -17,17 +17,17 @@
 
 namespace tavrin::com {
 
-inline void HandOut(const win32::ComPtr<IConnectionPoint>& point, IConnectionPoint*& target) {
+inline void CopyItem(const win32::ComPtr<IConnectionPoint>& point, IConnectionPoint*& target) {
     point.CopyTo(&target);
 }
 
-inline void HandOut(const EventSource::Connection& connection, CONNECTDATA& target) {
+inline void CopyItem(const EventSource::Connection& connection, CONNECTDATA& target) {
     target.dwCookie = connection.cookie;
     win32::ComPtr<IUnknown>(connection.sink).CopyTo(&target.pUnk);
 }
 
-/// Walks over a list as it was when the walk began. `Outside` is the form in which the interface hands items
-/// out, each with a reference of its own.
+/// A COM enumerator over a copy of a list. `Outside` is the type in which the interface returns items, each
+/// with a reference of its own.
 template <class Interface, class Item, class Outside>
 class Enumerator : public win32::UnknownObject<Interface> {
   public:
@@ -39,7 +39,7 @@ class Enumerator : public win32::UnknownObject<Interface> {
         if (target == nullptr || (fetched == nullptr && count != 1)) return E_POINTER;
         const ULONG given = Available(count);
         for (ULONG i = 0; i < given; ++i)
-            HandOut(items_[position_++], target[i]);
+            CopyItem(items_[position_++], target[i]);
         if (fetched != nullptr) *fetched = given;
         return given == count ? S_OK : S_FALSE;
     }

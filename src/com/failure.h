@@ -8,10 +8,10 @@
 
 namespace tavrin::com {
 
-/// Leaves the description where early-bound callers look for it.
+/// Sets the thread's error object, where early-bound callers look for the description.
 void SetErrorInfo(const win32::Failure& failure, REFIID interfaceId) noexcept;
 
-/// Fills in what late-bound callers are told; null is none of them.
+/// Fills in the EXCEPINFO of a late-bound caller, if it passed one.
 void FillExceptionInfo(const win32::Failure& failure, EXCEPINFO* info) noexcept;
 
 }  // namespace tavrin::com

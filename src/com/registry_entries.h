@@ -7,7 +7,7 @@
 
 namespace tavrin::com {
 
-/// What is written into the registry, and removed, as one (registration.list).
+/// A group of registry entries that is written and removed as one (registration.list).
 enum class Part { Program, Class, File, Library };
 
 /// The entries of a part for a component that lies in that file. A key stands before the keys below it.

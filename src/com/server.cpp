@@ -7,15 +7,15 @@
 
 namespace tavrin::com {
 
-shell::Module& Server::Module() {
-    if (module_ != nullptr) return *module_;
+shell::Application& Server::Application() {
+    if (application_ != nullptr) return *application_;
     auto desktop = std::make_unique<win32::Desktop>(instance_);
-    auto module = std::make_unique<shell::Module>(
+    auto application = std::make_unique<shell::Application>(
         *desktop, [desktop = desktop.get()] { return std::make_unique<win32::MessageService>(*desktop); });
-    AddWindows(*module);
+    AddWindows(*application);
     desktop_ = std::move(desktop);
-    module_ = std::move(module);
-    return *module_;
+    application_ = std::move(application);
+    return *application_;
 }
 
 bool Server::Retire() {
@@ -23,10 +23,10 @@ bool Server::Retire() {
     // Letting go of the host's objects runs the host's code, which may call in again.
     {
         const auto desktop = std::move(desktop_);
-        const auto module = std::move(module_);
+        const auto application = std::move(application_);
         types_.Release();
     }
-    return module_ == nullptr && !IsNeeded();
+    return application_ == nullptr && !IsNeeded();
 }
 
 bool Server::IsNeeded() const {

@@ -44,16 +44,16 @@ HRESULT Utile::Apel(IDispatch** cnn, DATE argDataProgram, short bExercitiuInCurs
 }
 
 win32::Failure Utile::OpenUtilities(ApelArguments arguments) noexcept try {
-    shell::Module& module = server_.Module();
-    const forms::Desktop::DispatchScope scope(module.Desktop());
-    shell::HostContext& context = module.context;
+    shell::Application& application = server_.Application();
+    const forms::Desktop::DispatchScope scope(application.Desktop());
+    shell::HostContext& context = application.context;
     context.companyId = arguments.companyId;
     context.workDate = arguments.workDate;
     context.connection = ConnectionOf(std::move(arguments.connection), context.connection);
     context.workYear = arguments.workYear;
     context.caller = events_;
-    module.SetListener(win32::FindDebugListener());
-    OpenPalette(module);
+    application.SetListener(win32::FindDebugListener());
+    OpenPalette(application);
     return {};
 } catch (...) {
     return win32::CurrentFailure();

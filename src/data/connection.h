@@ -11,7 +11,7 @@
 
 namespace tavrin::data {
 
-/// A forward and random walk over the rows of one query, in ADO's terms. The cursor is client-side, static
+/// A cursor over the rows of one query, in ADO's terms. The cursor is client-side, static
 /// and read-only (CursorLocation 3, CursorType 3, LockType 1; options -1): a snapshot that other users'
 /// changes reach only through Requery. Every member throws Error as the provider reports it.
 class Recordset {
@@ -29,7 +29,7 @@ class Recordset {
     virtual void MoveNext() = 0;
     virtual void Move(std::int64_t rows) = 0;  ///< forward from the current row; stops at EOF
     virtual std::int64_t RecordCount() const = 0;
-    /// How many rows the statement changed that this came from; -1 where the provider does not say.
+    /// How many rows the statement changed that gave this recordset; -1 if the provider does not say.
     virtual std::int64_t AffectedRows() const { return -1; }
 
     virtual std::size_t FieldCount() const = 0;
@@ -37,8 +37,8 @@ class Recordset {
     virtual Value Field(std::size_t field) const = 0;
     virtual Value Field(std::string_view name) const = 0;  ///< names are compared without case
 
-    /// All rows at once, from the first; the current row does not move. Later Requery or Close leave it
-    /// intact.
+    /// All rows at once, from the first; the current row does not move. The table stays valid after Requery
+    /// and Close.
     virtual TablePtr ReadAll() = 0;
 
     /// No rows: both BOF and EOF.

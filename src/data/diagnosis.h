@@ -5,16 +5,16 @@
 
 namespace tavrin::data {
 
-/// Takes what the component tells programmers of its doing, a line at a time. There is one only while
-/// somebody listens. No line holds a text that a user has typed or a database has given.
+/// Receives the component's log for programmers, one line at a time. There is one only while somebody
+/// listens. No line contains a text that a user typed or a database returned.
 class Diagnosis {
   public:
     virtual ~Diagnosis() = default;
     virtual void Tell(std::string_view line) noexcept = 0;
 };
 
-/// Tells a line where somebody listens. It is composed for nobody else, and lost where there is no memory for
-/// it: nothing that the component does depends on it.
+/// Logs a line if somebody listens; otherwise it is not even composed. If memory runs out the line is lost:
+/// nothing that the component does depends on it.
 template <class Compose>
 void Tell(Diagnosis* listener, Compose&& compose) noexcept {
     if (listener == nullptr) return;

@@ -45,17 +45,16 @@ inline constexpr std::int32_t IntegrityViolation = -2147217873;  ///< 80040E2F: 
 /// most cases, where there is one.
 Error RuntimeError(std::int32_t number, std::string_view detail = {});
 
-/// Before the eight digits of a result for which the system has no words.
+/// Precedes the eight hexadecimal digits of a result that the system has no message for.
 inline constexpr std::string_view NamelessResult = "Eroarea 0x";
 
-/// What the use of an object raises that there is none of.
+/// Error 91: an object is used that is not set.
 inline Error ObjectNotSet() {
     return RuntimeError(error_number::ObjectNotSet);
 }
 
-/// What users are told of the exception that is being handled: an Error as it is, everything else as an error
-/// of the component's own, for what other exceptions say is meant for programmers. Call it in a catch block
-/// only.
+/// What users are told about the exception being handled: an Error as it is, any other as an error of the
+/// component's own, since its text is meant for programmers. Call it in a catch block only.
 Error CurrentError();
 
 }  // namespace tavrin::data

@@ -8,7 +8,7 @@
 
 namespace tavrin::data {
 
-/// Does what the recordset underneath does; who derives from it overrides what it does otherwise.
+/// Forwards everything to another recordset; derived classes override what they do differently.
 class PassThroughRecordset : public Recordset {
   public:
     explicit PassThroughRecordset(std::unique_ptr<Recordset> rows) : rows_(std::move(rows)) {}

@@ -6,8 +6,8 @@
 
 namespace tavrin::data {
 
-/// The cursor of a static recordset over rows that were fetched at once. A source of rows derives from it and
-/// states only how a statement is answered. Errors carry ADO's numbers and descriptions.
+/// The cursor of a static recordset over rows that were fetched at once. Derived classes only run the
+/// statement. Errors carry ADO's numbers and descriptions.
 class SnapshotRecordset : public Recordset {
   public:
     void Open(std::string_view source) override;

@@ -5,9 +5,9 @@
 
 namespace tavrin::data {
 
-/// A statement as it may be told to anybody: "..." stands for all between its first quote and its last one.
-/// Where a literal ends inside cannot be known, since statements hold what was typed as it was typed and an
-/// apostrophe may be pasted. Only one day, or a range of two, stays readable.
+/// A statement fit for a log: "..." replaces everything between its first quote and its last. Where a literal
+/// ends in between cannot be known, as values are not escaped and an apostrophe may have been pasted. Only a
+/// single day, or a range of two, stays readable.
 std::string StatementWithoutTexts(std::string_view statement);
 
 }  // namespace tavrin::data

@@ -83,14 +83,14 @@ class TracedRecordset : public PassThroughRecordset {
 
 }  // namespace
 
-std::shared_ptr<Connection> TracedConnection::Followed() const {
+std::shared_ptr<Connection> TracedConnection::Target() const {
     auto connection = connection_.lock();
     if (!connection) throw ObjectNotSet();
     return connection;
 }
 
 std::unique_ptr<Recordset> TracedConnection::Execute(std::string_view statement) {
-    const auto connection = Followed();
+    const auto connection = Target();
     std::unique_ptr<Recordset> answer;
     Trace(listener_, statement, [&] {
         answer = connection->Execute(statement);
@@ -100,11 +100,11 @@ std::unique_ptr<Recordset> TracedConnection::Execute(std::string_view statement)
 }
 
 std::unique_ptr<Recordset> TracedConnection::CreateRecordset() {
-    return std::make_unique<TracedRecordset>(listener_, Followed()->CreateRecordset());
+    return std::make_unique<TracedRecordset>(listener_, Target()->CreateRecordset());
 }
 
 std::unique_ptr<Recordset> TracedConnection::Adopt(std::unique_ptr<Recordset> recordset) {
-    const auto connection = Followed();
+    const auto connection = Target();
     if (auto* traced = dynamic_cast<TracedRecordset*>(recordset.get())) recordset = traced->Release();
     return std::make_unique<TracedRecordset>(listener_, connection->Adopt(std::move(recordset)));
 }

@@ -6,9 +6,10 @@
 #include <limits>
 #include <optional>
 
-#include "data/date.h"
-#include "data/decimal.h"
 #include "data/error.h"
+#include "data/text/digits.h"
+#include "data/text/number_text.h"
+#include "data/text/trim.h"
 
 namespace tavrin::data {
 namespace {
@@ -23,12 +24,6 @@ namespace {
     throw RuntimeError(error_number::InvalidUseOfNull);
 }
 
-std::string_view Trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 // What reads numbers knows no plus sign.
 std::string_view WithoutPlus(std::string_view text) {
     if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
@@ -37,10 +32,10 @@ std::string_view WithoutPlus(std::string_view text) {
 
 double NumberFromText(std::string_view original) {
     const std::string_view text = WithoutPlus(Trimmed(original));
-    const auto [number, length] = ReadDecimal(text, Exponents::Read);
-    if (length == 0 || length != text.size()) ThrowTypeMismatch();
-    if (!std::isfinite(number)) ThrowOverflow();
-    return number;
+    const std::optional<double> number = NumberIn(text, Exponents::Read);
+    if (!number) ThrowTypeMismatch();
+    if (!std::isfinite(*number)) ThrowOverflow();
+    return *number;
 }
 
 std::int64_t RoundedInteger(double number) {
@@ -64,22 +59,18 @@ OleDate DateFromText(std::string_view original) {
     ThrowTypeMismatch();
 }
 
-std::string TwoDigits(long long number) {
-    return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
-}
-
 std::string DateText(OleDate date) {
     if (!std::isfinite(date.days)) return {};
     double day = std::trunc(date.days);
-    long long seconds = std::llround(std::fabs(date.days - day) * 86400);
+    auto seconds = static_cast<int>(std::lround(std::fabs(date.days - day) * 86400));
     if (seconds == 86400) {
         day += 1;
         seconds = 0;
     }
     std::string text = FormatDayMonthYear({day});
     if (seconds == 0) return text;
-    return text + " " + TwoDigits(seconds / 3600) + ":" + TwoDigits(seconds / 60 % 60) + ":" +
-           TwoDigits(seconds % 60);
+    return text + " " + ZeroPadded(seconds / 3600, 2) + ":" + ZeroPadded(seconds / 60 % 60, 2) + ":" +
+           ZeroPadded(seconds % 60, 2);
 }
 
 struct ToDoubleVisitor {
@@ -113,7 +104,7 @@ struct ToTextVisitor {
     std::string operator()(Empty) const { return {}; }
     std::string operator()(Null) const { return {}; }
     std::string operator()(std::int64_t number) const { return std::to_string(number); }
-    std::string operator()(double number) const { return ShortestDecimal(number); }
+    std::string operator()(double number) const { return NumberText(number); }
     std::string operator()(OleDate date) const { return DateText(date); }
     std::string operator()(const std::string& text) const { return text; }
 };
@@ -134,15 +125,6 @@ OleDate Value::ToDate() const {
 
 std::string Value::ToText() const {
     return std::visit(ToTextVisitor{}, content_);
-}
-
-std::string ShortestDecimal(double number) {
-    if (std::isnan(number)) return "nan";
-    std::string text = number < 0 ? "-" : "";
-    const double magnitude = std::fabs(number);
-    if (std::isinf(magnitude)) return text + "inf";
-    DecimalOf(magnitude).AppendTo(text, ".");
-    return text;
 }
 
 }  // namespace tavrin::data

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <variant>
 
+#include "data/text/date.h"
+
 namespace tavrin::data {
 
 /// A field that was never given a value.
@@ -15,13 +17,6 @@ struct Empty {
 /// The database's NULL.
 struct Null {
     bool operator==(const Null&) const = default;
-};
-
-/// A point in time as COM counts it: days since 1899-12-30, the time of day in the fraction.
-/// For days before 1899-12-30 the integral part is negative and the fraction still counts forward.
-struct OleDate {
-    double days = 0;
-    bool operator==(const OleDate&) const = default;
 };
 
 /// One field of one row. Text is UTF-8.
@@ -49,7 +44,7 @@ class Value {
     /// \throws Error 94 for NULL, 13 for text that is no "yyyy-mm-dd" or "dd/mm/yyyy" date.
     OleDate ToDate() const;
 
-    /// The form in which grids show a value: doubles as ShortestDecimal writes them whatever the locale,
+    /// The form in which grids show a value: doubles as NumberText writes them whatever the locale,
     /// integers with all their digits, dates as "dd/mm/yyyy" (with " hh:mm:ss" where they carry a time),
     /// nothing for empty and NULL.
     std::string ToText() const;
@@ -63,9 +58,5 @@ class Value {
   private:
     std::variant<Empty, Null, std::int64_t, double, OleDate, std::string> content_;
 };
-
-/// The decimal that a number stands for (DecimalOf) as text: "." as separator, never an exponent, zero
-/// without a sign.
-std::string ShortestDecimal(double number);
 
 }  // namespace tavrin::data

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "data/code_page_tables.h"
+#include "data/text/code_page_tables.h"
 
 namespace tavrin::notes {
 

@@ -39,7 +39,7 @@ class CodePageDecoder {
     bool Continues(CodePage page, unsigned char byte) const {
         return missing_ > 0 && page == page_ && (page != code_page::Utf8 || (byte & 0xC0U) == 0x80U);
     }
-    /// Forgets a character of which not every byte came. True where there was one.
+    /// Forgets an incomplete character. True if there was one.
     bool Break() { return std::exchange(missing_, 0) > 0; }
 
   private:

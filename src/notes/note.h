@@ -37,7 +37,7 @@ struct RunFormat {
     bool operator==(const RunFormat&) const = default;
 };
 
-/// Characters that look alike: from where the run before ends.
+/// A run of characters with the same look; it begins where the run before ends.
 struct NoteRun {
     std::size_t end = 0;  ///< in bytes of the note's text
     RunFormat format;
@@ -54,7 +54,7 @@ struct TabStop {
     bool operator==(const TabStop&) const = default;
 };
 
-/// As many as editors keep, in rising order; those that are not used are empty.
+/// As many as editors keep, in ascending order; unused ones are empty.
 struct TabStops {
     std::array<TabStop, 32> stops;
     std::uint8_t count = 0;
@@ -116,8 +116,8 @@ inline constexpr std::size_t MaximumCharacters = std::size_t{2} << 20;
 inline constexpr std::size_t MaximumParagraphs = 200'000;
 inline constexpr std::size_t MaximumRuns = 400'000;
 inline constexpr std::size_t MaximumFonts = 1'000;
-// An editor takes a time at every key that grows with the paragraph, and one that grows with the square of a
-// stretch of letters and blanks alone, which it measures as one.
+// At every key an editor takes a time that grows with the paragraph, and with the square of a stretch of
+// letters and blanks alone, which it measures as one.
 /// A longer paragraph of a file goes on in another one: where a line ends, or behind a blank where none does
 /// for a while.
 inline constexpr std::size_t LongestParagraph = 10'000;

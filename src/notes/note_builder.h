@@ -12,15 +12,15 @@ enum class LongParagraphs {
     Kept,
 };
 
-/// Puts a note together from front to back, within the bounds of note.h: of equal documents it makes equal
-/// notes. What goes beyond a bound is left out, and told by IsTooLarge.
+/// Builds a note from front to back, within the limits of note.h; equal documents give equal notes. What
+/// exceeds a limit is left out, and IsTooLarge says so.
 class NoteBuilder {
   public:
     explicit NoteBuilder(LongParagraphs longParagraphs = LongParagraphs::Divided)
         : divides_(longParagraphs == LongParagraphs::Divided) {}
 
-    /// Makes room for so many bytes of text and what they may take besides, for speed. What is not used of it
-    /// is no memory yet.
+    /// Reserves room for so many bytes of text and what comes with them, for speed. Reserved memory that is
+    /// not used is never touched.
     void Expect(std::size_t bytes);
 
     /// The number of that font, which is to be used next.
@@ -30,7 +30,7 @@ class NoteBuilder {
     void AddAscii(std::string_view text, const RunFormat& format, const ParagraphFormat& paragraph);
     /// Whether a character may stand in a text. A paragraph's end and a picture are added in other ways.
     static bool IsText(char32_t character);
-    /// What is no character of a text is left out.
+    /// Drops what is not a text character.
     void Add(char32_t character, const RunFormat& format, const ParagraphFormat& paragraph);
     bool HasRoomFor(const NotePicture& picture) const {
         return picture.bytes.size() <= MaximumPictureBytes - pictureBytes_;
@@ -45,7 +45,7 @@ class NoteBuilder {
     /// Whether a paragraph was too long, and goes on in another.
     bool HasDivided() const { return divided_; }
 
-    /// Whether a paragraph's end is due, as the last one is not empty, or there is none.
+    /// Whether the text still needs a paragraph's end: the last one is not empty, or there is none.
     bool LacksEnd() const { return !IsParagraphEmpty() || note_.paragraphs.empty(); }
     Note Finish() { return std::move(note_); }
 

@@ -17,7 +17,7 @@ namespace key = forms::key;
 namespace message = shell::message;
 using forms::CharacterFormat;
 using forms::ToolLook;
-using Answer = shell::Module::Answer;
+using Answer = shell::Application::Answer;
 
 constexpr int NoButton = -1;
 
@@ -111,7 +111,8 @@ const char* ProblemOf(RtfOutcome outcome) {
 
 }  // namespace
 
-Notes::Notes(shell::Module& module) : NotesDesign(module.Desktop()), module_(module), lastButton_(NoButton) {
+Notes::Notes(shell::Application& application)
+    : NotesDesign(application.Desktop()), application_(application), lastButton_(NoButton) {
     ConnectEvents();
 }
 
@@ -138,7 +139,7 @@ void Notes::ShowForm() {
 }
 
 void Notes::OnLoad() {
-    module_.CreateMessageService();
+    application_.CreateMessageService();
     PlaceControls();
     PlaceOnScreen();
     SetPictures();
@@ -210,7 +211,7 @@ void Notes::Perform(int index) {
         case NewOrOpen:
             return NewOrOpenNote();
         case Save:
-            return TellingOfFailure(text::NotSaved, [this] { return SaveNote(); });
+            return ReportingFailure(text::NotSaved, [this] { return SaveNote(); });
         case ChooseFont:
             return Quietly([this] { ChooseSelectionFont(); });
         case ChooseColor:
@@ -229,11 +230,11 @@ void Notes::Perform(int index) {
 }
 
 void Notes::NewOrOpenNote() {
-    switch (module_.Ask(*this, text::NewNoteQuestion, Caption())) {
+    switch (application_.Ask(*this, text::NewNoteQuestion, Caption())) {
         case Answer::Yes:
             return txtNota.SetText({});
         case Answer::No:
-            return TellingOfFailure(text::NotLoaded, [this] { return OpenNote(); });
+            return ReportingFailure(text::NotLoaded, [this] { return OpenNote(); });
         case Answer::Withdrawn:
             break;
     }
@@ -322,13 +323,13 @@ void Notes::Replace(const std::string& name, const std::string& file) {
 
 /// A window that was closed while an earlier message was up has no more to say.
 void Notes::Tell(const std::string& prompt, int icon) {
-    if (IsLoaded()) module_.ShowMessage(prompt, icon, message::Ok, Caption());
+    if (IsLoaded()) application_.ShowMessage(prompt, icon, message::Ok, Caption());
 }
 
 /// Runs an action that loads or saves. Where it fails the user is told so, and of what the platform says.
 /// What there is to tell is told once the action has ended: a message that fails makes no failure of it.
 template <class Action>
-void Notes::TellingOfFailure(const char* failure, const Action& action) {
+void Notes::ReportingFailure(const char* failure, const Action& action) {
     std::string reason;
     const Notices notices = NoticesOf(failure, reason, action);
     for (const Notice& each : notices) {

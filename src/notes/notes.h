@@ -6,11 +6,11 @@
 
 #include "notes/notes_design.h"
 #include "notes/rtf_reader.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::notes {
 
-/// What a file's action has to tell. It takes no memory, as what is told must not be what telling lacked.
+/// What a file action has to report. It allocates nothing, so that a lack of memory can be reported too.
 struct Notice {
     const char* prompt = nullptr;  ///< null for nothing
     int icon = shell::message::Exclamation;
@@ -23,7 +23,7 @@ using Notices = std::array<Notice, 3>;
 /// written is told, with the text and the old file as they were, or that the old file is not.
 class Notes : public NotesDesign {
   public:
-    explicit Notes(shell::Module& module);
+    explicit Notes(shell::Application& application);
 
     void ShowForm();
 
@@ -59,13 +59,13 @@ class Notes : public NotesDesign {
     RtfReading ReadWritten(const std::string& written) const;
     void Tell(const std::string& prompt, int icon);
     template <class Action>
-    void TellingOfFailure(const char* failure, const Action& action);
+    void ReportingFailure(const char* failure, const Action& action);
     void ChooseSelectionFont();
     void ChooseSelectionColor();
     void Toggle(std::optional<bool> forms::CharacterFormat::*property);
     void ShowSelectionFormat();
 
-    shell::Module& module_;
+    shell::Application& application_;
     int lastButton_;  ///< the one under the mouse, NoButton where it is elsewhere
 };
 

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "forms/common_dialog.h"
-#include "forms/control_array.h"
-#include "forms/form.h"
-#include "forms/image_list.h"
-#include "forms/picture_box.h"
-#include "forms/rich_text_box.h"
-#include "forms/tool_button.h"
+#include "forms/controls/picture_box.h"
+#include "forms/controls/rich_text_box.h"
+#include "forms/controls/tool_button.h"
+#include "forms/drawing/image_list.h"
+#include "forms/model/common_dialog.h"
+#include "forms/model/control_array.h"
+#include "forms/model/form.h"
 
 namespace tavrin::notes {
 
-/// The note window as it is drawn up: the bar with its buttons, the text below it. It has no behaviour.
+/// The layout of the note window: the bar with its buttons, the text below it. It has no behaviour.
 class NotesDesign : public forms::Form {
   public:
     enum Button { NewOrOpen, Save, ChooseFont, ChooseColor, Bold, Italic, Underline, Leave, ButtonCount };

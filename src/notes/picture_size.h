@@ -12,8 +12,8 @@ struct PixelSize {
     std::size_t height = 0;
 };
 
-/// How large a picture is by its own account. None where it is not of that kind, is not whole, or would have
-/// more pixels than a note's picture may.
+/// The size of a picture in pixels, as its own header says. None if it is not of that kind, is truncated, or
+/// has more pixels than a note's picture may.
 std::optional<PixelSize> SizeOfPicture(PictureKind kind, std::string_view bytes);
 
 }  // namespace tavrin::notes

@@ -8,7 +8,7 @@
 
 namespace tavrin::notes {
 
-/// Whether a byte of a file is the character that it stands for: printable ASCII that no syntax is made of.
+/// Whether a byte of a file stands for itself: printable ASCII that is not part of the syntax.
 constexpr bool IsPlain(char byte) {
     return byte >= 0x20 && byte < 0x7F && byte != '{' && byte != '}' && byte != '\\';
 }
@@ -20,7 +20,7 @@ inline constexpr std::array<bool, 256> PlainBytes = [] {
     return plain;
 }();
 
-/// Whether eight bytes are plain, one and all. It may say no of some with | or ~.
+/// Whether all of eight bytes are plain. It may answer false for some with | or ~.
 inline bool AreEightPlain(const char* bytes) {
     constexpr std::uint64_t each = 0x0101010101010101;
     constexpr std::uint64_t highs = each * 0x80;
@@ -33,7 +33,8 @@ inline bool AreEightPlain(const char* bytes) {
     return ((word | low | high | (backslashes - each)) & highs) == 0;
 }
 
-/// How many bytes in front of the text are plain. Notes are made of little else, so it begins by eights.
+/// How many bytes at the front of the text are plain. Notes consist of little else, so it counts by eights
+/// first.
 inline std::size_t LengthOfPlain(std::string_view text) {
     std::size_t length = 0;
     while (text.size() - length >= 8 && AreEightPlain(text.data() + length))

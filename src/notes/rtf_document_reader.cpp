@@ -89,7 +89,7 @@ void RtfDocumentReader::OpenGroup() {
 void RtfDocumentReader::CloseGroup() {
     toSkip_ = 0;
     if (deeper_ > 0) {
-        if (deeper_ == silentFrom_) EndSilence();
+        if (deeper_ == silentFrom_) EndIgnored();
         --deeper_;
         return;
     }
@@ -113,33 +113,33 @@ void RtfDocumentReader::CloseGroup() {
 
 /// What a word makes of its group. The outermost one is the note, whatever it says.
 void RtfDocumentReader::BeginDestination(Destination destination) {
-    if (deeper_ > 0) return BeginSilence(destination);
+    if (deeper_ > 0) return BeginIgnored(destination);
     if (groups_.size() < 2) return;
     if (destination == Destination::TextBox) EndParagraphIfAny();
     if (destination == Destination::ListText) listText_.Begin();
     if (destination == Destination::Picture) picture_ = {};
     if (destination == Destination::FieldInstruction) field_.Begin();
-    if (destination == Destination::OldPicture) destination = OfOldPicture();
+    if (destination == Destination::OldPicture) destination = DestinationOfOldPicture();
     state_.destination = destination;
     groups_.back().begun = destination;
 }
 
 /// Writers who know both give the picture a second time; it is passed over right behind the first.
-RtfDestination RtfDocumentReader::OfOldPicture() const {
+RtfDestination RtfDocumentReader::DestinationOfOldPicture() const {
     const bool second = pictureEnd_ > 0 && pictureEnd_ == builder_.BytesOfText();
-    return second ? Destination::Nothing : Destination::Container;
+    return second ? Destination::Ignored : Destination::Container;
 }
 
 /// Of groups that are too deep to be remembered only one thing is: that what they hold is not to be seen.
-void RtfDocumentReader::BeginSilence(Destination destination) {
+void RtfDocumentReader::BeginIgnored(Destination destination) {
     const bool isText = destination == Destination::Body || destination == Destination::Container ||
                         destination == Destination::TextBox;
     if (isText || silentFrom_ > 0) return;
     silentFrom_ = deeper_;
-    destinationBefore_ = std::exchange(state_.destination, Destination::Nothing);
+    destinationBefore_ = std::exchange(state_.destination, Destination::Ignored);
 }
 
-void RtfDocumentReader::EndSilence() {
+void RtfDocumentReader::EndIgnored() {
     silentFrom_ = 0;
     state_.destination = destinationBefore_;
 }
@@ -148,14 +148,14 @@ void RtfDocumentReader::EndSilence() {
 bool RtfDocumentReader::TakesStar(const RtfWord* word) {
     if (groups_.empty() || !std::exchange(groups_.back().starred, false)) return false;
     if (word != nullptr && word->action == Action::Destination) return false;
-    BeginDestination(Destination::Nothing);
+    BeginDestination(Destination::Ignored);
     return true;
 }
 
 // Words.
 
 void RtfDocumentReader::OnWord(const RtfToken& token) {
-    if (state_.destination == Destination::Nothing) return;
+    if (state_.destination == Destination::Ignored) return;
     const RtfWord* const word = FindRtfWord(token.text);
     if (TakesStar(word)) return;
     if (toSkip_ > 0 && word != nullptr && word->action == Action::Character) {
@@ -165,7 +165,7 @@ void RtfDocumentReader::OnWord(const RtfToken& token) {
     // Other words do not stand for a character that was there before, whatever the format says of them.
     toSkip_ = 0;
     EndBrokenBytes();
-    if (word != nullptr) Do(*word, token);
+    if (word != nullptr) ApplyWord(*word, token);
 }
 
 void RtfDocumentReader::OnSymbol(char symbol) {
@@ -195,11 +195,11 @@ void RtfDocumentReader::OnSymbol(char symbol) {
     }
 }
 
-void RtfDocumentReader::Do(const RtfWord& word, const RtfToken& token) {
+void RtfDocumentReader::ApplyWord(const RtfWord& word, const RtfToken& token) {
     if (word.action == Action::Destination) {
         const auto destination = static_cast<Destination>(word.value);
         if (IsOfField() && destination != Destination::FormField)
-            return BeginDestination(Destination::Nothing);
+            return BeginDestination(Destination::Ignored);
         if (state_.destination == Destination::UprightOld) {
             if (token.text == "ud") BeginUpright();
             return;
@@ -207,8 +207,8 @@ void RtfDocumentReader::Do(const RtfWord& word, const RtfToken& token) {
         return BeginDestination(destination);
     }
     if (state_.destination == Destination::UprightOld) return;
-    if (IsOfField()) return DoOfField(word, token);
-    if (word.action < Action::Plain) return DoOfText(word, token);
+    if (IsOfField()) return ApplyFieldWord(word, token);
+    if (word.action < Action::Plain) return ApplyTextWord(word, token);
     if (ApplyToCharacters(state_, word, token.number, token.hasNumber)) {
         if (word.action == Action::Font && state_.destination == Destination::Fonts) BeginFont(token.number);
         return;
@@ -217,9 +217,9 @@ void RtfDocumentReader::Do(const RtfWord& word, const RtfToken& token) {
     if (word.action == Action::LineHeight && !token.hasNumber) tokens_.TakeNumberAfterDashes(number);
     if (ApplyToParagraphs(state_, word, number, indents_)) return;
     if (word.action >= Action::RawUtf8) {
-        DoOfDocument(word, number);
+        ApplyDocumentWord(word, number);
     } else {
-        DoOfText(word, token);
+        ApplyTextWord(word, token);
     }
 }
 
@@ -233,7 +233,7 @@ void RtfDocumentReader::BeginUpright() {
     if (groups_.size() >= 3) BeginDestination(groups_[groups_.size() - 2].before.destination);
 }
 
-void RtfDocumentReader::DoOfText(const RtfWord& word, const RtfToken& token) {
+void RtfDocumentReader::ApplyTextWord(const RtfWord& word, const RtfToken& token) {
     switch (word.action) {
         case Action::Character:
             return PutUnit(static_cast<char16_t>(word.value));
@@ -266,12 +266,12 @@ void RtfDocumentReader::DoOfText(const RtfWord& word, const RtfToken& token) {
     }
 }
 
-void RtfDocumentReader::DoOfField(const RtfWord& word, const RtfToken& token) {
+void RtfDocumentReader::ApplyFieldWord(const RtfWord& word, const RtfToken& token) {
     switch (word.action) {
         case Action::Character:
         case Action::Unicode:
         case Action::UnicodeSkip:
-            return DoOfText(word, token);
+            return ApplyTextWord(word, token);
         case Action::FormResult:
             return field_.SetResult(token.number);
         case Action::FormDefault:
@@ -281,7 +281,7 @@ void RtfDocumentReader::DoOfField(const RtfWord& word, const RtfToken& token) {
     }
 }
 
-void RtfDocumentReader::DoOfDocument(const RtfWord& word, int number) {
+void RtfDocumentReader::ApplyDocumentWord(const RtfWord& word, int number) {
     switch (word.action) {
         case Action::RawUtf8:
             rawIsUtf8_ = true;
@@ -306,11 +306,11 @@ void RtfDocumentReader::DoOfDocument(const RtfWord& word, int number) {
         case Action::ColorPart:
             return colors_.SetPart(word.value, number);
         default:
-            return DoOfPicture(word, number);
+            return ApplyPictureWord(word, number);
     }
 }
 
-void RtfDocumentReader::DoOfPicture(const RtfWord& word, int number) {
+void RtfDocumentReader::ApplyPictureWord(const RtfWord& word, int number) {
     switch (word.action) {
         case Action::PictureKind:
             return picture_.SetKind(static_cast<PictureKind>(word.value));

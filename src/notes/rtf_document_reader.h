@@ -44,24 +44,24 @@ class RtfDocumentReader {
     void CloseGroup();
     void BeginDestination(RtfDestination destination);
     void BeginUpright();
-    RtfDestination OfOldPicture() const;
+    RtfDestination DestinationOfOldPicture() const;
     bool IsOfField() const {
         return state_.destination == RtfDestination::FieldInstruction ||
                state_.destination == RtfDestination::FormField;
     }
-    void BeginSilence(RtfDestination destination);
-    void EndSilence();
+    void BeginIgnored(RtfDestination destination);
+    void EndIgnored();
     void BeginFont(int number);
     bool TakesStar(const RtfWord* word);
 
     // Words.
     void OnWord(const RtfToken& token);
     void OnSymbol(char symbol);
-    void Do(const RtfWord& word, const RtfToken& token);
-    void DoOfText(const RtfWord& word, const RtfToken& token);
-    void DoOfDocument(const RtfWord& word, int number);
-    void DoOfPicture(const RtfWord& word, int number);
-    void DoOfField(const RtfWord& word, const RtfToken& token);
+    void ApplyWord(const RtfWord& word, const RtfToken& token);
+    void ApplyTextWord(const RtfWord& word, const RtfToken& token);
+    void ApplyDocumentWord(const RtfWord& word, int number);
+    void ApplyPictureWord(const RtfWord& word, int number);
+    void ApplyFieldWord(const RtfWord& word, const RtfToken& token);
 
     // From the file's bytes to characters.
     void OnText(std::string_view ascii);

@@ -2,7 +2,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "notes/capitals.h"
+#include "data/text/capitals.h"
 #include "notes/rtf_document_reader.h"
 
 // What a document's text becomes; groups and words are in rtf_document_reader.cpp.
@@ -58,7 +58,7 @@ bool IsSign(char32_t character) {
 // From the file's bytes to characters.
 
 void RtfDocumentReader::OnText(std::string_view ascii) {
-    if (state_.destination == Destination::Nothing) return;
+    if (state_.destination == Destination::Ignored) return;
     const auto skipped = std::min(ascii.size(), static_cast<std::size_t>(toSkip_));
     toSkip_ -= static_cast<int>(skipped);
     ascii.remove_prefix(skipped);
@@ -81,7 +81,7 @@ void RtfDocumentReader::OnText(std::string_view ascii) {
 }
 
 void RtfDocumentReader::OnByte(const RtfToken& token) {
-    if (state_.destination == Destination::Nothing || IsSkipped()) return;
+    if (state_.destination == Destination::Ignored || IsSkipped()) return;
     const bool raw = !token.text.empty();
     if (!raw && IsLineEnd(token.byte)) return OnLineEnd(token.byte);
     PutByte(raw && rawIsUtf8_ ? code_page::Utf8 : PageOfBytes(), token.byte);
@@ -251,7 +251,7 @@ void RtfDocumentReader::Insert(char32_t character) {
 char32_t RtfDocumentReader::AsSeen(char32_t character) {
     if (!state_.capitals && !state_.smallCapitals) return character;
     const RtfFont* const font = CurrentFont();
-    return font != nullptr && font->symbols ? character : ToCapital(character);
+    return font != nullptr && font->symbols ? character : data::ToCapital(character);
 }
 
 /// Four fifths of the size, as text programs show them.

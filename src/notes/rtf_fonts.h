@@ -20,7 +20,7 @@ struct RtfFont {
 };
 
 /// Reads a file's table of fonts: entries that a number begins and a semicolon, or the end of their group,
-/// ends. What stands between them is nothing.
+/// ends. Anything between them is ignored.
 class RtfFonts {
   public:
     void Begin(int number);

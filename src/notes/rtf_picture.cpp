@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "notes/hex_digit.h"
+#include "data/text/digits.h"
 #include "notes/picture_size.h"
 
 namespace tavrin::notes {
@@ -30,7 +30,7 @@ bool RtfPicture::TakesContent() {
 void RtfPicture::AddDigits(std::string_view text) {
     if (!TakesContent()) return;
     for (const char each : text) {
-        const int digit = ValueOfHexDigit(each);
+        const int digit = data::ValueOfHexDigit(each);
         if (digit < 0) continue;
         if (firstDigit_ < 0) {
             firstDigit_ = digit;

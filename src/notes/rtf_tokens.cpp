@@ -6,7 +6,7 @@
 #include <limits>
 #include <system_error>
 
-#include "notes/hex_digit.h"
+#include "data/text/digits.h"
 #include "notes/plain_ascii.h"
 
 namespace tavrin::notes {
@@ -16,7 +16,7 @@ namespace {
 using Kind = RtfToken::Kind;
 
 /// What a byte is outside of words.
-enum class Class : unsigned char { Plain, Brace, Backslash, Nothing, Other };
+enum class Class : unsigned char { Plain, Brace, Backslash, Skipped, Other };
 
 constexpr std::array<Class, 256> MakeClasses() {
     std::array<Class, 256> classes{};
@@ -24,7 +24,7 @@ constexpr std::array<Class, 256> MakeClasses() {
         classes[i] = PlainBytes[i] ? Class::Plain : Class::Other;
     classes['{'] = classes['}'] = Class::Brace;
     classes['\\'] = Class::Backslash;
-    classes['\r'] = classes['\n'] = classes['\0'] = Class::Nothing;
+    classes['\r'] = classes['\n'] = classes['\0'] = Class::Skipped;
     return classes;
 }
 
@@ -36,10 +36,6 @@ Class ClassOf(char byte) {
 
 bool IsLetter(char byte) {
     return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
-}
-
-bool IsDigit(char byte) {
-    return byte >= '0' && byte <= '9';
 }
 
 template <class Predicate>
@@ -60,7 +56,7 @@ int NumberIn(std::string_view digits) {
 }  // namespace
 
 RtfToken RtfTokens::Next() {
-    while (!rest_.empty() && ClassOf(rest_.front()) == Class::Nothing)
+    while (!rest_.empty() && ClassOf(rest_.front()) == Class::Skipped)
         rest_.remove_prefix(1);
     if (rest_.empty()) return {};
     switch (ClassOf(rest_.front())) {
@@ -99,7 +95,7 @@ RtfToken RtfTokens::Word() {
     const std::size_t nameEnd = LengthWhile(rest_, 1, IsLetter);
     const bool negative = nameEnd < rest_.size() && rest_[nameEnd] == '-';
     const std::size_t digits = nameEnd + (negative ? 1 : 0);
-    const std::size_t numberEnd = LengthWhile(rest_, digits, IsDigit);
+    const std::size_t numberEnd = LengthWhile(rest_, digits, data::IsDigit<char>);
     RtfToken token{.kind = Kind::Word, .text = rest_.substr(0, nameEnd)};
     token.hasNumber = numberEnd > digits;
     if (token.hasNumber) token.number = NumberIn(rest_.substr(nameEnd, numberEnd - nameEnd));
@@ -114,12 +110,12 @@ RtfToken RtfTokens::Binary(int length) {
 
 RtfToken RtfTokens::HexByte() {
     // A file that was cut within a byte has none there, and no letter either.
-    const bool cut = rest_.size() == 1 || (rest_.size() == 2 && ValueOfHexDigit(rest_[1]) >= 0);
+    const bool cut = rest_.size() == 1 || (rest_.size() == 2 && data::ValueOfHexDigit(rest_[1]) >= 0);
     if (cut) rest_ = {};
     if (rest_.empty()) return {};
     if (rest_.size() >= 3) {
-        const int high = ValueOfHexDigit(rest_[1]);
-        const int low = ValueOfHexDigit(rest_[2]);
+        const int high = data::ValueOfHexDigit(rest_[1]);
+        const int low = data::ValueOfHexDigit(rest_[2]);
         if (high >= 0 && low >= 0) {
             rest_.remove_prefix(3);
             return {.kind = Kind::Byte, .byte = static_cast<unsigned char>(high << 4 | low)};
@@ -130,7 +126,7 @@ RtfToken RtfTokens::HexByte() {
 
 bool RtfTokens::TakeNumberAfterDashes(int& number) {
     if (!rest_.starts_with("--")) return false;
-    const std::size_t end = LengthWhile(rest_, 2, IsDigit);
+    const std::size_t end = LengthWhile(rest_, 2, data::IsDigit<char>);
     if (end == 2) return false;
     number = NumberIn(rest_.substr(1, end - 1));
     rest_.remove_prefix(end);

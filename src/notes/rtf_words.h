@@ -8,7 +8,7 @@ namespace tavrin::notes {
 /// What the text of a group is for.
 enum class RtfDestination : std::uint8_t {
     Body,
-    Nothing,     ///< not for a note, with everything in it
+    Ignored,     ///< dropped with everything in it
     Container,   ///< its text is not, but there may be a group in it that is
     Upright,     ///< a text twice, of which the second one is in Unicode
     UprightOld,  ///< the first one of these

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "data/error.h"
-#include "forms/utf8.h"
+#include "data/text/utf8.h"
 #include "rates/rate_text.h"
 #include "shell/layout.h"
 #include "shell/window_helpers.h"
@@ -30,14 +30,14 @@ constexpr int CancelPicture = 22;
 
 }  // namespace
 
-AlegeMoneda::AlegeMoneda(shell::Module& module)
-    : Form(module.Desktop(), "AlegeMoneda", "Alege Moneda", forms::BorderStyle::FixedDialog),
+AlegeMoneda::AlegeMoneda(shell::Application& application)
+    : Form(application.Desktop(), "AlegeMoneda", "Alege Moneda", forms::BorderStyle::FixedDialog),
       Label2(*this, "Label2", "Moneda"),
       cmbMoneda(*this, "cmbMoneda", forms::ComboStyle::DropDown),
       Grid(*this, "Grid"),
       cmdAction(*this, "cmdAction"),
-      module_(module),
-      store_(module.context),
+      application_(application),
+      store_(application.context),
       lstImages_{{AcceptPicture, forms::Icon::Accept}, {CancelPicture, forms::Icon::Cancel}} {
     PlaceControls();
     ConnectEvents();
@@ -87,7 +87,7 @@ void AlegeMoneda::ShowForm(CurrencyTarget& caller, const std::string& currency) 
 void AlegeMoneda::OnLoad() {
     cmdAction[Accept].SetPicture(lstImages_.Picture(AcceptPicture));
     cmdAction[Cancel].SetPicture(lstImages_.Picture(CancelPicture));
-    module_.CreateMessageService();
+    application_.CreateMessageService();
     CenterOnScreen();
 }
 
@@ -163,7 +163,7 @@ void AlegeMoneda::cmdAction_Click(int index) {
 void AlegeMoneda::TakeRate() {
     if (!caller_) throw data::ObjectNotSet();
     CurrencyTarget& target = caller_->DefaultInstance();
-    const forms::Locale& locale = UserLocale();
+    const data::Locale& locale = UserLocale();
     const std::string& currency = cmbMoneda.Text();
     // The amount keeps its value in lei, which the rate of until now says.
     const double amountInLei = target.AmountInLei();
@@ -176,7 +176,7 @@ void AlegeMoneda::TakeRate() {
 void AlegeMoneda::cmbMoneda_GotFocus() {
     if (!cmbMoneda.Enabled()) return;
     cmbMoneda.SetBackColor(forms::FocusGrey);
-    cmbMoneda.Select(cmbMoneda.SelStart(), forms::CountCharacters(cmbMoneda.Text()));
+    cmbMoneda.Select(cmbMoneda.SelStart(), data::CountCharacters(cmbMoneda.Text()));
 }
 
 void AlegeMoneda::cmbMoneda_LostFocus() {

@@ -5,16 +5,16 @@
 #include <string>
 
 #include "data/error.h"
-#include "forms/combo_box.h"
-#include "forms/command_button.h"
-#include "forms/control_array.h"
-#include "forms/form.h"
-#include "forms/grid.h"
-#include "forms/image_list.h"
-#include "forms/label.h"
+#include "forms/controls/combo_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/grid.h"
+#include "forms/controls/label.h"
+#include "forms/drawing/image_list.h"
+#include "forms/model/control_array.h"
+#include "forms/model/form.h"
 #include "rates/currency_target.h"
 #include "rates/rate_store.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::rates {
 
@@ -25,7 +25,7 @@ class AlegeMoneda : public forms::Form {
   public:
     enum Action { Accept, Cancel };
 
-    explicit AlegeMoneda(shell::Module& module);
+    explicit AlegeMoneda(shell::Application& application);
 
     /// `currency` is the code that stands in the list at first; the host's table need not have it.
     void ShowForm(CurrencyTarget& caller, const std::string& currency);
@@ -56,7 +56,7 @@ class AlegeMoneda : public forms::Form {
     void cmbMoneda_LostFocus();
     void Grid_KeyDown(int& keyCode);
 
-    shell::Module& module_;
+    shell::Application& application_;
     RateStore store_;
     forms::ImageList lstImages_;
     /// Keeps the caller's form alive, should it unload before this one.

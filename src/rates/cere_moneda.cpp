@@ -1,6 +1,7 @@
 #include "rates/cere_moneda.h"
 
 #include "data/error.h"
+#include "data/text/trim.h"
 #include "rates/curs_valutar.h"
 #include "shell/layout.h"
 #include "shell/window_helpers.h"
@@ -17,16 +18,16 @@ constexpr int FrameWidth = 3600;
 
 }  // namespace
 
-CereMoneda::CereMoneda(shell::Module& module)
-    : Form(module.Desktop(), "CereMoneda", "Adauga Moneda", forms::BorderStyle::FixedDialog),
+CereMoneda::CereMoneda(shell::Application& application)
+    : Form(application.Desktop(), "CereMoneda", "Adauga Moneda", forms::BorderStyle::FixedDialog),
       Frame1(*this, "Frame1"),
       lblLabels(Frame1, "lblLabels"),
       Shape14(Frame1, "Shape14"),
       txtMoneda(Frame1, "txtMoneda"),
       cmbMoneda(Frame1, "cmbMoneda", forms::ComboStyle::DropDownList),
       cmdAction(*this, "cmdAction"),
-      module_(module),
-      store_(module.context),
+      application_(application),
+      store_(application.context),
       lstImages_{forms::Icon::Accept, forms::Icon::Cancel} {
     PlaceControls();
     ConnectEvents();
@@ -77,7 +78,7 @@ void CereMoneda::ConnectEvents() {
 // Life.
 
 void CereMoneda::OnLoad() {
-    module_.CreateMessageService();
+    application_.CreateMessageService();
     CenterOnScreen();
     cmdAction[Accept].SetPicture(lstImages_.Picture(1));
     cmdAction[Cancel].SetPicture(lstImages_.Picture(2));
@@ -94,7 +95,7 @@ void CereMoneda::FillCurrencies() {
 }
 
 void CereMoneda::OnUnload() {
-    if (auto* list = module_.Loaded<CursValutar>()) list->LetIn();
+    if (auto* list = application_.Loaded<CursValutar>()) list->Reenable();
 }
 
 // The actions.
@@ -105,8 +106,8 @@ void CereMoneda::cmdAction_Click(int index) {
 }
 
 bool CereMoneda::AddCurrency() {
-    if (IsBlank(txtMoneda.Text())) {
-        module_.ShowMessage("Nume Obligatoriu", message::Information, message::Ok, Caption());
+    if (data::IsBlank(txtMoneda.Text())) {
+        application_.ShowMessage("Nume Obligatoriu", message::Information, message::Ok, Caption());
         txtMoneda.SetFocus();
         return false;
     }
@@ -114,12 +115,13 @@ bool CereMoneda::AddCurrency() {
         store_.AddCurrency(txtMoneda.Text());
     } catch (const data::Error& error) {
         const bool exists = error.Number() == data::error_number::ErrorsInCommand;
-        module_.ShowMessage(exists ? "Moneda deja existenta ! Alegeti alta moneda !" : error.Description(),
-                            message::Information, message::Ok, Caption());
+        application_.ShowMessage(
+            exists ? "Moneda deja existenta ! Alegeti alta moneda !" : error.Description(),
+            message::Information, message::Ok, Caption());
         txtMoneda.SetFocus();
         return false;
     }
-    if (auto* list = module_.Loaded<CursValutar>()) list->ApplyDateFilter();
+    if (auto* list = application_.Loaded<CursValutar>()) list->ApplyDateFilter();
     return true;
 }
 

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "forms/combo_box.h"
-#include "forms/command_button.h"
-#include "forms/control_array.h"
-#include "forms/decoration.h"
-#include "forms/form.h"
-#include "forms/frame.h"
-#include "forms/image_list.h"
-#include "forms/label.h"
-#include "forms/text_box.h"
+#include "forms/controls/combo_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/decoration.h"
+#include "forms/controls/frame.h"
+#include "forms/controls/label.h"
+#include "forms/controls/text_box.h"
+#include "forms/drawing/image_list.h"
+#include "forms/model/control_array.h"
+#include "forms/model/form.h"
 #include "rates/rate_rules.h"
 #include "rates/rate_store.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::rates {
 
@@ -21,7 +21,7 @@ class CereMoneda : public forms::Form {
   public:
     enum Action { Accept, Cancel };
 
-    explicit CereMoneda(shell::Module& module);
+    explicit CereMoneda(shell::Application& application);
 
     /// Set by the opener before the window is loaded.
     CurrencyMode Mode = CurrencyMode::Remove;
@@ -50,7 +50,7 @@ class CereMoneda : public forms::Form {
     void cmbMoneda_KeyDown(int& keyCode);
     void CancelOnEscape(int keyCode);
 
-    shell::Module& module_;
+    shell::Application& application_;
     RateStore store_;
     forms::ImageList lstImages_;
 };

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "forms/form.h"
+#include "forms/model/form.h"
 
 namespace tavrin::rates {
 

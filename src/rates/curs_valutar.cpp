@@ -4,8 +4,8 @@
 #include <array>
 #include <utility>
 
-#include "data/date.h"
 #include "data/error.h"
+#include "data/text/date.h"
 #include "rates/cere_moneda.h"
 #include "rates/curs_valutar_detaliu.h"
 #include "rates/evolutie_curs.h"
@@ -18,7 +18,7 @@ namespace {
 namespace key = forms::key;
 namespace layout = shell::layout;
 namespace message = shell::message;
-using Answer = shell::Module::Answer;
+using Answer = shell::Application::Answer;
 
 constexpr std::string_view PickerFormat = "dd/MMM/yy";
 constexpr int DayColumn = 0;
@@ -60,8 +60,8 @@ constexpr auto ActionIndices() {
 
 }  // namespace
 
-CursValutar::CursValutar(shell::Module& module)
-    : Form(module.Desktop(), "CursValutar", "Curs Valutar", forms::BorderStyle::Sizable),
+CursValutar::CursValutar(shell::Application& application)
+    : Form(application.Desktop(), "CursValutar", "Curs Valutar", forms::BorderStyle::Sizable),
       fraGrid(*this, "fraGrid"),
       Grid(fraGrid, "Grid"),
       lblLabels(*this, "lblLabels"),
@@ -69,8 +69,8 @@ CursValutar::CursValutar(shell::Module& module)
       dpDataFin(*this, "dpDataFin", std::string(PickerFormat)),
       cmdRefresh(*this, "cmdRefresh", "Filtreaza"),
       cmdAction(*this, "cmdAction", ActionIndices()),
-      module_(module),
-      store_(module.context) {
+      application_(application),
+      store_(application.context) {
     PlaceControls();
     ConnectEvents();
 }
@@ -166,19 +166,19 @@ void CursValutar::ShowForm() {
 }
 
 void CursValutar::OnLoad() {
-    module_.CreateMessageService();
-    const int year = module_.context.workYear;
+    application_.CreateMessageService();
+    const int year = application_.context.workYear;
     for (forms::DatePicker* picker : {&dpDataIn, &dpDataFin}) {
         picker->SetRange(data::ToOleDate({year, 1, 1}), data::ToOleDate({year + 1, 1, 31}));
     }
-    const data::CalendarDay workDay = data::ToCalendarDay(module_.context.workDate);
+    const data::CalendarDay workDay = data::ToCalendarDay(application_.context.workDate);
     dpDataIn.SetDate(data::ToOleDate({workDay.year, workDay.month, 1}));
-    dpDataFin.SetDate(module_.context.workDate);
+    dpDataFin.SetDate(application_.context.workDate);
     ApplyDateFilter();
 }
 
 void CursValutar::OnUnload() {
-    module_.context.RaiseIesire();
+    application_.context.RaiseIesire();
 }
 
 // The list.
@@ -193,7 +193,7 @@ bool CursValutar::Filtreaza(bool /*refresh*/) {
     // sight.
     CurrencyNames currencies = store_.DiscoverCurrencies();
     data::TablePtr table = store_.ReadDays(currencies, range_);
-    mark_.Set(module_.context);
+    mark_.Set(application_.context);
     currencyNames_ = std::move(currencies);
     FitToCurrencies();
 
@@ -245,7 +245,7 @@ void CursValutar::cmdAction_Click(int index) {
     switch (index) {
         case AddDay:
             // A new day takes nothing from the list but its currencies.
-            if (module_.context.connection != nullptr) ShowsCurrentRates();
+            if (application_.context.connection != nullptr) ShowsCurrentRates();
             OpenEntry(EntryMode::Add);
             break;
         case ModifyDay:
@@ -276,7 +276,7 @@ void CursValutar::cmdAction_Click(int index) {
 }
 
 bool CursValutar::ShowsCurrentRates() {
-    if (mark_.IsCurrent(module_.context)) return true;
+    if (mark_.IsCurrent(application_.context)) return true;
     ApplyDateFilter();
     return false;
 }
@@ -299,8 +299,8 @@ bool CursValutar::RefusesFrozenDay() {
     const data::OleDate day = SelectedDay();
     if (!IsFrozen(day, store_.FrozenDate())) return false;
     // A frozen day can be neither changed nor deleted; one text serves for both.
-    module_.ShowMessage("Acest curs a fost validat !\r\nNu puteti modifica un curs deja validat !",
-                        message::Error, message::Ok, Caption());
+    application_.ShowMessage("Acest curs a fost validat !\r\nNu puteti modifica un curs deja validat !",
+                             message::Error, message::Ok, Caption());
     if (fraGrid.Enabled()) {
         Grid.SetColSel(currencyNames_.UpperBound());
         Grid.SetFocus();
@@ -327,10 +327,11 @@ void CursValutar::GoToRowOf(const std::string& dayMonthYear) {
 // The windows that the list opens. It is disabled while one is up; each enables it again when it closes.
 
 bool CursValutar::IsHeld() const {
-    return module_.Loaded<CursValutarDetaliu>() != nullptr || module_.Loaded<CereMoneda>() != nullptr;
+    return application_.Loaded<CursValutarDetaliu>() != nullptr ||
+           application_.Loaded<CereMoneda>() != nullptr;
 }
 
-void CursValutar::LetIn() {
+void CursValutar::Reenable() {
     SetEnabled(!IsHeld());
 }
 
@@ -338,21 +339,21 @@ void CursValutar::LetIn() {
 bool CursValutar::BringHolderForward() {
     if (!IsHeld()) return false;
     SetEnabled(false);
-    if (auto* entry = module_.Loaded<CursValutarDetaliu>()) entry->Show();
-    if (auto* currency = module_.Loaded<CereMoneda>()) currency->Show();
+    if (auto* entry = application_.Loaded<CursValutarDetaliu>()) entry->Show();
+    if (auto* currency = application_.Loaded<CereMoneda>()) currency->Show();
     return true;
 }
 
 void CursValutar::OpenEntry(EntryMode mode) {
     if (BringHolderForward()) return;
-    auto& window = module_.Default<CursValutarDetaliu>();
+    auto& window = application_.Default<CursValutarDetaliu>();
     SetEnabled(false);
     window.ShowForm(currencyNames_, mode);
 }
 
 void CursValutar::OpenCurrencyWindow(CurrencyMode mode) {
     if (BringHolderForward()) return;
-    auto& window = module_.Default<CereMoneda>();
+    auto& window = application_.Default<CereMoneda>();
     SetEnabled(false);
     window.Mode = mode;
     window.Load();
@@ -360,7 +361,7 @@ void CursValutar::OpenCurrencyWindow(CurrencyMode mode) {
 }
 
 void CursValutar::OpenEvolution() {
-    auto& window = module_.Default<EvolutieCurs>();
+    auto& window = application_.Default<EvolutieCurs>();
     SetEnabled(false);
     window.Show();
     Unload();
@@ -369,8 +370,8 @@ void CursValutar::OpenEvolution() {
 void CursValutar::DeleteSelectedDay() {
     Grid.SetCol(DayColumn);
     const std::string day = SelectedDayText();
-    module_.lastQuestion = "Sunteti sigur ca doriti sa stergeti cursul valutar pentru data de " + day;
-    const Answer answer = module_.Ask(*this, module_.lastQuestion, Caption());
+    application_.lastQuestion = "Sunteti sigur ca doriti sa stergeti cursul valutar pentru data de " + day;
+    const Answer answer = application_.Ask(*this, application_.lastQuestion, Caption());
     if (answer == Answer::No) Grid.SetFocus();
     // The day that the question named, in the data that it was about: a host may call while it is up.
     if (answer != Answer::Yes || SelectedDayText() != day || !ShowsCurrentRates()) return;
@@ -379,7 +380,7 @@ void CursValutar::DeleteSelectedDay() {
 }
 
 void CursValutar::RefuseLastCurrency() {
-    module_.ShowMessage("Nu puteti sterge toate monedele !", message::Error, message::Ok, Caption());
+    application_.ShowMessage("Nu puteti sterge toate monedele !", message::Error, message::Ok, Caption());
     if (fraGrid.Enabled()) Grid.SetFocus();
 }
 

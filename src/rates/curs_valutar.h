@@ -3,18 +3,18 @@
 #include <string>
 
 #include "data/value.h"
-#include "forms/command_button.h"
-#include "forms/control_array.h"
-#include "forms/date_picker.h"
-#include "forms/form.h"
-#include "forms/frame.h"
-#include "forms/grid.h"
-#include "forms/label.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/date_picker.h"
+#include "forms/controls/frame.h"
+#include "forms/controls/grid.h"
+#include "forms/controls/label.h"
+#include "forms/model/control_array.h"
+#include "forms/model/form.h"
 #include "rates/currency_names.h"
 #include "rates/rate_rules.h"
 #include "rates/rate_store.h"
 #include "rates/rate_values.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::rates {
 
@@ -24,7 +24,7 @@ class CursValutar : public forms::Form {
     /// The indices of cmdAction. No button carries RemoveCurrency; the action is there for code alone.
     enum Action { AddDay, ModifyDay, DeleteDay, AddCurrency, RemoveCurrency, ShowEvolution, Close };
 
-    explicit CursValutar(shell::Module& module);
+    explicit CursValutar(shell::Application& application);
 
     void ShowForm();
 
@@ -37,8 +37,8 @@ class CursValutar : public forms::Form {
 
     void cmdAction_Click(int index);
 
-    /// Enables the window again, unless another one that was opened from it still holds it.
-    void LetIn();
+    /// Enables the window again, unless another window that was opened from it still keeps it disabled.
+    void Reenable();
 
     const CurrencyNames& Currencies() const { return currencyNames_; }
     /// The day of the grid's current row, "dd/mm/yyyy".
@@ -97,7 +97,7 @@ class CursValutar : public forms::Form {
     void dpDataFin_KeyDown(int keyCode);
     void cmdRefresh_Click();
 
-    shell::Module& module_;
+    shell::Application& application_;
     RateStore store_;
     shell::ConnectionMark mark_;  ///< of the connection that the list was read on
     CurrencyNames currencyNames_;

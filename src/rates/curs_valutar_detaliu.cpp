@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-#include "data/date.h"
+#include "data/text/date.h"
+#include "data/text/digits.h"
+#include "data/text/number_text.h"
 #include "rates/curs_valutar.h"
 #include "shell/layout.h"
 #include "shell/window_helpers.h"
@@ -23,10 +25,6 @@ constexpr int CurrenciesInSight = 11;
 constexpr int LabelWidth = 1740;
 constexpr int ThousandsGrouping = 3;
 
-bool IsDigit(char32_t character) {
-    return character >= U'0' && character <= U'9';
-}
-
 const char* ReasonOf(ValueRefusal refusal) {
     switch (refusal) {
         case ValueRefusal::Missing:
@@ -40,15 +38,15 @@ const char* ReasonOf(ValueRefusal refusal) {
 
 }  // namespace
 
-CursValutarDetaliu::CursValutarDetaliu(shell::Module& module)
-    : Form(module.Desktop(), "CursValutarDetaliu", "Curs Valutar", forms::BorderStyle::FixedDialog),
+CursValutarDetaliu::CursValutarDetaliu(shell::Application& application)
+    : Form(application.Desktop(), "CursValutarDetaliu", "Curs Valutar", forms::BorderStyle::FixedDialog),
       lblDescriere(*this, "lblDescriere", "Data Curs Valutar"),
       DataCurs(*this, "DataCurs", "dd/MM/yyyy"),
       txtCursValutar(*this, "txtCursValutar"),
       Grid(*this, "Grid"),
       cmdAction(*this, "cmdAction"),
-      module_(module),
-      store_(module.context) {
+      application_(application),
+      store_(application.context) {
     PlaceControls();
     ConnectEvents();
 }
@@ -111,13 +109,13 @@ void CursValutarDetaliu::ShowForm(const CurrencyNames& names, EntryMode mode) {
 }
 
 void CursValutarDetaliu::OnLoad() {
-    module_.CreateMessageService();
-    mark_.Set(module_.context);
+    application_.CreateMessageService();
+    mark_.Set(application_.context);
     FillGrid();
     FitToCurrencies();
     CenterOnScreen();
-    DataCurs.SetDate(module_.context.workDate);
-    const auto* list = module_.Loaded<CursValutar>();
+    DataCurs.SetDate(application_.context.workDate);
+    const auto* list = application_.Loaded<CursValutar>();
     if (RulesOf(mode_).beginsFromList && list != nullptr) {
         if (const auto day = data::ParseDayMonthYear(list->SelectedDayText())) DataCurs.SetDate(*day);
     }
@@ -132,7 +130,7 @@ void CursValutarDetaliu::FillGrid() {
     Grid.SetColumnWidth(ValueColumn, ValueWidth);
     Grid.SetColumnAlignment(ValueColumn, forms::Align::Right);
     Grid.SetZerosApart(ValueColumn);
-    const auto* list = module_.Loaded<CursValutar>();
+    const auto* list = application_.Loaded<CursValutar>();
     for (int i = CurrencyNames::FirstCurrency; i <= currencyNames_.UpperBound(); ++i) {
         const int row = i - CurrencyNames::FirstCurrency + 1;
         Grid.SetTextMatrix(row, CodeColumn, currencyNames_[i]);
@@ -142,9 +140,9 @@ void CursValutarDetaliu::FillGrid() {
 }
 
 void CursValutarDetaliu::OnUnload() {
-    auto* list = module_.Loaded<CursValutar>();
+    auto* list = application_.Loaded<CursValutar>();
     if (list == nullptr) return;
-    list->LetIn();
+    list->Reenable();
     list->SelectWholeRow();
     list->Grid.SetFocus();
 }
@@ -173,13 +171,13 @@ bool CursValutarDetaliu::ValidateRateCell() {
 }
 
 void CursValutarDetaliu::Refuse(ValueRefusal refusal) {
-    module_.ShowMessage(ReasonOf(refusal), message::Information, message::Ok, Caption());
+    application_.ShowMessage(ReasonOf(refusal), message::Information, message::Ok, Caption());
 }
 
 void CursValutarDetaliu::CommitCell() {
     if (!editor_.IsEdited()) return editor_.Close();
-    const double number = NumberIn(txtCursValutar.Text()).value_or(0);
-    editor_.Commit(FormatRate(data::ShortestDecimal(number), 0, ThousandsGrouping));
+    const double number = TypedRate(txtCursValutar.Text()).value_or(0);
+    editor_.Commit(FormatRate(data::NumberText(number), 0, ThousandsGrouping));
 }
 
 void CursValutarDetaliu::LeaveCell(Step step) {
@@ -230,7 +228,7 @@ void CursValutarDetaliu::txtCursValutar_KeyPress(char32_t& character) {
     // Backspace, and what the platform's field makes of Ctrl and a letter: copying, pasting, taking back.
     // None of them is a character of the text.
     if (character < U' ') return;
-    if (IsDigit(character) && HasRoomForDigit(txtCursValutar.Text(), txtCursValutar.SelText())) return;
+    if (data::IsDigit(character) && HasRoomForDigit(txtCursValutar.Text(), txtCursValutar.SelText())) return;
     // Who types a comma must not take 95 for 9,5.
     OwnerDesktop().Beep();
     character = 0;
@@ -260,7 +258,7 @@ void CursValutarDetaliu::Grid_KeyDown(int& keyCode) {
 }
 
 void CursValutarDetaliu::Grid_KeyPress(char32_t& character) {
-    if (!IsDigit(character) || Grid.Row() < 1) return;
+    if (!data::IsDigit(character) || Grid.Row() < 1) return;
     BeginCellEdit();
     txtCursValutar.ReplaceSelection(std::string(1, static_cast<char>(character)));
     character = 0;
@@ -297,7 +295,7 @@ std::vector<RateEntry> CursValutarDetaliu::Entries() const {
 }
 
 bool CursValutarDetaliu::SaveRates() {
-    mark_.Demand(module_.context);
+    mark_.RequireCurrent(application_.context);
     if (mode_ == EntryMode::Add) return InsertDay();
     // The rate list has refused frozen days before it opened this window.
     store_.UpdateDay(DataCurs.Date(), Entries());
@@ -307,7 +305,7 @@ bool CursValutarDetaliu::SaveRates() {
 bool CursValutarDetaliu::InsertDay() {
     const data::OleDate frozen = store_.FrozenDate();
     if (IsFrozen(DataCurs.Date(), frozen)) {
-        module_.ShowMessage(
+        application_.ShowMessage(
             "Data documentului introdus nu poate fi mai mica decit data ultimei validari \r\n"
             "Data ultimei validari : " +
                 data::FormatDayMonthYear(frozen) + "\r\nData document introdus : " + DayText() +
@@ -316,8 +314,8 @@ bool CursValutarDetaliu::InsertDay() {
         return false;
     }
     if (store_.CountDay(DataCurs.Date()) != 0) {
-        module_.ShowMessage("Exista curs valutar la aceasta data!", message::Information, message::Ok,
-                            Caption());
+        application_.ShowMessage("Exista curs valutar la aceasta data!", message::Information, message::Ok,
+                                 Caption());
         return false;
     }
     store_.InsertDay(DataCurs.Date(), Entries());
@@ -336,7 +334,7 @@ void CursValutarDetaliu::cmdAction_Click(int index) {
     if (!SaveRates()) return DataCurs.SetFocus();  // it is the day that was refused
     const std::string day = DayText();
     Unload();
-    if (auto* list = module_.Loaded<CursValutar>()) {
+    if (auto* list = application_.Loaded<CursValutar>()) {
         list->ApplyDateFilter();
         list->SelectDay(day);
         list->Grid.SetFocus();  // before its first day it was hidden and could not take it

@@ -4,19 +4,19 @@
 #include <vector>
 
 #include "data/value.h"
-#include "forms/cell_editor.h"
-#include "forms/command_button.h"
-#include "forms/control_array.h"
-#include "forms/date_picker.h"
-#include "forms/form.h"
-#include "forms/grid.h"
-#include "forms/label.h"
-#include "forms/text_box.h"
+#include "forms/controls/cell_editor.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/date_picker.h"
+#include "forms/controls/grid.h"
+#include "forms/controls/label.h"
+#include "forms/controls/text_box.h"
+#include "forms/model/control_array.h"
+#include "forms/model/form.h"
 #include "rates/currency_names.h"
 #include "rates/rate_rules.h"
 #include "rates/rate_store.h"
 #include "rates/rate_values.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::rates {
 
@@ -26,7 +26,7 @@ class CursValutarDetaliu : public forms::Form {
   public:
     enum Action { Accept, Cancel };
 
-    explicit CursValutarDetaliu(shell::Module& module);
+    explicit CursValutarDetaliu(shell::Application& application);
 
     /// Adds a day, or corrects the one that is selected in the rate list.
     void ShowForm(const CurrencyNames& names, EntryMode mode);
@@ -76,7 +76,7 @@ class CursValutarDetaliu : public forms::Form {
     void cmdAction_Click(int index);
     void CancelOnEscape(int keyCode);
 
-    shell::Module& module_;
+    shell::Application& application_;
     RateStore store_;
     shell::ConnectionMark mark_;  ///< of the connection that the entry was begun on
     forms::CellEditor editor_{Grid, txtCursValutar};

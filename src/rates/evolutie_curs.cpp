@@ -47,8 +47,8 @@ void Refill(forms::ComboBox& list, std::vector<std::string> entries) {
 
 }  // namespace
 
-EvolutieCurs::EvolutieCurs(shell::Module& module)
-    : Form(module.Desktop(), "EvolutieCurs", "Evolutie Curs", forms::BorderStyle::Sizable),
+EvolutieCurs::EvolutieCurs(shell::Application& application)
+    : Form(application.Desktop(), "EvolutieCurs", "Evolutie Curs", forms::BorderStyle::Sizable),
       Label1(*this, "Label1", "An"),
       cmbAn(*this, "cmbAn", forms::ComboStyle::DropDownList),
       Label2(*this, "Label2", "Luna"),
@@ -68,8 +68,8 @@ EvolutieCurs::EvolutieCurs(shell::Module& module)
       fraGrafic(*this, "fraGrafic"),
       MSChart1(fraGrafic, "MSChart1"),
       Grid(*this, "Grid"),
-      module_(module),
-      store_(module.context),
+      application_(application),
+      store_(application.context),
       lstImages_{forms::Icon::Exit, forms::Icon::Chart} {
     PlaceControls();
     ConnectEvents();
@@ -159,7 +159,7 @@ void EvolutieCurs::ConnectEvents() {
 // Life.
 
 void EvolutieCurs::OnLoad() {
-    module_.CreateMessageService();
+    application_.CreateMessageService();
     cmdAction[Close].SetPicture(lstImages_.Picture(1));
     cmdAction[Redraw].SetPicture(lstImages_.Picture(2));
     CenterOnScreen();
@@ -185,7 +185,7 @@ void EvolutieCurs::SetHeader() {
 
 void EvolutieCurs::OnUnload() {
     // The list went away when this window opened; what is enabled here is the one that opens next.
-    module_.Default<CursValutar>().LetIn();
+    application_.Default<CursValutar>().Reenable();
 }
 
 // The lists.
@@ -200,7 +200,7 @@ void EvolutieCurs::IncarcaListe() {
 void EvolutieCurs::ReadLists() {
     Refill(cmbMoneda, store_.ColumnsAfterSecond());
     Refill(cmbAn, store_.ReadYears());
-    mark_.Set(module_.context);
+    mark_.Set(application_.context);
 }
 
 EvolutionChoice EvolutieCurs::Choice() const {
@@ -304,7 +304,7 @@ void EvolutieCurs::cmdAction_Click(int index) {
 
 void EvolutieCurs::RedrawChart() {
     // Lists that could not be read, or that are another database's, are read first.
-    if (!mark_.IsCurrent(module_.context)) ReadLists();
+    if (!mark_.IsCurrent(application_.context)) ReadLists();
     if (DeseneazaGrafic()) {
         ShowChart();
     } else {

@@ -3,19 +3,19 @@
 #include <string>
 #include <vector>
 
-#include "forms/chart.h"
-#include "forms/combo_box.h"
-#include "forms/command_button.h"
-#include "forms/control_array.h"
-#include "forms/decoration.h"
-#include "forms/form.h"
-#include "forms/frame.h"
-#include "forms/grid.h"
-#include "forms/image_list.h"
-#include "forms/label.h"
+#include "forms/controls/chart.h"
+#include "forms/controls/combo_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/decoration.h"
+#include "forms/controls/frame.h"
+#include "forms/controls/grid.h"
+#include "forms/controls/label.h"
+#include "forms/drawing/image_list.h"
+#include "forms/model/control_array.h"
+#include "forms/model/form.h"
 #include "rates/rate_store.h"
 #include "rates/rate_values.h"
-#include "shell/module.h"
+#include "shell/application.h"
 
 namespace tavrin::rates {
 
@@ -25,7 +25,7 @@ class EvolutieCurs : public forms::Form {
   public:
     enum Action { Close, Redraw };
 
-    explicit EvolutieCurs(shell::Module& module);
+    explicit EvolutieCurs(shell::Application& application);
 
     forms::Label Label1;
     forms::ComboBox cmbAn;
@@ -81,7 +81,7 @@ class EvolutieCurs : public forms::Form {
     /// Swallows a key that leads nowhere, and lets it sound.
     void Ignore(int& keyCode) const;
 
-    shell::Module& module_;
+    shell::Application& application_;
     RateStore store_;
     forms::ImageList lstImages_;
     shell::ConnectionMark mark_;  ///< of the connection that the lists were read on

@@ -1,14 +1,13 @@
 #include "rates/evolution_statements.h"
 
+#include "data/text/trim.h"
+
 namespace tavrin::rates {
 
 namespace {
 
 std::string Bracketed(std::string_view currency) {
-    const std::size_t first = currency.find_first_not_of(' ');
-    if (first == std::string_view::npos) return "[]";
-    const std::size_t last = currency.find_last_not_of(' ');
-    return "[" + std::string(currency.substr(first, last - first + 1)) + "]";
+    return "[" + std::string(data::Trimmed(currency)) + "]";
 }
 
 std::string MonthClause(const EvolutionChoice& choice) {

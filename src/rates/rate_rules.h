@@ -18,8 +18,6 @@ bool IsFrozen(data::OleDate day, data::OleDate lastFrozenDay);
 /// The last currency stays.
 bool MayRemoveCurrency(const CurrencyNames& currencies);
 
-bool IsBlank(std::string_view text);
-
 // The entry of a day's rates.
 
 enum class EntryMode { Add, Modify };
@@ -46,7 +44,7 @@ std::optional<ValueRefusal> RefusalOf(const TypedValue& value);
 bool HasRoomForDigit(std::string_view text, std::string_view selected);
 
 /// The number in a cell's text, its thousands separators and blanks aside; nothing when there is none.
-std::optional<double> NumberIn(std::string_view text);
+std::optional<double> TypedRate(std::string_view text);
 
 // Another currency.
 

@@ -1,6 +1,7 @@
 #include "rates/rate_statements.h"
 
-#include "data/date.h"
+#include "data/text/date.h"
+#include "data/text/trim.h"
 
 namespace tavrin::rates {
 
@@ -10,16 +11,10 @@ std::string_view Cut(std::string_view text, std::size_t start, std::size_t lengt
     return start < text.size() ? text.substr(start, length) : std::string_view{};
 }
 
-std::string Trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
-}
-
 /// The number of a shown value: its thousands separators are the display's, not the database's.
 std::string PlainValue(std::string value) {
     std::erase(value, ',');
-    return Trimmed(value);
+    return std::string(data::Trimmed(value));
 }
 
 }  // namespace
@@ -81,7 +76,8 @@ std::string InsertDayStatement(std::string_view dayMonthYear, const std::vector<
 std::string UpdateDayStatement(std::string_view dayMonthYear, const std::vector<RateEntry>& rates) {
     std::string statement = "UPDATE [Curs Valutar] SET ";
     for (std::size_t i = 0; i < rates.size(); ++i) {
-        statement += "[" + Trimmed(rates[i].currency) + "] = " + PlainValue(rates[i].value);
+        statement +=
+            "[" + std::string(data::Trimmed(rates[i].currency)) + "] = " + PlainValue(rates[i].value);
         statement += i + 1 < rates.size() ? ", " : " ";
     }
     return statement + " WHERE [Data] = '" + MonthDayYear(dayMonthYear) + "'";

@@ -1,8 +1,8 @@
 #include "rates/rate_store.h"
 
 #include "data/connection.h"
-#include "data/date.h"
 #include "data/error.h"
+#include "data/text/date.h"
 #include "rates/chooser_statements.h"
 #include "rates/evolution_statements.h"
 #include "rates/rate_statements.h"

@@ -3,7 +3,8 @@
 #include <string_view>
 #include <utility>
 
-#include "forms/number_format.h"
+#include "data/text/number_format.h"
+#include "data/text/number_text.h"
 
 namespace tavrin::rates {
 
@@ -13,16 +14,6 @@ void ReplaceAll(std::string& text, std::string_view what, std::string_view by) {
     if (what.empty()) return;
     for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + by.size()))
         text.replace(at, what.size(), by);
-}
-
-/// A number as the user would type it.
-double NumberInLocale(const std::string& text, const forms::Locale& locale) {
-    const std::size_t separatorAt = text.find(locale.decimalSeparator);
-    std::string number = text.substr(0, separatorAt);
-    ReplaceAll(number, locale.thousandsSeparator, "");
-    if (separatorAt != std::string::npos)
-        number += "." + text.substr(separatorAt + locale.decimalSeparator.size());
-    return data::Value(std::move(number)).ToDouble();
 }
 
 }  // namespace
@@ -35,18 +26,23 @@ std::optional<double> RateOf(const data::Value& value) {
     return data::Value(std::move(text)).ToDouble();
 }
 
-double NumberOfRateText(std::string text, const forms::Locale& locale) {
+double NumberOfRateText(std::string text, const data::Locale& locale) {
     ReplaceAll(text, ".", locale.decimalSeparator);
-    return NumberInLocale(text, locale);
+    const std::size_t separatorAt = text.find(locale.decimalSeparator);
+    std::string number = text.substr(0, separatorAt);
+    ReplaceAll(number, locale.thousandsSeparator, "");
+    if (separatorAt != std::string::npos)
+        number += "." + text.substr(separatorAt + locale.decimalSeparator.size());
+    return data::Value(std::move(number)).ToDouble();
 }
 
-std::string RateCaption(double rate, const std::string& currency, const forms::Locale& locale) {
+std::string RateCaption(double rate, const std::string& currency, const data::Locale& locale) {
     const std::string amount =
-        forms::FormatNumber(data::ShortestDecimal(rate), {.decimals = 2,
-                                                          .grouping = 3,
-                                                          .leadingZero = true,
-                                                          .decimalSeparator = locale.decimalSeparator,
-                                                          .thousandsSeparator = locale.thousandsSeparator});
+        data::FormatNumber(data::NumberText(rate), {.decimals = 2,
+                                                    .grouping = 3,
+                                                    .leadingZero = true,
+                                                    .decimalSeparator = locale.decimalSeparator,
+                                                    .thousandsSeparator = locale.thousandsSeparator});
     return "Cursul este de  " + amount + " Lei pentru 1 " + currency;
 }
 

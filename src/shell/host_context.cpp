@@ -8,7 +8,7 @@ data::Connection& HostContext::Database() const {
     if (!connection) throw data::ObjectNotSet();
     if (beforeQuery) beforeQuery();
     if (!trace) return *connection;
-    trace->Follow(connection);
+    trace->SetTarget(connection);
     return *trace;
 }
 
@@ -16,7 +16,7 @@ bool ConnectionMark::IsCurrent(const HostContext& context) const {
     return context.connection != nullptr && connection_.lock() == context.connection;
 }
 
-void ConnectionMark::Demand(const HostContext& context) const {
+void ConnectionMark::RequireCurrent(const HostContext& context) const {
     context.Database();
     if (IsCurrent(context)) return;
     throw data::RuntimeError(data::error_number::InvalidConnection);

@@ -50,7 +50,7 @@ class ConnectionMark {
 
     /// Keeps what was read in one database from being written into another.
     /// \throws Error 91 without a connection, 3709 on another one
-    void Demand(const HostContext& context) const;
+    void RequireCurrent(const HostContext& context) const;
 
   private:
     std::weak_ptr<data::Connection> connection_;

@@ -49,8 +49,8 @@ constexpr std::string_view CalculatorWindow = "frmCalculator";
 
 }  // namespace
 
-Utilitati::Utilitati(Module& module)
-    : Form(module.Desktop(), "Utilitati", "Utilitati", forms::BorderStyle::Borderless),
+Utilitati::Utilitati(Application& application)
+    : Form(application.Desktop(), "Utilitati", "Utilitati", forms::BorderStyle::Borderless),
       picCaption(*this, "picCaption"),
       imgRollup(*this, "imgRollup"),
       imgClose(*this, "imgClose"),
@@ -59,7 +59,7 @@ Utilitati::Utilitati(Module& module)
       Label2(*this, "Label2", "AGENDA"),
       Label3(*this, "Label3", "CALCULATOR"),
       Label4(*this, "Label4", "CURS VALUTAR"),
-      module_(module),
+      application_(application),
       lstImages_{Icon::NotePad, Icon::Calculator, Icon::AddressBook, Icon::Exchange} {
     PlaceControls();
     ConnectEvents();
@@ -141,9 +141,9 @@ void Utilitati::OnDeactivate() {
 
 void Utilitati::OnUnload() {
     for (const std::string_view window : ClosedWithPalette)
-        module_.UnloadWindow(window);
-    if (!leftByEscape_) module_.UnloadWindow(CalculatorWindow);
-    module_.context.RaiseIesire();
+        application_.UnloadWindow(window);
+    if (!leftByEscape_) application_.UnloadWindow(CalculatorWindow);
+    application_.context.RaiseIesire();
 }
 
 // The caption strip.
@@ -182,7 +182,7 @@ void Utilitati::HighlightCaption(int index) {
 }
 
 void Utilitati::cmdAction_Click(int index) {
-    module_.Launch(Targets[static_cast<std::size_t>(index)]);
+    application_.Launch(Targets[static_cast<std::size_t>(index)]);
 }
 
 void Utilitati::cmdAction_KeyDown(int index, int& keyCode) {

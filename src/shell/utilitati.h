@@ -1,13 +1,13 @@
 #pragma once
 
-#include "forms/command_button.h"
-#include "forms/control_array.h"
-#include "forms/form.h"
-#include "forms/image.h"
-#include "forms/image_list.h"
-#include "forms/label.h"
-#include "forms/picture_box.h"
-#include "shell/module.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/image.h"
+#include "forms/controls/label.h"
+#include "forms/controls/picture_box.h"
+#include "forms/drawing/image_list.h"
+#include "forms/model/control_array.h"
+#include "forms/model/form.h"
+#include "shell/application.h"
 
 namespace tavrin::shell {
 
@@ -15,7 +15,7 @@ namespace tavrin::shell {
 /// and rolls it up. Closing it closes the other windows and tells the host.
 class Utilitati : public forms::Form {
   public:
-    explicit Utilitati(Module& module);
+    explicit Utilitati(Application& application);
 
     /// Moves the palette with the mouse.
     void MutaForma();
@@ -49,7 +49,7 @@ class Utilitati : public forms::Form {
     void Restore();
     void UnloadListedWindows();
 
-    Module& module_;
+    Application& application_;
     forms::ImageList lstImages_;
     int designHeight_ = 0;
     int designWidth_ = 0;

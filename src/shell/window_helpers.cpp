@@ -1,6 +1,6 @@
 #include "shell/window_helpers.h"
 
-#include "forms/text_box.h"
+#include "forms/controls/text_box.h"
 #include "shell/layout.h"
 
 namespace tavrin::shell {

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "forms/form.h"
+#include "forms/model/form.h"
 
 namespace tavrin::shell {
 

@@ -10,8 +10,8 @@
 #include <memory>
 
 #include "e2e/driver/ui_thread.h"
-#include "forms/form.h"
-#include "forms/rich_text_box.h"
+#include "forms/controls/rich_text_box.h"
+#include "forms/model/form.h"
 #include "notes/rtf_reader.h"
 #include "notes/rtf_writer.h"
 #include "support/note_dump.h"

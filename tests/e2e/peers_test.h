@@ -8,18 +8,18 @@
 #include <memory>
 #include <string>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "e2e/driver/input.h"
 #include "e2e/driver/ui_thread.h"
 #include "e2e/driver/wait.h"
 #include "e2e/driver/window.h"
-#include "forms/combo_box.h"
-#include "forms/command_button.h"
-#include "forms/date_picker.h"
-#include "forms/form.h"
-#include "forms/frame.h"
-#include "forms/grid.h"
-#include "forms/text_box.h"
+#include "forms/controls/combo_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/date_picker.h"
+#include "forms/controls/frame.h"
+#include "forms/controls/grid.h"
+#include "forms/controls/text_box.h"
+#include "forms/model/form.h"
 #include "win32/desktop/desktop.h"
 
 namespace tavrin::e2e {

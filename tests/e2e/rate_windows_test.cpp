@@ -322,7 +322,7 @@ TEST(NumberFormatTest, ThePlatformAgreesWithThePortableTwin) {
     int compared = 0;
     const auto compare = [&](const std::string& number) {
         const std::string platform = win32::FormatPlatformNumber(number, {});
-        EXPECT_EQ(platform, forms::FormatNumber(number, {})) << number;
+        EXPECT_EQ(platform, data::FormatNumber(number, {})) << number;
         ++compared;
     };
     for (long long number = 1; number < 1'000'000'000'000'000; number = number * 3 / 2 + 1) {

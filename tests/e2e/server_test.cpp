@@ -6,7 +6,7 @@
 
 #include <array>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "e2e/driver/accessible_reader.h"
 #include "e2e/driver/shown_message.h"
 #include "e2e/host_test.h"

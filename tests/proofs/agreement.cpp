@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "forms/tool_button.h"
+#include "forms/controls/tool_button.h"
 #include "support/shadow_peer.h"
 #include "support/window_holders.h"
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "forms/text_box.h"
+#include "forms/controls/text_box.h"
 #include "proofs/fault_runner.h"
 
 namespace tavrin::tests {
@@ -53,7 +53,7 @@ TEST(Faults, AControlThatChangesWithoutAWordIsAComplaint) {
 TEST(Faults, AStatementOfAWindowThatIsNotThereIsAComplaint) {
     UserSession session;
     session.Apel();
-    session.module.context.connection->Execute("DELETE FROM [Curs Valutar] WHERE [Data] = '01-01-2003'");
+    session.application.context.connection->Execute("DELETE FROM [Curs Valutar] WHERE [Data] = '01-01-2003'");
     EXPECT_EQ(session.Complaint(),
               "no window was there that sends: DELETE FROM [Curs Valutar] WHERE [Data] = '01-01-2003'");
 }
@@ -61,16 +61,16 @@ TEST(Faults, AStatementOfAWindowThatIsNotThereIsAComplaint) {
 TEST(Faults, WhatIsLeftBehindIsAComplaint) {
     UserSession session;
     session.Apel();
-    const auto rows = session.module.context.connection->CreateRecordset();
+    const auto rows = session.application.context.connection->CreateRecordset();
     EXPECT_EQ(session.Complaint(), "1 recordsets are alive");
-    const auto kept = session.module.context.connection;
+    const auto kept = session.application.context.connection;
     EXPECT_EQ(session.ComplaintAfterLeaving(), "1 recordsets are alive");
 }
 
 TEST(Faults, AReferenceThatIsKeptIsAComplaint) {
     UserSession session;
     session.Apel();
-    const auto kept = session.module.context.connection;
+    const auto kept = session.application.context.connection;
     session.LeaveAll();
     EXPECT_EQ(session.ComplaintAfterLeaving(), "the connection has 3 references");
 }

@@ -3,7 +3,7 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/grid.h"
+#include "forms/controls/grid.h"
 #include "rates/curs_valutar.h"
 #include "support/fake_rich_text.h"
 
@@ -23,7 +23,7 @@ constexpr const char* Calculator = "frmCalculator";
 constexpr const char* Book = "Agenda";
 constexpr const char* Note = "Notes";
 
-void Nothing(Session& /*user*/) {}
+void NoPreparation(Session& /*user*/) {}
 
 void OpenBook(Session& user) {
     user.Click(Palette, "cmdAction(1)");
@@ -107,10 +107,10 @@ void Search(Session& user, const char* nume) {
 
 std::vector<Flow> PaletteFlows() {
     return {
-        {"palette: called once more", Nothing, [](Session& user) { user.Apel(); }},
+        {"palette: called once more", NoPreparation, [](Session& user) { user.Apel(); }},
         {"palette: called once more over all windows", OpenAll, [](Session& user) { user.Apel(); }},
-        {"palette: opens all windows by mouse", Nothing, OpenAll},
-        {"palette: opens windows by keyboard", Nothing,
+        {"palette: opens all windows by mouse", NoPreparation, OpenAll},
+        {"palette: opens windows by keyboard", NoPreparation,
          [](Session& user) {
              for (int i = 0; i < 4; ++i) {
                  user.Activate(Palette);
@@ -119,7 +119,7 @@ std::vector<Flow> PaletteFlows() {
              }
          }},
         {"palette: opens what is open", OpenAll, OpenAll},
-        {"palette: rolls up and down", Nothing,
+        {"palette: rolls up and down", NoPreparation,
          [](Session& user) {
              user.Click(Palette, "imgRollup(0)");
              user.Click(Palette, "imgRollup(1)");
@@ -148,7 +148,7 @@ std::vector<Flow> PaletteFlows() {
 
 std::vector<Flow> ListFlows() {
     return {
-        {"list: opens", Nothing, OpenList},
+        {"list: opens", NoPreparation, OpenList},
         {"list: filters", OpenList,
          [](Session& user) {
              user.ChooseDay(List, "dpDataIn", {2003, 4, 1});
@@ -288,7 +288,7 @@ std::vector<Flow> CurrencyFlows() {
         {"currency: cancelled", OpenCurrency, [](Session& user) { user.Click(Currency, "cmdAction(1)"); }},
         {"currency: removal", OpenList,
          [](Session& user) {
-             auto* list = user.module.Loaded<rates::CursValutar>();
+             auto* list = user.application.Loaded<rates::CursValutar>();
              if (list != nullptr && list->Enabled())
                  user.desktop.Guard([&] { list->cmdAction_Click(rates::CursValutar::RemoveCurrency); });
              user.Choose(Currency, "cmbMoneda", 1);
@@ -383,7 +383,7 @@ std::vector<Flow> ChooserFlows() {
 
 std::vector<Flow> CalculatorFlows() {
     return {
-        {"calculator: a sum by keyboard", Nothing,
+        {"calculator: a sum by keyboard", NoPreparation,
          [](Session& user) {
              OpenCalculator(user);
              user.Type("12.5+7.25\r*3=");
@@ -418,7 +418,7 @@ std::vector<Flow> CalculatorFlows() {
 
 std::vector<Flow> BookFlows() {
     return {
-        {"book: opens and browses", Nothing,
+        {"book: opens and browses", NoPreparation,
          [](Session& user) {
              OpenBook(user);
              user.Press(key::Down, 4);
@@ -531,7 +531,7 @@ void KeepNote(Session& user) {
 
 std::vector<Flow> NoteFlows() {
     return {
-        {"note: written and left with Escape", Nothing,
+        {"note: written and left with Escape", NoPreparation,
          [](Session& user) {
              WriteNote(user);
              user.Press(key::Escape);

@@ -5,9 +5,9 @@
 #include <string_view>
 #include <utility>
 
-#include "forms/combo_box.h"
-#include "forms/date_picker.h"
-#include "forms/text_box.h"
+#include "forms/controls/combo_box.h"
+#include "forms/controls/date_picker.h"
+#include "forms/controls/text_box.h"
 #include "rates/curs_valutar.h"
 #include "support/fake_rich_text.h"
 #include "support/recording_surface.h"
@@ -237,7 +237,7 @@ void RandomUser::Do(const RandomEvent& event) {
             DoDatabase(event);
             break;
         case EventKind::Operation:
-            if (auto* list = session_.module.Loaded<rates::CursValutar>();
+            if (auto* list = session_.application.Loaded<rates::CursValutar>();
                 list != nullptr && list->AcceptsInput()) {
                 session_.desktop.Guard([&] { list->cmdAction_Click(event.choice % 7); });
             }

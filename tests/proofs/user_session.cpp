@@ -6,10 +6,10 @@
 #include "addressbook/addressbook_statements.h"
 #include "com/composition.h"
 #include "data/error.h"
-#include "forms/combo_box.h"
-#include "forms/date_picker.h"
-#include "forms/grid.h"
-#include "forms/text_box.h"
+#include "forms/controls/combo_box.h"
+#include "forms/controls/date_picker.h"
+#include "forms/controls/grid.h"
+#include "forms/controls/text_box.h"
 #include "host/embedded/embedded_connection.h"
 #include "proofs/agreement.h"
 #include "proofs/faulty_connection.h"
@@ -43,9 +43,9 @@ class UserSession::Caller : public shell::CallingObject {
 };
 
 UserSession::UserSession()
-    : module(desktop, [this] { return std::make_unique<Messages>(*this); }),
+    : application(desktop, [this] { return std::make_unique<Messages>(*this); }),
       database_(std::make_shared<host::EmbeddedDatabase>(":memory:")) {
-    com::AddWindows(module);
+    com::AddWindows(application);
     ConnectPlatform();
     FillDatabase();
     connection_ =
@@ -129,13 +129,13 @@ void UserSession::EmptyAgenda() {
 
 void UserSession::Apel() {
     const forms::Desktop::DispatchScope scope(desktop);
-    module.context.companyId = host.companyId;
-    module.context.workDate = host.workDate;
-    module.context.connection = host.connected ? connection_ : nullptr;
-    module.context.workYear = host.workYear;
-    module.context.caller = caller_;
+    application.context.companyId = host.companyId;
+    application.context.workDate = host.workDate;
+    application.context.connection = host.connected ? connection_ : nullptr;
+    application.context.workYear = host.workYear;
+    application.context.caller = caller_;
     try {
-        com::OpenPalette(module);
+        com::OpenPalette(application);
     } catch (const std::exception& error) {
         hostErrors.emplace_back(error.what());
     }
@@ -273,7 +273,7 @@ std::string UserSession::ComplaintAfterLeaving() const {
     if (std::string complaint = Complaint(); !complaint.empty()) return complaint;
     if (!desktop.Forms().empty()) return desktop.Forms().front()->Name() + " is still open";
     // The session's own reference, and the one that the last Apel handed over.
-    const long held = module.context.connection == connection_ ? 2 : 1;
+    const long held = application.context.connection == connection_ ? 2 : 1;
     if (connection_.use_count() != held)
         return "the connection has " + std::to_string(connection_.use_count()) + " references";
     if (plan->recordsets != 0) return std::to_string(plan->recordsets) + " recordsets are alive";

@@ -9,11 +9,11 @@
 #include <utility>
 #include <vector>
 
-#include "data/date.h"
-#include "forms/form.h"
+#include "data/text/date.h"
+#include "forms/model/form.h"
 #include "host/embedded/embedded_database.h"
 #include "proofs/fault_plan.h"
-#include "shell/module.h"
+#include "shell/application.h"
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"
 
@@ -91,7 +91,7 @@ class UserSession {
     std::function<void()> whileShowing;  ///< a message or a dialog
     std::vector<std::string> hostErrors;
     int raised = 0;  ///< how often the host was told that the user left
-    shell::Module module;
+    shell::Application application;
 
   private:
     class Messages;

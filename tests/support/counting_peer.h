@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "forms/control.h"
-#include "forms/peer.h"
+#include "forms/model/control.h"
+#include "forms/model/peer.h"
 
 namespace tavrin::tests {
 

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/peer.h"
-#include "forms/rich_text_box.h"
+#include "forms/controls/rich_text_box.h"
+#include "forms/model/peer.h"
 
 namespace tavrin::tests {
 

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/desktop.h"
-#include "forms/form.h"
+#include "forms/model/desktop.h"
+#include "forms/model/form.h"
 #include "support/memory_files.h"
 #include "support/recording_dialogs.h"
 
@@ -37,7 +37,7 @@ class HeadlessDesktop : public forms::Desktop {
     forms::Size FrameSize(forms::BorderStyle border) const override;
     forms::PixelPoint CursorPosition() const override { return cursor; }
     void SetCursorPosition(forms::PixelPoint position) override { cursor = position; }
-    forms::Locale UserLocale() const override { return locale; }
+    data::Locale UserLocale() const override { return locale; }
     void Beep() override { ++beeps; }
     void CopyToClipboard(const forms::Copied& content) override { copied = content; }
     bool ActivateHost() override;
@@ -56,7 +56,7 @@ class HeadlessDesktop : public forms::Desktop {
     };
 
     forms::PixelPoint cursor{500, 400};
-    forms::Locale locale;
+    data::Locale locale;
     int twipsPerPixel = 15;
     forms::Size screen{1280 * 15, 1024 * 15};
     /// The whole screen unless set.

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "forms/combo_box.h"
-#include "forms/text_box.h"
+#include "forms/controls/combo_box.h"
+#include "forms/controls/text_box.h"
 #include "support/fake_rich_text.h"
 #include "support/shadow_peer.h"
 

@@ -2,9 +2,9 @@
 
 #include <string_view>
 
-#include "forms/desktop.h"
-#include "forms/form.h"
-#include "forms/keys.h"
+#include "forms/model/desktop.h"
+#include "forms/model/form.h"
+#include "forms/model/keys.h"
 
 namespace tavrin::tests {
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "data/error.h"
-#include "forms/files.h"
+#include "forms/model/files.h"
 
 namespace tavrin::tests {
 

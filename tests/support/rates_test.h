@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "data/text/number_text.h"
 #include "host/embedded/embedded_connection.h"
 #include "host/embedded/embedded_database.h"
 #include "rates/curs_valutar.h"
@@ -38,10 +39,10 @@ class RatesTest : public WindowTest {
         AddDay("05-14-2003", 37500, 32100);
         connection =
             std::make_shared<RecordingConnection>(std::make_shared<host::EmbeddedConnection>(database));
-        module.context.connection = connection;
-        module.context.workDate = Day(2003, 5, 20);
-        module.context.workYear = 2003;
-        module.context.companyId = 7;
+        application.context.connection = connection;
+        application.context.workDate = Day(2003, 5, 20);
+        application.context.workYear = 2003;
+        application.context.companyId = 7;
     }
 
     static data::OleDate Day(int year, int month, int day) { return data::ToOleDate({year, month, day}); }
@@ -53,7 +54,7 @@ class RatesTest : public WindowTest {
 
     void AddDay(const std::string& monthDayYear, double euro, double dollar) {
         Run("INSERT INTO [Curs Valutar]([Data],[EUR],[USD]) VALUES('" + monthDayYear + "'," +
-            data::ShortestDecimal(euro) + "," + data::ShortestDecimal(dollar) + ")");
+            data::NumberText(euro) + "," + data::NumberText(dollar) + ")");
     }
 
     std::int64_t CountOf(const std::string& fromAndWhere) {
@@ -61,7 +62,7 @@ class RatesTest : public WindowTest {
     }
 
     rates::CursValutar& OpenList() {
-        auto& list = module.Default<rates::CursValutar>();
+        auto& list = application.Default<rates::CursValutar>();
         list.ShowForm();
         return list;
     }

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/common_dialog.h"
+#include "forms/model/common_dialog.h"
 
 namespace tavrin::tests {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "forms/utf8.h"
+#include "data/text/utf8.h"
 #include "support/text_metrics.h"
 
 namespace tavrin::tests {
@@ -77,7 +77,7 @@ void RecordingSurface::DrawText(std::string_view text, const Rect& area, const f
 forms::Size RecordingSurface::MeasureText(std::string_view text, const forms::Font& font) {
     const double em = font.points * forms::TwipsPerInch / 72;
     const double character = font.bold ? BoldCharacterWidth : CharacterWidth;
-    return {static_cast<int>(std::ceil(forms::CountCharacters(text) * character * em)),
+    return {static_cast<int>(std::ceil(data::CountCharacters(text) * character * em)),
             static_cast<int>(std::ceil(LineHeight * em))};
 }
 

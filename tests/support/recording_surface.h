@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/surface.h"
+#include "forms/drawing/surface.h"
 
 namespace tavrin::tests {
 

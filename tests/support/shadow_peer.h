@@ -4,9 +4,9 @@
 #include <string>
 #include <utility>
 
-#include "forms/combo_box.h"
-#include "forms/control.h"
-#include "forms/text_box.h"
+#include "forms/controls/combo_box.h"
+#include "forms/controls/text_box.h"
+#include "forms/model/control.h"
 
 namespace tavrin::tests {
 

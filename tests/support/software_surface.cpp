@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "forms/utf8.h"
+#include "data/text/utf8.h"
 #include "support/text_metrics.h"
 
 namespace tavrin::tests {
@@ -87,12 +87,12 @@ void SoftwareSurface::DrawText(std::string_view text, const Rect& area, const fo
     const int indent = style.align == forms::Align::Left || room < 0 ? 0
                        : style.align == forms::Align::Right          ? room
                                                                      : room / 2;
-    const int count = forms::CountCharacters(text);
+    const int count = data::CountCharacters(text);
     const double advance = count > 0 ? static_cast<double>(size.width) / count : 0;
     const int top = area.top + (area.height - size.height) / 2;
     PushClip(area);
     for (int i = 0; i < count; ++i) {
-        if (text[forms::OffsetOfCharacter(text, i)] == ' ') continue;
+        if (text[data::OffsetOfCharacter(text, i)] == ' ') continue;
         FillRectangle({area.left + indent + static_cast<int>(i * advance), top + size.height / 4,
                        static_cast<int>(advance * 0.75), size.height / 2},
                       style.color);
@@ -102,7 +102,7 @@ void SoftwareSurface::DrawText(std::string_view text, const Rect& area, const fo
 
 forms::Size SoftwareSurface::MeasureText(std::string_view text, const forms::Font& font) {
     const double em = font.points * forms::TwipsPerInch / 72;
-    return {static_cast<int>(std::ceil(forms::CountCharacters(text) * CharacterWidth * em)),
+    return {static_cast<int>(std::ceil(data::CountCharacters(text) * CharacterWidth * em)),
             static_cast<int>(std::ceil(LineHeight * em))};
 }
 

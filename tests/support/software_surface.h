@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/rasterizer.h"
-#include "forms/surface.h"
+#include "forms/drawing/rasterizer.h"
+#include "forms/drawing/surface.h"
 
 namespace tavrin::tests {
 

@@ -5,9 +5,9 @@
 #include <memory>
 #include <string>
 
-#include "data/date.h"
-#include "forms/form.h"
-#include "shell/module.h"
+#include "data/text/date.h"
+#include "forms/model/form.h"
+#include "shell/application.h"
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"
 #include "support/recording_messages.h"
@@ -29,7 +29,7 @@ class CountingCaller : public shell::CallingObject {
 /// A component without a platform: its windows stand on a headless desktop, its messages are recorded.
 class WindowTest : public testing::Test {
   protected:
-    WindowTest() { module.context.caller = caller; }
+    WindowTest() { application.context.caller = caller; }
 
     std::string FocusedControl() const {
         const forms::Form* form = desktop.ActiveForm();
@@ -45,7 +45,7 @@ class WindowTest : public testing::Test {
     HeadlessKeyboard keyboard{desktop};
     RecordingMessages messages;
     std::shared_ptr<CountingCaller> caller = std::make_shared<CountingCaller>();
-    shell::Module module{desktop, [this] { return messages.CreateService(); }};
+    shell::Application application{desktop, [this] { return messages.CreateService(); }};
 };
 
 }  // namespace tavrin::tests

@@ -27,7 +27,7 @@ class Nesting {
     bool HasStatement() const { return hasStatement_; }
     void BeginBatch() { hasStatement_ = false; }
 
-    void Follow(std::string_view line) {
+    void Scan(std::string_view line) {
         for (std::size_t i = 0; i < line.size(); ++i) {
             const std::string_view pair = line.substr(i, 2);
             if (IsOutside() && pair == "--") return;
@@ -35,14 +35,14 @@ class Nesting {
                 comments_ += pair == "/*" ? 1 : -1;
                 ++i;
             } else if (comments_ == 0) {
-                FollowCode(line[i]);
+                ScanCode(line[i]);
             }
         }
     }
 
   private:
     // A doubled quote closes and opens again, which comes to the same.
-    void FollowCode(char each) {
+    void ScanCode(char each) {
         if (Blanks.find(each) == std::string_view::npos) hasStatement_ = true;
         if (quote_ != '\0') {
             if (each == quote_) quote_ = '\0';
@@ -88,7 +88,7 @@ std::vector<std::string> SplitBatches(std::string_view script) {
             end(*times);
             continue;
         }
-        nesting.Follow(line);
+        nesting.Scan(line);
         batch += line;
     }
     end(1);

@@ -17,7 +17,7 @@ class AgendaBrowseTest : public AgendaTest {};
 
 TEST_F(AgendaBrowseTest, OpeningRunsOneStatementAndReadsItsRowsAtOnce) {
     KeepThree();
-    module.Default<Agenda>().ShowForm();
+    application.Default<Agenda>().ShowForm();
     EXPECT_THAT(
         connection->Log(),
         ElementsAre("Open: SELECT AGENDA.Nume, AGENDA.Prenume, AGENDA.AdresaHome, AGENDA.OrasHome, "
@@ -83,7 +83,7 @@ TEST_F(AgendaBrowseTest, TheDetailsShowTheRowThatWasCurrentWhenTheKeyWentDown) {
 
 TEST_F(AgendaBrowseTest, PageKeysReadTheRowAndEndTheDesignedState) {
     for (const int keyCode : {key::PageDown, key::PageUp}) {
-        Agenda& window = module.Loaded<Agenda>() != nullptr ? Open() : OpenOnThree();
+        Agenda& window = application.Loaded<Agenda>() != nullptr ? Open() : OpenOnThree();
         window.Grid.SetRow(2);
         keyboard.Press(keyCode);
         EXPECT_EQ(ShownName(window), "Enescu Ana") << keyCode;
@@ -248,7 +248,7 @@ TEST_F(AgendaBrowseTest, IesireAsksAndYesCloses) {
     messages.answers = {6};
     ClickWithMouse(window.cmdAction[Agenda::Cancel]);
     EXPECT_THAT(messages.shown, ElementsAre(ShownMessage{"Doriti sa parasiti forma?", 32, 4, "Iesire"}));
-    EXPECT_EQ(module.Loaded<Agenda>(), nullptr);
+    EXPECT_EQ(application.Loaded<Agenda>(), nullptr);
     EXPECT_EQ(caller->raised, 0);
 }
 
@@ -262,7 +262,7 @@ TEST_F(AgendaBrowseTest, EscapeIsTheLastButton) {
     EXPECT_EQ(messages.shown.size(), 3U);
     messages.answers = {6};
     keyboard.Press(key::Escape);
-    EXPECT_EQ(module.Loaded<Agenda>(), nullptr);
+    EXPECT_EQ(application.Loaded<Agenda>(), nullptr);
 }
 
 TEST_F(AgendaBrowseTest, AltAndTheLetterPressTheButtons) {

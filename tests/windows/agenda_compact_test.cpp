@@ -40,7 +40,7 @@ class AgendaCompactTest : public AgendaTest {
     }
 
     /// As a designer drew it, before anything is loaded.
-    int DesignedWidth() { return module.Default<Agenda>().Bounds().width; }
+    int DesignedWidth() { return application.Default<Agenda>().Bounds().width; }
 };
 
 TEST_F(AgendaCompactTest, AnEmptyBookOpensReadyForItsFirstPerson) {
@@ -115,7 +115,7 @@ TEST_F(AgendaCompactTest, RenuntaClosesWithoutAQuestion) {
     TypeNames(window, "Popa", "Ion");
     window.cmdAction[Agenda::Cancel].Click();
     EXPECT_THAT(messages.shown, IsEmpty());
-    EXPECT_EQ(module.Loaded<Agenda>(), nullptr);
+    EXPECT_EQ(application.Loaded<Agenda>(), nullptr);
     EXPECT_THAT(Names(), IsEmpty());
 }
 

@@ -31,7 +31,7 @@ class AgendaConnectionTest : public AgendaTest {
 
     void HostTurnsToTheSecond() {
         connection->ClearRecord();
-        module.context.connection = secondConnection;
+        application.context.connection = secondConnection;
     }
 
     std::int64_t CountOfSecond() {
@@ -149,8 +149,8 @@ TEST_F(AgendaConnectionTest, AnEmptyBookGivesWayToTheNewOne) {
 
 TEST_F(AgendaConnectionTest, AnotherCallWithTheSameConnectionChangesNothing) {
     Agenda& window = OpenOnThree();
-    module.context.companyId = 4711;
-    module.context.connection = connection;
+    application.context.companyId = 4711;
+    application.context.connection = connection;
     window.cmdAction[Agenda::Delete].Click();
     EXPECT_EQ(messages.shown.size(), 1U);
     EXPECT_THAT(connection->Log(), IsEmpty());
@@ -159,7 +159,7 @@ TEST_F(AgendaConnectionTest, AnotherCallWithTheSameConnectionChangesNothing) {
 TEST_F(AgendaConnectionTest, NothingHoldsTheOldConnection) {
     Agenda& window = OpenOnThree();
     const std::weak_ptr<RecordingConnection> old = connection;
-    module.context.connection = secondConnection;
+    application.context.connection = secondConnection;
     connection.reset();
     EXPECT_TRUE(old.expired());
     Search(window, "");
@@ -171,7 +171,7 @@ TEST_F(AgendaConnectionTest, NothingHoldsTheOldConnection) {
 class AgendaWithoutConnectionTest : public AgendaConnectionTest {
   protected:
     Agenda& OpenWithoutConnection() {
-        module.context.connection = nullptr;
+        application.context.connection = nullptr;
         Agenda& window = Open();
         EXPECT_THAT(desktop.reports,
                     ElementsAre(Field(&HeadlessDesktop::Report::number, number::ObjectNotSet)));
@@ -220,7 +220,7 @@ TEST_F(AgendaWithoutConnectionTest, ANewPersonAfterAGoodCallIsSavedOnce) {
 
 TEST_F(AgendaWithoutConnectionTest, AConnectionThatIsTakenAwayLeavesNobodyToActOn) {
     Agenda& window = OpenOnThree();
-    module.context.connection = nullptr;
+    application.context.connection = nullptr;
     messages.answers = {6};
     window.cmdAction[Agenda::Delete].Click();
     EXPECT_THAT(messages.shown, IsEmpty());

@@ -224,10 +224,10 @@ TEST_F(AgendaDesignTest, KeepsItselfOnTopWhenItIsEnteredAndWhenItIsLeft) {
 TEST_F(AgendaDesignTest, EachLoadingMakesAMessageServiceOnce) {
     OpenOnThree();
     EXPECT_EQ(messages.created, 1);
-    module.Default<Agenda>().ShowForm();
+    application.Default<Agenda>().ShowForm();
     EXPECT_EQ(messages.created, 1) << "it was only shown again";
-    module.Default<Agenda>().Unload();
-    module.Default<Agenda>().ShowForm();
+    application.Default<Agenda>().Unload();
+    application.Default<Agenda>().ShowForm();
     EXPECT_EQ(messages.created, 2);
 }
 

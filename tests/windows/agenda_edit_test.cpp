@@ -1,6 +1,6 @@
 // Adding, modifying and deleting persons.
 
-#include "forms/look.h"
+#include "forms/controls/look.h"
 #include "windows/agenda_fixture.h"
 
 namespace tavrin::tests {
@@ -63,7 +63,7 @@ TEST_F(AgendaEditTest, EveryBoxGoesToItsColumnTrimmed) {
 
 TEST_F(AgendaEditTest, OfTwoPersonsOfOneFamilyNameTheRightOneIsShown) {
     OpenOnThree();
-    Agenda& window = *module.Loaded<Agenda>();
+    Agenda& window = *application.Loaded<Agenda>();
     Add(window, "Enescu", "Zoe");
     EXPECT_EQ(ShownName(window), "Enescu Zoe");
     ExpectWholeRowSelected(window, 3);
@@ -220,13 +220,13 @@ TEST_F(AgendaEditTest, StergeAsksWithTheTrimmedNamesAndKeepsTheQuestion) {
     window.cmdAction[Agenda::Delete].Click();
     const std::string question = "Doriti sa stergeti din agenda persoana Aba Ana ?";
     EXPECT_THAT(messages.shown, ElementsAre(ShownMessage{question, 32, 4, "Agenda"}));
-    EXPECT_EQ(module.lastQuestion, question);
+    EXPECT_EQ(application.lastQuestion, question);
 }
 
 TEST_F(AgendaEditTest, TheQuestionIsKeptBeforeItIsAsked) {
     Agenda& window = OpenOnThree();
     std::string kept;
-    messages.whileShowing = [&] { kept = module.lastQuestion; };
+    messages.whileShowing = [&] { kept = application.lastQuestion; };
     window.cmdAction[Agenda::Delete].Click();
     EXPECT_EQ(kept, "Doriti sa stergeti din agenda persoana Albu Dan ?");
 }

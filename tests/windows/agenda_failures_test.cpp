@@ -67,7 +67,7 @@ TEST_F(AgendaFailuresTest, WithoutAListAnEditCanStillBeLeft) {
     keyboard.Press(key::Enter);
     window.cmdAction[Agenda::Add].Click();
     window.cmdAction[Agenda::Cancel].Click();
-    EXPECT_EQ(module.Loaded<Agenda>(), nullptr);
+    EXPECT_EQ(application.Loaded<Agenda>(), nullptr);
     EXPECT_EQ(desktop.reports.size(), 1U);
 }
 
@@ -150,8 +150,8 @@ TEST_F(AgendaFailuresTest, AnyOperationMayFailAndTheWindowCanBeLeft) {
         ASSERT_TRUE(window.IsLoaded());
         window.cmdAction[Agenda::Cancel].Click();
         messages.answers = {6};
-        if (auto* open = module.Loaded<Agenda>()) open->cmdAction[Agenda::Cancel].Click();
-        EXPECT_EQ(module.Loaded<Agenda>(), nullptr) << operation;
+        if (auto* open = application.Loaded<Agenda>()) open->cmdAction[Agenda::Cancel].Click();
+        EXPECT_EQ(application.Loaded<Agenda>(), nullptr) << operation;
         connection->StopFailing();
         messages.answers.clear();
     }
@@ -173,12 +173,12 @@ TEST_F(AgendaFailuresTest, AMissingTableIsReported) {
     EXPECT_EQ(desktop.reports.size(), 1U);
     messages.answers = {6};
     window.cmdAction[Agenda::Cancel].Click();
-    EXPECT_EQ(module.Loaded<Agenda>(), nullptr);
+    EXPECT_EQ(application.Loaded<Agenda>(), nullptr);
 }
 
 TEST_F(AgendaFailuresTest, WithoutAConnectionEveryUseIsReportedAndTheWindowCanBeLeft) {
-    module.context.connection = nullptr;
-    auto& window = module.Default<Agenda>();
+    application.context.connection = nullptr;
+    auto& window = application.Default<Agenda>();
     window.ShowForm();
     EXPECT_THAT(desktop.reports, ReportOf(number::ObjectNotSet));
     Search(window, "Popa");
@@ -187,7 +187,7 @@ TEST_F(AgendaFailuresTest, WithoutAConnectionEveryUseIsReportedAndTheWindowCanBe
     window.cmdAction[Agenda::Accept].Click();
     EXPECT_EQ(desktop.reports.size(), 3U);
     window.cmdAction[Agenda::Cancel].Click();
-    EXPECT_EQ(module.Loaded<Agenda>(), nullptr);
+    EXPECT_EQ(application.Loaded<Agenda>(), nullptr);
 }
 
 // What others do meanwhile.

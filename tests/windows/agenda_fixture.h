@@ -22,7 +22,7 @@ class AgendaTest : public WindowTest {
     using Agenda = addressbook::Agenda;
 
     AgendaTest() {
-        module.context.connection = connection;
+        application.context.connection = connection;
         std::string columns = "Nume nvarchar(30), Prenume nvarchar(30)";
         for (std::size_t i = addressbook::FirstDetailColumn; i < addressbook::Columns.size(); ++i)
             columns += ", " + std::string(addressbook::Columns[i]) + " nvarchar(50)";
@@ -50,7 +50,7 @@ class AgendaTest : public WindowTest {
 
     /// Opens the window and forgets what opening did.
     Agenda& Open() {
-        auto& window = module.Default<Agenda>();
+        auto& window = application.Default<Agenda>();
         window.ShowForm();
         connection->ClearRecord();
         return window;

@@ -34,7 +34,7 @@ class AgendaNullTest : public AgendaTest, public testing::WithParamInterface<std
     AgendaNullTest() {
         connection = std::make_shared<RecordingConnection>(std::make_shared<PassThroughConnection>(
             others, [](auto rows) { return std::make_unique<MarkedNulls>(std::move(rows)); }));
-        module.context.connection = connection;
+        application.context.connection = connection;
     }
 
     std::size_t Column() const { return GetParam(); }

@@ -200,7 +200,7 @@ TEST_F(AlegeMonedaTest, RatesComeFromTheConnectionOfTheMoment) {
     const auto second = std::make_shared<RecordingConnection>();
     second->Script().AnswerRows(ColumnsQuery, {"Data", "Validat", "$"}, {});
     second->Script().AnswerRows(DollarQuery, {"D", "$"}, {{std::string("02/01/2004"), 3.25}});
-    module.context.connection = second;
+    application.context.connection = second;
     desktop.ActivateByUser(nullptr);
     desktop.ActivateByUser(&chooser);
     EXPECT_EQ(chooser.Grid.TextMatrix(1, 1), "3.25");
@@ -208,11 +208,11 @@ TEST_F(AlegeMonedaTest, RatesComeFromTheConnectionOfTheMoment) {
 }
 
 TEST_F(AlegeMonedaTest, OpenedWithoutAConnectionItIsWholeAfterAGoodOne) {
-    module.context.connection = nullptr;
+    application.context.connection = nullptr;
     Open();
     AlegeMoneda& chooser = OpenChooser();
     EXPECT_EQ(chooser.cmdAction[0].Picture(), forms::Icon::Accept);
-    module.context.connection = connection;
+    application.context.connection = connection;
     desktop.ActivateByUser(nullptr);
     desktop.ActivateByUser(&chooser);
     EXPECT_THAT(Currencies(chooser), SizeIs(3));
@@ -449,7 +449,7 @@ TEST_F(AlegeMonedaTest, AFailureOfTheCurrenciesEndsTheActivation) {
 }
 
 TEST_F(AlegeMonedaTest, WithoutAConnectionItReportsAndCloses) {
-    module.context.connection = nullptr;
+    application.context.connection = nullptr;
     Open();
     OpenChooser();
     EXPECT_THAT(ReportedErrors(), ElementsAre(data::error_number::ObjectNotSet));
@@ -495,7 +495,7 @@ TEST_F(AlegeMonedaTest, ACalculatorThatOpensLaterKnowsNothingOfTheChoice) {
 }
 
 TEST_F(AlegeMonedaTest, AcceptingWithoutACallerIsAnError) {
-    auto& chooser = module.Default<AlegeMoneda>();
+    auto& chooser = application.Default<AlegeMoneda>();
     chooser.cmbMoneda.SetText("EUR");
     chooser.Show();
     keyboard.Press(key::Enter);

@@ -20,14 +20,14 @@ class CalculatorTest : public RatesTest {
     }
 
     calculator::FrmCalculator& Open() {
-        auto& window = module.Default<calculator::FrmCalculator>();
+        auto& window = application.Default<calculator::FrmCalculator>();
         window.Load();
         window.Show();
         return window;
     }
 
-    calculator::FrmCalculator* Calculator() { return module.Loaded<calculator::FrmCalculator>(); }
-    rates::AlegeMoneda* Chooser() { return module.Loaded<rates::AlegeMoneda>(); }
+    calculator::FrmCalculator* Calculator() { return application.Loaded<calculator::FrmCalculator>(); }
+    rates::AlegeMoneda* Chooser() { return application.Loaded<rates::AlegeMoneda>(); }
 
     rates::AlegeMoneda& OpenChooser() {
         Calculator()->cmdVal.Click();

@@ -19,16 +19,16 @@ class CereMonedaTest : public RatesTest {
     CereMoneda& OpenToAdd() {
         OpenList().cmdAction[3].Click();
         connection->ClearRecord();
-        return *module.Loaded<CereMoneda>();
+        return *application.Loaded<CereMoneda>();
     }
 
     CereMoneda& OpenToRemove() {
         OpenList().cmdAction_Click(4);
-        return *module.Loaded<CereMoneda>();
+        return *application.Loaded<CereMoneda>();
     }
 
-    bool IsOpen() { return module.Loaded<CereMoneda>() != nullptr; }
-    CursValutar& List() { return *module.Loaded<CursValutar>(); }
+    bool IsOpen() { return application.Loaded<CereMoneda>() != nullptr; }
+    CursValutar& List() { return *application.Loaded<CursValutar>(); }
 };
 
 TEST_F(CereMonedaTest, AddingShowsATextBoxInTheMiddleOfTheScreen) {
@@ -73,12 +73,12 @@ TEST_F(CereMonedaTest, RemovingListsTheColumnsAfterTheSecondAndRemovesNone) {
 
 TEST_F(CereMonedaTest, ASingleCurrencyIsChosenAtOnceAndNoneIsNoError) {
     for (const bool any : {true, false}) {
-        module.Default<CursValutar>().Unload();
+        application.Default<CursValutar>().Unload();
         database = std::make_shared<host::EmbeddedDatabase>(":memory:");
         Run(std::string("CREATE TABLE [Curs Valutar] (Data datetime NOT NULL PRIMARY KEY, Validat int") +
             (any ? ", EUR float)" : ")"));
-        module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
-        auto& window = module.Default<CereMoneda>();
+        application.context.connection = std::make_shared<host::EmbeddedConnection>(database);
+        auto& window = application.Default<CereMoneda>();
         window.Mode = rates::CurrencyMode::Remove;
         window.Show();
         EXPECT_EQ(window.cmbMoneda.ListIndex(), any ? 0 : -1);

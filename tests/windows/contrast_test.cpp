@@ -8,8 +8,8 @@
 #include <iterator>
 #include <set>
 
-#include "forms/decoration.h"
-#include "forms/text_box.h"
+#include "forms/controls/decoration.h"
+#include "forms/controls/text_box.h"
 #include "support/recording_surface.h"
 #include "windows/every_window.h"
 

@@ -42,7 +42,7 @@ class ControlNamesTest : public WindowTest {
 
     template <class Window>
     void Expect(const std::string& windowName, const std::vector<Names>& expected) {
-        const auto& window = module.Default<Window>();
+        const auto& window = application.Default<Window>();
         EXPECT_EQ(window.Name(), windowName);
         Names names;
         for (const forms::Control* control : window.AllControls())

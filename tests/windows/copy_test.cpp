@@ -18,7 +18,7 @@ constexpr forms::Modifiers Shift{true, false, false};
 
 class CopyTest : public EveryWindowTest {
   protected:
-    CopyTest() { com::OpenPalette(module); }
+    CopyTest() { com::OpenPalette(application); }
 
     forms::Form& Window(std::string_view name) {
         forms::Form* const form = Find(name);
@@ -77,7 +77,7 @@ TEST_F(CopyTest, TheChartGoesAlongAsItsTableAndAsAPicture) {
     Click("CursValutar", "cmdAction(5)");
     EXPECT_EQ(Copy("EvolutieCurs"), "nothing") << "there is no chart yet";
     Click("EvolutieCurs", "cmdAction(1)");
-    auto& window = *module.Loaded<rates::EvolutieCurs>();
+    auto& window = *application.Loaded<rates::EvolutieCurs>();
     const std::string text = Copy("EvolutieCurs");
     EXPECT_EQ(std::ranges::count(text, '\n'), window.Grid.Rows());
     ASSERT_TRUE(desktop.copied->drawPicture);
@@ -90,7 +90,7 @@ TEST_F(CopyTest, TheNumberOfTheLitDisplayGoesAlong) {
     Click("Utilitati", "cmdAction(2)");
     Window("frmCalculator").FindControl("Number(1)")->SetFocus();
     keyboard.Type("12345");
-    EXPECT_EQ(Copy("frmCalculator"), module.Loaded<calculator::FrmCalculator>()->ValLei.Text());
+    EXPECT_EQ(Copy("frmCalculator"), application.Loaded<calculator::FrmCalculator>()->ValLei.Text());
     EXPECT_THAT(Copy("frmCalculator"), HasSubstr("345"));
 }
 

@@ -16,8 +16,8 @@ using testing::Not;
 
 class CursValutarDetaliuTest : public RatesTest {
   protected:
-    CursValutarDetaliu& Entry() { return *module.Loaded<CursValutarDetaliu>(); }
-    bool EntryIsOpen() { return module.Loaded<CursValutarDetaliu>() != nullptr; }
+    CursValutarDetaliu& Entry() { return *application.Loaded<CursValutarDetaliu>(); }
+    bool EntryIsOpen() { return application.Loaded<CursValutarDetaliu>() != nullptr; }
 
     CursValutarDetaliu& OpenToAdd() {
         OpenList().cmdAction[0].Click();
@@ -90,7 +90,7 @@ TEST_F(CursValutarDetaliuTest, ModifyingStartsWithTheSelectedDaysRates) {
 
 TEST_F(CursValutarDetaliuTest, TheOpenerIsDisabledAndEnabledAgain) {
     CursValutarDetaliu& entry = OpenToAdd();
-    CursValutar& list = *module.Loaded<CursValutar>();
+    CursValutar& list = *application.Loaded<CursValutar>();
     EXPECT_FALSE(list.Enabled());
     entry.cmdAction[1].Click();
     EXPECT_TRUE(list.Enabled());
@@ -375,7 +375,7 @@ TEST_F(CursValutarDetaliuTest, AValueThatNobodyEditsIsSentAsTheListShowsIt) {
         ASSERT_THAT(connection->Statements(), Not(IsEmpty())) << shown;
         EXPECT_EQ(connection->Statements()[0], "UPDATE [Curs Valutar] SET [EUR] = " + std::string(shown) +
                                                    ", [USD] = 32300  WHERE [Data] = '05-12-2003'");
-        module.Loaded<CursValutar>()->Unload();
+        application.Loaded<CursValutar>()->Unload();
     }
 }
 
@@ -568,7 +568,7 @@ TEST_F(CursValutarDetaliuTest, InsertingChecksTheFrozenDateThenTheDayThenWrites)
 TEST_F(CursValutarDetaliuTest, TheListShowsTheNewDayAndMarksIt) {
     OpenToAdd();
     keyboard.Type("\r37500\r31900\r\r");
-    const CursValutar& list = *module.Loaded<CursValutar>();
+    const CursValutar& list = *application.Loaded<CursValutar>();
     EXPECT_EQ(list.Grid.Rows(), 7);
     EXPECT_EQ(list.Grid.TextMatrix(list.Grid.Row(), 0), "20/05/2003");
     EXPECT_EQ(list.Grid.ColSel(), 3);
@@ -650,7 +650,7 @@ TEST_F(CursValutarDetaliuTest, ModifyingWritesWithoutAnyCheck) {
     EXPECT_EQ(connection->Statements()[0],
               "UPDATE [Curs Valutar] SET [EUR] = 37600, [USD] = 32300  WHERE [Data] = '05-12-2003'");
     EXPECT_EQ(CountOf("[Curs Valutar] WHERE Data = '2003-05-12' AND EUR = 37600"), 1);
-    const CursValutar& list = *module.Loaded<CursValutar>();
+    const CursValutar& list = *application.Loaded<CursValutar>();
     EXPECT_EQ(list.Grid.TextMatrix(list.Grid.Row(), 0), "12/05/2003");
     EXPECT_EQ(list.Grid.TextMatrix(list.Grid.Row(), 2), "37600");
 }
@@ -680,10 +680,10 @@ TEST_F(CursValutarDetaliuTest, EveryFailingStatementLeavesTheWindowOpenAndNothin
         connection->StopFailing();
         EXPECT_EQ(desktop.reports.size(), 1U) << failing;
         EXPECT_TRUE(EntryIsOpen());
-        EXPECT_FALSE(module.Loaded<CursValutar>()->Enabled());
+        EXPECT_FALSE(application.Loaded<CursValutar>()->Enabled());
         EXPECT_EQ(CountOf("[Curs Valutar]"), 5);
         Entry().cmdAction[1].Click();
-        EXPECT_TRUE(module.Loaded<CursValutar>()->Enabled());
+        EXPECT_TRUE(application.Loaded<CursValutar>()->Enabled());
     }
 }
 
@@ -693,14 +693,14 @@ TEST_F(CursValutarDetaliuTest, ARefreshThatFailsAfterSavingLeavesTheListUsable) 
     entry.cmdAction[0].Click();
     EXPECT_EQ(desktop.reports.size(), 1U);
     EXPECT_FALSE(EntryIsOpen());
-    EXPECT_TRUE(module.Loaded<CursValutar>()->Enabled());
+    EXPECT_TRUE(application.Loaded<CursValutar>()->Enabled());
     EXPECT_EQ(CountOf("[Curs Valutar]"), 6);
 }
 
 TEST_F(CursValutarDetaliuTest, WithoutCurrenciesThereIsNothingToEdit) {
     database = std::make_shared<host::EmbeddedDatabase>(":memory:");
     Run("CREATE TABLE [Curs Valutar] (Data datetime NOT NULL PRIMARY KEY, Validat int)");
-    module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
+    application.context.connection = std::make_shared<host::EmbeddedConnection>(database);
     OpenList().cmdAction[0].Click();
     keyboard.Press(key::Enter);
     EXPECT_FALSE(Entry().txtCursValutar.Visible());

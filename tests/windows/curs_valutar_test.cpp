@@ -109,7 +109,7 @@ TEST_F(CursValutarTest, ARangeWithoutDaysKeepsTheWindowsSize) {
 
 TEST_F(CursValutarTest, AYearBeyondEveryCalendarGivesPickersThatACalendarTakes) {
     for (const std::int16_t year : {std::int16_t{0}, std::int16_t{1752}, std::int16_t{32767}}) {
-        module.context.workYear = year;
+        application.context.workYear = year;
         CursValutar& list = OpenList();
         for (const forms::DatePicker* picker : {&list.dpDataIn, &list.dpDataFin}) {
             EXPECT_GE(picker->MinDate().days, Day(1753, 1, 1).days) << year;
@@ -122,7 +122,7 @@ TEST_F(CursValutarTest, AYearBeyondEveryCalendarGivesPickersThatACalendarTakes) 
 }
 
 TEST_F(CursValutarTest, AWorkingDateOutsideThePickersRangeIsMovedIntoIt) {
-    module.context.workDate = Day(2010, 7, 15);
+    application.context.workDate = Day(2010, 7, 15);
     const CursValutar& list = OpenList();
     EXPECT_EQ(list.dpDataIn.Date(), Day(2004, 1, 31));
     EXPECT_EQ(list.dpDataFin.Date(), Day(2004, 1, 31));
@@ -172,7 +172,7 @@ TEST_F(CursValutarTest, ATableWithoutCurrenciesListsDaysAlone) {
     Run("INSERT INTO [Curs Valutar]([Data]) VALUES('05-08-2003')");
     auto recording =
         std::make_shared<RecordingConnection>(std::make_shared<host::EmbeddedConnection>(database));
-    module.context.connection = recording;
+    application.context.connection = recording;
     const CursValutar& list = OpenList();
     EXPECT_EQ(recording->Statements().back(),
               "SELECT COnvert(nvarchar,[Data],103) AS [D], [Data]  FROM [Curs Valutar] "
@@ -203,7 +203,7 @@ TEST_F(CursValutarTest, NullRatesAreBlankCells) {
 }
 
 TEST_F(CursValutarTest, AnEmptyRangeHidesTheGridAndDisarmsModifyAndDelete) {
-    module.context.workDate = Day(2003, 2, 20);
+    application.context.workDate = Day(2003, 2, 20);
     CursValutar& list = OpenList();
     EXPECT_FALSE(list.fraGrid.Visible());
     EXPECT_EQ(list.Grid.DataSource(), nullptr);
@@ -213,7 +213,7 @@ TEST_F(CursValutarTest, AnEmptyRangeHidesTheGridAndDisarmsModifyAndDelete) {
     list.cmdAction[2].Click();
     EXPECT_THAT(connection->Statements(), IsEmpty());
     EXPECT_THAT(messages.shown, IsEmpty());
-    EXPECT_EQ(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
+    EXPECT_EQ(application.Loaded<rates::CursValutarDetaliu>(), nullptr);
 }
 
 // Filtering.
@@ -255,7 +255,7 @@ TEST_F(CursValutarTest, TheCurrentDayStaysTheCurrentOneWhileItIsListed) {
 }
 
 TEST_F(CursValutarTest, TheGridComesBackWhenTheRangeHasDaysAgain) {
-    module.context.workDate = Day(2003, 2, 20);
+    application.context.workDate = Day(2003, 2, 20);
     CursValutar& list = OpenList();
     list.dpDataFin.SetDate(Day(2003, 5, 20));
     list.cmdRefresh.Click();
@@ -309,7 +309,7 @@ TEST_F(CursValutarTest, AFrozenDayIsNotModified) {
     EXPECT_EQ(FocusedControl(), "Grid");
     EXPECT_EQ(list.Grid.Row(), 2);
     EXPECT_EQ(list.Grid.ColSel(), 3);
-    EXPECT_EQ(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
+    EXPECT_EQ(application.Loaded<rates::CursValutarDetaliu>(), nullptr);
     EXPECT_TRUE(list.Enabled());
 }
 
@@ -348,7 +348,7 @@ TEST_F(CursValutarTest, TheFrozenDayItselfIsFrozen) {
 }
 
 TEST_F(CursValutarTest, NothingIsFrozenForACompanyWithoutAValidationDate) {
-    module.context.companyId = 8;
+    application.context.companyId = 8;
     CursValutar& list = OpenList();
     list.cmdAction[2].Click();
     ASSERT_EQ(messages.shown.size(), 1U);
@@ -376,7 +376,7 @@ TEST_F(CursValutarTest, DeletingAsksNamesTheDayAndSendsItMonthFirst) {
     const std::string question =
         "Sunteti sigur ca doriti sa stergeti cursul valutar pentru data de 13/05/2003";
     EXPECT_THAT(messages.shown, ElementsAre(ShownMessage{question, 32, 4, "Curs Valutar"}));
-    EXPECT_EQ(module.lastQuestion, question);
+    EXPECT_EQ(application.lastQuestion, question);
     EXPECT_THAT(
         connection->Statements(),
         ElementsAre(FrozenDate, "DELETE FROM [Curs Valutar] WHERE [Data] = '05-13-2003'", Discover, MayList));
@@ -422,8 +422,8 @@ TEST_F(CursValutarTest, DeletingTheLastDayOfTheRangeHidesTheGrid) {
 TEST_F(CursValutarTest, AddingOpensTheEntryWindowAndDisablesTheList) {
     CursValutar& list = OpenList();
     list.cmdAction[0].Click();
-    ASSERT_NE(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
-    EXPECT_EQ(module.Loaded<rates::CursValutarDetaliu>()->Caption(), "Curs Valutar - Adaugare");
+    ASSERT_NE(application.Loaded<rates::CursValutarDetaliu>(), nullptr);
+    EXPECT_EQ(application.Loaded<rates::CursValutarDetaliu>()->Caption(), "Curs Valutar - Adaugare");
     EXPECT_FALSE(list.Enabled());
 }
 
@@ -431,23 +431,23 @@ TEST_F(CursValutarTest, ModifyingOpensTheEntryWindowForADayThatIsNotFrozen) {
     CursValutar& list = OpenList();
     list.Grid.SetRow(3);
     list.cmdAction[1].Click();
-    ASSERT_NE(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
-    EXPECT_EQ(module.Loaded<rates::CursValutarDetaliu>()->Caption(), "Curs Valutar - Modificare");
+    ASSERT_NE(application.Loaded<rates::CursValutarDetaliu>(), nullptr);
+    EXPECT_EQ(application.Loaded<rates::CursValutarDetaliu>()->Caption(), "Curs Valutar - Modificare");
 }
 
 TEST_F(CursValutarTest, AddingACurrencyOpensItsWindowAndDisablesTheList) {
     CursValutar& list = OpenList();
     list.cmdAction[3].Click();
-    ASSERT_NE(module.Loaded<rates::CereMoneda>(), nullptr);
-    EXPECT_EQ(module.Loaded<rates::CereMoneda>()->Mode, rates::CurrencyMode::Add);
+    ASSERT_NE(application.Loaded<rates::CereMoneda>(), nullptr);
+    EXPECT_EQ(application.Loaded<rates::CereMoneda>()->Mode, rates::CurrencyMode::Add);
     EXPECT_FALSE(list.Enabled());
 }
 
 TEST_F(CursValutarTest, RemovingACurrencyIsReachedByCodeAlone) {
     CursValutar& list = OpenList();
     list.cmdAction_Click(4);
-    ASSERT_NE(module.Loaded<rates::CereMoneda>(), nullptr);
-    EXPECT_EQ(module.Loaded<rates::CereMoneda>()->Mode, rates::CurrencyMode::Remove);
+    ASSERT_NE(application.Loaded<rates::CereMoneda>(), nullptr);
+    EXPECT_EQ(application.Loaded<rates::CereMoneda>()->Mode, rates::CurrencyMode::Remove);
     EXPECT_FALSE(list.Enabled());
 }
 
@@ -455,7 +455,7 @@ TEST_F(CursValutarTest, TheLastCurrencyIsNotRemoved) {
     database = std::make_shared<host::EmbeddedDatabase>(":memory:");
     Run("CREATE TABLE [Curs Valutar] (Data datetime NOT NULL PRIMARY KEY, Validat int, EUR float)");
     Run("INSERT INTO [Curs Valutar]([Data],[EUR]) VALUES('05-08-2003',1)");
-    module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
+    application.context.connection = std::make_shared<host::EmbeddedConnection>(database);
     CursValutar& list = OpenList();
     list.dpDataIn.SetFocus();
     list.cmdAction_Click(4);
@@ -468,8 +468,8 @@ TEST_F(CursValutarTest, TheLastCurrencyIsNotRemoved) {
 TEST_F(CursValutarTest, TheEvolutionWindowTakesTheListsPlace) {
     CursValutar& list = OpenList();
     list.cmdAction[5].Click();
-    EXPECT_NE(module.Loaded<rates::EvolutieCurs>(), nullptr);
-    EXPECT_EQ(module.Loaded<CursValutar>(), nullptr);
+    EXPECT_NE(application.Loaded<rates::EvolutieCurs>(), nullptr);
+    EXPECT_EQ(application.Loaded<CursValutar>(), nullptr);
     EXPECT_EQ(caller->raised, 1);
 }
 
@@ -489,7 +489,7 @@ TEST_F(CursValutarTest, IsEnabledAgainWhereTheOtherWindowCannotBeMade) {
 
 TEST_F(CursValutarTest, ClosingRaisesTheExitEventOnce) {
     OpenList().cmdAction[6].Click();
-    EXPECT_EQ(module.Loaded<CursValutar>(), nullptr);
+    EXPECT_EQ(application.Loaded<CursValutar>(), nullptr);
     EXPECT_EQ(caller->raised, 1);
 }
 
@@ -499,7 +499,7 @@ TEST_F(CursValutarTest, EscapeClosesFromEveryControl) {
         OpenList().FindControl(control)->SetFocus();
         ASSERT_EQ(FocusedControl(), control);
         keyboard.Press(key::Escape);
-        EXPECT_EQ(module.Loaded<CursValutar>(), nullptr) << control;
+        EXPECT_EQ(application.Loaded<CursValutar>(), nullptr) << control;
     }
 }
 
@@ -517,7 +517,7 @@ TEST_F(CursValutarTest, EnterAndTabInTheGridGoToModify) {
         keyboard.Press(keyCode);
         EXPECT_EQ(FocusedControl(), "cmdAction(1)");
     }
-    EXPECT_EQ(module.Loaded<rates::CursValutarDetaliu>(), nullptr) << "Enter only moves the focus";
+    EXPECT_EQ(application.Loaded<rates::CursValutarDetaliu>(), nullptr) << "Enter only moves the focus";
 }
 
 TEST_F(CursValutarTest, TabAndRightFromTheFirstTwoButtonsGoToTheFirstDate) {
@@ -543,7 +543,7 @@ TEST_F(CursValutarTest, TabAndRightFromDeleteAndAddCurrencyGoToTheGrid) {
 }
 
 TEST_F(CursValutarTest, TabFromDeleteWalksOnWhileThereIsNoGrid) {
-    module.context.workDate = Day(2003, 2, 20);
+    application.context.workDate = Day(2003, 2, 20);
     CursValutar& list = OpenList();
     list.cmdAction[2].SetFocus();
     keyboard.Press(key::Tab);
@@ -652,7 +652,7 @@ TEST_F(CursValutarTest, StaysOnTopWhenEnteredAndWhenLeft) {
 // Bad surroundings.
 
 TEST_F(CursValutarTest, WithoutAConnectionTheWindowOpensAndSaysSo) {
-    module.context.connection = nullptr;
+    application.context.connection = nullptr;
     const CursValutar& list = OpenList();
     ASSERT_EQ(desktop.reports.size(), 1U);
     EXPECT_EQ(desktop.reports[0].number, 91);
@@ -662,17 +662,17 @@ TEST_F(CursValutarTest, WithoutAConnectionTheWindowOpensAndSaysSo) {
 }
 
 TEST_F(CursValutarTest, WithoutAConnectionTheEntryOpensAllTheSame) {
-    module.context.connection = nullptr;
+    application.context.connection = nullptr;
     CursValutar& list = OpenList();
     desktop.reports.clear();
     list.cmdAction[CursValutar::AddDay].Click();
-    EXPECT_NE(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
+    EXPECT_NE(application.Loaded<rates::CursValutarDetaliu>(), nullptr);
     EXPECT_THAT(desktop.reports, IsEmpty());
 }
 
 TEST_F(CursValutarTest, AMissingTableIsReported) {
     database = std::make_shared<host::EmbeddedDatabase>(":memory:");
-    module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
+    application.context.connection = std::make_shared<host::EmbeddedConnection>(database);
     const CursValutar& list = OpenList();
     EXPECT_EQ(desktop.reports.size(), 1U);
     EXPECT_TRUE(list.Visible());
@@ -681,7 +681,7 @@ TEST_F(CursValutarTest, AMissingTableIsReported) {
 TEST_F(CursValutarTest, ABracketInACurrencysNameBreaksTheStatementAndNothingElse) {
     const auto scripted = std::make_shared<RecordingConnection>();
     scripted->Script().AnswerRows(Discover, {"Data", "Validat", "E]R"}, {});
-    module.context.connection = scripted;
+    application.context.connection = scripted;
     const CursValutar& list = OpenList();
     EXPECT_EQ(scripted->Statements().back(),
               "SELECT COnvert(nvarchar,[Data],103) AS [D], [Data] , [E]R]  FROM [Curs Valutar] "
@@ -693,7 +693,7 @@ TEST_F(CursValutarTest, ABracketInACurrencysNameBreaksTheStatementAndNothingElse
 TEST_F(CursValutarTest, ALowerCaseValidatColumnIsACurrency) {
     const auto scripted = std::make_shared<RecordingConnection>();
     scripted->Script().AnswerRows(Discover, {"Data", "Validat", "validat", "data", "EUR"}, {});
-    module.context.connection = scripted;
+    application.context.connection = scripted;
     OpenList();
     EXPECT_EQ(scripted->Statements().back(),
               "SELECT COnvert(nvarchar,[Data],103) AS [D], [Data] , [validat] , [data] , [EUR]  FROM [Curs "
@@ -704,7 +704,7 @@ TEST_F(CursValutarTest, ALowerCaseValidatColumnIsACurrency) {
 TEST_F(CursValutarTest, TheColumnsOfTheDayMayStandAnywhere) {
     const auto scripted = std::make_shared<RecordingConnection>();
     scripted->Script().AnswerRows(Discover, {"EUR", "Validat", "USD", "Data"}, {});
-    module.context.connection = scripted;
+    application.context.connection = scripted;
     OpenList();
     EXPECT_EQ(scripted->Statements().back(),
               "SELECT COnvert(nvarchar,[Data],103) AS [D], [Data] , [EUR] , [USD]  FROM [Curs Valutar] "
@@ -714,8 +714,8 @@ TEST_F(CursValutarTest, TheColumnsOfTheDayMayStandAnywhere) {
 TEST_F(CursValutarTest, AbsurdHostValuesDoNoHarm) {
     for (const double days : {-657434.0, 0.0, 2958465.0, 1e300, -1e300}) {
         for (const std::int16_t year : {std::int16_t{-32768}, std::int16_t{0}, std::int16_t{32767}}) {
-            module.context.workDate = {days};
-            module.context.workYear = year;
+            application.context.workDate = {days};
+            application.context.workYear = year;
             OpenList().Unload();
         }
     }

@@ -57,15 +57,15 @@ TEST_F(DemoWindowsTest, NoButtonOfTheDemoLeadsToAnError) {
 }
 
 TEST_F(DemoWindowsTest, TheCalculatorFindsItsCurrency) {
-    com::OpenPalette(module);
+    com::OpenPalette(application);
     EXPECT_TRUE(Click("Utilitati", "cmdAction(2)"));
     EXPECT_TRUE(Click("frmCalculator", "cmdVal"));
-    auto* chooser = module.Loaded<rates::AlegeMoneda>();
+    auto* chooser = application.Loaded<rates::AlegeMoneda>();
     EXPECT_EQ(chooser->cmbMoneda.Text(), "$");
     EXPECT_GT(chooser->Grid.Rows(), 700);
     EXPECT_EQ(chooser->Grid.TextMatrix(1, 0), "27/11/2003");
     EXPECT_TRUE(Click("AlegeMoneda", "cmdAction(0)"));
-    EXPECT_GT(module.Loaded<calculator::FrmCalculator>()->CursCurent(), 20000);
+    EXPECT_GT(application.Loaded<calculator::FrmCalculator>()->CursCurent(), 20000);
     EXPECT_EQ(TakeReports(), "");
 }
 

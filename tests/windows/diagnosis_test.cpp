@@ -19,10 +19,10 @@ using testing::Not;
 class DiagnosisTest : public AgendaTest {
   protected:
     DiagnosisTest() {
-        module.context.workDate = data::ToOleDate({2003, 5, 20});
-        module.context.workYear = 2003;
-        module.context.companyId = 7;
-        module.SetListener(listener);
+        application.context.workDate = data::ToOleDate({2003, 5, 20});
+        application.context.workYear = 2003;
+        application.context.companyId = 7;
+        application.SetListener(listener);
     }
 
     std::shared_ptr<RecordingListener> listener = std::make_shared<RecordingListener>();
@@ -83,9 +83,9 @@ TEST_F(DiagnosisTest, NoTextOfAPersonIsEverTold) {
 }
 
 TEST_F(DiagnosisTest, WithoutAListenerStatementsGoToTheConnectionItself) {
-    EXPECT_NE(&module.context.Database(), connection.get());
-    module.SetListener(nullptr);
-    EXPECT_EQ(&module.context.Database(), connection.get());
+    EXPECT_NE(&application.context.Database(), connection.get());
+    application.SetListener(nullptr);
+    EXPECT_EQ(&application.context.Database(), connection.get());
     listener->lines.clear();
     OpenOnThree();
     EXPECT_THAT(listener->lines, IsEmpty());
@@ -95,10 +95,10 @@ TEST_F(DiagnosisTest, AListenerThatComesAndGoesChangesNothingForAnEdit) {
     Agenda& window = OpenOnThree();
     window.cmdAction[Agenda::Modify].Click();
     TypeInto(window, 4, "Str. Lunga");
-    module.SetListener(nullptr);
+    application.SetListener(nullptr);
     window.cmdAction[Agenda::Accept].Click();
     EXPECT_THAT(desktop.reports, IsEmpty());
-    module.SetListener(listener);
+    application.SetListener(listener);
     Search(window, "Popa");
     EXPECT_EQ(ShownName(window), "Popa Ion");
     EXPECT_EQ(Names().size(), 3U);
@@ -106,7 +106,7 @@ TEST_F(DiagnosisTest, AListenerThatComesAndGoesChangesNothingForAnEdit) {
 
 TEST_F(DiagnosisTest, AConnectionThatTheHostTakesBackIsLetGo) {
     OpenOnThree();
-    module.context.connection = nullptr;
+    application.context.connection = nullptr;
     desktop.UnloadAll();
     EXPECT_EQ(connection.use_count(), 1);
 }

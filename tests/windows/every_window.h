@@ -23,11 +23,11 @@ class EveryWindowTest : public WindowTest {
 
     EveryWindowTest() {
         StartAnew();
-        module.context.connection = std::make_shared<host::EmbeddedConnection>(DemoData());
-        module.context.workDate = data::ToOleDate({2003, 11, 28});
-        module.context.workYear = 2003;
-        module.context.companyId = 1;
-        com::AddWindows(module);
+        application.context.connection = std::make_shared<host::EmbeddedConnection>(DemoData());
+        application.context.workDate = data::ToOleDate({2003, 11, 28});
+        application.context.workYear = 2003;
+        application.context.companyId = 1;
+        com::AddWindows(application);
         desktop.whenCreating = [](forms::Form& form) {
             for (forms::Control* control : form.AllControls())
                 if (auto* box = dynamic_cast<forms::RichTextBox*>(control)) FakeRichText::Give(*box);
@@ -66,7 +66,7 @@ class EveryWindowTest : public WindowTest {
     forms::Form* Come(const host::WindowEntry& window, const host::WindowState& state) {
         desktop.UnloadAll();
         StartAnew();
-        com::OpenPalette(module);
+        com::OpenPalette(application);
         for (const auto& [form, button] : state.clicks)
             if (!Click(form, button)) return nullptr;
         return Find(window.name);

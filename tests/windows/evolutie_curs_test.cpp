@@ -23,7 +23,7 @@ using testing::IsEmpty;
 class EvolutieCursTest : public RatesTest {
   protected:
     EvolutieCurs& Open() {
-        auto& window = module.Default<EvolutieCurs>();
+        auto& window = application.Default<EvolutieCurs>();
         window.Show();
         return window;
     }
@@ -48,7 +48,7 @@ class EvolutieCursTest : public RatesTest {
                            {{std::int64_t{8}, 37100.0}});
         script->AnswerRows(rates::LimitsStatement(may), {"Minim", "Maxim"}, limits);
         script->AnswerRows(rates::CountDaysStatement(may), {""}, {{count}});
-        module.context.connection = script;
+        application.context.connection = script;
     }
 
     static std::vector<std::string> LabelsOf(const Chart& chart) {
@@ -272,7 +272,7 @@ TEST_F(EvolutieCursTest, OneOrTwoMonthsWithoutDataStayUnlabelled) {
     EXPECT_EQ(LabelsOf(window.MSChart1)[11], "");
     EXPECT_EQ(window.MSChart1.Row(11).value, std::nullopt);
     AddDay("11-15-2002", 36000, 1);
-    EvolutieCurs& again = *module.Loaded<EvolutieCurs>();
+    EvolutieCurs& again = *application.Loaded<EvolutieCurs>();
     again.cmdAction[1].Click();
     EXPECT_EQ(LabelsOf(again.MSChart1)[11], "");
 }
@@ -355,7 +355,7 @@ std::shared_ptr<data::Connection> WithLesserRows(data::Connection& underlying, s
 
 TEST_F(EvolutieCursTest, RowsThatTheProviderCountsButDoesNotGiveAreNoRows) {
     EvolutieCurs& window = OpenAndDraw(5);
-    module.context.connection = WithLesserRows(*connection, 0);
+    application.context.connection = WithLesserRows(*connection, 0);
     window.cmdAction[1].Click();
     EXPECT_TRUE(window.lblMesaj2.Visible());
     EXPECT_THAT(desktop.reports, IsEmpty());
@@ -363,7 +363,7 @@ TEST_F(EvolutieCursTest, RowsThatTheProviderCountsButDoesNotGiveAreNoRows) {
 
 TEST_F(EvolutieCursTest, AnAnswerThatLacksFieldsIsReported) {
     EvolutieCurs& window = OpenAndDraw(5);
-    module.context.connection = WithLesserRows(*connection, 1);
+    application.context.connection = WithLesserRows(*connection, 1);
     window.cmdAction[1].Click();
     ASSERT_EQ(desktop.reports.size(), 1U);
     EXPECT_EQ(desktop.reports[0].number, data::error_number::ItemNotFound);
@@ -407,7 +407,7 @@ TEST_F(EvolutieCursTest, ListsOfAnotherDatabaseAreReadBeforeDrawingAndKeepTheCho
     window.cmbMoneda.SetListIndex(1);
     const auto second = std::make_shared<RecordingConnection>(connection);
     Run("ALTER TABLE [Curs Valutar] ADD  [GBP] float");
-    module.context.connection = second;
+    application.context.connection = second;
     window.cmdAction[1].Click();
     EXPECT_THAT(second->Statements(), ElementsAre("SELECT * FROM [Curs Valutar]", rates::RateYearsStatement,
                                                   rates::EvolutionStatement({"2003", 5, "USD"}),
@@ -432,10 +432,10 @@ TEST_F(EvolutieCursTest, AChoiceThatTheOtherDatabaseLacksGivesWayToItsFirst) {
 }
 
 TEST_F(EvolutieCursTest, OpenedWithoutAConnectionItIsWholeAfterAGoodOne) {
-    module.context.connection = nullptr;
+    application.context.connection = nullptr;
     EvolutieCurs& window = Open();
     EXPECT_EQ(desktop.reports.size(), 1U);
-    module.context.connection = connection;
+    application.context.connection = connection;
     window.cmbLuna.SetListIndex(4);
     window.cmdAction[1].Click();
     EXPECT_EQ(window.cmbLuna.ListCount(), 13);
@@ -448,7 +448,7 @@ TEST_F(EvolutieCursTest, ATableWithoutCurrenciesOpensAllTheSame) {
     database = std::make_shared<host::EmbeddedDatabase>(":memory:");
     Run("CREATE TABLE [Curs Valutar] (Data datetime NOT NULL PRIMARY KEY, Validat int)");
     Run("INSERT INTO [Curs Valutar]([Data]) VALUES('05-08-2003')");
-    module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
+    application.context.connection = std::make_shared<host::EmbeddedConnection>(database);
     EvolutieCurs& window = Open();
     EXPECT_THAT(desktop.reports, IsEmpty());
     window.cmdAction[1].Click();
@@ -459,7 +459,7 @@ TEST_F(EvolutieCursTest, ASingleCurrencyIsChosenAtOnce) {
     database = std::make_shared<host::EmbeddedDatabase>(":memory:");
     Run("CREATE TABLE [Curs Valutar] (Data datetime NOT NULL PRIMARY KEY, Validat int, EUR float)");
     Run("INSERT INTO [Curs Valutar]([Data],[EUR]) VALUES('05-08-2003',37100)");
-    module.context.connection = std::make_shared<host::EmbeddedConnection>(database);
+    application.context.connection = std::make_shared<host::EmbeddedConnection>(database);
     const EvolutieCurs& window = Open();
     EXPECT_EQ(window.cmbMoneda.ListIndex(), 0);
     EXPECT_EQ(window.cmbMoneda.Text(), "EUR");
@@ -593,7 +593,7 @@ TEST_F(EvolutieCursTest, EscapeClosesFromEveryControl) {
     for (const char* control : {"cmbAn", "cmbLuna", "cmbMoneda", "cmdAction(0)", "cmdAction(1)", "Grid"}) {
         Open().FindControl(control)->SetFocus();
         keyboard.Press(key::Escape);
-        EXPECT_EQ(module.Loaded<EvolutieCurs>(), nullptr) << control;
+        EXPECT_EQ(application.Loaded<EvolutieCurs>(), nullptr) << control;
     }
 }
 
@@ -605,9 +605,9 @@ TEST_F(EvolutieCursTest, ClosingEnablesTheListAndMakesOneWhereThereIsNone) {
     Open().cmdAction[0].Click();
     EXPECT_TRUE(list.Enabled());
     list.cmdAction[5].Click();
-    EXPECT_EQ(module.Loaded<CursValutar>(), nullptr);
-    module.Loaded<EvolutieCurs>()->cmdAction[0].Click();
-    EXPECT_TRUE(module.Default<CursValutar>().Enabled());
+    EXPECT_EQ(application.Loaded<CursValutar>(), nullptr);
+    application.Loaded<EvolutieCurs>()->cmdAction[0].Click();
+    EXPECT_TRUE(application.Default<CursValutar>().Enabled());
     EXPECT_EQ(OpenList().Grid.Rows(), 6);
 }
 

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "calculator_fixture.h"
+#include "data/text/number_text.h"
 #include "data/value.h"
 #include "support/counting_peer.h"
 
@@ -51,7 +52,7 @@ class FrmCalculatorTest : public CalculatorTest {
 // Opening and closing.
 
 TEST_F(FrmCalculatorTest, ItsRateLineIsNamedByItsDesignUntilItLoads) {
-    EXPECT_EQ(module.Default<FrmCalculator>().lblCurs.Caption(), "Curs Valutar:");
+    EXPECT_EQ(application.Default<FrmCalculator>().lblCurs.Caption(), "Curs Valutar:");
 }
 
 TEST_F(FrmCalculatorTest, OpensWithZeroInLeiAndTwoDecimals) {
@@ -71,7 +72,7 @@ TEST_F(FrmCalculatorTest, OpensWithZeroInLeiAndTwoDecimals) {
 }
 
 TEST_F(FrmCalculatorTest, LoadingAloneShowsIt) {
-    module.Default<FrmCalculator>().Load();
+    application.Default<FrmCalculator>().Load();
     EXPECT_EQ(ActiveWindow(), "frmCalculator");
 }
 
@@ -448,7 +449,7 @@ TEST_F(FrmCalculatorTest, DividingByZeroIsReportedThroughANewServiceWhereThereIs
 }
 
 TEST_F(FrmCalculatorTest, DividingByZeroUsesTheServiceOfTheOtherWindows) {
-    module.CreateMessageService();
+    application.CreateMessageService();
     Open();
     keyboard.Type("5/0%");
     EXPECT_THAT(messages.shown, ElementsAre(ShownMessage{"Impartire la 0 !!", 48, 0, "Eroare"}));
@@ -700,7 +701,7 @@ TEST_F(FrmCalculatorTest, ARateOfManyDigitsIsTakenAsItIsListed) {
         const FrmCalculator& window = Open();
         EXPECT_EQ(OpenChooser().Grid.TextMatrix(1, 1), rate.listed);
         keyboard.Press(key::Enter);
-        EXPECT_EQ(data::ShortestDecimal(window.CursCurent()), rate.listed);
+        EXPECT_EQ(data::NumberText(window.CursCurent()), rate.listed);
         EXPECT_EQ(window.lblCurs.Caption(),
                   std::string("Cursul este de  ") + rate.caption + " Lei pentru 1 $");
         Calculator()->Unload();

@@ -1,13 +1,13 @@
 // Every window of a user who has set high contrast is drawn in the system's colours and in no others.
 
-#include "forms/contrast.h"
+#include "forms/drawing/contrast.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <array>
 
-#include "forms/decoration.h"
+#include "forms/controls/decoration.h"
 #include "support/recording_surface.h"
 #include "windows/every_window.h"
 
@@ -72,7 +72,7 @@ TEST_F(HighContrastTest, EveryWindowIsDrawnInTheSystemsColors) {
 }
 
 TEST_F(HighContrastTest, ASelectedRowIsHighlightedWithTheTextThatBelongsToIt) {
-    auto& list = module.Default<rates::CursValutar>();
+    auto& list = application.Default<rates::CursValutar>();
     list.ShowForm();
     list.SelectWholeRow();
     list.Grid.SetFocus();
@@ -89,7 +89,7 @@ TEST_F(HighContrastTest, ASelectedRowIsHighlightedWithTheTextThatBelongsToIt) {
 }
 
 TEST_F(HighContrastTest, ADisabledControlIsGreyed) {
-    auto& list = module.Default<rates::CursValutar>();
+    auto& list = application.Default<rates::CursValutar>();
     list.ShowForm();
     list.cmdRefresh.SetEnabled(false);
     for (const Drawn& drawn : Draw(list.cmdRefresh)) {

@@ -289,7 +289,7 @@ TEST_F(NotesActionTest, AWindowThatGoesWhileItTellsSomethingSaysNoMore) {
     desktop.dialogs.chosenFile = File;
     desktop.files.contents[File] = R"({\rtf1 a{\pict\wmetafile8 01}b)";
     messages.whileShowing = [&] {
-        if (messages.shown.back() == CutNote) module.UnloadWindow("Notes");
+        if (messages.shown.back() == CutNote) application.UnloadWindow("Notes");
     };
     OpenNote(window);
     EXPECT_THAT(messages.shown, ElementsAre(Question, CutNote));
@@ -668,14 +668,14 @@ TEST_F(NotesActionTest, TheWindowMayCloseWhileADialogIsUp) {
     desktop.dialogs.chosenFile = File;
     desktop.dialogs.chosenFont = CharacterFormat{.bold = true};
     desktop.dialogs.chosenColor = 1;
-    desktop.dialogs.whileShowing = [&](const forms::Form&) { module.UnloadWindow("Notes"); };
+    desktop.dialogs.whileShowing = [&](const forms::Form&) { application.UnloadWindow("Notes"); };
     for (const int button : {Notes::Save, Notes::ChooseFont, Notes::ChooseColor}) {
         Open().ImgBouton[button].Click();
         EXPECT_FALSE(IsOpen());
     }
     Notes& window = Open();
     OpenNote(window);
-    messages.whileShowing = [&] { module.UnloadWindow("Notes"); };
+    messages.whileShowing = [&] { application.UnloadWindow("Notes"); };
     for (const int answer : {6, 7}) {
         Answer(answer);
         Open().ImgBouton[Notes::NewOrOpen].Click();

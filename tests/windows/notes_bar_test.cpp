@@ -48,7 +48,7 @@ TEST_F(NotesBarTest, AssistiveToolsHearWhatEveryButtonDoes) {
 }
 
 TEST_F(NotesBarTest, LoadingGivesEveryButtonItsPicture) {
-    auto& window = module.Default<Notes>();
+    auto& window = application.Default<Notes>();
     for (const auto& button : window.ImgBouton)
         EXPECT_EQ(button->Picture(), Icon::None);
     window.Load();
@@ -134,7 +134,7 @@ TEST_F(NotesBarTest, ThereIsOneNotePad) {
     Notes& window = Open();
     keyboard.Type("abc");
     window.ShowForm();
-    EXPECT_EQ(&module.Default<Notes>(), &window);
+    EXPECT_EQ(&application.Default<Notes>(), &window);
     EXPECT_EQ(desktop.Forms().size(), 1U);
     EXPECT_EQ(window.txtNota.Text(), "abc");
 }
@@ -190,7 +190,7 @@ TEST_F(NotesBarTest, TheLastButtonClosesWithoutAQuestion) {
 
 TEST_F(NotesBarTest, ThePaletteClosesIt) {
     Open();
-    module.UnloadWindow("Notes");
+    application.UnloadWindow("Notes");
     EXPECT_FALSE(IsOpen());
 }
 

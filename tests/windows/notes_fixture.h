@@ -19,13 +19,13 @@ class NotesTest : public WindowTest {
     ~NotesTest() override { desktop.UnloadAll(); }
 
     Notes& Open() {
-        auto& window = module.Default<Notes>();
+        auto& window = application.Default<Notes>();
         editor = &FakeRichText::Give(window.txtNota);
         window.ShowForm();
         return window;
     }
 
-    bool IsOpen() { return module.Loaded<Notes>() != nullptr; }
+    bool IsOpen() { return application.Loaded<Notes>() != nullptr; }
 
     void Answer(int answer) { messages.answers.push_back(answer); }
 

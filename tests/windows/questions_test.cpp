@@ -40,17 +40,17 @@ class RateQuestionsTest : public RatesTest {
 };
 
 TEST_F(RateQuestionsTest, ADayIsNotDeletedForAListThatHasGone) {
-    auto& palette = module.Default<shell::Utilitati>();
+    auto& palette = application.Default<shell::Utilitati>();
     palette.Load();
     palette.Show();
     DeleteWhile([&] { palette.HandleClose(); });
-    EXPECT_EQ(module.Loaded<rates::CursValutar>(), nullptr);
+    EXPECT_EQ(application.Loaded<rates::CursValutar>(), nullptr);
     ExpectNothingDeleted();
 }
 
 TEST_F(RateQuestionsTest, ADayIsNotDeletedForAListThatWasOpenedMeanwhile) {
     DeleteWhile([this] {
-        module.Loaded<rates::CursValutar>()->HandleClose();
+        application.Loaded<rates::CursValutar>()->HandleClose();
         OpenList();
     });
     ExpectNothingDeleted();
@@ -58,26 +58,26 @@ TEST_F(RateQuestionsTest, ADayIsNotDeletedForAListThatWasOpenedMeanwhile) {
 
 TEST_F(RateQuestionsTest, ADayIsNotDeletedInOtherDataThanTheQuestionWasAbout) {
     DeleteWhile([this] {
-        module.context.connection =
+        application.context.connection =
             std::make_shared<RecordingConnection>(std::make_shared<host::EmbeddedConnection>(database));
     });
     ExpectNothingDeleted();
 }
 
 TEST_F(RateQuestionsTest, ADayIsNotDeletedWhereAnotherOneHasComeIntoItsPlace) {
-    DeleteWhile([this] { module.Loaded<rates::CursValutar>()->Grid.SetRow(FreeRow + 1); });
+    DeleteWhile([this] { application.Loaded<rates::CursValutar>()->Grid.SetRow(FreeRow + 1); });
     ExpectNothingDeleted();
 }
 
 TEST_F(RateQuestionsTest, ThePaletteWaitsForTheAnswer) {
-    auto& palette = module.Default<shell::Utilitati>();
+    auto& palette = application.Default<shell::Utilitati>();
     palette.Load();
     palette.Show();
     for (const bool modal : {true, false}) {
         desktop.messagesAreModal = modal;
         messages.shown.clear();
         DeleteWhile([&] { ClickWithMouse(palette.imgClose); });
-        EXPECT_NE(module.Loaded<rates::CursValutar>(), nullptr);
+        EXPECT_NE(application.Loaded<rates::CursValutar>(), nullptr);
     }
     EXPECT_EQ(CountOf("[Curs Valutar]"), 3) << "both answers were good";
 }
@@ -88,9 +88,9 @@ TEST_F(RateQuestionsTest, AnEvolutionThatClosesLeavesTheListToItsEntry) {
     OpenList().cmdAction[rates::CursValutar::ShowEvolution].Click();
     rates::CursValutar& list = OpenList();
     list.cmdAction[rates::CursValutar::AddDay].Click();
-    module.Loaded<rates::EvolutieCurs>()->HandleClose();
+    application.Loaded<rates::EvolutieCurs>()->HandleClose();
     EXPECT_FALSE(list.Enabled());
-    module.Loaded<rates::CursValutarDetaliu>()->HandleClose();
+    application.Loaded<rates::CursValutarDetaliu>()->HandleClose();
     EXPECT_TRUE(list.Enabled());
 }
 
@@ -98,7 +98,7 @@ TEST_F(RateQuestionsTest, AnEntryThatIsOpenComesForwardAsItIs) {
     rates::CursValutar& list = OpenList();
     list.Grid.SetRow(FreeRow);
     list.cmdAction[rates::CursValutar::AddDay].Click();
-    rates::CursValutarDetaliu& entry = *module.Loaded<rates::CursValutarDetaliu>();
+    rates::CursValutarDetaliu& entry = *application.Loaded<rates::CursValutarDetaliu>();
     entry.DataCurs.SetDate(Day(2003, 6, 2));
     for (const auto action : {rates::CursValutar::ModifyDay, rates::CursValutar::AddCurrency}) {
         list.cmdAction_Click(action);
@@ -106,7 +106,7 @@ TEST_F(RateQuestionsTest, AnEntryThatIsOpenComesForwardAsItIs) {
         EXPECT_EQ(entry.Caption(), "Curs Valutar - Adaugare");
         EXPECT_EQ(entry.DataCurs.Date(), Day(2003, 6, 2));
         EXPECT_FALSE(list.Enabled());
-        EXPECT_EQ(module.Loaded<rates::CereMoneda>(), nullptr);
+        EXPECT_EQ(application.Loaded<rates::CereMoneda>(), nullptr);
     }
     connection->ClearRecord();
     entry.cmdAction[rates::CursValutarDetaliu::Accept].Click();
@@ -116,11 +116,11 @@ TEST_F(RateQuestionsTest, AnEntryThatIsOpenComesForwardAsItIs) {
 
 TEST_F(RateQuestionsTest, AListOpenedUnderAnEntryThatWasLeftOpenWaitsForIt) {
     OpenList().cmdAction[rates::CursValutar::AddDay].Click();
-    module.Loaded<rates::CursValutar>()->HandleClose();
+    application.Loaded<rates::CursValutar>()->HandleClose();
     rates::CursValutar& list = OpenList();
     EXPECT_FALSE(list.Enabled());
     EXPECT_EQ(ActiveWindow(), "CursValutarDetaliu");
-    module.Loaded<rates::CursValutarDetaliu>()->HandleClose();
+    application.Loaded<rates::CursValutarDetaliu>()->HandleClose();
     EXPECT_TRUE(list.Enabled());
     EXPECT_EQ(ActiveWindow(), "CursValutar");
 }
@@ -131,7 +131,7 @@ class RefusedPressTest : public RatesTest {
   protected:
     rates::CursValutarDetaliu& OpenWithEmptyCell() {
         OpenList().cmdAction[rates::CursValutar::AddDay].Click();
-        auto& entry = *module.Loaded<rates::CursValutarDetaliu>();
+        auto& entry = *application.Loaded<rates::CursValutarDetaliu>();
         keyboard.Press(forms::key::Enter);
         keyboard.Press(forms::key::Delete);
         EXPECT_EQ(FocusedControl(), "txtCursValutar");
@@ -153,10 +153,10 @@ TEST_F(RefusedPressTest, AReleaseWithoutAPressCancelsNothing) {
     forms::Control& cancel = entry.cmdAction[rates::CursValutarDetaliu::Cancel];
     ClickWithMouse(cancel);
     EXPECT_EQ(messages.shown.size(), 1U);
-    EXPECT_NE(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
+    EXPECT_NE(application.Loaded<rates::CursValutarDetaliu>(), nullptr);
     keyboard.Type("5");
     cancel.HandleMouseUp({forms::MouseButton::Left, {15, 15}, {}});
-    EXPECT_NE(module.Loaded<rates::CursValutarDetaliu>(), nullptr);
+    EXPECT_NE(application.Loaded<rates::CursValutarDetaliu>(), nullptr);
     EXPECT_EQ(entry.txtCursValutar.Text(), "5");
 }
 
@@ -182,7 +182,7 @@ TEST_F(PersonQuestionsTest, NobodyIsDeletedForABookThatHasGone) {
 
 TEST_F(PersonQuestionsTest, NobodyIsDeletedInOtherDataThanTheQuestionWasAbout) {
     DeleteWhile([this](Agenda&) {
-        module.context.connection =
+        application.context.connection =
             std::make_shared<RecordingConnection>(std::make_shared<host::EmbeddedConnection>(database));
     });
 }
@@ -196,7 +196,7 @@ TEST_F(PersonQuestionsTest, LeavingABookThatHasGoneIsHarmless) {
     messages.whileShowing = [&] { window.HandleClose(); };
     messages.answers = {shell::message::AnswerYes};
     window.cmdAction[Agenda::Cancel].Click();
-    EXPECT_EQ(module.Loaded<Agenda>(), nullptr);
+    EXPECT_EQ(application.Loaded<Agenda>(), nullptr);
     EXPECT_TRUE(desktop.reports.empty());
 }
 

@@ -34,7 +34,7 @@ class RatesConnectionTest : public RatesTest {
 
     void HostTurnsToTheSecond() {
         connection->ClearRecord();
-        module.context.connection = secondConnection;
+        application.context.connection = secondConnection;
     }
 
     CursValutar& OpenOnTheFourteenth() {
@@ -54,7 +54,7 @@ class RatesConnectionTest : public RatesTest {
         return secondDatabase->Run("SELECT count(*) FROM [Curs Valutar]").rows->At(0, 0).ToInteger();
     }
 
-    CursValutarDetaliu* Entry() { return module.Loaded<CursValutarDetaliu>(); }
+    CursValutarDetaliu* Entry() { return application.Loaded<CursValutarDetaliu>(); }
 
     std::shared_ptr<host::EmbeddedDatabase> secondDatabase =
         std::make_shared<host::EmbeddedDatabase>(":memory:");
@@ -109,7 +109,7 @@ TEST_F(RatesConnectionTest, ANewDayHasTheCurrenciesOfTheNewDatabase) {
 
 TEST_F(RatesConnectionTest, AnEntryBegunOnTheOldConnectionIsNotWrittenOnTheNewOne) {
     for (const CursValutar::Action action : {CursValutar::AddDay, CursValutar::ModifyDay}) {
-        module.context.connection = connection;
+        application.context.connection = connection;
         CursValutar& list = OpenOnTheFourteenth();
         list.ApplyDateFilter();
         list.SelectDay("14/05/2003");
@@ -133,8 +133,8 @@ TEST_F(RatesConnectionTest, AnEntryBegunOnTheOldConnectionIsNotWrittenOnTheNewOn
 TEST_F(RatesConnectionTest, AnotherCallWithTheSameConnectionChangesNothing) {
     CursValutar& list = OpenOnTheFourteenth();
     connection->ClearRecord();
-    module.context.companyId = 8;
-    module.context.connection = connection;
+    application.context.companyId = 8;
+    application.context.connection = connection;
     list.cmdAction[CursValutar::DeleteDay].Click();
     EXPECT_THAT(messages.shown, SizeIs(1));
     EXPECT_THAT(connection->Statements(),
@@ -143,7 +143,7 @@ TEST_F(RatesConnectionTest, AnotherCallWithTheSameConnectionChangesNothing) {
 }
 
 TEST_F(RatesConnectionTest, AListOpenedWithoutAConnectionIsWholeAfterAGoodOne) {
-    module.context.connection = nullptr;
+    application.context.connection = nullptr;
     CursValutar& list = OpenList();
     EXPECT_THAT(desktop.reports, SizeIs(1));
     HostTurnsToTheSecond();

@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "forms/chart.h"
-#include "forms/grid.h"
+#include "forms/controls/chart.h"
+#include "forms/controls/grid.h"
 #include "windows/every_window.h"
 
 namespace tavrin::tests {

@@ -1,13 +1,13 @@
 // Windows shown larger, because the user wants larger texts: the screen is smaller for them then.
 
-#include "forms/text_scale.h"
+#include "forms/drawing/text_scale.h"
 
 #include <gmock/gmock.h>
 
 #include <cmath>
 #include <string_view>
 
-#include "forms/command_button.h"
+#include "forms/controls/command_button.h"
 #include "support/recording_surface.h"
 #include "windows/every_window.h"
 

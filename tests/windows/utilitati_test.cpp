@@ -34,13 +34,14 @@ class UtilitatiTest : public WindowTest {
   protected:
     UtilitatiTest() {
         for (const char* target : {"Notes", "Agenda", "frmCalculator", "CursValutar"}) {
-            module.AddLauncher(target, [this, target](shell::Module&) { launched.emplace_back(target); });
+            application.AddLauncher(target,
+                                    [this, target](shell::Application&) { launched.emplace_back(target); });
         }
     }
     ~UtilitatiTest() override { desktop.UnloadAll(); }
 
     Utilitati& Open() {
-        auto& palette = module.Default<Utilitati>();
+        auto& palette = application.Default<Utilitati>();
         palette.Load();
         palette.Show();
         return palette;
@@ -101,7 +102,7 @@ TEST_F(UtilitatiTest, OpensInTheTopLeftCornerBorderless) {
 }
 
 TEST_F(UtilitatiTest, LoadingAlonePrintsTheCaption) {
-    auto& palette = module.Default<Utilitati>();
+    auto& palette = application.Default<Utilitati>();
     EXPECT_THAT(palette.picCaption.Printed(), testing::IsEmpty());
     palette.Load();
     EXPECT_THAT(palette.picCaption.Printed(),
@@ -109,7 +110,7 @@ TEST_F(UtilitatiTest, LoadingAlonePrintsTheCaption) {
 }
 
 TEST_F(UtilitatiTest, LoadingAddsSixtyTwipsToTheDesignedHeight) {
-    auto& palette = module.Default<Utilitati>();
+    auto& palette = application.Default<Utilitati>();
     const forms::Rect designed = palette.Bounds();
     palette.Load();
     EXPECT_EQ(palette.Bounds().height, designed.height + 60);
@@ -214,7 +215,7 @@ TEST_F(UtilitatiTest, EnterOpensTheFocusedButton) {
 }
 
 TEST_F(UtilitatiTest, AButtonWhoseWindowDoesNotExistDoesNothing) {
-    shell::Module bare{desktop, [this] { return messages.CreateService(); }};
+    shell::Application bare{desktop, [this] { return messages.CreateService(); }};
     auto& palette = bare.Default<Utilitati>();
     palette.Show();
     ClickWithMouse(palette.cmdAction[0]);
@@ -310,7 +311,7 @@ TEST_F(UtilitatiTest, TheStripDragsTheWindowWithTheLeftButtonAlone) {
 TEST_F(UtilitatiTest, AnyMouseButtonReleasedOnTheCloseImageCloses) {
     for (const MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
         ClickWithMouse(Open().imgClose, button);
-        EXPECT_EQ(module.Loaded<Utilitati>(), nullptr);
+        EXPECT_EQ(application.Loaded<Utilitati>(), nullptr);
     }
     EXPECT_EQ(caller->raised, 3);
 }
@@ -362,9 +363,9 @@ TEST_F(UtilitatiTest, EscapeDuringAnotherWindowsUnloadEnds) {
         desktop.ActivateByUser(&palette);
         keyboard.Press(key::Escape);
     };
-    module.context.RaiseIesire();
+    application.context.RaiseIesire();
     EXPECT_FALSE(notes.IsLoaded());
-    EXPECT_EQ(module.Loaded<Utilitati>(), nullptr);
+    EXPECT_EQ(application.Loaded<Utilitati>(), nullptr);
 }
 
 TEST_F(UtilitatiTest, ASecondOpeningShowsTheSamePalette) {

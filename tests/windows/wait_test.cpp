@@ -40,7 +40,7 @@ class WatchedConnection : public data::Connection {
 
 class WaitTest : public RatesTest {
   protected:
-    WaitTest() { module.context.connection = watched; }
+    WaitTest() { application.context.connection = watched; }
     ~WaitTest() override { desktop.UnloadAll(); }
 
     std::shared_ptr<WatchedConnection> watched = std::make_shared<WatchedConnection>(connection, desktop);

@@ -1,10 +1,10 @@
 #include "shell/window_helpers.h"
 
-#include "forms/command_button.h"
-#include "forms/frame.h"
-#include "forms/grid.h"
-#include "forms/label.h"
-#include "forms/text_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/frame.h"
+#include "forms/controls/grid.h"
+#include "forms/controls/label.h"
+#include "forms/controls/text_box.h"
 #include "support/window_test.h"
 
 namespace tavrin::tests {

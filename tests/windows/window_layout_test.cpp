@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-#include "forms/command_button.h"
+#include "forms/controls/command_button.h"
 #include "windows/every_window.h"
 
 namespace tavrin::tests {

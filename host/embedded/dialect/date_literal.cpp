@@ -4,7 +4,7 @@
 #include <cmath>
 #include <optional>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "host/embedded/dialect/provider_error.h"
 
 namespace tavrin::host::dialect {

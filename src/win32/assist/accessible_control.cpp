@@ -5,7 +5,7 @@
 #include <iterator>
 #include <utility>
 
-#include "forms/form.h"
+#include "forms/model/form.h"
 #include "win32/assist/accessible_state.h"
 #include "win32/base/text.h"
 #include "win32/base/translation.h"

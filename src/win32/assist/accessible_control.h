@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "forms/control.h"
+#include "forms/model/control.h"
 #include "win32/assist/accessible_kind.h"
 #include "win32/base/com_ptr.h"
 #include "win32/base/unknown_object.h"

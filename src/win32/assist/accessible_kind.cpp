@@ -1,7 +1,7 @@
 #include "win32/assist/accessible_kind.h"
 
-#include "forms/form.h"
-#include "forms/text_box.h"
+#include "forms/controls/text_box.h"
+#include "forms/model/form.h"
 
 namespace tavrin::win32 {
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "forms/control.h"
+#include "forms/model/control.h"
 
 namespace tavrin::win32 {
 

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "forms/accessible.h"
+#include "forms/model/accessible.h"
 
 namespace tavrin::win32 {
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "forms/copied.h"
+#include "forms/model/copied.h"
 #include "win32/base/handles.h"
 #include "win32/paint/dib_canvas.h"
 #include "win32/paint/font_cache.h"

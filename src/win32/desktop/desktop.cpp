@@ -11,7 +11,7 @@
 #include "win32/peers/form_style.h"
 #include "win32/system/dpi.h"
 #include "win32/system/number_format.h"
-#include "win32/window/toolkit.h"
+#include "win32/window/window_resources.h"
 
 namespace tavrin::win32 {
 
@@ -35,15 +35,15 @@ Desktop::Desktop(HINSTANCE module) : module_(module), inUse_(std::make_shared<in
 Desktop::~Desktop() = default;
 
 std::unique_ptr<forms::FormPeer> Desktop::CreatePeer(forms::Form& form) {
-    auto peer = std::make_unique<FormPeer>(*this, form, SharedToolkit());
+    auto peer = std::make_unique<FormPeer>(*this, form, SharedResources());
     peer->CreateControls();
     return peer;
 }
 
-std::shared_ptr<Toolkit> Desktop::SharedToolkit() {
-    auto toolkit = toolkit_.lock();
-    if (!toolkit) toolkit_ = toolkit = std::make_shared<Toolkit>(module_, inUse_);
-    return toolkit;
+std::shared_ptr<WindowResources> Desktop::SharedResources() {
+    auto resources = resources_.lock();
+    if (!resources) resources_ = resources = std::make_shared<WindowResources>(module_, inUse_);
+    return resources;
 }
 
 forms::Size Desktop::ScreenSize() const {
@@ -84,7 +84,7 @@ void Desktop::SetCursorPosition(forms::PixelPoint position) {
     SetCursorPos(position.x, position.y);
 }
 
-std::string Desktop::FormatNumber(std::string_view number, const forms::NumberFormat& format) const {
+std::string Desktop::FormatNumber(std::string_view number, const data::NumberFormat& format) const {
     return FormatPlatformNumber(number, format);
 }
 
@@ -96,8 +96,8 @@ void Desktop::CopyToClipboard(const forms::Copied& copied) {
     const Clipboard clipboard(GetActiveWindow());
     clipboard.Put(CF_UNICODETEXT, TextMemory(copied.text));
     if (!copied.drawPicture) return;
-    const auto toolkit = SharedToolkit();
-    clipboard.Put(CF_DIB, PictureMemory(copied, toolkit->Canvas(), toolkit->Fonts(), SystemScale()));
+    const auto resources = SharedResources();
+    clipboard.Put(CF_DIB, PictureMemory(copied, resources->Canvas(), resources->Fonts(), SystemScale()));
 }
 
 bool Desktop::ActivateHost() {

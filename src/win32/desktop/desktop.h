@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "forms/desktop.h"
+#include "forms/model/desktop.h"
 #include "win32/desktop/platform_dialogs.h"
 #include "win32/desktop/wait_pointer.h"
 #include "win32/system/user_locale.h"
@@ -15,7 +15,7 @@
 
 namespace tavrin::win32 {
 
-class Toolkit;
+class WindowResources;
 
 /// The screen of the host's process. Lives on the host's user-interface thread.
 class Desktop final : public forms::Desktop {
@@ -32,8 +32,8 @@ class Desktop final : public forms::Desktop {
     forms::Size FrameSize(forms::BorderStyle border) const override;
     forms::PixelPoint CursorPosition() const override;
     void SetCursorPosition(forms::PixelPoint position) override;
-    forms::Locale UserLocale() const override { return ReadUserLocale(); }
-    std::string FormatNumber(std::string_view number, const forms::NumberFormat& format) const override;
+    data::Locale UserLocale() const override { return ReadUserLocale(); }
+    std::string FormatNumber(std::string_view number, const data::NumberFormat& format) const override;
     void Beep() override;
     void CopyToClipboard(const forms::Copied& copied) override;
     bool ActivateHost() override;
@@ -52,14 +52,14 @@ class Desktop final : public forms::Desktop {
     void EndWait() noexcept override { waitPointer_.End(); }
 
   private:
-    std::shared_ptr<Toolkit> SharedToolkit();
+    std::shared_ptr<WindowResources> SharedResources();
     void ShowReports();
     void Show(const forms::ErrorReport& report);
 
     HINSTANCE module_;
     WholeFiles files_;
     std::shared_ptr<const void> inUse_;
-    std::weak_ptr<Toolkit> toolkit_;
+    std::weak_ptr<WindowResources> resources_;
     HeldWindows heldWindows_;
     WaitPointer waitPointer_;
     win32::PlatformDialogs dialogs_{heldWindows_};

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "forms/desktop.h"
+#include "forms/model/desktop.h"
 #include "shell/message_service.h"
 #include "win32/ado/dispatch_object.h"
 

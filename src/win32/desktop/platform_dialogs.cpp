@@ -10,7 +10,7 @@
 #include <string>
 
 #include "data/error.h"
-#include "forms/form.h"
+#include "forms/model/form.h"
 #include "win32/base/handles.h"
 #include "win32/base/library.h"
 #include "win32/base/text.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/common_dialog.h"
+#include "forms/model/common_dialog.h"
 #include "win32/window/modality.h"
 
 namespace tavrin::win32 {

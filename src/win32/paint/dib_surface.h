@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/rasterizer.h"
-#include "forms/surface.h"
+#include "forms/drawing/rasterizer.h"
+#include "forms/drawing/surface.h"
 #include "win32/base/handles.h"
 #include "win32/paint/dib_canvas.h"
 #include "win32/paint/font_cache.h"

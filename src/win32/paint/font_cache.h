@@ -6,7 +6,7 @@
 #include <string>
 #include <tuple>
 
-#include "forms/font.h"
+#include "forms/drawing/font.h"
 #include "win32/base/handles.h"
 
 namespace tavrin::win32 {

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "data/error.h"
-#include "forms/color.h"
+#include "forms/drawing/color.h"
 #include "win32/base/library.h"
 #include "win32/system/contrast.h"
 
@@ -35,7 +35,7 @@ data::CalendarDay MonthsAway(data::CalendarDay day, int months) {
 }
 
 /// Where a key leads from a day; the same day where it leads nowhere.
-data::CalendarDay Walk(data::CalendarDay day, WPARAM key) {
+data::CalendarDay DayAfterKey(data::CalendarDay day, WPARAM key) {
     switch (key) {
         case VK_LEFT:
             return {day.year, day.month, day.day - 1};
@@ -96,20 +96,21 @@ POINT PlaceBeside(const RECT& field, SIZE size) {
 
 }  // namespace
 
-CalendarPopup::CalendarPopup(forms::Desktop& desktop, const Toolkit& toolkit, const Settings& settings,
-                             std::function<void(data::OleDate)> whenChosen, std::function<void()> whenClosed)
+CalendarPopup::CalendarPopup(forms::Desktop& desktop, const WindowResources& resources,
+                             const Settings& settings, std::function<void(data::OleDate)> whenChosen,
+                             std::function<void()> whenClosed)
     : Window(desktop),
       scope_(desktop),
       calendar_(desktop, *this),
       days_(settings.days),
       whenChosen_(std::move(whenChosen)),
       whenClosed_(std::move(whenClosed)) {
-    Attach(toolkit.CreateWindowWith({.text = {},
-                                     .style = WS_POPUP | WS_BORDER,
-                                     .extendedStyle = WS_EX_TOPMOST | WS_EX_TOOLWINDOW,
-                                     .parent = settings.form}),
+    Attach(resources.CreateWindowWith({.text = {},
+                                       .style = WS_POPUP | WS_BORDER,
+                                       .extendedStyle = WS_EX_TOPMOST | WS_EX_TOOLWINDOW,
+                                       .parent = settings.form}),
            "Calendar");
-    CreateCalendar(toolkit, settings.font);
+    CreateCalendar(resources, settings.font);
     ShowBeside(settings.field);
 }
 
@@ -120,12 +121,12 @@ CalendarPopup::~CalendarPopup() {
     Destroy();
 }
 
-void CalendarPopup::CreateCalendar(const Toolkit& toolkit, HFONT font) {
+void CalendarPopup::CreateCalendar(const WindowResources& resources, HFONT font) {
     calendar_.Attach(
-        toolkit.CreateWindowWith({.className = MONTHCAL_CLASSW,
-                                  .text = {},
-                                  .style = WS_CHILD | WS_VISIBLE | MCS_NOTODAY | MCS_NOTODAYCIRCLE,
-                                  .parent = Handle()}),
+        resources.CreateWindowWith({.className = MONTHCAL_CLASSW,
+                                    .text = {},
+                                    .style = WS_CHILD | WS_VISIBLE | MCS_NOTODAY | MCS_NOTODAYCIRCLE,
+                                    .parent = Handle()}),
         {});
     const HWND calendar = calendar_.Handle();
     // Left alone it has the system's colours.
@@ -235,7 +236,7 @@ bool CalendarPopup::HandleKey(WPARAM key) {
     if (key == VK_ESCAPE || key == VK_F4 || key == VK_TAB) return Close(), true;
     if (key == VK_RETURN) return Choose(), true;
     const data::CalendarDay day = Selected();
-    const data::CalendarDay next = Walk(day, key);
+    const data::CalendarDay next = DayAfterKey(day, key);
     if (next == day) return false;
     Select(data::ToOleDate(next));
     return true;

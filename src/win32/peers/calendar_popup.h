@@ -4,11 +4,11 @@
 
 #include <functional>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "data/value.h"
 #include "win32/system/scale.h"
-#include "win32/window/toolkit.h"
 #include "win32/window/window.h"
+#include "win32/window/window_resources.h"
 
 namespace tavrin::win32 {
 
@@ -30,7 +30,7 @@ class CalendarPopup final : public Window {
 
     /// Appears at once, on the value. `whenClosed` may destroy the popup; neither callback runs after that.
     /// \throws data::Error where the platform's calendar does not take these days
-    CalendarPopup(forms::Desktop& desktop, const Toolkit& toolkit, const Settings& settings,
+    CalendarPopup(forms::Desktop& desktop, const WindowResources& resources, const Settings& settings,
                   std::function<void(data::OleDate)> whenChosen, std::function<void()> whenClosed);
     ~CalendarPopup() override;
 
@@ -57,7 +57,7 @@ class CalendarPopup final : public Window {
     LRESULT OnActivate(const Message& message);
     bool HandleKey(WPARAM key);
 
-    void CreateCalendar(const Toolkit& toolkit, HFONT font);
+    void CreateCalendar(const WindowResources& resources, HFONT font);
     void ShowBeside(const RECT& field);
     data::CalendarDay Selected() const;
     /// The nearest day of the range. \throws data::Error where the calendar then stands on another

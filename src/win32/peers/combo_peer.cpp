@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "forms/look.h"
+#include "forms/controls/look.h"
 #include "win32/base/library.h"
 #include "win32/base/text.h"
 #include "win32/peers/disagreement.h"
@@ -236,13 +236,13 @@ LRESULT ComboPeer::HandleMessage(const Message& message) {
         {WM_LBUTTONUP, &ComboPeer::OnMouse},
         {WM_MOUSEWHEEL, &ComboPeer::OnWheel},
     };
-    if (const auto answer = Follow<ComboPeer>(routes, *this, message)) return *answer;
+    if (const auto answer = HandleBy<ComboPeer>(routes, *this, message)) return *answer;
     return ControlWindow::HandleMessage(message);
 }
 
 LRESULT ComboPeer::OnPaint(const Message& message) {
     const forms::Rect& bounds = control_.Bounds();
-    WindowPainter painter(Handle(), message, SharedToolkit(), PixelScale(), {bounds.left, bounds.top});
+    WindowPainter painter(Handle(), message, SharedResources(), PixelScale(), {bounds.left, bounds.top});
     control_.Draw(painter.Surface());
     return 0;
 }
@@ -283,7 +283,7 @@ LRESULT ComboPeer::OnDrawItem(const Message& message) {
 }
 
 LRESULT ComboPeer::OnCommand(const Message& message) {
-    if (isShowing_ || SharedToolkit().Keys().IsInsideCharacter()) return 0;
+    if (isShowing_ || SharedResources().Keys().IsInsideCharacter()) return 0;
     switch (HIWORD(message.wParam)) {
         case CBN_EDITCHANGE:
             control_.HandleTyped(ReadText(edit_.Handle()));
@@ -377,7 +377,8 @@ LRESULT ComboPeer::OnKey(const Message& message) {
 
 LRESULT ComboPeer::HandleInnerKey(const Message& message) {
     if (RouteKey(message) == KeyRoute::Dealt || OnlyBeeps(message)) return 0;
-    return SharedToolkit().Keys().PassOn(message, [this](const Message& each) { return edit_.PassOn(each); });
+    return SharedResources().Keys().PassOn(message,
+                                           [this](const Message& each) { return edit_.PassOn(each); });
 }
 
 KeyRoute ComboPeer::RouteKey(const Message& message) {
@@ -385,7 +386,7 @@ KeyRoute ComboPeer::RouteKey(const Message& message) {
         if (WalksList(message.wParam)) return KeyRoute::Native;
         if (HandleOpenListKey(message)) return KeyRoute::Dealt;
     }
-    return SharedToolkit().Keys().Handle(OwnerForm(), message);
+    return SharedResources().Keys().Handle(OwnerForm(), message);
 }
 
 bool ComboPeer::HandleOpenListKey(const Message& message) {
@@ -402,7 +403,7 @@ bool ComboPeer::HandleOpenListKey(const Message& message) {
         default:
             return false;
     }
-    SharedToolkit().Keys().DropCharacter();
+    SharedResources().Keys().DropCharacter();
     return true;
 }
 

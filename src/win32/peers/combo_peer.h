@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/combo_box.h"
+#include "forms/controls/combo_box.h"
 #include "win32/peers/control_window.h"
 #include "win32/peers/inner_edit.h"
 

@@ -21,11 +21,11 @@ void ControlWindow::Create(const wchar_t* className, DWORD style) {
     DWORD state = WS_CHILD | WS_CLIPSIBLINGS;
     if (control_.Visible()) state |= WS_VISIBLE;
     if (!control_.IsEffectivelyEnabled()) state |= WS_DISABLED;
-    Attach(SharedToolkit().CreateWindowWith({.className = className,
-                                             .text = {},
-                                             .style = state | style,
-                                             .place = PixelBounds(),
-                                             .parent = form_.WindowOf(control_.Parent())}),
+    Attach(SharedResources().CreateWindowWith({.className = className,
+                                               .text = {},
+                                               .style = state | style,
+                                               .place = PixelBounds(),
+                                               .parent = form_.WindowOf(control_.Parent())}),
            control_.QualifiedName());
     form_.Tips().Set(Handle(), control_.ToolTip());
 }
@@ -35,11 +35,11 @@ RECT ControlWindow::PixelBounds() const {
 }
 
 HFONT ControlWindow::PlatformFont() const {
-    return SharedToolkit().Fonts().Find(control_.TextFont(), PixelScale().Dpi());
+    return SharedResources().Fonts().Find(control_.TextFont(), PixelScale().Dpi());
 }
 
 int ControlWindow::LineHeight() const {
-    const HDC dc = SharedToolkit().Canvas().Dc();
+    const HDC dc = SharedResources().Canvas().Dc();
     const SelectScope font(dc, PlatformFont());
     TEXTMETRICW metrics{};
     GetTextMetricsW(dc, &metrics);
@@ -160,12 +160,12 @@ LRESULT ControlWindow::HandleMessage(const Message& message) {
         {DisagreementQuestion, &ControlWindow::OnDisagreementQuestion},
     };
     if (KeyInput::IsKeyMessage(message.id)) return OnKey(message);
-    if (const auto answer = Follow<ControlWindow>(routes, *this, message)) return *answer;
+    if (const auto answer = HandleBy<ControlWindow>(routes, *this, message)) return *answer;
     return CallDefault(message);
 }
 
 LRESULT ControlWindow::OnKey(const Message& message) {
-    const KeyRoute route = SharedToolkit().Keys().Handle(OwnerForm(), message);
+    const KeyRoute route = SharedResources().Keys().Handle(OwnerForm(), message);
     return route == KeyRoute::Dealt ? 0 : CallDefault(message);
 }
 
@@ -193,7 +193,7 @@ LRESULT ControlWindow::OnGetDialogCode(const Message&) {
 LRESULT ControlWindow::OnGetObject(const Message& message) {
     if (static_cast<LONG>(message.lParam) != OBJID_CLIENT) return CallDefault(message);
     if (!accessible_)
-        accessible_ = MakeObject<AccessibleControl>(control_, Handle(), SharedToolkit().InUse());
+        accessible_ = MakeObject<AccessibleControl>(control_, Handle(), SharedResources().InUse());
     return LresultFromObject(__uuidof(IAccessible), message.wParam, accessible_.Get());
 }
 

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "forms/control.h"
+#include "forms/model/control.h"
 #include "win32/assist/accessible_control.h"
 #include "win32/base/com_ptr.h"
 #include "win32/peers/form_peer.h"
@@ -51,7 +51,7 @@ class ControlWindow : public forms::ControlPeer, public Window {
     forms::Control& OwnControl() const { return control_; }
     forms::Form& OwnerForm() const { return form_.Form(); }
     FormPeer& OwnerPeer() const { return form_; }
-    Toolkit& SharedToolkit() const { return form_.SharedToolkit(); }
+    WindowResources& SharedResources() const { return form_.SharedResources(); }
     Scale PixelScale() const { return form_.PixelScale(); }
     HFONT PlatformFont() const;
     /// Pixels from line to line in that font.

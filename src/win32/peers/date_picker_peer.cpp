@@ -22,7 +22,7 @@ void DatePickerPeer::DropDown() {
         .days = shown_, .form = OwnerPeer().Handle(), .field = {}, .font = PlatformFont()};
     GetWindowRect(Handle(), &settings.field);
     calendar_ = std::make_unique<CalendarPopup>(
-        OwnerForm().OwnerDesktop(), SharedToolkit(), settings,
+        OwnerForm().OwnerDesktop(), SharedResources(), settings,
         [this](data::OleDate date) { control_.HandleChosen(date); }, [this] { Forget(); });
     control_.HandleDropped(true);
 }

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "forms/date_picker.h"
+#include "forms/controls/date_picker.h"
 #include "win32/peers/calendar_popup.h"
 #include "win32/peers/drawn_peer.h"
 

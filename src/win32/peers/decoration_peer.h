@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/control.h"
+#include "forms/model/control.h"
 #include "win32/peers/form_peer.h"
 
 namespace tavrin::win32 {

@@ -1,7 +1,7 @@
 #include "win32/peers/drawn_peer.h"
 
-#include "forms/container.h"
-#include "forms/decoration.h"
+#include "forms/controls/decoration.h"
+#include "forms/model/container.h"
 #include "win32/window/mouse_message.h"
 #include "win32/window/reflection.h"
 #include "win32/window/window_painter.h"
@@ -36,7 +36,7 @@ LRESULT DrawnPeer::HandleMessage(const Message& message) {
         {WM_RBUTTONDBLCLK, &DrawnPeer::OnMouseButton},
         {WM_MBUTTONDBLCLK, &DrawnPeer::OnMouseButton},
     };
-    if (const auto answer = Follow<DrawnPeer>(routes, *this, message)) return *answer;
+    if (const auto answer = HandleBy<DrawnPeer>(routes, *this, message)) return *answer;
     if (const auto answer = Reflect(message)) return *answer;
     return ControlWindow::HandleMessage(message);
 }
@@ -45,7 +45,7 @@ LRESULT DrawnPeer::HandleMessage(const Message& message) {
 
 LRESULT DrawnPeer::OnPaint(const Message& message) {
     const forms::Rect& bounds = control_.Bounds();
-    WindowPainter painter(Handle(), message, SharedToolkit(), PixelScale(), {bounds.left, bounds.top});
+    WindowPainter painter(Handle(), message, SharedResources(), PixelScale(), {bounds.left, bounds.top});
     painter.Surface().FillRectangle({0, 0, bounds.width, bounds.height}, control_.BackColor());
     if (!drawFailed_) Draw(painter.Surface());
     return 0;

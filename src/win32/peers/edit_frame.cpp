@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "forms/look.h"
+#include "forms/controls/look.h"
 #include "win32/base/handles.h"
 
 namespace tavrin::win32 {

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "forms/color.h"
+#include "forms/drawing/color.h"
 #include "win32/system/scale.h"
 
 namespace tavrin::win32 {

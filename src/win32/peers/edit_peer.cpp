@@ -127,13 +127,13 @@ LRESULT EditPeer::HandleMessage(const Message& message) {
         {WM_SETTEXT, &EditPeer::OnEditing},
         {WM_CONTEXTMENU, &EditPeer::OnEditing},
     };
-    if (const auto answer = Follow<EditPeer>(routes, *this, message)) return *answer;
+    if (const auto answer = HandleBy<EditPeer>(routes, *this, message)) return *answer;
     return EditWindow::HandleMessage(message);
 }
 
 LRESULT EditPeer::OnKey(const Message& message) {
     ReportSelection();
-    if (SharedToolkit().Keys().Handle(OwnerForm(), message) == KeyRoute::Dealt) return 0;
+    if (SharedResources().Keys().Handle(OwnerForm(), message) == KeyRoute::Dealt) return 0;
     const LRESULT answer = message.id == WM_CHAR ? PassCharacter(message) : CallDefault(message);
     ReportSelection();
     return answer;
@@ -171,7 +171,7 @@ void EditPeer::PaintBrowsed(HDC dc) const {
     RECT line = area;
     SendMessageW(Handle(), EM_GETRECT, 0, reinterpret_cast<LPARAM>(&line));
     SetTextColor(dc, OnScreen(forms::ColorUse::Text, control_.ForeColor()));
-    SetBkColor(dc, Ground());
+    SetBkColor(dc, BackgroundColor());
     const LONG x = StartOf(control_.Alignment(), line);
     SetTextAlign(dc, PlatformAlign(control_.Alignment()));
     const std::wstring text = ToWide(control_.Text());
@@ -181,7 +181,7 @@ void EditPeer::PaintBrowsed(HDC dc) const {
 }
 
 LRESULT EditPeer::OnCommand(const Message& message) {
-    const bool isNews = !isShowing_ && !SharedToolkit().Keys().IsInsideCharacter();
+    const bool isNews = !isShowing_ && !SharedResources().Keys().IsInsideCharacter();
     if (HIWORD(message.wParam) != EN_CHANGE || !isNews) return 0;
     const TextRange selection = ReadSelection(Handle());
     control_.HandleEdited(ReadText(Handle()), selection.start, selection.length);
@@ -213,16 +213,16 @@ LRESULT EditPeer::OnCalculateClientArea(const Message& message) {
 }
 
 LRESULT EditPeer::OnPaintFrame(const Message&) {
-    PaintEditFrame(Handle(), Ground(), Frame());
+    PaintEditFrame(Handle(), BackgroundColor(), Frame());
     return 0;
 }
 
-forms::Color EditPeer::Ground() const {
+forms::Color EditPeer::BackgroundColor() const {
     return OnScreen(forms::ColorUse::Area, control_.BackColor());
 }
 
 EditFrame EditPeer::Frame() const {
-    return control_.Bordered() ? FocusFrame() : EditFrame{Ground(), 0};
+    return control_.Bordered() ? FocusFrame() : EditFrame{BackgroundColor(), 0};
 }
 
 LRESULT EditPeer::OnHitTest(const Message&) {

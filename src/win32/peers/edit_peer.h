@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/text_box.h"
+#include "forms/controls/text_box.h"
 #include "win32/peers/edit_window.h"
 
 namespace tavrin::win32 {
@@ -37,7 +37,7 @@ class EditPeer final : public EditWindow {
     void ShowFont();
     EditFrame Frame() const;
     /// The colour beneath the text, as it goes to the screen.
-    forms::Color Ground() const;
+    forms::Color BackgroundColor() const;
 
     forms::TextBox& control_;
     /// Set while the model's state is written into the field, whose notifications are no news then.

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/look.h"
+#include "forms/controls/look.h"
 #include "win32/system/contrast.h"
 #include "win32/window/mouse_message.h"
 
@@ -29,19 +29,20 @@ LRESULT EditWindow::HandleMessage(const Message& message) {
         {WM_RBUTTONUP, &EditWindow::OnMouse},
         {WM_LBUTTONDBLCLK, &EditWindow::OnMouse},
     };
-    if (const auto answer = Follow<EditWindow>(routes, *this, message)) return *answer;
+    if (const auto answer = HandleBy<EditWindow>(routes, *this, message)) return *answer;
     return ControlWindow::HandleMessage(message);
 }
 
 LRESULT EditWindow::OnKey(const Message& message) {
-    if (SharedToolkit().Keys().Handle(OwnerForm(), message) == KeyRoute::Dealt) return 0;
+    if (SharedResources().Keys().Handle(OwnerForm(), message) == KeyRoute::Dealt) return 0;
     const LRESULT answer = PassOn(message);
     ReportSelection();
     return answer;
 }
 
 LRESULT EditWindow::PassOn(const Message& message) const {
-    return SharedToolkit().Keys().PassOn(message, [this](const Message& each) { return CallDefault(each); });
+    return SharedResources().Keys().PassOn(message,
+                                           [this](const Message& each) { return CallDefault(each); });
 }
 
 LRESULT EditWindow::OnSetFocus(const Message& message) {
@@ -60,7 +61,7 @@ LRESULT EditWindow::OnKillFocus(const Message& message) {
 
 LRESULT EditWindow::OnMouse(const Message& message) {
     if (IsButtonUp(message.id)) return OnRelease(message);
-    const bool goesOn = TellModelOfMouse(message);
+    const bool goesOn = ReportMouse(message);
     if (message.id != WM_MOUSEMOVE) holdsPress_ = goesOn;
     if (!goesOn) return 0;
     const LRESULT answer = CallDefault(message);
@@ -76,7 +77,7 @@ LRESULT EditWindow::OnRelease(const Message& message) {
     const LRESULT answer = std::exchange(holdsPress_, false) ? CallDefault(message) : 0;
     isReleasing_ = false;
     ReportSelection();
-    TellModelOfMouse(message);
+    ReportMouse(message);
     return answer;
 }
 
@@ -87,7 +88,7 @@ LRESULT EditWindow::OnCaptureChanged(const Message& message) {
     return answer;
 }
 
-bool EditWindow::TellModelOfMouse(const Message& message) {
+bool EditWindow::ReportMouse(const Message& message) {
     const forms::MouseInput input = ToMouseInput(message, PixelScale());
     if (IsButtonDown(message.id)) return OwnControl().HandleMouseDown(input);
     if (message.id == WM_MOUSEMOVE) OwnControl().HandleMouseMove(input);

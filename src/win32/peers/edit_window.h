@@ -36,7 +36,7 @@ class EditWindow : public ControlWindow {
     LRESULT OnRelease(const Message& message);
     LRESULT OnCaptureChanged(const Message& message);
     /// False where the platform's control is not to act on it any more.
-    bool TellModelOfMouse(const Message& message);
+    bool ReportMouse(const Message& message);
 
     bool holdsPress_ = false;   ///< a button of the mouse went down here and is the platform's to act on
     bool isReleasing_ = false;  ///< the left button goes up: the mouse is given back, not taken away

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/decoration.h"
+#include "forms/controls/decoration.h"
 #include "win32/base/library.h"
 #include "win32/base/text.h"
 #include "win32/peers/control_window.h"
@@ -29,23 +29,27 @@ void CreateControlsOf(forms::Container& container, FormPeer& form) {
 
 }  // namespace
 
-FormPeer::FormPeer(forms::Desktop& desktop, forms::Form& form, std::shared_ptr<Toolkit> toolkit)
-    : Window(desktop), desktop_(desktop), form_(form), toolkit_(std::move(toolkit)), scale_(SystemScale()) {
+FormPeer::FormPeer(forms::Desktop& desktop, forms::Form& form, std::shared_ptr<WindowResources> resources)
+    : Window(desktop),
+      desktop_(desktop),
+      form_(form),
+      resources_(std::move(resources)),
+      scale_(SystemScale()) {
     const FormStyle kind = FormStyle::Of(form.Border());
-    Attach(toolkit_->CreateWindowWith({.className = WindowClasses::Form,
-                                       .text = form.Caption(),
-                                       .style = kind.style,
-                                       .extendedStyle = kind.extendedStyle}),
+    Attach(resources_->CreateWindowWith({.className = WindowClasses::Form,
+                                         .text = form.Caption(),
+                                         .style = kind.style,
+                                         .extendedStyle = kind.extendedStyle}),
            form.Name());
     scale_ = ScaleOf(Handle());
-    tips_.emplace(*toolkit_, Handle());
+    tips_.emplace(*resources_, Handle());
     DarkenTitleBar();
     EnableOrDisable();
     Place();
 }
 
 FormPeer::~FormPeer() {
-    // The window before the toolkit, which may take the window's class along.
+    // The window before the resources, which may take the window's class along.
     tips_.reset();
     Destroy();
 }
@@ -188,7 +192,7 @@ LRESULT FormPeer::HandleMessage(const Message& message) {
     };
     if (isClosed_) return CallDefault(message);
     if (KeyInput::IsKeyMessage(message.id)) return OnKey(message);
-    if (const auto answer = Follow<FormPeer>(routes, *this, message)) return *answer;
+    if (const auto answer = HandleBy<FormPeer>(routes, *this, message)) return *answer;
     if (const auto answer = Reflect(message)) return *answer;
     return CallDefault(message);
 }
@@ -314,7 +318,7 @@ LRESULT FormPeer::OnColorsChanged(const Message& message) {
 }
 
 LRESULT FormPeer::OnPaint(const Message& message) {
-    WindowPainter painter(Handle(), message, *toolkit_, scale_, {0, 0});
+    WindowPainter painter(Handle(), message, *resources_, scale_, {0, 0});
     const forms::Size client = form_.ClientSize();
     painter.Surface().FillRectangle({0, 0, client.width, client.height}, form_.BackColor());
     forms::DrawDecorations(form_, painter.Surface());
@@ -343,7 +347,7 @@ LRESULT FormPeer::OnDisagreementQuestion(const Message&) {
 }
 
 LRESULT FormPeer::OnKey(const Message& message) {
-    return toolkit_->Keys().Handle(form_, message) == KeyRoute::Dealt ? 0 : CallDefault(message);
+    return resources_->Keys().Handle(form_, message) == KeyRoute::Dealt ? 0 : CallDefault(message);
 }
 
 }  // namespace tavrin::win32

@@ -5,11 +5,11 @@
 #include <memory>
 #include <optional>
 
-#include "forms/form.h"
+#include "forms/model/form.h"
 #include "win32/system/scale.h"
 #include "win32/window/tool_tips.h"
-#include "win32/window/toolkit.h"
 #include "win32/window/window.h"
+#include "win32/window/window_resources.h"
 
 namespace tavrin::win32 {
 
@@ -17,7 +17,7 @@ namespace tavrin::win32 {
 /// since its own messages may still be on the stack in between.
 class FormPeer final : public forms::FormPeer, public Window {
   public:
-    FormPeer(forms::Desktop& desktop, forms::Form& form, std::shared_ptr<Toolkit> toolkit);
+    FormPeer(forms::Desktop& desktop, forms::Form& form, std::shared_ptr<WindowResources> resources);
     ~FormPeer() override;
 
     /// Makes the peers of the form's controls; all or none are there afterwards.
@@ -32,7 +32,7 @@ class FormPeer final : public forms::FormPeer, public Window {
 
     // For the peers of its controls.
     forms::Form& Form() { return form_; }
-    Toolkit& SharedToolkit() { return *toolkit_; }
+    WindowResources& SharedResources() { return *resources_; }
     ToolTips& Tips() { return *tips_; }
     Scale PixelScale() const { return scale_; }
     /// The window that the windows of a container's controls are made in.
@@ -72,7 +72,7 @@ class FormPeer final : public forms::FormPeer, public Window {
 
     forms::Desktop& desktop_;
     forms::Form& form_;
-    std::shared_ptr<Toolkit> toolkit_;
+    std::shared_ptr<WindowResources> resources_;
     Scale scale_;
     std::optional<ToolTips> tips_;
     bool isPlacing_ = false;

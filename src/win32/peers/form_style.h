@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include "forms/form.h"
+#include "forms/model/form.h"
 
 namespace tavrin::win32 {
 

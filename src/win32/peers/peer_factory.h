@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "forms/control.h"
+#include "forms/model/control.h"
 
 namespace tavrin::win32 {
 

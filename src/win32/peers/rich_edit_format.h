@@ -4,7 +4,7 @@
 
 #include <richedit.h>
 
-#include "forms/character_format.h"
+#include "forms/model/character_format.h"
 
 namespace tavrin::win32 {
 

@@ -137,7 +137,7 @@ LRESULT RichEditPeer::HandleMessage(const Message& message) {
         {WM_NCPAINT, &RichEditPeer::OnPaintFrame},
         {WM_MOUSEWHEEL, &RichEditPeer::OnMouseWheel},
     };
-    if (const auto answer = Follow<RichEditPeer>(routes, *this, message)) return *answer;
+    if (const auto answer = HandleBy<RichEditPeer>(routes, *this, message)) return *answer;
     return EditWindow::HandleMessage(message);
 }
 

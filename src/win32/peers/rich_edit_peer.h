@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "forms/rich_text_box.h"
+#include "forms/controls/rich_text_box.h"
 #include "win32/peers/edit_window.h"
 
 namespace tavrin::win32 {

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "forms/contrast.h"
+#include "forms/drawing/contrast.h"
 
 namespace tavrin::win32 {
 

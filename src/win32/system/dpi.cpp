@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "forms/text_scale.h"
+#include "forms/drawing/text_scale.h"
 #include "win32/base/handles.h"
 #include "win32/base/library.h"
 

@@ -11,7 +11,7 @@ constexpr UINT NegativeSignInFront = 1;
 constexpr std::size_t LongestText = 200;
 }  // namespace
 
-std::string FormatPlatformNumber(std::string_view number, const forms::NumberFormat& format) {
+std::string FormatPlatformNumber(std::string_view number, const data::NumberFormat& format) {
     std::string text(number);
     std::string decimalSeparator = format.decimalSeparator;
     std::string thousandsSeparator = format.thousandsSeparator;

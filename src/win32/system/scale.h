@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "forms/geometry.h"
+#include "forms/drawing/geometry.h"
 
 namespace tavrin::win32 {
 

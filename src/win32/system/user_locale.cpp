@@ -20,8 +20,8 @@ std::string Read(LCTYPE setting, const std::string& fallback) {
 
 }  // namespace
 
-forms::Locale ReadUserLocale() {
-    forms::Locale locale;
+data::Locale ReadUserLocale() {
+    data::Locale locale;
     locale.decimalSeparator = Read(LOCALE_SDECIMAL, locale.decimalSeparator);
     locale.thousandsSeparator = Read(LOCALE_STHOUSAND, locale.thousandsSeparator);
     LCTYPE month = LOCALE_SABBREVMONTHNAME1;

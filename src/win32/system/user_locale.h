@@ -1,10 +1,10 @@
 #pragma once
 
-#include "forms/locale.h"
+#include "data/text/locale.h"
 
 namespace tavrin::win32 {
 
 /// The separators and the months' abbreviations that the user has set.
-forms::Locale ReadUserLocale();
+data::Locale ReadUserLocale();
 
 }  // namespace tavrin::win32

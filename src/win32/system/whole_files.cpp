@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "forms/overwriting.h"
+#include "forms/model/overwriting.h"
 #include "win32/base/handles.h"
 #include "win32/base/system_error.h"
 #include "win32/base/text.h"

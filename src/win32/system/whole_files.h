@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "forms/files.h"
+#include "forms/model/files.h"
 
 namespace tavrin::win32 {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "forms/form.h"
+#include "forms/model/form.h"
 #include "win32/window/window.h"
 
 namespace tavrin::win32 {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "forms/form.h"
+#include "forms/model/form.h"
 #include "win32/base/translation.h"
 #include "win32/window/window.h"
 

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "forms/desktop.h"
+#include "forms/model/desktop.h"
 
 namespace tavrin::win32 {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/keys.h"
+#include "forms/model/keys.h"
 #include "win32/system/scale.h"
 #include "win32/window/window.h"
 

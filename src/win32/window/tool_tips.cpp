@@ -20,12 +20,12 @@ TTTOOLINFOW Describe(HWND form, HWND control) {
 
 }  // namespace
 
-ToolTips::ToolTips(const Toolkit& toolkit, HWND form)
-    : window_(toolkit.CreateWindowWith({.className = TOOLTIPS_CLASSW,
-                                        .text = {},
-                                        .style = WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
-                                        .extendedStyle = WS_EX_TOPMOST,
-                                        .parent = form})),
+ToolTips::ToolTips(const WindowResources& resources, HWND form)
+    : window_(resources.CreateWindowWith({.className = TOOLTIPS_CLASSW,
+                                          .text = {},
+                                          .style = WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
+                                          .extendedStyle = WS_EX_TOPMOST,
+                                          .parent = form})),
       form_(form) {
     ShowColors();
 }

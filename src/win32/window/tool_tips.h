@@ -5,14 +5,14 @@
 #include <string>
 
 #include "win32/base/handles.h"
-#include "win32/window/toolkit.h"
+#include "win32/window/window_resources.h"
 
 namespace tavrin::win32 {
 
 /// The tool tips of one form's controls, shown by one window of the platform.
 class ToolTips {
   public:
-    ToolTips(const Toolkit& toolkit, HWND form);
+    ToolTips(const WindowResources& resources, HWND form);
 
     /// Sets the text that a control shows, none when it is empty.
     void Set(HWND control, const std::string& text);

@@ -2,7 +2,7 @@
 
 #include <commctrl.h>
 
-#include "forms/form.h"
+#include "forms/model/form.h"
 
 namespace tavrin::win32 {
 

@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "forms/desktop.h"
+#include "forms/model/desktop.h"
 #include "win32/window/name_property.h"
 
 namespace tavrin::win32 {
@@ -58,8 +58,8 @@ class Window {
 
     /// The answer of a table's handler, nothing where the table has none.
     template <class Receiver>
-    static std::optional<LRESULT> Follow(std::span<const Route<Receiver>> routes, Receiver& receiver,
-                                         const Message& message) {
+    static std::optional<LRESULT> HandleBy(std::span<const Route<Receiver>> routes, Receiver& receiver,
+                                           const Message& message) {
         for (const Route<Receiver>& route : routes) {
             if (route.message == message.id) return (receiver.*route.handle)(message);
         }

@@ -18,11 +18,11 @@ WindowPainter::Target::~Target() {
     if (begun) EndPaint(window, &paint);
 }
 
-WindowPainter::WindowPainter(HWND window, const Message& message, Toolkit& toolkit, Scale scale,
+WindowPainter::WindowPainter(HWND window, const Message& message, WindowResources& resources, Scale scale,
                              forms::Point origin)
     : target_(window, message),
-      canvas_(Reserved(toolkit)),
-      surface_(canvas_, toolkit.Fonts(), scale, origin, target_.paint.rcPaint) {
+      canvas_(Reserved(resources)),
+      surface_(canvas_, resources.Fonts(), scale, origin, target_.paint.rcPaint) {
     if (const auto colors = HighContrast()) contrast_.emplace(surface_, *colors);
 }
 
@@ -34,9 +34,9 @@ WindowPainter::~WindowPainter() {
     GdiFlush();
 }
 
-DibCanvas& WindowPainter::Reserved(Toolkit& toolkit) const {
-    toolkit.Canvas().Reserve(target_.paint.rcPaint.right, target_.paint.rcPaint.bottom);
-    return toolkit.Canvas();
+DibCanvas& WindowPainter::Reserved(WindowResources& resources) const {
+    resources.Canvas().Reserve(target_.paint.rcPaint.right, target_.paint.rcPaint.bottom);
+    return resources.Canvas();
 }
 
 }  // namespace tavrin::win32

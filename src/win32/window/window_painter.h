@@ -4,10 +4,10 @@
 
 #include <optional>
 
-#include "forms/contrast.h"
+#include "forms/drawing/contrast.h"
 #include "win32/paint/dib_surface.h"
-#include "win32/window/toolkit.h"
 #include "win32/window/window.h"
+#include "win32/window/window_resources.h"
 
 namespace tavrin::win32 {
 
@@ -16,7 +16,8 @@ namespace tavrin::win32 {
 class WindowPainter {
   public:
     /// `origin` is the window's place in its parent, in twips.
-    WindowPainter(HWND window, const Message& message, Toolkit& toolkit, Scale scale, forms::Point origin);
+    WindowPainter(HWND window, const Message& message, WindowResources& resources, Scale scale,
+                  forms::Point origin);
     ~WindowPainter();
     WindowPainter(const WindowPainter&) = delete;
     WindowPainter& operator=(const WindowPainter&) = delete;
@@ -37,7 +38,7 @@ class WindowPainter {
         PAINTSTRUCT paint{};
     };
 
-    DibCanvas& Reserved(Toolkit& toolkit) const;
+    DibCanvas& Reserved(WindowResources& resources) const;
 
     Target target_;
     DibCanvas& canvas_;

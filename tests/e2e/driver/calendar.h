@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "e2e/driver/ui_thread.h"
 #include "e2e/driver/window.h"
 

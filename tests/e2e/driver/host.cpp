@@ -2,7 +2,7 @@
 
 #include <ocidl.h>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "e2e/driver/input.h"
 #include "e2e/driver/wait.h"
 

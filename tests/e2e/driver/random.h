@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <random>
 
@@ -18,10 +17,6 @@ class Random {
     template <class Array>
     auto Pick(const Array& from) {
         return from[Below(static_cast<unsigned>(from.size()))];
-    }
-    template <class Array>
-    void Shuffle(Array& items) {
-        std::ranges::shuffle(items, generator_);
     }
 
   private:

@@ -61,18 +61,18 @@ void Attendant::Attend() {
     constexpr std::size_t TooMany = 2;
     EndMenu();
     if (random_.OnceIn(OnceInAttentions)) host_.LetGoOfMouse();
-    EndModal(Modals().size() > TooMany ? Zeal::AtOnce : Zeal::Sometimes);
+    EndModal(Modals().size() > TooMany ? Urgency::AtOnce : Urgency::Sometimes);
 }
 
 /// \return whether there was one
-bool Attendant::EndModal(Zeal zeal) {
+bool Attendant::EndModal(Urgency urgency) {
     const std::vector<Window> modals = Modals();
     if (modals.empty()) return false;
     const Window& front = modals.front();
     const bool isMessage = PromptOf(front).Exists();
     if (isMessage) Remember(front);
-    if (zeal == Zeal::Sometimes && !random_.OnceIn(OnceInAttentions)) return true;
-    isMessage ? Answer(front) : EndDialog(front, zeal);
+    if (urgency == Urgency::Sometimes && !random_.OnceIn(OnceInAttentions)) return true;
+    isMessage ? Answer(front) : EndDialog(front, urgency);
     return true;
 }
 
@@ -94,10 +94,10 @@ void Attendant::Answer(const Window& message) {
     Press(message, random_.Pick(there));
 }
 
-void Attendant::EndDialog(const Window& dialog, Zeal zeal) {
+void Attendant::EndDialog(const Window& dialog, Urgency urgency) {
     if (dialog.Handle() != lastDialog_) ++dialogs_;
     lastDialog_ = dialog.Handle();
-    if (zeal == Zeal::AtOnce || random_.OnceIn(2)) return Press(dialog, IDCANCEL);
+    if (urgency == Urgency::AtOnce || random_.OnceIn(2)) return Press(dialog, IDCANCEL);
     const HWND handle = dialog.Handle();
     host_.Ui().Post([handle, name = RandomNote(random_.Below(4))] {
         if (GetDlgItem(handle, FileNameField) != nullptr)
@@ -135,7 +135,7 @@ bool Attendant::CloseOneWindow() {
 void Attendant::CloseEverything() {
     const bool isClosed = WaitUntil([&] {
         EndMenuAndDrag();
-        if (EndModal(Zeal::AtOnce)) return false;
+        if (EndModal(Urgency::AtOnce)) return false;
         const bool wasOpen = CloseOneWindow();
         host_.Call([] {});
         return !wasOpen;

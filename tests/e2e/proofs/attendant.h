@@ -29,12 +29,12 @@ class Attendant {
     const std::string& UnknownMessage() const { return unknown_; }
 
   private:
-    enum class Zeal { Sometimes, AtOnce };
+    enum class Urgency { Sometimes, AtOnce };
 
-    bool EndModal(Zeal zeal);
+    bool EndModal(Urgency urgency);
     void EndMenu();
     void Answer(const Window& message);
-    void EndDialog(const Window& dialog, Zeal zeal);
+    void EndDialog(const Window& dialog, Urgency urgency);
     void Press(const Window& modal, int button);
     void Remember(const Window& message);
     bool CloseOneWindow();

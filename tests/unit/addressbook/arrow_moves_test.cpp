@@ -4,7 +4,7 @@
 
 #include <map>
 
-#include "forms/keys.h"
+#include "forms/model/keys.h"
 
 namespace tavrin::addressbook {
 namespace {

@@ -272,7 +272,7 @@ TEST_F(PersonStoreTest, ANullEndsTheReadingBehindTheColumnsBeforeIt) {
         for (std::size_t i = 0; i < Columns.size(); ++i)
             EXPECT_EQ(person[i].empty(), i >= column) << Columns[column] << ", column " << i;
         const bool isName = column < FirstDetailColumn;
-        EXPECT_EQ(ErrorOf([&] { store.DemandNames(); }), isName ? number::InvalidUseOfNull : 0);
+        EXPECT_EQ(ErrorOf([&] { store.RequireNames(); }), isName ? number::InvalidUseOfNull : 0);
     }
 }
 

@@ -5,14 +5,6 @@
 namespace tavrin::addressbook {
 namespace {
 
-TEST(TextRules, TrimmingTakesBlanksAndNothingElse) {
-    EXPECT_EQ(Trimmed("  Ana Maria "), "Ana Maria");
-    EXPECT_EQ(Trimmed("\tAna\n"), "\tAna\n");
-    EXPECT_EQ(Trimmed("    "), "");
-    EXPECT_EQ(Trimmed(""), "");
-    EXPECT_EQ(Trimmed("x"), "x");
-}
-
 TEST(TextRules, EightCharactersAreRefused) {
     int refused = 0;
     for (char32_t character = 0; character < 0x300; ++character)

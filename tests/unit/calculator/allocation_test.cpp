@@ -42,12 +42,12 @@ TEST(Allocations, NoKeyAllocates) {
 }
 
 TEST(Allocations, SettingANumberForReadingAllocatesNothingOnceTheTextHasGrown) {
-    const forms::Locale locale;
+    const data::Locale locale;
     std::string text;
-    forms::WriteGroupedNumber(text, -123456789012345, 6, locale);
+    data::WriteGroupedNumber(text, -123456789012345, 6, locale);
     const int before = allocations;
     for (const double number : {0.0, 9.0, -1234.5, 99999999999999.0, 1e30})
-        forms::WriteGroupedNumber(text, number, 6, locale);
+        data::WriteGroupedNumber(text, number, 6, locale);
     EXPECT_EQ(allocations - before, 0);
 }
 

@@ -48,8 +48,8 @@ class CalculatorPair {
     static constexpr int Decimals[] = {0, 2, 4, 6};
     static constexpr double Rates[] = {1, 4.5, 4.9762, 0.001, 0, 1e300, 1e-300, 3};
 
-    static forms::Locale LocaleWith(char decimalSeparator) {
-        forms::Locale locale;
+    static data::Locale LocaleWith(char decimalSeparator) {
+        data::Locale locale;
         locale.decimalSeparator = decimalSeparator;
         return locale;
     }

@@ -252,7 +252,7 @@ TEST(Engine, WritesAnyDecimalSeparator) {
                                                  "12\xD9\xAB"
                                                  "5"},
                                        Separator{"::", "12::5"}, Separator{"", "12.5"}}) {
-        forms::Locale locale;
+        data::Locale locale;
         locale.decimalSeparator = separator.text;
         TwoDisplays shown(locale);
         shown.Press("12.57");

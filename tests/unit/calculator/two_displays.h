@@ -5,7 +5,7 @@
 
 #include "calculator/conversion.h"
 #include "calculator/engine.h"
-#include "forms/grouped_number.h"
+#include "data/text/grouped_number.h"
 
 namespace tavrin::tests {
 
@@ -13,7 +13,7 @@ namespace tavrin::tests {
 /// messages, as the window has them.
 class TwoDisplays : public calculator::EngineListener {
   public:
-    explicit TwoDisplays(forms::Locale locale = {}) : locale_(std::move(locale)) {}
+    explicit TwoDisplays(data::Locale locale = {}) : locale_(std::move(locale)) {}
 
     void ShowValues() override { ++refreshes; }
     void ReportDivisionByZero() override { ++divisionsByZero; }
@@ -55,11 +55,11 @@ class TwoDisplays : public calculator::EngineListener {
   private:
     std::string Text(double number) const {
         std::string text;
-        forms::WriteGroupedNumber(text, number, conversion.Decimals(), locale_);
+        data::WriteGroupedNumber(text, number, conversion.Decimals(), locale_);
         return text;
     }
 
-    forms::Locale locale_;
+    data::Locale locale_;
 
   public:
     calculator::Engine engine{conversion, *this, locale_.decimalSeparator};

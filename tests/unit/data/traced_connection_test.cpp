@@ -14,7 +14,7 @@ using testing::MatchesRegex;
 
 class TracedConnectionTest : public testing::Test {
   protected:
-    TracedConnectionTest() { trace.Follow(connection); }
+    TracedConnectionTest() { trace.SetTarget(connection); }
 
     static data::TablePtr Rows(const std::vector<data::MemoryTable::Row>& rows) {
         return std::make_shared<data::MemoryTable>(std::vector<std::string>{"An"}, rows);
@@ -80,7 +80,7 @@ class AdoptingConnection : public ScriptedConnection {
 
 TEST_F(TracedConnectionTest, ARecordsetGoesOnToTheNextConnectionAsTheProviderMadeIt) {
     const auto adopting = std::make_shared<AdoptingConnection>();
-    trace.Follow(adopting);
+    trace.SetTarget(adopting);
     auto rows = trace.Adopt(trace.CreateRecordset());
     EXPECT_EQ(adopting->cameBack, 1);
     adopting->AnswerDone("x");
@@ -108,7 +108,7 @@ TEST_F(TracedConnectionTest, AStatementEndsWellAfterItsTraceAndConnectionHaveGon
     auto reentering = std::make_shared<ReenteringConnection>();
     reentering->AnswerDone("x");
     auto doomed = std::make_unique<data::TracedConnection>(listener);
-    doomed->Follow(reentering);
+    doomed->SetTarget(reentering);
     reentering->whileExecuting = [&] {
         doomed.reset();
         reentering.reset();

@@ -6,8 +6,9 @@
 #include <limits>
 #include <random>
 
-#include "data/date.h"
 #include "data/error.h"
+#include "data/text/date.h"
+#include "data/text/number_text.h"
 
 namespace tavrin::data {
 namespace {
@@ -26,44 +27,44 @@ Value Text(const char* text) {
     return std::string(text);
 }
 
-TEST(ShortestDecimalText, UsesAPointAndNoExponent) {
-    EXPECT_EQ(ShortestDecimal(0), "0");
-    EXPECT_EQ(ShortestDecimal(-0.0), "0");
-    EXPECT_EQ(ShortestDecimal(37500), "37500");
-    EXPECT_EQ(ShortestDecimal(37512.5), "37512.5");
-    EXPECT_EQ(ShortestDecimal(0.1), "0.1");
-    EXPECT_EQ(ShortestDecimal(-4.9762), "-4.9762");
-    EXPECT_EQ(ShortestDecimal(0.000001), "0.000001");
-    EXPECT_EQ(ShortestDecimal(1e-7), "0.0000001");
-    EXPECT_EQ(ShortestDecimal(999999999999999), "999999999999999");
-    EXPECT_EQ(ShortestDecimal(1e15), "1000000000000000");
-    EXPECT_EQ(ShortestDecimal(1e21), "1000000000000000000000");
-    EXPECT_EQ(ShortestDecimal(-1.5e20), "-150000000000000000000");
-    EXPECT_EQ(ShortestDecimal(std::numeric_limits<double>::max()), "179769313486232" + std::string(294, '0'));
-    EXPECT_EQ(ShortestDecimal(-HUGE_VAL), "-inf");
-    EXPECT_EQ(ShortestDecimal(std::nan("")), "nan");
+TEST(NumberTextTest, UsesAPointAndNoExponent) {
+    EXPECT_EQ(NumberText(0), "0");
+    EXPECT_EQ(NumberText(-0.0), "0");
+    EXPECT_EQ(NumberText(37500), "37500");
+    EXPECT_EQ(NumberText(37512.5), "37512.5");
+    EXPECT_EQ(NumberText(0.1), "0.1");
+    EXPECT_EQ(NumberText(-4.9762), "-4.9762");
+    EXPECT_EQ(NumberText(0.000001), "0.000001");
+    EXPECT_EQ(NumberText(1e-7), "0.0000001");
+    EXPECT_EQ(NumberText(999999999999999), "999999999999999");
+    EXPECT_EQ(NumberText(1e15), "1000000000000000");
+    EXPECT_EQ(NumberText(1e21), "1000000000000000000000");
+    EXPECT_EQ(NumberText(-1.5e20), "-150000000000000000000");
+    EXPECT_EQ(NumberText(std::numeric_limits<double>::max()), "179769313486232" + std::string(294, '0'));
+    EXPECT_EQ(NumberText(-HUGE_VAL), "-inf");
+    EXPECT_EQ(NumberText(std::nan("")), "nan");
 }
 
-TEST(ShortestDecimalText, HasNoMoreThanFifteenDigits) {
-    EXPECT_EQ(ShortestDecimal(123456789012345), "123456789012345");
-    EXPECT_EQ(ShortestDecimal(1234567890123456), "1234567890123460");
-    EXPECT_EQ(ShortestDecimal(12345678901234567.0), "12345678901234600");
-    EXPECT_EQ(ShortestDecimal(1.23456789012345), "1.23456789012345");
-    EXPECT_EQ(ShortestDecimal(1.234567890123456), "1.23456789012346");
-    EXPECT_EQ(ShortestDecimal(0.12345678901234567), "0.123456789012346");
-    EXPECT_EQ(ShortestDecimal(0.1 + 0.2), "0.3");
-    EXPECT_EQ(ShortestDecimal(1.1 * 1.1), "1.21");
-    EXPECT_EQ(ShortestDecimal(1.0 / 3), "0.333333333333333");
+TEST(NumberTextTest, HasNoMoreThanFifteenDigits) {
+    EXPECT_EQ(NumberText(123456789012345), "123456789012345");
+    EXPECT_EQ(NumberText(1234567890123456), "1234567890123460");
+    EXPECT_EQ(NumberText(12345678901234567.0), "12345678901234600");
+    EXPECT_EQ(NumberText(1.23456789012345), "1.23456789012345");
+    EXPECT_EQ(NumberText(1.234567890123456), "1.23456789012346");
+    EXPECT_EQ(NumberText(0.12345678901234567), "0.123456789012346");
+    EXPECT_EQ(NumberText(0.1 + 0.2), "0.3");
+    EXPECT_EQ(NumberText(1.1 * 1.1), "1.21");
+    EXPECT_EQ(NumberText(1.0 / 3), "0.333333333333333");
 }
 
-TEST(ShortestDecimalThorough, ReadsBackAsANumberWithTheSameText) {
+TEST(NumberTextThorough, ReadsBackAsANumberWithTheSameText) {
     std::mt19937_64 random(1);
     for (int count = 0; count < 10000; ++count) {
         const double number =
             std::ldexp(static_cast<double>(random()), static_cast<int>(random() % 200) - 160);
-        const std::string text = ShortestDecimal(number);
+        const std::string text = NumberText(number);
         const double readBack = Value(text).ToDouble();
-        ASSERT_EQ(ShortestDecimal(readBack), text);
+        ASSERT_EQ(NumberText(readBack), text);
         ASSERT_NEAR(readBack, number, number * 5e-15);
     }
 }

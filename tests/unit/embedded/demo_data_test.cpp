@@ -8,7 +8,7 @@
 #include <filesystem>
 
 #include "data/connection.h"
-#include "data/date.h"
+#include "data/text/date.h"
 #include "host/embedded/demo_people.h"
 #include "host/embedded/demo_rates.h"
 #include "host/embedded/embedded_connection.h"

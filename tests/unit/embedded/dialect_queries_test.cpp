@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "unit/embedded/embedded_test.h"
 
 namespace tavrin::host {

@@ -1,7 +1,7 @@
 // The statements of the rate windows, blank for blank as they are sent.
 #include <gmock/gmock.h>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "unit/embedded/embedded_test.h"
 
 namespace tavrin::host {

@@ -1,14 +1,14 @@
 // How controls follow the size of what they stand in.
 
-#include "forms/anchors.h"
+#include "forms/model/anchors.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
 
-#include "forms/form.h"
-#include "forms/frame.h"
-#include "forms/grid.h"
+#include "forms/controls/frame.h"
+#include "forms/controls/grid.h"
+#include "forms/model/form.h"
 #include "support/counting_peer.h"
 #include "support/headless_desktop.h"
 

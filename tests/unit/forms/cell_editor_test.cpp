@@ -1,5 +1,5 @@
 // A field over a cell: where the grid scrolls, is sized, is read anew or loses its rows, the two stay one.
-#include "forms/cell_editor.h"
+#include "forms/controls/cell_editor.h"
 
 #include <gtest/gtest.h>
 

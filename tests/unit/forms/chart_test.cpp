@@ -1,10 +1,10 @@
-#include "forms/chart.h"
+#include "forms/controls/chart.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "forms/chart_layout.h"
-#include "forms/form.h"
+#include "forms/controls/chart_layout.h"
+#include "forms/model/form.h"
 #include "support/headless_desktop.h"
 #include "support/recording_surface.h"
 

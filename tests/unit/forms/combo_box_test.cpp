@@ -1,9 +1,9 @@
-#include "forms/combo_box.h"
+#include "forms/controls/combo_box.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "forms/form.h"
+#include "forms/model/form.h"
 #include "support/counting_peer.h"
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"

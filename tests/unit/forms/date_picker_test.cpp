@@ -1,12 +1,12 @@
-#include "forms/date_picker.h"
+#include "forms/controls/date_picker.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "forms/form.h"
-#include "forms/text_box.h"
+#include "forms/controls/text_box.h"
+#include "forms/model/form.h"
 #include "support/counting_peer.h"
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"
@@ -16,8 +16,8 @@ namespace tavrin::tests {
 namespace {
 
 namespace key = forms::key;
+using data::DatePart;
 using data::ToOleDate;
-using forms::DatePart;
 using testing::IsEmpty;
 
 class PickerForm : public forms::Form {

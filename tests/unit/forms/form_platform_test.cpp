@@ -2,9 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "forms/command_button.h"
-#include "forms/form.h"
-#include "forms/text_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/text_box.h"
+#include "forms/model/form.h"
 #include "support/counting_peer.h"
 #include "support/headless_desktop.h"
 

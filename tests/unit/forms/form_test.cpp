@@ -1,13 +1,13 @@
-#include "forms/form.h"
+#include "forms/model/form.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "data/error.h"
-#include "forms/command_button.h"
-#include "forms/control_array.h"
-#include "forms/frame.h"
-#include "forms/text_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/frame.h"
+#include "forms/controls/text_box.h"
+#include "forms/model/control_array.h"
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"
 

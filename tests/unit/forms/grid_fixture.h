@@ -4,9 +4,9 @@
 
 #include <memory>
 
-#include "forms/form.h"
-#include "forms/grid.h"
-#include "forms/text_box.h"
+#include "forms/controls/grid.h"
+#include "forms/controls/text_box.h"
+#include "forms/model/form.h"
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"
 #include "support/recording_surface.h"

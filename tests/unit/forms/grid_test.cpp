@@ -1,4 +1,4 @@
-#include "forms/grid.h"
+#include "forms/controls/grid.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

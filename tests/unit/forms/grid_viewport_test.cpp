@@ -1,4 +1,4 @@
-#include "forms/grid_viewport.h"
+#include "forms/controls/grid_viewport.h"
 
 #include <gtest/gtest.h>
 

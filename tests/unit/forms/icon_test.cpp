@@ -1,4 +1,4 @@
-#include "forms/icon.h"
+#include "forms/drawing/icon.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

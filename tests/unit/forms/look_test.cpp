@@ -2,17 +2,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "forms/combo_box.h"
-#include "forms/command_button.h"
-#include "forms/date_picker.h"
-#include "forms/decoration.h"
-#include "forms/form.h"
-#include "forms/frame.h"
-#include "forms/image.h"
-#include "forms/label.h"
-#include "forms/look.h"
-#include "forms/picture_box.h"
-#include "forms/text_box.h"
+#include "forms/controls/combo_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/date_picker.h"
+#include "forms/controls/decoration.h"
+#include "forms/controls/frame.h"
+#include "forms/controls/image.h"
+#include "forms/controls/label.h"
+#include "forms/controls/look.h"
+#include "forms/controls/picture_box.h"
+#include "forms/controls/text_box.h"
+#include "forms/model/form.h"
 #include "support/headless_desktop.h"
 #include "support/recording_surface.h"
 

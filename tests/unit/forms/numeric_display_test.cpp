@@ -1,11 +1,11 @@
-#include "forms/numeric_display.h"
+#include "forms/controls/numeric_display.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "forms/form.h"
-#include "forms/grouped_number.h"
+#include "data/text/grouped_number.h"
+#include "forms/model/form.h"
 #include "support/headless_desktop.h"
 
 namespace tavrin::tests {
@@ -20,7 +20,7 @@ struct Shown {
 };
 
 TEST(GroupedNumber, GroupsTheDigitsInTheLocale) {
-    const forms::Locale romanian;
+    const data::Locale romanian;
     for (const Shown& shown :
          {Shown{0, 0, "0"}, Shown{0, 2, "0,00"}, Shown{5, 2, "5,00"}, Shown{0.05, 2, "0,05"},
           Shown{123, 0, "123"}, Shown{1000, 0, "1.000"}, Shown{999999, 0, "999.999"},
@@ -31,7 +31,7 @@ TEST(GroupedNumber, GroupsTheDigitsInTheLocale) {
           Shown{-12345678901.5, 6, "-12.345.678.901,500000"},
           Shown{9e20, 2, "900.000.000.000.000.000.000,00"}}) {
         std::string text;
-        forms::WriteGroupedNumber(text, shown.number, shown.decimals, romanian);
+        data::WriteGroupedNumber(text, shown.number, shown.decimals, romanian);
         EXPECT_EQ(text, shown.text);
     }
 }
@@ -42,7 +42,7 @@ TEST(GroupedNumber, RoundsTiesToTheEvenDigit) {
           Shown{1.015, 2, "1,02"}, Shown{2.675, 2, "2,68"}, Shown{14.5 * 19 / 100, 2, "2,76"},
           Shown{999.995, 2, "1.000,00"}, Shown{-0.004, 2, "0,00"}, Shown{-0.006, 2, "-0,01"}}) {
         std::string text;
-        forms::WriteGroupedNumber(text, shown.number, shown.decimals, {});
+        data::WriteGroupedNumber(text, shown.number, shown.decimals, {});
         EXPECT_EQ(text, shown.text) << shown.number;
     }
 }
@@ -53,24 +53,24 @@ TEST(GroupedNumber, WritesEnormousNumbersWithAnExponent) {
                                Shown{std::numeric_limits<double>::infinity(), 2, ""},
                                Shown{std::numeric_limits<double>::quiet_NaN(), 2, ""}}) {
         std::string text = "left over";
-        forms::WriteGroupedNumber(text, shown.number, shown.decimals, {});
+        data::WriteGroupedNumber(text, shown.number, shown.decimals, {});
         EXPECT_EQ(text, shown.text);
     }
 }
 
 TEST(GroupedNumber, TakesTheSeparatorsOfAnyLocale) {
-    forms::Locale locale;
+    data::Locale locale;
     locale.decimalSeparator = "\xD9\xAB";
     locale.thousandsSeparator = "\xC2\xA0";
     std::string text;
-    forms::WriteGroupedNumber(text, 1234567.5, 2, locale);
+    data::WriteGroupedNumber(text, 1234567.5, 2, locale);
     EXPECT_EQ(text,
               "1\xC2\xA0"
               "234\xC2\xA0"
               "567\xD9\xAB"
               "50");
     locale.thousandsSeparator = "";
-    forms::WriteGroupedNumber(text, 1234567, 0, locale);
+    data::WriteGroupedNumber(text, 1234567, 0, locale);
     EXPECT_EQ(text, "1234567");
 }
 

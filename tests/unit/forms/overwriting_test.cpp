@@ -1,6 +1,6 @@
 // A file is written where it stands, and the disk fails at any step of it, once or from then on.
 
-#include "forms/overwriting.h"
+#include "forms/model/overwriting.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 #include <string>
 #include <utility>
 
-#include "forms/files.h"
+#include "forms/model/files.h"
 
 namespace tavrin::tests {
 namespace {

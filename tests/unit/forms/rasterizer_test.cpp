@@ -1,4 +1,4 @@
-#include "forms/rasterizer.h"
+#include "forms/drawing/rasterizer.h"
 
 #include <gtest/gtest.h>
 

@@ -3,9 +3,9 @@
 #include <gmock/gmock.h>
 
 #include "data/error.h"
-#include "forms/command_button.h"
-#include "forms/form.h"
-#include "forms/text_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/text_box.h"
+#include "forms/model/form.h"
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"
 #include "support/recording_listener.h"

@@ -1,14 +1,14 @@
 // The rich text box and the tool button: what they ask of their surroundings, and their way with the
 // keyboard.
 
-#include "forms/rich_text_box.h"
+#include "forms/controls/rich_text_box.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "data/error.h"
-#include "forms/form.h"
-#include "forms/tool_button.h"
+#include "forms/controls/tool_button.h"
+#include "forms/model/form.h"
 #include "support/fake_rich_text.h"
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"

@@ -2,13 +2,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "forms/command_button.h"
-#include "forms/decoration.h"
-#include "forms/form.h"
-#include "forms/frame.h"
-#include "forms/image.h"
-#include "forms/label.h"
-#include "forms/picture_box.h"
+#include "forms/controls/command_button.h"
+#include "forms/controls/decoration.h"
+#include "forms/controls/frame.h"
+#include "forms/controls/image.h"
+#include "forms/controls/label.h"
+#include "forms/controls/picture_box.h"
+#include "forms/model/form.h"
 #include "support/counting_peer.h"
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"

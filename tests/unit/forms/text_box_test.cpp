@@ -1,8 +1,8 @@
-#include "forms/text_box.h"
+#include "forms/controls/text_box.h"
 
 #include <gtest/gtest.h>
 
-#include "forms/form.h"
+#include "forms/model/form.h"
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"
 

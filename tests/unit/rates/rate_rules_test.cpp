@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "data/date.h"
+#include "data/text/date.h"
 
 namespace tavrin::rates {
 namespace {
@@ -70,19 +70,12 @@ TEST(RateRules, ANumberHasFifteenDigits) {
 }
 
 TEST(RateRules, ANumberIsReadPastSeparatorsAndBlanks) {
-    EXPECT_EQ(NumberIn("37,500"), 37500);
-    EXPECT_EQ(NumberIn(" 1 234,5.5 "), 12345.5);
-    EXPECT_EQ(NumberIn("-2"), -2);
-    EXPECT_EQ(NumberIn(""), std::nullopt);
-    EXPECT_EQ(NumberIn("12x"), std::nullopt);
-    EXPECT_EQ(NumberIn(std::string(400, '9')), std::nullopt) << "out of range";
-}
-
-TEST(RateRules, OnlyBlanksAreBlank) {
-    EXPECT_TRUE(IsBlank(""));
-    EXPECT_TRUE(IsBlank("  "));
-    EXPECT_FALSE(IsBlank("\t"));
-    EXPECT_FALSE(IsBlank(" x"));
+    EXPECT_EQ(TypedRate("37,500"), 37500);
+    EXPECT_EQ(TypedRate(" 1 234,5.5 "), 12345.5);
+    EXPECT_EQ(TypedRate("-2"), -2);
+    EXPECT_EQ(TypedRate(""), std::nullopt);
+    EXPECT_EQ(TypedRate("12x"), std::nullopt);
+    EXPECT_EQ(TypedRate(std::string(400, '9')), std::nullopt) << "out of range";
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "data/date.h"
+#include "data/text/date.h"
 #include "rates/evolution_statements.h"
 
 namespace tavrin::tests {

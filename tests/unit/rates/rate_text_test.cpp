@@ -17,8 +17,8 @@ using rates::NumberOfRateText;
 using rates::RateCaption;
 using rates::RateOf;
 
-const forms::Locale Romanian{.decimalSeparator = ",", .thousandsSeparator = "."};
-const forms::Locale English{.decimalSeparator = ".", .thousandsSeparator = ","};
+const data::Locale Romanian{.decimalSeparator = ",", .thousandsSeparator = "."};
+const data::Locale English{.decimalSeparator = ".", .thousandsSeparator = ","};
 
 TEST(RateTextTest, CaptionsHaveTwoDecimalsAndGroupsOfThree) {
     EXPECT_EQ(RateCaption(1234567.891, "EUR", Romanian), "Cursul este de  1.234.567,89 Lei pentru 1 EUR");
