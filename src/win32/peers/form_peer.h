@@ -60,7 +60,6 @@ class FormPeer final : public forms::FormPeer, public Window {
     void Place();
     void ShowOrHide();
     void EnableOrDisable();
-    void DarkenTitleBar() const;
 
     forms::Desktop& desktop_;
     forms::Form& form_;
