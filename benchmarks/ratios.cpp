@@ -1,6 +1,7 @@
 // What the windows cost beside the bare database work that they stand on, as medians of rounds taken by
 // turns: the rate list's refresh and the address book's opening, search and insertion, as their data grows,
-// one key of the calculator, and the reading and writing of notes. --large adds a million persons. A goal
+// one key of the calculator, and the reading and writing of notes; and how what grows with long notes, lists
+// and charts does. --large adds a million persons. A goal
 // that is missed is marked; the exit code does not tell.
 
 #include <cstdio>
@@ -14,6 +15,7 @@
 #include "alternating.h"
 #include "calculator_keys.h"
 #include "data/text/number_text.h"
+#include "growth.h"
 #include "host/embedded/embedded_connection.h"
 #include "host/embedded/embedded_database.h"
 #include "note_speed.h"
@@ -288,5 +290,7 @@ int main(int argc, char** argv) {
     TimePrinting();
     std::printf("Notes: a file of 1 MB\n");
     bench::PrintNoteSpeed(Rounds);
+    std::printf("Growth: a unit's cost at 10 and 100 times the work, beside once (goal 1.50)\n");
+    goalsAreMet = bench::PrintGrowth(Rounds) && goalsAreMet;
     return goalsAreMet ? 0 : 1;
 }

@@ -8,7 +8,6 @@ namespace tavrin::bench {
 
 namespace {
 
-constexpr const wchar_t* PlainClass = L"Bench.Plain";
 constexpr const wchar_t* ListParentClass = L"Bench.ListParent";
 
 LRESULT CALLBACK PaintPlain(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -34,17 +33,20 @@ HWND CreatePopup(const wchar_t* className, SIZE size) {
                            nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
 }
 
+}  // namespace
+
+HWND CreatePlainPopup(SIZE size) {
+    Register(PlainClass, PaintPlain);
+    return CreatePopup(PlainClass, size);
+}
+
 void ShowInFront(HWND window) {
     ShowWindow(window, SW_SHOW);
     SetForegroundWindow(window);
     RunUntilPainted();
 }
 
-}  // namespace
-
-BareWindow::BareWindow(SIZE size) {
-    Register(PlainClass, PaintPlain);
-    window_ = CreatePopup(PlainClass, size);
+BareWindow::BareWindow(SIZE size) : window_(CreatePlainPopup(size)) {
     ShowInFront(window_);
 }
 

@@ -7,6 +7,13 @@
 
 namespace tavrin::bench {
 
+/// A window that fills itself with one colour; registered while a popup of it is there.
+inline constexpr const wchar_t* PlainClass = L"Bench.Plain";
+/// Hidden.
+HWND CreatePlainPopup(SIZE size);
+/// In front of all others, painted.
+void ShowInFront(HWND window);
+
 /// The least that a program can put on the screen: a popup that fills itself with one colour.
 class BareWindow {
   public:

@@ -29,11 +29,11 @@ double MillisecondsOf(const std::function<void()>& work) {
            static_cast<double>(frequency.QuadPart);
 }
 
-Turns TakeTurns(const Measurement& bare, const Measurement& ours) {
+Turns TakeTurns(const Measurement& bare, const Measurement& ours, int rounds) {
     std::vector<double> bareTimes;
     std::vector<double> ourTimes;
     std::vector<double> ratios;
-    for (int round = 0; round <= Rounds; ++round) {
+    for (int round = 0; round <= rounds; ++round) {
         const double bareTime = bare();
         const double ourTime = ours();
         if (round == 0) continue;

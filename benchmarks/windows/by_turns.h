@@ -19,8 +19,8 @@ inline constexpr int Rounds = 9;
 /// Milliseconds of the clock on the wall: a window is painted by several processes.
 double MillisecondsOf(const std::function<void()>& work);
 
-/// Nine rounds by turns; one before them is not counted.
-Turns TakeTurns(const Measurement& bare, const Measurement& ours);
+/// Rounds by turns; one before them is not counted.
+Turns TakeTurns(const Measurement& bare, const Measurement& ours, int rounds = Rounds);
 
 /// The median of nine; one before them is not counted.
 double MedianOf(const Measurement& work);

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 #include "windows/by_turns.h"
 
 namespace tavrin::bench {
@@ -26,8 +28,10 @@ void ComparePalettes();
 /// One such process: opens the palette (size 0 by 0) or the bare window. \return microseconds
 int TimeFirstWindow(SIZE bareSize);
 
-/// Every other window from the click to the paint.
+/// Every other window from the click to the paint, against its twin.
 void TimeWindows();
+/// One process that opens a window for the first time, or its twin. \return microseconds
+int TimeFirstOpening(const std::string& window, bool asTwin);
 
 /// Private bytes with windows open.
 void WeighWindows();

@@ -14,12 +14,15 @@
 #include "windows/bare_windows.h"
 #include "windows/costs.h"
 #include "windows/message_loop.h"
+#include "windows/twin_window.h"
 
 namespace tavrin::bench {
 
 namespace {
 
 constexpr double PaletteGoal = 30;
+constexpr double TwinGoal = 8;
+constexpr int FirstRounds = 5;
 
 /// A window, and what opens it.
 struct Way {
@@ -76,27 +79,50 @@ std::wstring FirstWindow(SIZE size) {
     return L"--first-window " + std::to_wstring(size.cx) + L" " + std::to_wstring(size.cy);
 }
 
-/// Opens and closes a window, by turns with a bare one of the same size.
+/// Closes it again.
+double TimeOpening(const Way& way) {
+    Open(way.opener);  // one of them closes it
+    const e2e::Window control = e2e::AwaitForm(way.opener).Control(way.control);
+    Settle();
+    const double time = MillisecondsOf([&] {
+        Click(control);
+        RunUntilPainted();
+    });
+    AccountingHost::Close(e2e::AwaitForm(way.window));
+    return time;
+}
+
+double TimeTwin(const TwinPlan& plan) {
+    Settle();
+    std::unique_ptr<TwinWindow> twin;
+    return MillisecondsOf([&] { twin = std::make_unique<TwinWindow>(plan); });
+}
+
+TwinPlan PlanFor(const Way& way) {
+    Open(way.opener);
+    TwinPlan plan = TwinPlan::Of(OpenBy(way).Handle());
+    AccountingHost::Close(e2e::AwaitForm(way.window));
+    return plan;
+}
+
+std::wstring PlanFile() {
+    wchar_t folder[MAX_PATH];
+    GetTempPathW(MAX_PATH, folder);
+    return std::wstring(folder) + L"tavrin_twin.txt";
+}
+
+/// Each by turns with its twin: the first opening in processes of their own, those after it in this one.
 void CompareWindow(const Way& way) {
-    SIZE size{};
-    const auto ours = [&] {
-        Open(way.opener);  // one of them closes it
-        Settle();
-        const double time = MillisecondsOf([&] { OpenBy(way); });
-        const e2e::Window window = e2e::AwaitForm(way.window);
-        size = SizeOf(window);
-        AccountingHost::Close(window);
-        return time;
-    };
-    const double first = ours();
-    const auto bare = [&] {
-        Settle();
-        std::unique_ptr<BareWindow> window;
-        return MillisecondsOf([&] { window = std::make_unique<BareWindow>(size); });
-    };
-    const Turns turns = TakeTurns(bare, ours);
-    std::printf("  %-28s %8.2f ms, bare %8.2f ms, the first time %.2f ms\n", way.window, turns.ours,
-                turns.bare, first);
+    const TwinPlan plan = PlanFor(way);
+    plan.Save(PlanFile());
+    const std::string name = way.window;
+    const std::wstring wide(name.begin(), name.end());
+    const Turns first = TakeTurns([&] { return RunAlone(L"--twin " + wide) / 1000.0; },
+                                  [&] { return RunAlone(L"--opening " + wide) / 1000.0; }, FirstRounds);
+    DeleteFileW(PlanFile().c_str());
+    Report::Difference((name + ", first").c_str(), first, TwinGoal);
+    const Turns again = TakeTurns([&] { return TimeTwin(plan); }, [&] { return TimeOpening(way); });
+    Report::Difference((name + ", again").c_str(), again, TwinGoal);
 }
 
 /// Memory of this process that no file backs and nobody shares. (The process's own counters say 0 under
@@ -155,8 +181,17 @@ void ComparePalettes() {
     Report::Difference("again, the DLL loaded anew", TakeTurns(bare, ours), PaletteGoal);
 }
 
+int TimeFirstOpening(const std::string& window, bool asTwin) {
+    AccountingHost host;
+    host.OpenPalette();
+    const Way& way = *std::ranges::find(Ways, std::string_view(window), &Way::window);
+    Open(way.opener);
+    const double time = asTwin ? TimeTwin(TwinPlan::Load(PlanFile())) : TimeOpening(way);
+    return static_cast<int>(time * 1000);
+}
+
 void TimeWindows() {
-    Report::Heading("Windows: from the click to the paint, the bare one of the same size beside it");
+    Report::Heading("Windows: from the click to the paint, against a twin of the platform's own controls");
     AccountingHost host;
     host.OpenPalette();
     for (const Way& way : Ways)

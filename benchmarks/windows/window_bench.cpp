@@ -64,6 +64,10 @@ int main(int count, char** arguments) try {
     const Apartment apartment;
     if (count == 4 && std::string(arguments[1]) == "--first-window")
         return bench::TimeFirstWindow({std::atoi(arguments[2]), std::atoi(arguments[3])});
+    if (count == 3 && std::string(arguments[1]) == "--opening")
+        return bench::TimeFirstOpening(arguments[2], false);
+    if (count == 3 && std::string(arguments[1]) == "--twin")
+        return bench::TimeFirstOpening(arguments[2], true);
     Component::SetPath(BesideThisProgram(L"Tavrin.dll"));
     if (Component().Register() != S_OK) return 2;
     const bool isGood = RunChapters({arguments + 1, arguments + count});

@@ -75,12 +75,14 @@ Variant ConnectionObject::Close(const CallArguments&) {
 Variant ConnectionObject::BeginTrans(const CallArguments&) {
     if (!session_->isOpen) ado_error::ThrowInvalidConnection();
     if (transaction_) ado_error::ThrowOneTransactionAlone();
+    session_->AskServer();
     transaction_.emplace(session_->connection->Database());
     return Variant(std::int32_t{1});  // how many are open
 }
 
 Variant ConnectionObject::CommitTrans(const CallArguments&) {
     if (!transaction_) ado_error::ThrowNoTransaction();
+    session_->AskServer();
     transaction_->Commit();
     transaction_.reset();
     return {};
@@ -88,6 +90,7 @@ Variant ConnectionObject::CommitTrans(const CallArguments&) {
 
 Variant ConnectionObject::RollbackTrans(const CallArguments&) {
     if (!transaction_) ado_error::ThrowNoTransaction();
+    session_->AskServer();
     transaction_.reset();
     return {};
 }

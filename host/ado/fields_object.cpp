@@ -25,6 +25,10 @@ std::span<const Member> FieldObject::Members() const {
     return table;
 }
 
+void FieldObject::OnUse(const Member& member) {
+    recordset_->questions.Note(static_cast<int>(index_), member.name);
+}
+
 const FieldInfo& FieldObject::Info() const {
     const std::vector<FieldInfo>& fields = recordset_->Open().Fields();
     if (index_ >= fields.size()) ado_error::ThrowItemNotFound();
@@ -53,6 +57,11 @@ std::span<const Member> FieldsObject::Members() const {
         Member{L"Count", 0x60020000, Access::Get, 0, Run<&FieldsObject::Count>},
     };
     return table;
+}
+
+void FieldsObject::OnUse(const Member& member) {
+    // An item is told apart by its argument; what is asked of it is seen there.
+    if (member.maxArguments == 0) recordset_->questions.Note(Questions::OfFields, member.name);
 }
 
 Variant FieldsObject::Count(const CallArguments&) {

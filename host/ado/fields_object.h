@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "host/ado/live_objects.h"
+#include "host/ado/questions.h"
 #include "host/automation/script_object.h"
 #include "host/embedded/embedded_recordset.h"
 
@@ -13,6 +14,7 @@ namespace tavrin::host {
 /// The rows that a recordset, its Fields and its Field objects look at; null while it is closed.
 struct RecordsetRows {
     std::unique_ptr<EmbeddedRecordset> rows;
+    Questions questions;
 
     /// \throws data::Error 3704
     EmbeddedRecordset& Open() const;
@@ -26,6 +28,7 @@ class FieldObject : public ScriptObject {
 
   protected:
     std::span<const Member> Members() const override;
+    void OnUse(const Member& member) override;
 
   private:
     win32::Variant Value(const CallArguments&);
@@ -49,6 +52,7 @@ class FieldsObject : public ScriptObject {
 
   protected:
     std::span<const Member> Members() const override;
+    void OnUse(const Member& member) override;
 
   private:
     win32::Variant Count(const CallArguments&);

@@ -49,6 +49,14 @@ std::span<const Member> RecordsetObject::Members() const {
     return table;
 }
 
+void RecordsetObject::OnUse(const Member& member) {
+    if (member.access == Access::Get) {
+        recordset_->questions.Note(Questions::OfRecordset, member.name);
+    } else {
+        recordset_->questions.NoteCall();
+    }
+}
+
 void RecordsetObject::OnFailure(const data::Error& error) {
     if (session_ != nullptr) session_->Record(error);
 }
@@ -99,18 +107,21 @@ Variant RecordsetObject::Eof(const CallArguments&) {
 
 Variant RecordsetObject::RecordCount(const CallArguments&) {
     constexpr std::int32_t unknown = -1;
+    AskServerOfItsCursor();
     const std::int64_t count = Rows().RecordCount();
     return Variant(cursorType_ == cursor::ForwardOnly ? unknown : static_cast<std::int32_t>(count));
 }
 
 Variant RecordsetObject::GetAbsolutePosition(const CallArguments&) {
     RequireScrolling();
+    AskServerOfItsCursor();
     return Variant(static_cast<std::int32_t>(Rows().AbsolutePosition()));
 }
 
 Variant RecordsetObject::PutAbsolutePosition(const CallArguments& arguments) {
     RequireScrolling();
     const std::int32_t position = arguments.At(0).ToLong();
+    AskServerOfItsCursor();
     if (position < 1 || position > Rows().RecordCount()) ado_error::ThrowWrongArguments();
     Rows().MoveFirst();
     Rows().Move(position - 1);
@@ -121,29 +132,34 @@ Variant RecordsetObject::Move(const CallArguments& arguments) {
     if (arguments.Has(1)) ado_error::ThrowWrongArguments();  // bookmarks are not offered
     const std::int32_t rows = arguments.At(0).ToLong();
     if (rows < 0) RequireScrolling();
+    AskServerOfItsCursor();
     Rows().Move(rows);
     return {};
 }
 
 Variant RecordsetObject::MoveFirst(const CallArguments&) {
+    AskServerOfItsCursor();
     Rows().MoveFirst();
     return {};
 }
 
 Variant RecordsetObject::MoveLast(const CallArguments&) {
     RequireScrolling();
+    AskServerOfItsCursor();
     Rows().MoveFirst();
     Rows().Move(Rows().RecordCount() - 1);
     return {};
 }
 
 Variant RecordsetObject::MoveNext(const CallArguments&) {
+    AskServerOfItsCursor();
     Rows().MoveNext();
     return {};
 }
 
 Variant RecordsetObject::MovePrevious(const CallArguments&) {
     RequireScrolling();
+    AskServerOfItsCursor();
     Rows().Move(-1);
     return {};
 }
@@ -159,6 +175,7 @@ Variant RecordsetObject::GetRows(const CallArguments& arguments) {
     constexpr std::int32_t rest = -1;
     if (arguments.Has(1) || arguments.Has(2))
         ado_error::ThrowWrongArguments();  // always from here, all fields
+    AskServerOfItsCursor();
     return TakeRows(Rows(), arguments.LongOr(0, rest));
 }
 
@@ -228,6 +245,12 @@ void RecordsetObject::RequireClosed() const {
 void RecordsetObject::RequireScrolling() const {
     Rows();
     if (cursorType_ == cursor::ForwardOnly) ado_error::ThrowNotThisCursor();
+}
+
+/// Rows of a client's cursor came with the statement, those of a forward-only one come as a stream.
+void RecordsetObject::AskServerOfItsCursor() const {
+    if (cursorLocation_ != cursor::UseClient && cursorType_ != cursor::ForwardOnly && session_ != nullptr)
+        session_->AskServer();
 }
 
 }  // namespace tavrin::host

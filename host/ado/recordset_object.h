@@ -32,6 +32,7 @@ class RecordsetObject : public ScriptObject {
 
   protected:
     std::span<const Member> Members() const override;
+    void OnUse(const Member& member) override;
     void OnFailure(const data::Error& error) override;
 
   private:
@@ -70,6 +71,7 @@ class RecordsetObject : public ScriptObject {
     void UseConnection(const win32::Variant& connection);
     void RequireClosed() const;
     void RequireScrolling() const;
+    void AskServerOfItsCursor() const;
 
     win32::ObjectCount::Ticket ticket_{LiveObjects::Get().recordsets};
     std::shared_ptr<RecordsetRows> recordset_ = std::make_shared<RecordsetRows>();

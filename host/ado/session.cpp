@@ -8,6 +8,10 @@ std::unique_ptr<EmbeddedRecordset> Session::Run(const std::string& statement) {
     return connection->ExecuteEmbedded(statement);
 }
 
+void Session::AskServer() const {
+    if (Line* const line = connection ? connection->LineInUse() : nullptr) line->Ask();
+}
+
 void Session::Record(const data::Error& error) {
     if (error.Number() < 0) errors = {error};
 }

@@ -24,6 +24,9 @@ struct Session {
     /// Runs a statement. \throws data::Error 3709 where the connection is closed
     std::unique_ptr<EmbeddedRecordset> Run(const std::string& statement);
 
+    /// A question to the server that is no statement.
+    void AskServer() const;
+
     /// Keeps a provider's error; those of ADO itself are none.
     void Record(const data::Error& error);
 };

@@ -107,6 +107,7 @@ const Member* ScriptObject::Find(DISPID id, WORD kind) const {
 }
 
 void ScriptObject::RunMember(const Member& member, const DISPPARAMS& call, VARIANT* result) {
+    OnUse(member);
     Variant answer = member.run(*this, CallArguments(call));
     if (result != nullptr) *result = answer.Detach();
 }

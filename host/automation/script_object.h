@@ -49,6 +49,8 @@ class ScriptObject : public win32::UnknownObject<IDispatch> {
 
   protected:
     virtual std::span<const Member> Members() const = 0;
+    /// Sees every use of a member before it is run.
+    virtual void OnUse(const Member& member) { (void)member; }
     /// Sees every error before the caller does.
     virtual void OnFailure(const data::Error& error) { (void)error; }
 

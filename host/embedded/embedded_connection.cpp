@@ -17,7 +17,7 @@ std::unique_ptr<EmbeddedRecordset> EmbeddedConnection::ExecuteEmbedded(std::stri
 }
 
 std::unique_ptr<EmbeddedRecordset> EmbeddedConnection::CreateEmbeddedRecordset() {
-    return std::make_unique<EmbeddedRecordset>(database_);
+    return std::make_unique<EmbeddedRecordset>(database_, line_);
 }
 
 }  // namespace tavrin::host

@@ -23,8 +23,13 @@ class EmbeddedConnection : public data::Connection {
 
     EmbeddedDatabase& Database() { return *database_; }
 
+    /// What lies between it and its database from now on; null where nothing does.
+    void UseLine(std::shared_ptr<Line> line) { line_ = std::move(line); }
+    Line* LineInUse() const { return line_.get(); }
+
   private:
     std::shared_ptr<EmbeddedDatabase> database_;
+    std::shared_ptr<Line> line_;
 };
 
 }  // namespace tavrin::host

@@ -5,13 +5,17 @@
 
 #include "data/snapshot_recordset.h"
 #include "host/embedded/embedded_database.h"
+#include "host/embedded/line.h"
 
 namespace tavrin::host {
 
 /// A static snapshot of one query's rows, with what the server says of each field.
 class EmbeddedRecordset : public data::SnapshotRecordset {
   public:
-    explicit EmbeddedRecordset(std::shared_ptr<EmbeddedDatabase> database) : database_(std::move(database)) {}
+    /// \param line what statements and rows pass over; null where the database is at hand
+    explicit EmbeddedRecordset(std::shared_ptr<EmbeddedDatabase> database,
+                               std::shared_ptr<Line> line = nullptr)
+        : database_(std::move(database)), line_(std::move(line)) {}
 
     /// Of the statement that ran last; empty after a write.
     const std::vector<FieldInfo>& Fields() const { return fields_; }
@@ -24,6 +28,7 @@ class EmbeddedRecordset : public data::SnapshotRecordset {
 
   private:
     std::shared_ptr<EmbeddedDatabase> database_;
+    std::shared_ptr<Line> line_;
     std::vector<FieldInfo> fields_;
     std::int64_t affectedRows_ = 0;
 };

@@ -52,6 +52,13 @@ ComPtr<IDispatch> OpenSystemAdo(const std::string& connectionString) {
     return connection;
 }
 
+ComPtr<IDispatch> OpenEmbedded(const Options& options) {
+    const auto connection =
+        win32::MakeObject<ConnectionObject>(OpenDemoDatabase(options.database, options.codePage));
+    if (options.line) connection->SharedSession()->connection->UseLine(std::make_shared<Line>(*options.line));
+    return connection;
+}
+
 Utilities Connect(const Options& options, std::function<void()> whenLeft) {
     if (!options.dll.empty()) return Utilities::FromFile(win32::ToWide(options.dll), std::move(whenLeft));
     return Utilities::FromRegistration(BesideThisProgram(L"Tavrin.dll"), std::move(whenLeft));
@@ -97,8 +104,7 @@ void RunHost(const Options& options) {
     ComPtr<IDispatch> connection;
     if (options.adoConnection.empty()) {
         recordsets.emplace();
-        connection =
-            win32::MakeObject<ConnectionObject>(OpenDemoDatabase(options.database, options.codePage));
+        connection = OpenEmbedded(options);
     } else {
         connection = OpenSystemAdo(options.adoConnection);
     }

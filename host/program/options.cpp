@@ -19,6 +19,7 @@ const char* const UsageText =
     "\n"
     "  --database PATH    the embedded database (tavrin.db); a new one is filled with demo data\n"
     "  --code-page PAGE   what its texts pass through: 1250, 1252, or utf8 to keep every letter (1250)\n"
+    "  --line WHICH       how far away it is: lan (0.2 ms, 1 Gbit/s) or branch (20 ms, 20 Mbit/s)\n"
     "  --ado STRING       use the system's ADO with this connection string instead\n"
     "  --company N        the current company's Id (1)\n"
     "  --date YYYY-MM-DD  the working date (2003-11-28)\n"
@@ -53,6 +54,12 @@ CodePage ParseCodePage(const std::string& text) {
     throw std::invalid_argument("not a known code page: " + text);
 }
 
+LineSpeed ParseLine(const std::string& text) {
+    if (text == "lan") return LocalNetwork;
+    if (text == "branch") return BranchOffice;
+    throw std::invalid_argument("not a known line: " + text);
+}
+
 struct OptionRow {
     std::string_view name;
     void (*read)(Options& options, const std::string& value);
@@ -62,6 +69,7 @@ constexpr std::array Rows{
     OptionRow{"--database", [](Options& options, const std::string& value) { options.database = value; }},
     OptionRow{"--code-page",
               [](Options& options, const std::string& value) { options.codePage = ParseCodePage(value); }},
+    OptionRow{"--line", [](Options& options, const std::string& value) { options.line = ParseLine(value); }},
     OptionRow{"--ado", [](Options& options, const std::string& value) { options.adoConnection = value; }},
     OptionRow{"--company",
               [](Options& options, const std::string& value) {

@@ -7,6 +7,7 @@
 
 #include "data/value.h"
 #include "host/embedded/code_page.h"
+#include "host/embedded/line.h"
 
 namespace tavrin::host {
 
@@ -14,7 +15,8 @@ namespace tavrin::host {
 struct Options {
     std::string database = "tavrin.db";
     CodePage codePage = CodePage::CentralEuropean;
-    std::string adoConnection;  ///< empty: the embedded database
+    std::optional<LineSpeed> line;  ///< to the embedded database
+    std::string adoConnection;      ///< empty: the embedded database
     std::int32_t company = 1;
     data::OleDate date;
     std::int16_t year = 0;

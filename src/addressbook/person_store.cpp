@@ -27,6 +27,7 @@ std::string StatementOf(const PersonSearch& search) {
 }  // namespace
 
 void PersonStore::Load(const PersonSearch& search) {
+    hasNames_ = false;
     if (IsOpen()) recordset_->Close();
     data::Connection& connection = context_.Database();
     if (recordset_ == nullptr || !mark_.IsCurrent(context_)) {
@@ -38,6 +39,7 @@ void PersonStore::Load(const PersonSearch& search) {
 
 void PersonStore::Refresh(const PersonSearch& search) {
     if (IsCurrent()) {
+        hasNames_ = false;
         recordset_->Requery();
     } else {
         Load(search);
@@ -45,6 +47,7 @@ void PersonStore::Refresh(const PersonSearch& search) {
 }
 
 void PersonStore::Release() {
+    hasNames_ = false;
     recordset_.reset();
 }
 
@@ -54,23 +57,35 @@ data::Recordset& PersonStore::Rows() const {
 }
 
 void PersonStore::MoveTo(int row) {
+    hasNames_ = false;
     Rows().MoveFirst();
     const std::int64_t last = recordset_->RecordCount();
     const std::int64_t reached = last > 0 ? std::min<std::int64_t>(row, last) : row;
     recordset_->Move(std::max<std::int64_t>(reached, 1) - 1);
 }
 
-void PersonStore::ReadColumns(Person& person, std::size_t count) const {
-    for (std::size_t column = 0; column < count; ++column) {
+void PersonStore::ReadColumns(Person& person, std::size_t first, std::size_t end) const {
+    for (std::size_t column = first; column < end; ++column) {
         const data::Value value = Rows().Field(Columns[column]);
         if (value.IsNull()) throw data::RuntimeError(data::error_number::InvalidUseOfNull);
         person[column] = value.ToText();
     }
 }
 
-void PersonStore::RequireNames() const {
+void PersonStore::ReadNames(Person& person) {
+    ReadColumns(person, 0, FirstDetailColumn);
+    hasNames_ = true;
+}
+
+void PersonStore::Read(Person& person) {
+    ReadNames(person);
+    ReadColumns(person, FirstDetailColumn, Columns.size());
+}
+
+void PersonStore::RequireNames() {
+    if (hasNames_) return;
     Person person;
-    ReadColumns(person, FirstDetailColumn);
+    ReadNames(person);
 }
 
 void PersonStore::Add(const Person& person) const {

@@ -45,9 +45,10 @@ class PersonStore {
     /// Fills in the columns of the current row in their order.
     /// \throws data::Error 94 at the first that is NULL, which no text box can show; the rest stay as they
     /// are
-    void Read(Person& person) const { ReadColumns(person, Columns.size()); }
-    /// \throws data::Error 94 where no statement could name the current row, because a name is NULL
-    void RequireNames() const;
+    void Read(Person& person);
+    /// Asks the provider only where Read has not got them. \throws data::Error 94 where no statement could
+    /// name the current row, because a name is NULL
+    void RequireNames();
 
     /// Runs on the host's current connection, whichever the list was read from.
     void Add(const Person& person) const;
@@ -59,10 +60,13 @@ class PersonStore {
   private:
     bool IsOpen() const { return recordset_ != nullptr && recordset_->IsOpen(); }
     data::Recordset& Rows() const;
-    void ReadColumns(Person& person, std::size_t count) const;
+    /// From `first` to the one before `end`.
+    void ReadColumns(Person& person, std::size_t first, std::size_t end) const;
+    void ReadNames(Person& person);
 
     const shell::HostContext& context_;
     std::unique_ptr<data::Recordset> recordset_;
+    bool hasNames_ = false;       ///< the current row, as far as is known
     shell::ConnectionMark mark_;  ///< of the connection that the recordset is bound to
 };
 

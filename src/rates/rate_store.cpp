@@ -18,7 +18,8 @@ CurrencyNames RateStore::DiscoverCurrencies() const {
     const auto columns = context_.Database().CreateRecordset();
     columns->Open(ListColumnsStatement);
     CurrencyNames currencies;
-    for (std::size_t i = 0; i < columns->FieldCount(); ++i) {
+    const std::size_t count = columns->FieldCount();
+    for (std::size_t i = 0; i < count; ++i) {
         std::string name = columns->FieldName(i);
         if (name != "Validat" && name != "Data") currencies.Add(std::move(name));
     }
@@ -94,7 +95,8 @@ std::vector<std::string> RateStore::ColumnsAfterSecond() const {
     const auto columns = context_.Database().CreateRecordset();
     columns->Open(ColumnsStatement);
     std::vector<std::string> names;
-    for (std::size_t i = Skipped; i < columns->FieldCount(); ++i)
+    const std::size_t count = columns->FieldCount();
+    for (std::size_t i = Skipped; i < count; ++i)
         names.push_back(columns->FieldName(i));
     columns->Close();
     return names;

@@ -42,14 +42,14 @@ class UserSession::Caller : public shell::CallingObject {
     int& raised_;
 };
 
-UserSession::UserSession()
+UserSession::UserSession(const UserSetting& setting)
     : application(desktop, [this] { return std::make_unique<Messages>(*this); }),
       database_(std::make_shared<host::EmbeddedDatabase>(":memory:")) {
     com::AddWindows(application);
     ConnectPlatform();
     FillDatabase();
-    connection_ =
-        std::make_shared<FaultyConnection>(std::make_shared<host::EmbeddedConnection>(database_), plan);
+    if (setting.fill) setting.fill(*database_);
+    connection_ = std::make_shared<FaultyConnection>(Connect(setting), plan);
     caller_ = std::make_shared<Caller>(raised);
     plan->whenStatement = [this](const std::string& statement) { CheckStatement(statement); };
     transaction_ = std::make_unique<host::EmbeddedDatabase::Transaction>(*database_);
@@ -59,6 +59,13 @@ UserSession::~UserSession() {
     plan->Start();
     whileShowing = nullptr;
     desktop.UnloadAll();
+}
+
+std::shared_ptr<data::Connection> UserSession::Connect(const UserSetting& setting) const {
+    const auto embedded = std::make_shared<host::EmbeddedConnection>(database_);
+    embedded->UseLine(setting.line);
+    if (!setting.asked) return embedded;
+    return std::make_shared<AskingConnection>(embedded, setting.asked);
 }
 
 void UserSession::FillDatabase() {

@@ -12,19 +12,29 @@
 #include "data/text/date.h"
 #include "forms/model/form.h"
 #include "host/embedded/embedded_database.h"
+#include "host/embedded/line.h"
 #include "proofs/fault_plan.h"
 #include "shell/application.h"
+#include "support/asking_connection.h"
 #include "support/headless_desktop.h"
 #include "support/headless_keyboard.h"
 
 namespace tavrin::tests {
+
+/// What a session stands on besides its small database.
+struct UserSetting {
+    std::function<void(host::EmbeddedDatabase&)> fill;  ///< adds to the database
+    std::shared_ptr<host::Line> line;                   ///< to the database
+    std::shared_ptr<Asked> asked;                       ///< of the recordsets
+};
 
 /// The whole component as a host has loaded it, on a headless desktop and a small database that may fail, and
 /// a user at it. What the user asks for and cannot have (a window that is not open, a button that is
 /// disabled) is left undone, as in life. The database forgets everything at Restart.
 class UserSession {
   public:
-    UserSession();
+    explicit UserSession(const UserSetting& setting);
+    UserSession() : UserSession(UserSetting()) {}
     ~UserSession();
     UserSession(const UserSession&) = delete;
     UserSession& operator=(const UserSession&) = delete;
@@ -98,6 +108,7 @@ class UserSession {
     class Caller;
 
     void FillDatabase();
+    std::shared_ptr<data::Connection> Connect(const UserSetting& setting) const;
     void ConnectPlatform();
     void GivePeers(const forms::Form& form);
     int Answer(const std::string& prompt, int buttons);

@@ -180,6 +180,7 @@ Chart::Chart(Container& parent, std::string_view name, Rect bounds) : Control(pa
 
 void Chart::SetRowCount(int count) {
     rows_.resize(static_cast<std::size_t>(std::max(0, count)));
+    withValue_.erase(std::ranges::upper_bound(withValue_, RowCount()), withValue_.end());
     Repaint();
 }
 
@@ -191,8 +192,16 @@ void Chart::SetRowLabel(int row, std::string label) {
 
 void Chart::SetData(int row, double value) {
     if (row < 1 || row > RowCount()) return;
-    rows_[static_cast<std::size_t>(row - 1)].value = value;
+    std::optional<double>& held = rows_[static_cast<std::size_t>(row - 1)].value;
+    if (!held) NoteValueOf(row);
+    held = value;
     Repaint();
+}
+
+void Chart::NoteValueOf(int row) {
+    // Charts are filled from the left.
+    const bool isLast = withValue_.empty() || withValue_.back() < row;
+    withValue_.insert(isLast ? withValue_.end() : std::ranges::lower_bound(withValue_, row), row);
 }
 
 void Chart::SetValueScale(double minimum, double maximum) {
@@ -221,19 +230,11 @@ void Chart::Draw(Surface& surface) const {
     ChartPainter(surface, *this).Paint();
 }
 
-std::vector<int> Chart::RowsWithValue() const {
-    std::vector<int> rows;
-    for (int row = 1; row <= RowCount(); ++row) {
-        if (Row(row).value) rows.push_back(row);
-    }
-    return rows;
-}
-
 AccessibleNode Chart::Accessible() const {
     AccessibleNode node = Control::Accessible();
     node.role = Role::Chart;
     node.readOnly = true;
-    for (const int row : RowsWithValue()) {
+    for (const int row : withValue_) {
         if (!node.value.empty()) node.value += "; ";
         node.value += Row(row).label + ": " + data::NumberText(*Row(row).value);
     }
@@ -241,13 +242,12 @@ AccessibleNode Chart::Accessible() const {
 }
 
 int Chart::AccessibleChildCount() const {
-    return static_cast<int>(RowsWithValue().size());
+    return static_cast<int>(withValue_.size());
 }
 
 AccessibleNode Chart::AccessibleChild(int child) const {
-    const std::vector<int> rows = RowsWithValue();
-    if (child < 0 || child >= static_cast<int>(rows.size())) return {};
-    const int row = rows[static_cast<std::size_t>(child)];
+    if (child < 0 || child >= static_cast<int>(withValue_.size())) return {};
+    const int row = withValue_[static_cast<std::size_t>(child)];
     AccessibleNode node;
     node.role = Role::Graphic;
     node.name = Row(row).label;
@@ -258,9 +258,9 @@ AccessibleNode Chart::AccessibleChild(int child) const {
 }
 
 int Chart::AccessibleChildAt(Point place) const {
-    const std::vector<int> rows = RowsWithValue();
-    const auto found = std::ranges::find(rows, place.x / std::max(1, ColumnWidth()) + 1);
-    return found != rows.end() ? static_cast<int>(found - rows.begin()) : -1;
+    const int row = place.x / std::max(1, ColumnWidth()) + 1;
+    const auto found = std::ranges::lower_bound(withValue_, row);
+    return found != withValue_.end() && *found == row ? static_cast<int>(found - withValue_.begin()) : -1;
 }
 
 }  // namespace tavrin::forms

@@ -53,10 +53,11 @@ class Chart : public Control {
     int AccessibleChildAt(Point place) const override;
 
   private:
-    std::vector<int> RowsWithValue() const;
+    void NoteValueOf(int row);
     int ColumnWidth() const { return Bounds().width / std::max(1, RowCount()); }
 
     std::vector<ChartRow> rows_;
+    std::vector<int> withValue_;  ///< the rows that have one, from above
     double minimum_ = 0;
     double maximum_ = 0;
     std::string title_;

@@ -53,7 +53,7 @@ AdoRecordset::AdoRecordset(DispatchObject connection)
     : AdoRecordset(std::move(connection), CreateRecordsetObject()) {}
 
 void AdoRecordset::Open(std::string_view source) {
-    fields_.clear();
+    ForgetRows();
     recordset_.Put(L"CursorLocation", Variant(UseClient));
     recordset_.Put(L"CursorType", Variant(OpenStatic));
     recordset_.Put(L"LockType", Variant(LockReadOnly));
@@ -68,38 +68,56 @@ bool AdoRecordset::IsOpen() const {
 }
 
 void AdoRecordset::Close() {
-    fields_.clear();
+    ForgetRows();
     OpenRecordset().Call(L"Close");
 }
 
 void AdoRecordset::Requery() {
-    fields_.clear();
+    ForgetRows();
     WithProviderErrors(connection_, [&] { return OpenRecordset().Call(L"Requery"); });
 }
 
+void AdoRecordset::ForgetRows() {
+    fields_.clear();
+    position_ = {};
+    recordCount_.reset();
+}
+
+bool AdoRecordset::Ask(std::optional<bool>& known, std::wstring_view property) const {
+    if (!known) known = OpenRecordset().Get(property).ToBoolean();
+    return *known;
+}
+
+template <class... Arguments>
+Variant AdoRecordset::CallMoving(std::wstring_view method, const Arguments&... arguments) const {
+    position_ = {};
+    return OpenRecordset().Call(method, arguments...);
+}
+
 bool AdoRecordset::AtBeginning() const {
-    return OpenRecordset().Get(L"BOF").ToBoolean();
+    return Ask(position_.atBeginning, L"BOF");
 }
 
 bool AdoRecordset::AtEnd() const {
-    return OpenRecordset().Get(L"EOF").ToBoolean();
+    return Ask(position_.atEnd, L"EOF");
 }
 
 void AdoRecordset::MoveFirst() {
-    OpenRecordset().Call(L"MoveFirst");
+    CallMoving(L"MoveFirst");
 }
 
 void AdoRecordset::MoveNext() {
-    OpenRecordset().Call(L"MoveNext");
+    CallMoving(L"MoveNext");
 }
 
 void AdoRecordset::Move(std::int64_t rows) {
     const auto limited = std::clamp<std::int64_t>(rows, INT32_MIN, INT32_MAX);
-    OpenRecordset().Call(L"Move", Variant(static_cast<std::int32_t>(limited)));
+    CallMoving(L"Move", Variant(static_cast<std::int32_t>(limited)));
 }
 
 std::int64_t AdoRecordset::RecordCount() const {
-    return OpenRecordset().Get(L"RecordCount").ToLong();
+    if (!recordCount_) recordCount_ = OpenRecordset().Get(L"RecordCount").ToLong();
+    return *recordCount_;
 }
 
 std::int64_t AdoRecordset::AffectedRows() const {
@@ -140,17 +158,19 @@ data::TablePtr AdoRecordset::ReadAll() {
 
 void AdoRecordset::ReadBlocks(AdoTable& table) const {
     const Variant blockRows(static_cast<std::int32_t>(AdoTable::BlockRows));
-    while (table.AddBlock(OpenRecordset().Call(L"GetRows", blockRows)) == AdoTable::BlockRows && !AtEnd()) {
+    while (table.AddBlock(CallMoving(L"GetRows", blockRows)) == AdoTable::BlockRows && !AtEnd()) {
     }
 }
 
 /// \param position from 1; zero or less where the cursor stood on no row. Reading leaves it behind the last.
 void AdoRecordset::RestorePosition(bool wasAtBeginning, std::int32_t position) const {
-    const DispatchObject& recordset = OpenRecordset();
-    if (position > 0) recordset.Put(L"AbsolutePosition", Variant(position));
+    if (position > 0) {
+        position_ = {};
+        OpenRecordset().Put(L"AbsolutePosition", Variant(position));
+    }
     if (!wasAtBeginning) return;
-    recordset.Call(L"MoveFirst");
-    recordset.Call(L"MovePrevious");
+    CallMoving(L"MoveFirst");
+    CallMoving(L"MovePrevious");
 }
 
 const std::vector<AdoRecordset::FieldEntry>& AdoRecordset::Fields() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,7 +10,7 @@
 namespace tavrin::win32 {
 
 /// An ADO Recordset reached by late binding. It keeps the recordset's Field objects, which follow the current
-/// row, so that a field costs one call.
+/// row, so that a field costs one call, and asks for nothing twice that only its own calls can change.
 class AdoRecordset : public data::Recordset {
   public:
     /// A recordset that a statement gave; null where the statement gave none.
@@ -48,6 +49,18 @@ class AdoRecordset : public data::Recordset {
         DispatchObject object;
     };
 
+    /// What the recordset has said of the row that it stands on.
+    struct Position {
+        std::optional<bool> atBeginning;
+        std::optional<bool> atEnd;
+    };
+
+    bool Ask(std::optional<bool>& known, std::wstring_view property) const;
+    /// A call that leads to another row.
+    template <class... Arguments>
+    Variant CallMoving(std::wstring_view method, const Arguments&... arguments) const;
+    /// Before other rows come, or none are left.
+    void ForgetRows();
     const std::vector<FieldEntry>& Fields() const;
     const FieldEntry& FieldAt(std::size_t field) const;
     const DispatchObject& OpenRecordset() const;
@@ -58,6 +71,8 @@ class AdoRecordset : public data::Recordset {
     DispatchObject recordset_;
     Variant affectedRows_;
     mutable std::vector<FieldEntry> fields_;
+    mutable Position position_;
+    mutable std::optional<std::int64_t> recordCount_;
 };
 
 }  // namespace tavrin::win32

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "forms/controls/look.h"
-#include "win32/base/library.h"
 #include "win32/base/text.h"
 #include "win32/peers/disagreement.h"
 #include "win32/peers/edit_text.h"
@@ -60,20 +59,13 @@ HWND FieldOf(HWND combo) {
     return field != combo ? field : nullptr;
 }
 
-/// Asks for a dark scroll bar; a platform that has none by that name keeps its own.
-void DarkenScrollBar(HWND window) {
-    using SetTheme = HRESULT WINAPI(HWND, const wchar_t*, const wchar_t*);
-    const SystemFunction<SetTheme> set(L"uxtheme.dll", "SetWindowTheme");
-    if (set && window != nullptr) set(window, L"DarkMode_Explorer", nullptr);
-}
-
 }  // namespace
 
 ComboPeer::ComboPeer(forms::ComboBox& control, FormPeer& form)
     : ControlWindow(control, form), control_(control), edit_(control.OwnerForm().OwnerDesktop(), *this) {
     Create(WC_COMBOBOXW, StyleOf(control.Style()));
     if (control.Style() == forms::ComboStyle::DropDown) edit_.Adopt(FieldOf(Handle()));
-    DarkenScrollBar(InfoOf(Handle()).hwndList);
+    SharedResources().DarkenScrollBar(InfoOf(Handle()).hwndList);
     ShowFont();
     ShowList();
 }
@@ -120,15 +112,17 @@ void ComboPeer::Rescale() {
 void ComboPeer::ShowList() {
     isShowing_ = true;
     const int shown = static_cast<int>(SendMessageW(Handle(), CB_GETCOUNT, 0, 0));
-    bool same = shown == control_.ListCount();
-    for (int i = 0; same && i < shown; ++i)
-        same = EntryText(i) == control_.Item(i);
-    if (!same) {
+    int same = 0;
+    while (same < std::min(shown, control_.ListCount()) && EntryText(same) == control_.Item(same))
+        ++same;
+    if (same < shown) {
         SendMessageW(Handle(), CB_RESETCONTENT, 0, 0);
-        for (int i = 0; i < control_.ListCount(); ++i) {
-            const std::wstring text = ToWide(control_.Item(i));
-            SendMessageW(Handle(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
-        }
+        same = 0;
+    }
+    // Lists are filled entry by entry: what is there stays.
+    for (int i = same; i < control_.ListCount(); ++i) {
+        const std::wstring text = ToWide(control_.Item(i));
+        SendMessageW(Handle(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
     }
     if (SelectedIndex() != control_.ListIndex())
         SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(control_.ListIndex()), 0);

@@ -17,12 +17,12 @@ ControlWindow::~ControlWindow() {
     Destroy();
 }
 
-void ControlWindow::Create(const wchar_t* className, DWORD style) {
+void ControlWindow::Create(const wchar_t* className, DWORD style, std::string_view text) {
     DWORD state = WS_CHILD | WS_CLIPSIBLINGS;
     if (control_.Visible()) state |= WS_VISIBLE;
     if (!control_.IsEffectivelyEnabled()) state |= WS_DISABLED;
     Attach(SharedResources().CreateWindowWith({.className = className,
-                                               .text = {},
+                                               .text = text,
                                                .style = state | style,
                                                .place = PixelBounds(),
                                                .parent = form_.WindowOf(control_.Parent())}),

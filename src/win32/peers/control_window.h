@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <optional>
+#include <string_view>
 
 #include "forms/model/control.h"
 #include "win32/assist/accessible_control.h"
@@ -33,7 +34,8 @@ class ControlWindow : public forms::ControlPeer, public Window {
     ControlWindow(forms::Control& control, FormPeer& form);
 
     /// Makes the window in its container's, at its place and in its state.
-    void Create(const wchar_t* className, DWORD style);
+    /// \param text what a control of the platform's begins with: it costs nothing then, and much afterwards
+    void Create(const wchar_t* className, DWORD style, std::string_view text = {});
 
     LRESULT HandleMessage(const Message& message) override;
     /// Routes a key to the form, and to the platform's control only what the form leaves to it.

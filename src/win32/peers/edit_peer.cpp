@@ -36,7 +36,7 @@ LONG StartOf(forms::Align align, const RECT& line) {
 }  // namespace
 
 EditPeer::EditPeer(forms::TextBox& control, FormPeer& form) : EditWindow(control, form), control_(control) {
-    Create(WC_EDITW, StyleOf(control));
+    Create(WC_EDITW, StyleOf(control), control.Text());
     ShowFont();
     ShowText();
     ShowSelection();

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "forms/controls/decoration.h"
-#include "win32/base/library.h"
 #include "win32/base/text.h"
 #include "win32/peers/control_window.h"
 #include "win32/peers/disagreement.h"
@@ -43,7 +42,7 @@ FormPeer::FormPeer(forms::Desktop& desktop, forms::Form& form, std::shared_ptr<W
            form.Name());
     scale_ = ScaleOf(Handle());
     tips_.emplace(*resources_, Handle());
-    DarkenTitleBar();
+    if ((kind.style & WS_CAPTION) != 0) resources_->DarkenTitleBar(Handle());
     EnableOrDisable();
     Place();
 }
@@ -155,14 +154,6 @@ void FormPeer::RestoreFocus() {
     } else if (GetFocus() != Handle()) {
         SetFocus(Handle());
     }
-}
-
-void FormPeer::DarkenTitleBar() const {
-    using SetAttribute = HRESULT WINAPI(HWND, DWORD, const void*, DWORD);
-    constexpr DWORD UseImmersiveDarkMode = 20;
-    const SystemFunction<SetAttribute> set(L"dwmapi.dll", "DwmSetWindowAttribute");
-    const BOOL dark = TRUE;
-    if (set) set(Handle(), UseImmersiveDarkMode, &dark, sizeof dark);
 }
 
 // What the platform tells.

@@ -68,7 +68,6 @@ class FormPeer final : public forms::FormPeer, public Window {
     void Rescale(Scale scale, POINT topLeft);
     void ShowOrHide();
     void EnableOrDisable();
-    void DarkenTitleBar() const;
 
     forms::Desktop& desktop_;
     forms::Form& form_;

@@ -20,17 +20,17 @@ TTTOOLINFOW Describe(HWND form, HWND control) {
 
 }  // namespace
 
-ToolTips::ToolTips(const WindowResources& resources, HWND form)
-    : window_(resources.CreateWindowWith({.className = TOOLTIPS_CLASSW,
-                                          .text = {},
-                                          .style = WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
-                                          .extendedStyle = WS_EX_TOPMOST,
-                                          .parent = form})),
-      form_(form) {
+void ToolTips::MakeWindow() {
+    window_.reset(resources_.CreateWindowWith({.className = TOOLTIPS_CLASSW,
+                                               .text = {},
+                                               .style = WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
+                                               .extendedStyle = WS_EX_TOPMOST,
+                                               .parent = form_}));
     ShowColors();
 }
 
 void ToolTips::ShowColors() {
+    if (!window_) return;
     SendMessageW(window_.get(), TTM_SETTIPBKCOLOR, OnScreen(forms::ColorUse::Area, forms::scheme::Face), 0);
     SendMessageW(window_.get(), TTM_SETTIPTEXTCOLOR, OnScreen(forms::ColorUse::Text, forms::scheme::Text), 0);
 }
@@ -38,6 +38,7 @@ void ToolTips::ShowColors() {
 void ToolTips::Set(HWND control, const std::string& text) {
     Remove(control);
     if (text.empty()) return;
+    if (!window_) MakeWindow();
     TTTOOLINFOW tool = Describe(form_, control);
     std::wstring wide = ToWide(text);
     tool.lpszText = wide.data();
@@ -45,6 +46,7 @@ void ToolTips::Set(HWND control, const std::string& text) {
 }
 
 void ToolTips::Remove(HWND control) {
+    if (!window_) return;
     TTTOOLINFOW tool = Describe(form_, control);
     SendMessageW(window_.get(), TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }

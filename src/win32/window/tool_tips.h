@@ -9,10 +9,11 @@
 
 namespace tavrin::win32 {
 
-/// The tool tips of one form's controls, shown by one window of the platform.
+/// The tool tips of one form's controls, shown by one window of the platform, which is made with the first of
+/// them.
 class ToolTips {
   public:
-    ToolTips(const WindowResources& resources, HWND form);
+    ToolTips(const WindowResources& resources, HWND form) : resources_(resources), form_(form) {}
 
     /// Sets the text that a control shows, none when it is empty.
     void Set(HWND control, const std::string& text);
@@ -21,6 +22,9 @@ class ToolTips {
     void ShowColors();
 
   private:
+    void MakeWindow();
+
+    const WindowResources& resources_;
     OwnedWindow window_;
     HWND form_;
 };

@@ -1,14 +1,8 @@
 #include "win32/window/window.h"
 
-#include <commctrl.h>
-
 #include "forms/model/form.h"
 
 namespace tavrin::win32 {
-
-namespace {
-constexpr UINT_PTR SubclassId = 1;
-}
 
 Window::~Window() {
     Destroy();
@@ -23,26 +17,36 @@ void Window::Destroy() noexcept {
 
 void Window::Attach(HWND handle, std::string_view name) {
     handle_ = handle;
-    SetWindowSubclass(handle, &Window::Procedure, SubclassId, reinterpret_cast<DWORD_PTR>(this));
+    SetWindowLongPtrW(handle, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    previous_ = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(handle, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Window::Procedure)));
     if (!name.empty()) name_.emplace(handle, name);
 }
 
 void Window::Detach() noexcept {
     name_.reset();
-    RemoveWindowSubclass(handle_, &Window::Procedure, SubclassId);
+    SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
+    // Somebody who has come on top goes on calling Procedure.
+    if (GetWindowLongPtrW(handle_, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&Window::Procedure))
+        SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(previous_));
     handle_ = nullptr;
 }
 
 LRESULT Window::CallDefault(const Message& message) const {
-    return handle_ != nullptr ? DefSubclassProc(handle_, message.id, message.wParam, message.lParam) : 0;
+    return handle_ != nullptr
+               ? CallWindowProcW(previous_, handle_, message.id, message.wParam, message.lParam)
+               : 0;
 }
 
-LRESULT CALLBACK Window::Procedure(HWND, UINT id, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                   DWORD_PTR self) noexcept {
-    auto& window = *reinterpret_cast<Window*>(self);
+LRESULT CALLBACK Window::Procedure(HWND handle, UINT id, WPARAM wParam, LPARAM lParam) noexcept {
+    auto* const window = reinterpret_cast<Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+    if (window == nullptr) {
+        const auto own = reinterpret_cast<WNDPROC>(GetClassLongPtrW(handle, GCLP_WNDPROC));
+        return CallWindowProcW(own, handle, id, wParam, lParam);
+    }
     LRESULT result = 0;
     // The window may be gone when the dispatch has ended.
-    window.desktop_.Guard([&] { result = window.Dispatch({id, wParam, lParam}); });
+    window->desktop_.Guard([&] { result = window->Dispatch({id, wParam, lParam}); });
     return result;
 }
 
@@ -50,7 +54,7 @@ LRESULT Window::Dispatch(const Message& message) {
     if (message.id != WM_NCDESTROY) return HandleMessage(message);
     const HWND handle = handle_;
     Detach();
-    return DefSubclassProc(handle, message.id, message.wParam, message.lParam);
+    return CallWindowProcW(previous_, handle, message.id, message.wParam, message.lParam);
 }
 
 HWND WindowOf(const forms::Form& form) {

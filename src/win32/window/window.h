@@ -29,7 +29,9 @@ struct Route {
 
 /// Owns a platform window and hands its messages to HandleMessage, each as one dispatch of the desktop:
 /// nothing is thrown through the platform, and a form that a handler unloads lives until the handler has
-/// ended. The window may be one of ours or a control of the platform's own.
+/// ended. The window may be one of ours or a control of the platform's own. The object is found by the
+/// window's own word for its program: the platform's helper for subclassing asks for a property at every
+/// message.
 class Window {
   public:
     virtual ~Window();
@@ -67,12 +69,12 @@ class Window {
     }
 
   private:
-    static LRESULT CALLBACK Procedure(HWND handle, UINT id, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                      DWORD_PTR self) noexcept;
+    static LRESULT CALLBACK Procedure(HWND handle, UINT id, WPARAM wParam, LPARAM lParam) noexcept;
     LRESULT Dispatch(const Message& message);
 
     forms::Desktop& desktop_;
     HWND handle_ = nullptr;
+    WNDPROC previous_ = nullptr;
     std::optional<NameProperty> name_;
 };
 

@@ -16,6 +16,18 @@ WindowResources::WindowResources(HINSTANCE module, std::shared_ptr<const void> i
     InitCommonControlsEx(&controls);
 }
 
+void WindowResources::DarkenTitleBar(HWND window) {
+    constexpr DWORD UseImmersiveDarkMode = 20;
+    if (!setAttribute_) setAttribute_.emplace(L"dwmapi.dll", "DwmSetWindowAttribute");
+    const BOOL dark = TRUE;
+    if (*setAttribute_) (*setAttribute_)(window, UseImmersiveDarkMode, &dark, sizeof dark);
+}
+
+void WindowResources::DarkenScrollBar(HWND window) {
+    if (!setTheme_) setTheme_.emplace(L"uxtheme.dll", "SetWindowTheme");
+    if (*setTheme_ && window != nullptr) (*setTheme_)(window, L"DarkMode_Explorer", nullptr);
+}
+
 HWND WindowResources::CreateWindowWith(const WindowParameters& parameters) const {
     const ActivationContext::Scope scope(context_);
     const RECT& place = parameters.place;

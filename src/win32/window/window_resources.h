@@ -3,8 +3,10 @@
 #include <windows.h>
 
 #include <memory>
+#include <optional>
 #include <string_view>
 
+#include "win32/base/library.h"
 #include "win32/paint/dib_canvas.h"
 #include "win32/paint/font_cache.h"
 #include "win32/system/activation_context.h"
@@ -38,10 +40,18 @@ class WindowResources {
     /// Further objects that keep the module in use hold this.
     const std::shared_ptr<const void>& InUse() const { return inUse_; }
 
+    /// Has the system draw a window's title bar, or a list's scroll bar, in dark; one that cannot keeps its
+    /// own.
+    void DarkenTitleBar(HWND window);
+    void DarkenScrollBar(HWND window);
+
     /// \throws data::Error when the system has no window left to give.
     HWND CreateWindowWith(const WindowParameters& parameters) const;
 
   private:
+    using SetAttribute = HRESULT WINAPI(HWND, DWORD, const void*, DWORD);
+    using SetTheme = HRESULT WINAPI(HWND, const wchar_t*, const wchar_t*);
+
     HINSTANCE module_;
     std::shared_ptr<const void> inUse_;
     ActivationContext context_;
@@ -49,6 +59,9 @@ class WindowResources {
     FontCache fonts_;
     DibCanvas canvas_;
     KeyInput keys_;
+    // Loading their libraries costs more than anything else of a window: once for all of them.
+    std::optional<SystemFunction<SetAttribute>> setAttribute_;
+    std::optional<SystemFunction<SetTheme>> setTheme_;
 };
 
 }  // namespace tavrin::win32

@@ -53,7 +53,7 @@ class PersonStoreTest : public testing::Test {
         return 0;
     }
 
-    Person Current() const {
+    Person Current() {
         Person person;
         store.Read(person);
         return person;

@@ -248,6 +248,18 @@ TEST_F(ChartTest, AssistiveToolsHearTheValues) {
     EXPECT_EQ(chart.AccessibleChild(1).value, "2");
 }
 
+TEST_F(ChartTest, AssistiveToolsHearTheValuesFromTheLeftHoweverTheyCame) {
+    chart.SetRowCount(4);
+    for (const int row : {3, 1, 4, 3})
+        chart.SetData(row, row);
+    EXPECT_EQ(chart.AccessibleChildCount(), 3);
+    EXPECT_EQ(chart.AccessibleChild(1).value, "3");
+    chart.SetRowCount(2);
+    EXPECT_EQ(chart.AccessibleChildCount(), 1);
+    chart.SetRowCount(4);
+    EXPECT_EQ(chart.AccessibleChildCount(), 1) << "the rows that are added have no value";
+}
+
 TEST_F(ChartTest, TheValueAtAPlaceIsTheOneThatLiesThere) {
     Fill({1.5, std::nullopt, 2});
     EXPECT_EQ(chart.AccessibleChildAt({0, 100}), 0);
