@@ -17,7 +17,7 @@ class MessageCount {
 
     /// \pre on the thread that is counted
     MessageCount() {
-        counts().clear();
+        AllCounts().clear();
         taken_ = SetWindowsHookExW(WH_GETMESSAGE, SeeTaken, nullptr, GetCurrentThreadId());
         sent_ = SetWindowsHookExW(WH_CALLWNDPROC, SeeSent, nullptr, GetCurrentThreadId());
     }
@@ -28,16 +28,16 @@ class MessageCount {
     MessageCount(const MessageCount&) = delete;
     MessageCount& operator=(const MessageCount&) = delete;
 
-    static Counts Of(HWND window) { return counts()[window]; }
+    static Counts Of(HWND window) { return AllCounts()[window]; }
 
   private:
-    static std::map<HWND, Counts>& counts() {
+    static std::map<HWND, Counts>& AllCounts() {
         static std::map<HWND, Counts> byWindow;
         return byWindow;
     }
     static void See(HWND window, UINT message) {
-        if (message == WM_PAINT) ++counts()[window].paints;
-        if (message == WM_ERASEBKGND) ++counts()[window].erases;
+        if (message == WM_PAINT) ++AllCounts()[window].paints;
+        if (message == WM_ERASEBKGND) ++AllCounts()[window].erases;
     }
     static LRESULT CALLBACK SeeTaken(int code, WPARAM wParam, LPARAM lParam) {
         const MSG& message = *reinterpret_cast<const MSG*>(lParam);

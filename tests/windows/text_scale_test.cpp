@@ -97,7 +97,7 @@ TEST_F(TextScaleTest, EveryWindowIsOnTheScreen) {
 
 /// A thick frame on both sides, and a title bar.
 TEST_F(TextScaleTest, NoWindowIsLargerThanTheLargest) {
-    constexpr Size Frame{300, 750};
+    static constexpr Size Frame{300, 750};
     ForEachWindow([](const forms::Form& form) {
         const bool isSizable = form.Border() == forms::BorderStyle::Sizable;
         const Size client = isSizable ? form.SmallestClientSize() : form.ClientSize();
